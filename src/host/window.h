@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: MIT
+// A window is plain state plus slots: named controls from a table, and functions that run on events. This file knows
+// nothing of screens; a screen learns of changes from the `changed` flags.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/control.h"
+#include "host/event.h"
+
+namespace velmor::host {
+
+class SheetHost;
+class Window;
+
+/// What a window is for; activation, placing and closing go by it.
+enum class Role : std::uint8_t { mainWindow, sheet, editor, palette, tool };
+
+/// A key that does what otherwise only the mouse reaches. The desktop listens for it; `action` is played on `control`.
+enum class KeyAction : std::uint8_t { click, doubleClick, rightPress, hover, dragTo };
+struct ShortcutRow {
+    std::string_view keys{};   ///< portable text as in "Ctrl+B", "F1"
+    Handle control = noControl; ///< noControl: the control that has the focus
+    KeyAction action = KeyAction::click;
+    Handle target = noControl; ///< of dragTo
+    BiText meaning{};
+};
+
+/// Everything that is the same for all instances of a window.
+struct WindowSpec {
+    std::string_view name{};
+    Role role = Role::tool;
+    std::string_view caption{}; ///< stored title
+    Place place{};              ///< width and height: the drawing area in twips; left, top: wish of a tool window
+    std::span<const ControlRow> controls{};
+    std::span<const SlotRow> slots{};
+    std::span<const Handle> tabOrder{}; ///< chain order, then the other controls that take the focus; controls left out follow in table order
+    std::span<const ShortcutRow> shortcuts{};
+    std::unique_ptr<Window> (*create)(SheetHost&) = nullptr;
+    bool modal = false;
+    BiText sheetTitle{}; ///< of a sheet: the caption that a menu or clone gives it
+};
+
+/// State of a list control.
+struct ListState {
+    std::vector<std::string> items;
+    int selected = -1;
+    std::string folder; ///< of file and folder lists: what they show
+};
+
+/// Base of all windows: the state of the controls. Slots are functions of the classes derived from it.
+class Window {
+public:
+    Window(SheetHost& host, const WindowSpec& spec);
+    virtual ~Window();
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    const WindowSpec& spec() const { return spec_; }
+    std::string_view name() const { return spec_.name; }
+    Role role() const { return spec_.role; }
+    SheetHost& host() const { return host_; }
+    /// Child windows of the main window: sheets and editors.
+    bool isChild() const { return role() == Role::sheet || role() == Role::editor; }
+
+    // Controls, by handle. Reading one that the table lacks is a programming error.
+    std::size_t controlCount() const { return controls_.size(); }
+    const ControlRow& row(Handle control) const { return spec_.controls[control]; }
+    const Control& control(Handle control) const { return controls_[control]; }
+    /// Finds a control without regard to capitals; noControl when there is none.
+    Handle named(std::string_view controlName) const;
+
+    const std::string& text(Handle control) const { return controls_[control].text; }
+    const std::string& tag(Handle control) const { return controls_[control].tag; }
+    bool visible(Handle control) const { return controls_[control].visible; }
+    bool enabled(Handle control) const { return controls_[control].enabled; }
+    bool checked(Handle control) const { return controls_[control].checked; }
+    const Place& placeOf(Handle control) const { return controls_[control].place; }
+
+    void setText(Handle control, std::string_view text);
+    void setTag(Handle control, std::string_view tag);
+    void setVisible(Handle control, bool visible);
+    void setEnabled(Handle control, bool enabled);
+    void setChecked(Handle control, bool checked);
+    void setPlaceOf(Handle control, const Place& place);
+    void setBackColor(Handle control, std::int32_t color);
+    void setForeColor(Handle control, std::int32_t color);
+    void setFontSize(Handle control, std::int16_t points);
+
+    template <class... Handles> void show(Handles... controls) { (setVisible(controls, true), ...); }
+    template <class... Handles> void hide(Handles... controls) { (setVisible(controls, false), ...); }
+    template <class... Handles> void enable(Handles... controls) { (setEnabled(controls, true), ...); }
+    template <class... Handles> void disable(Handles... controls) { (setEnabled(controls, false), ...); }
+
+    /// The long text of an editor control.
+    TextStore& store(Handle editor);
+    /// Text of any control, read from its store when it is an editor.
+    std::string wholeText(Handle control);
+    ListState& list(Handle control) { return lists_[control]; }
+    void listChanged(Handle control) { markChanged(control); }
+
+    /// True when the control is visible, enabled and of a kind that takes the focus.
+    bool canTakeFocus(Handle control) const;
+    /// Which control of this window has the focus; noControl for none, also while a lost-focus slot runs.
+    Handle focus() const { return focus_; }
+
+    const std::string& caption() const { return caption_; }
+    void setCaption(std::string_view caption);
+    bool shown() const { return shown_; }
+    int windowState() const { return state_; } ///< 0 normal, 1 minimised, 2 maximised
+    const Place& place() const { return place_; }
+    void setPlace(const Place& place);
+    bool isDefaultInstance() const { return isDefault_; }
+
+    /// Runs the slot of an event, if the window has one. True when there was one.
+    bool runSlot(Handle control, Event event, EventArgs& args);
+    bool hasSlot(Handle control, Event event) const;
+
+    /// Controls changed since the last call, each once; `windowChanged` likewise for title, state and place.
+    std::vector<Handle> takeChanges();
+    bool takeWindowChanged();
+
+    /// Creation number within the program, counted from 1.
+    unsigned serial() const { return serial_; }
+
+protected:
+    void markChanged(Handle control);
+
+private:
+    friend class Engine;
+
+    SheetHost& host_;
+    const WindowSpec& spec_;
+    std::vector<Control> controls_;
+    std::map<Handle, std::unique_ptr<TextStore>> stores_;
+    std::map<Handle, ListState> lists_;
+    std::vector<Handle> changes_;
+    std::string caption_;
+    Place place_;
+    Place normalPlace_;
+    Handle focus_ = noControl;
+    Handle initialFocusDone_ = 0;
+    unsigned focusMoves_ = 0;
+    unsigned serial_ = 0;
+    int state_ = 0;
+    bool shown_ = false;
+    bool everShown_ = false;
+    bool loaded_ = false;
+    bool gone_ = false;
+    bool isDefault_ = false;
+    bool windowChanged_ = true;
+};
+
+/// Index of a slot in a window's slot table, built once per table.
+class SlotIndex {
+public:
+    static const SlotIndex& of(const WindowSpec& spec);
+    SlotFunction find(Handle control, Event event) const;
+
+private:
+    explicit SlotIndex(const WindowSpec& spec);
+    std::vector<std::array<SlotFunction, static_cast<std::size_t>(Event::count)>> byControl_;
+};
+
+/// Equality of names without regard to ASCII capitals.
+bool sameName(std::string_view one, std::string_view other);
+
+/// Checks at compile time that each row stands at the index of its handle.
+consteval bool rowsInOrder(std::span<const ControlRow> rows)
+{
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        if (rows[i].id != i)
+            return false;
+    return true;
+}
+
+} // namespace velmor::host
