@@ -1,0 +1,27 @@
+# SPDX-License-Identifier: MIT
+# Warnings, sanitizers and the faster tools. Nothing here names a source file.
+
+add_library(velmor_warnings INTERFACE)
+target_compile_options(velmor_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                                                 $<$<BOOL:${VELMOR_WERROR}>:-Werror>)
+
+if(VELMOR_SANITIZE)
+    add_compile_options(-fsanitize=${VELMOR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${VELMOR_SANITIZE})
+endif()
+
+if(VELMOR_FAST_TOOLS)
+    find_program(VELMOR_CCACHE ccache)
+    if(VELMOR_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+        # Paths relative to the checkout, so that every checkout shares what another has compiled.
+        set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
+                                        ${VELMOR_CCACHE})
+    endif()
+    find_program(VELMOR_LLD ld.lld)
+    find_program(VELMOR_GOLD ld.gold)
+    if(VELMOR_LLD)
+        add_link_options(-fuse-ld=lld)
+    elseif(VELMOR_GOLD)
+        add_link_options(-fuse-ld=gold)
+    endif()
+endif()

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// Where the tests find files of the checkout and the programs that were built.
+#pragma once
+
+#include <string>
+
+namespace velmor::places {
+
+/// The folder of the checkout, with `src` and `tests` in it.
+std::string source();
+
+/// The folder of this build; tests may write below it.
+std::string build();
+
+/// The folder of the programs of this build: `velmor-walk` and, with the desktop, `velmor`.
+std::string programs();
+
+} // namespace velmor::places
