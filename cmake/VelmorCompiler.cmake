@@ -5,6 +5,9 @@ add_library(velmor_warnings INTERFACE)
 target_compile_options(velmor_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                                                  $<$<BOOL:${VELMOR_WERROR}>:-Werror>)
 
+# A product and a sum fused into one rounding would give other last digits on processors that can do it.
+add_compile_options(-ffp-contract=off)
+
 if(VELMOR_SANITIZE)
     add_compile_options(-fsanitize=${VELMOR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${VELMOR_SANITIZE})
