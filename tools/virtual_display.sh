@@ -1,0 +1,53 @@
+# shellcheck shell=bash
+# SPDX-License-Identifier: MIT
+# An X server without a screen, a window manager on it, and a way to look at it. Sourced, never run.
+
+virtual_display_ids=()
+virtual_display_folder=$(mktemp -d)
+
+end_virtual_display() {
+    local id
+    # The last started goes first: the X server ends after those that draw on it.
+    for ((id = ${#virtual_display_ids[@]} - 1; id >= 0; id--)); do
+        kill "${virtual_display_ids[id]}" 2>/dev/null || true
+        wait "${virtual_display_ids[id]}" 2>/dev/null || true
+    done
+    rm -rf -- "$virtual_display_folder"
+}
+trap end_virtual_display EXIT
+
+# until_true SECONDS COMMAND...: asks every 20 ms.
+until_true() {
+    local left=$(($1 * 50))
+    shift
+    until "$@"; do
+        ((left-- > 0)) || return 1
+        sleep 0.02
+    done
+}
+
+# start_virtual_display WIDTHxHEIGHT: sets DISPLAY.
+start_virtual_display() {
+    local number=$virtual_display_folder/number
+    : >"$number"
+    Xvfb -displayfd 3 -screen 0 "${1}x24" -nolisten tcp -noreset 3>"$number" >"$virtual_display_folder/xvfb.log" 2>&1 &
+    virtual_display_ids+=($!)
+    until_true 20 test -s "$number" || stop "The virtual display did not start: $(cat "$virtual_display_folder/xvfb.log")"
+    DISPLAY=:$(<"$number")
+    export DISPLAY
+    unset WAYLAND_DISPLAY
+    openbox --sm-disable >"$virtual_display_folder/openbox.log" 2>&1 &
+    virtual_display_ids+=($!)
+}
+
+# start_vnc: shows the virtual display on the loopback address alone; sets vnc_port.
+start_vnc() {
+    local log=$virtual_display_folder/x11vnc.log
+    : >"$log"
+    x11vnc -norc -display "$DISPLAY" -localhost -listen 127.0.0.1 -noipv6 -no6 -nopw -autoport 5900 -forever -shared \
+        -quiet >"$log" 2>&1 </dev/null &
+    virtual_display_ids+=($!)
+    until_true 20 grep -q '^PORT=' "$log" || stop "The virtual display cannot be looked at: $(cat "$log")"
+    # shellcheck disable=SC2034
+    vnc_port=$(sed -n 's/^PORT=//p' "$log" | head -n 1)
+}
