@@ -110,6 +110,10 @@ public:
     void setFailureText(const BiText& text) { failureText_ = text; }
     /// Counts each slot run and each box shown, for coverage by players. Null switches it off.
     std::function<void(const Window&, Handle, Event)> onSlot;
+    std::function<void(const MessageBox&)> onBox;
+
+    /// A slot has put a new text into an editor: its change slot runs.
+    void programEdited(Window& window, Handle editor);
 
 private:
     friend class SheetHost;

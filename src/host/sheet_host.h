@@ -43,6 +43,8 @@ public:
     /// Shows the default instance of a window, loading it first where needed; null (and a trace line
     /// "deferred NAME") when the program has no such window.
     Window* Show(std::string_view name);
+    /// Loads the default instance without showing it.
+    Window* Load(std::string_view name);
     void Show(Window& window);
     void Hide(std::string_view name);
     void Hide(Window& window);

@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+// State of a window's controls: setting it notes the change for whoever shows the window.
+#include "host/window.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/engine.h"
+
+namespace velmor::host {
+
+namespace window_detail {
+
+char folded(char letter)
+{
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+} // namespace window_detail
+
+bool sameName(std::string_view one, std::string_view other)
+{
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [](char a, char b) { return window_detail::folded(a) == window_detail::folded(b); });
+}
+
+Window::Window(SheetHost& host, const WindowSpec& spec) : host_(host), spec_(spec), caption_(spec.caption), place_(spec.place)
+{
+    controls_.reserve(spec.controls.size());
+    for (const ControlRow& row : spec.controls) {
+        Control& control = controls_.emplace_back();
+        control.text = row.text;
+        control.tag = row.tag;
+        control.place = row.place;
+        control.visible = row.visible;
+        control.enabled = row.enabled;
+        control.checked = row.checked;
+        control.fontSize = row.fontSize;
+        control.backColor = row.backColor;
+    }
+    normalPlace_ = place_;
+}
+
+Window::~Window() = default;
+
+Handle Window::named(std::string_view controlName) const
+{
+    for (const ControlRow& candidate : spec_.controls)
+        if (sameName(candidate.name, controlName))
+            return candidate.id;
+    return noControl;
+}
+
+void Window::markChanged(Handle control)
+{
+    if (std::exchange(controls_[control].changed, true))
+        return;
+    changes_.push_back(control);
+}
+
+void Window::setText(Handle control, std::string_view text)
+{
+    if (row(control).kind == Kind::editor) {
+        store(control).setAll(text);
+        host_.engine().programEdited(*this, control);
+        return;
+    }
+    if (controls_[control].text == text)
+        return;
+    controls_[control].text = text;
+    markChanged(control);
+}
+
+void Window::setTag(Handle control, std::string_view tag)
+{
+    controls_[control].tag = tag;
+}
+
+void Window::setVisible(Handle control, bool visible)
+{
+    if (std::exchange(controls_[control].visible, visible) != visible)
+        markChanged(control);
+}
+
+void Window::setEnabled(Handle control, bool enabled)
+{
+    if (std::exchange(controls_[control].enabled, enabled) != enabled)
+        markChanged(control);
+}
+
+void Window::setChecked(Handle control, bool checked)
+{
+    if (std::exchange(controls_[control].checked, checked) != checked)
+        markChanged(control);
+}
+
+void Window::setPlaceOf(Handle control, const Place& place)
+{
+    if (controls_[control].place == place)
+        return;
+    controls_[control].place = place;
+    markChanged(control);
+}
+
+void Window::setBackColor(Handle control, std::int32_t color)
+{
+    if (std::exchange(controls_[control].backColor, color) != color)
+        markChanged(control);
+}
+
+void Window::setForeColor(Handle control, std::int32_t color)
+{
+    if (std::exchange(controls_[control].foreColor, color) != color)
+        markChanged(control);
+}
+
+void Window::setFontSize(Handle control, std::int16_t points)
+{
+    if (std::exchange(controls_[control].fontSize, points) != points)
+        markChanged(control);
+}
+
+TextStore& Window::store(Handle editor)
+{
+    std::unique_ptr<TextStore>& held = stores_[editor];
+    if (!held)
+        held = host_.screen().makeTextStore(*this, editor);
+    return *held;
+}
+
+std::string Window::wholeText(Handle control)
+{
+    return row(control).kind == Kind::editor ? store(control).all() : text(control);
+}
+
+bool Window::canTakeFocus(Handle control) const
+{
+    return control < controls_.size() && takesFocus(row(control).kind) && visible(control) && enabled(control);
+}
+
+void Window::setCaption(std::string_view caption)
+{
+    if (caption_ == caption)
+        return;
+    caption_ = caption;
+    windowChanged_ = true;
+}
+
+void Window::setPlace(const Place& place)
+{
+    if (place_ == place)
+        return;
+    place_ = place;
+    windowChanged_ = true;
+}
+
+bool Window::hasSlot(Handle control, Event event) const
+{
+    return SlotIndex::of(spec_).find(control, event) != nullptr;
+}
+
+bool Window::runSlot(Handle control, Event event, EventArgs& args)
+{
+    const SlotFunction function = SlotIndex::of(spec_).find(control, event);
+    if (function == nullptr)
+        return false;
+    args.control = control;
+    function(*this, args);
+    return true;
+}
+
+std::vector<Handle> Window::takeChanges()
+{
+    for (const Handle control : changes_)
+        controls_[control].changed = false;
+    return std::exchange(changes_, {});
+}
+
+bool Window::takeWindowChanged()
+{
+    return std::exchange(windowChanged_, false);
+}
+
+SlotIndex::SlotIndex(const WindowSpec& spec) : byControl_(spec.controls.size() + 1)
+{
+    for (const SlotRow& bound : spec.slots) {
+        const std::size_t at = bound.control == noControl ? spec.controls.size() : bound.control;
+        byControl_[at][static_cast<std::size_t>(bound.event)] = bound.run;
+    }
+}
+
+const SlotIndex& SlotIndex::of(const WindowSpec& spec)
+{
+    static std::map<const WindowSpec*, std::unique_ptr<SlotIndex>> indexes;
+    std::unique_ptr<SlotIndex>& index = indexes[&spec];
+    if (!index)
+        index.reset(new SlotIndex(spec));
+    return *index;
+}
+
+SlotFunction SlotIndex::find(Handle control, Event event) const
+{
+    const std::size_t at = control == noControl ? byControl_.size() - 1 : control;
+    return byControl_[at][static_cast<std::size_t>(event)];
+}
+
+} // namespace velmor::host
