@@ -29,6 +29,16 @@ bool hasContinuation(std::string_view text, std::size_t at, int count)
     return true;
 }
 
+// Inside the program a line break is one line feed.
+std::u32string withoutReturns(std::u32string text)
+{
+    for (std::size_t i = 0; i + 1 < text.size(); ++i)
+        if (text[i] == U'\r' && text[i + 1] == U'\n')
+            text[i] = 0;
+    std::erase(text, U'\0');
+    return text;
+}
+
 } // namespace text_store_detail
 
 std::u32string toCodePoints(std::string_view utf8)
@@ -85,7 +95,7 @@ std::string PlainTextStore::slice(std::size_t from, std::size_t count) const
 
 void PlainTextStore::setAll(std::string_view text)
 {
-    text_ = toCodePoints(text);
+    text_ = text_store_detail::withoutReturns(toCodePoints(text));
     start_ = 0;
     count_ = 0;
 }
@@ -98,7 +108,7 @@ void PlainTextStore::select(std::size_t from, std::size_t count)
 
 void PlainTextStore::replaceSelection(std::string_view text)
 {
-    const std::u32string inserted = toCodePoints(text);
+    const std::u32string inserted = text_store_detail::withoutReturns(toCodePoints(text));
     text_.replace(start_, count_, inserted);
     start_ += inserted.size();
     count_ = 0;

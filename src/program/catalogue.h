@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+// The one list of the program's windows, by which a sheet opens another without including it, and the start sequence.
+#pragma once
+
+#include "host/engine.h"
+
+namespace velmor::program {
+
+/// All windows of the program, the main window first.
+host::Catalogue catalogue();
+
+/// Runs the start sequence: language and other settings, number format, main window, first sheet, palette.
+void start(host::Engine& engine);
+
+} // namespace velmor::program
