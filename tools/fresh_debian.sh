@@ -1,0 +1,95 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Tries ./test and ./run from a fresh clone in a Debian that has nothing but its base system. Needs root and debootstrap.
+#
+#   tools/fresh_debian.sh [test|run]      both without an argument
+#
+# SUITE=bookworm MIRROR=http://deb.debian.org/debian FOLDER=/var/tmp/velmor-fresh choose which Debian and where. A picture of the
+# virtual display that ./run made is left in FOLDER/run.png.
+set -euo pipefail
+# shellcheck source=tools/steps.sh
+source "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/steps.sh"
+
+suite=${SUITE:-bookworm}
+mirror=${MIRROR:-http://deb.debian.org/debian}
+folder=${FOLDER:-/var/tmp/velmor-fresh}
+base=$folder/base-$suite
+tree=$folder/tree
+((EUID == 0)) || stop "tools/fresh_debian.sh needs root."
+command -v debootstrap >/dev/null || stop "tools/fresh_debian.sh needs the package debootstrap."
+
+make_base() {
+    [[ ! -e $folder/base-$suite.done ]] || return 0
+    say "Making a base system ($suite)"
+    mkdir -p "$folder"
+    debootstrap --variant=minbase "$suite" "$base" "$mirror" >"$folder/debootstrap.log" 2>&1 ||
+        stop "debootstrap failed, see $folder/debootstrap.log"
+    touch "$folder/base-$suite.done"
+}
+
+make_tree() {
+    say "Making a fresh tree with a fresh clone"
+    rm -rf --one-file-system "$tree"
+    cp -a "$base" "$tree"
+    git clone -q "$root" "$tree/root/velmor"
+    cp -L /etc/resolv.conf "$tree/etc/resolv.conf"
+}
+
+# inside COMMAND...: in the tree, with mounts and processes of its own that end with the command.
+inside() {
+    # shellcheck disable=SC2016
+    unshare --mount --pid --fork --kill-child bash -c '
+        mount --make-rprivate / && mount -t proc proc "$1/proc" && mount --rbind /dev "$1/dev" &&
+            mount -t tmpfs tmpfs "$1/dev/shm" || exit
+        tree=$1
+        shift
+        exec chroot "$tree" /usr/bin/env -i HOME=/root PATH=/usr/sbin:/usr/bin:/sbin:/bin "$@"' bash "$tree" "$@"
+}
+
+timed() {
+    local started=$SECONDS
+    "$@"
+    say "$((SECONDS - started)) seconds: ${*: -1}"
+}
+
+try_test() {
+    make_tree
+    timed inside /root/velmor/test </dev/null
+    timed inside /root/velmor/test </dev/null
+}
+
+# The X server in the tree answers out here too: the network is shared.
+windows_shown() {
+    local number
+    number=$(find "$tree/tmp/.X11-unix" -name 'X*' -printf '%f\n' 2>/dev/null | tr -dc 0-9)
+    [[ -n $number ]] && DISPLAY=:$number xdotool search --onlyvisible --name 'Velmor' >/dev/null 2>&1 &&
+        sleep 1 && DISPLAY=:$number import -silent -window root "$folder/run.png"
+}
+
+try_run() {
+    make_tree
+    local started=$SECONDS id
+    inside /root/velmor/run </dev/null >"$folder/run.log" 2>&1 &
+    id=$!
+    trap 'kill -KILL "$id" 2>/dev/null || true' EXIT
+    until windows_shown; do
+        kill -0 "$id" 2>/dev/null || stop "./run ended without a window, see $folder/run.log"
+        sleep 1
+    done
+    say "$((SECONDS - started)) seconds: from nothing to the window, see $folder/run.png"
+    grep 'VNC viewer' "$folder/run.log" || stop "./run did not say where the program is shown"
+    kill -KILL "$id"
+    wait "$id" 2>/dev/null || true
+    trap - EXIT
+}
+
+make_base
+case ${1:-both} in
+test) try_test ;;
+run) try_run ;;
+both)
+    try_test
+    try_run
+    ;;
+*) stop "tools/fresh_debian.sh knows: test, run, or nothing for both" ;;
+esac
