@@ -8,20 +8,23 @@
 namespace velmor::host {
 
 enum class FailureKind {
-    divisionByZero,  // a divisor of zero, whatever it divides
-    overflow,        // a result outside the range of its type
-    badNumber,       // a text that had to be a number and is none
-    badArgument,     // a function asked for a value that it does not have, such as the logarithm of zero
+    divisionByZero, // a divisor of zero, whatever it divides
+    overflow,       // a result outside the range of its type
+    badNumber,      // a text that had to be a number and is none
+    badArgument,    // a function asked for a value that it does not have, such as the logarithm of zero
 };
 
 /// The plain English name of a kind, for traces and for the text of what().
-constexpr const char* failureName(FailureKind kind) noexcept
-{
+constexpr const char* failureName(FailureKind kind) noexcept {
     switch (kind) {
-    case FailureKind::divisionByZero: return "Division by zero";
-    case FailureKind::overflow: return "Overflow";
-    case FailureKind::badNumber: return "Not a number";
-    case FailureKind::badArgument: return "Value not allowed";
+    case FailureKind::divisionByZero:
+        return "Division by zero";
+    case FailureKind::overflow:
+        return "Overflow";
+    case FailureKind::badNumber:
+        return "Not a number";
+    case FailureKind::badArgument:
+        return "Value not allowed";
     }
     return "Failure";
 }
@@ -36,4 +39,4 @@ private:
     FailureKind kind_;
 };
 
-}  // namespace velmor::host
+} // namespace velmor::host

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Circuit files as a sequence of lines: what a sheet reads one by one and writes in its own order. Knows no sheet; lines are
-// texts of the program (UTF-8, line feeds inside a caption), files are Windows-1252 with CR LF behind each line.
+// Circuit files as a sequence of lines: what a sheet reads one by one and writes in its own order. Knows no sheet;
+// lines are texts of the program (UTF-8, line feeds inside a caption), files are Windows-1252 with CR LF behind each
+// line.
 #pragma once
 
 #include <cstddef>
@@ -23,8 +24,8 @@ public:
     /// Reads a file's bytes that are already in memory.
     explicit CircuitReader(std::string bytes);
 
-    /// The next line; nothing behind the last one, and nothing from a line longer than longestCircuitLine bytes on. The last
-    /// line may lack its line end. In a file whose first 64 KiB hold no CR, LF ends a line.
+    /// The next line; nothing behind the last one, and nothing from a line longer than longestCircuitLine bytes on. The
+    /// last line may lack its line end. In a file whose first 64 KiB hold no CR, LF ends a line.
     std::optional<std::string> readLine();
 
 private:
@@ -39,4 +40,4 @@ std::string joinCircuitLines(std::span<const std::string> lines);
 /// Writes the text of Datos and one further line end, in Windows-1252, whole or not at all; true when it was done.
 bool writeCircuitFile(const std::filesystem::path& path, std::string_view text);
 
-}  // namespace velmor::rules
+} // namespace velmor::rules

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The two encodings that the program meets: UTF-8, which all texts have inside the program, and Windows-1252, which circuit
-// files, guide files and most documents have. Knows nothing of files. No text, however damaged, makes anything here fail.
+// The two encodings that the program meets: UTF-8, which all texts have inside the program, and Windows-1252, which
+// circuit files, guide files and most documents have. Knows nothing of files. No text, however damaged, makes anything
+// here fail.
 #pragma once
 
 #include <cstddef>
@@ -14,8 +15,8 @@ namespace velmor::rules {
 inline constexpr char32_t replacementCharacter = U'\uFFFD';
 
 struct CodePoint {
-    char32_t value = 0;      // replacementCharacter where `valid` is false
-    std::size_t length = 0;  // bytes taken, at least 1
+    char32_t value = 0;     // replacementCharacter where `valid` is false
+    std::size_t length = 0; // bytes taken, at least 1
     bool valid = false;
 };
 
@@ -31,8 +32,8 @@ bool isValidUtf8(std::string_view text) noexcept;
 /// How many code points a text has, an invalid sequence counting as one.
 std::size_t codePointCount(std::string_view text) noexcept;
 
-/// The code of a character in Windows-1252, none when it has no code there. The five codes that the page leaves undefined
-/// (81, 8D, 8F, 90, 9D) stand for the control characters of the same number.
+/// The code of a character in Windows-1252, none when it has no code there. The five codes that the page leaves
+/// undefined (81, 8D, 8F, 90, 9D) stand for the control characters of the same number.
 std::optional<unsigned char> windows1252Code(char32_t character) noexcept;
 
 /// The character of a code of Windows-1252; every code has one.
@@ -47,8 +48,8 @@ std::string toWindows1252(std::string_view text);
 /// Windows-1252. Invalid bytes behind a mark become replacementCharacter.
 std::string decodeDocument(std::string_view bytes);
 
-/// A text as a document's bytes: Windows-1252 while every character has a code and decodeDocument would take the bytes for
-/// nothing else, otherwise UTF-8 with a byte-order mark.
+/// A text as a document's bytes: Windows-1252 while every character has a code and decodeDocument would take the bytes
+/// for nothing else, otherwise UTF-8 with a byte-order mark.
 std::string encodeDocument(std::string_view text);
 
 /// The small letter of a Latin letter that Windows-1252 has, Spanish letters included; any other character as it is.
@@ -57,4 +58,4 @@ char32_t smallLetter(char32_t character) noexcept;
 /// A text with smallLetter applied throughout. An invalid byte is taken as Windows-1252, as old file names have it.
 std::string smallLetters(std::string_view text);
 
-}  // namespace velmor::rules
+} // namespace velmor::rules

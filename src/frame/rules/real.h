@@ -15,9 +15,11 @@ public:
     constexpr Real() noexcept = default;
 
     /// Throws ProgramFailure (overflow) for an infinity or a not-a-number.
-    constexpr Real(double value) : value_(value)  // NOLINT(google-explicit-constructor): formulas hold plain constants
+    constexpr Real(double value)
+        : value_(value) // NOLINT(google-explicit-constructor): formulas hold plain constants
     {
-        if (!isFinite(value)) throw host::ProgramFailure(host::FailureKind::overflow);
+        if (!isFinite(value))
+            throw host::ProgramFailure(host::FailureKind::overflow);
     }
 
     [[nodiscard]] constexpr double value() const noexcept { return value_; }
@@ -26,10 +28,11 @@ public:
     constexpr Real& operator-=(Real other) { return *this = Real(value_ - other.value_); }
     constexpr Real& operator*=(Real other) { return *this = Real(value_ * other.value_); }
 
-    /// Throws ProgramFailure: divisionByZero when `other` is 0, also for 0 / 0; overflow when the quotient is too large.
-    constexpr Real& operator/=(Real other)
-    {
-        if (other.value_ == 0.0) throw host::ProgramFailure(host::FailureKind::divisionByZero);
+    /// Throws ProgramFailure: divisionByZero when `other` is 0, also for 0 / 0; overflow when the quotient is too
+    /// large.
+    constexpr Real& operator/=(Real other) {
+        if (other.value_ == 0.0)
+            throw host::ProgramFailure(host::FailureKind::divisionByZero);
         return *this = Real(value_ / other.value_);
     }
 
@@ -41,14 +44,12 @@ public:
     friend constexpr Real operator+(Real number) { return number; }
 
     friend constexpr bool operator==(Real left, Real right) noexcept { return left.value_ == right.value_; }
-    friend constexpr std::partial_ordering operator<=>(Real left, Real right) noexcept
-    {
+    friend constexpr std::partial_ordering operator<=>(Real left, Real right) noexcept {
         return left.value_ <=> right.value_;
     }
 
 private:
-    static constexpr bool isFinite(double value) noexcept
-    {
+    static constexpr bool isFinite(double value) noexcept {
         // A not-a-number fails both comparisons.
         return value >= std::numeric_limits<double>::lowest() && value <= std::numeric_limits<double>::max();
     }
@@ -56,4 +57,4 @@ private:
     double value_ = 0.0;
 };
 
-}  // namespace velmor::rules
+} // namespace velmor::rules
