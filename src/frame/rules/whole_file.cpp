@@ -174,8 +174,12 @@ bool replace(const fs::path& target, const OldFile& old, std::string_view bytes,
     return true;
 }
 
+bool isBareName(std::string_view name) {
+    return isNameable(name) && name.find('/') == std::string_view::npos && name != "." && name != "..";
+}
+
 std::optional<fs::path> findEntry(const fs::path& folder, std::string_view name, fs::file_type wanted) {
-    if (name.empty() || name.find('/') != std::string_view::npos || !isNameable(name))
+    if (!isBareName(name))
         return std::nullopt;
     std::error_code error;
     if (fs::status(folder / name, error).type() == wanted)
