@@ -4,11 +4,18 @@
 
 #include <vector>
 
+#include "tools/calculator.h"
+#include "tools/form14.h"
+#include "tools/form22.h"
+
 namespace velmor::program {
 
 host::Catalogue catalogue()
 {
     static const std::vector<const host::WindowSpec*> windows{
+        &calculator::spec,
+        &form14::spec,
+        &form22::spec,
     };
     return windows;
 }

@@ -153,6 +153,14 @@ void DesignSheet::frameRepaint()
     host().setVisible("MDIForm1", "Picture14", false);
 }
 
+void DesignSheet::temperatureConverted()
+{
+    if (sheet_.temperatureField == host::noControl || focus() != sheet_.temperatureField)
+        return;
+    host::EventArgs args;
+    runSlot(sheet_.temperatureField, host::Event::focus, args);
+}
+
 // This is how the circuit bar or the palette comes back when a sheet is made smaller.
 void DesignSheet::frameResize()
 {

@@ -26,6 +26,7 @@ struct SheetSpec {
     host::BiText filter{};                 ///< `MiFiltro`
     std::span<const FileLine> written{};   ///< order in which `Datos` writes
     std::span<const FileLine> read{};      ///< order in which `Abrir` reads
+    host::Handle temperatureField = host::noControl; ///< takes `TemperaturaCompartida` when it gets the focus
 };
 
 class DesignSheet : public host::Window {
@@ -59,6 +60,9 @@ public:
     void frameRepaint();
     void frameResize();
     void frameQueryClose(host::EventArgs& args);
+
+    /// A temperature was converted: the temperature field, if it has the focus, takes it at once.
+    void temperatureConverted();
 
     /// What each activation begins with: `Form21` unloaded, the main window's welcome panel and circuit bar hidden.
     void frameActivate();
