@@ -69,7 +69,7 @@ double wholeDecibels(double gain)
 
 } // namespace formulas
 
-Calculator::Calculator(host::SheetHost& host) : host::Window(host, spec) {}
+Calculator::Calculator(host::SheetHost& host) : host::Window(host, calculator::spec) {}
 
 void Calculator::load()
 {

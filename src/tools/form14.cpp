@@ -33,7 +33,7 @@ constexpr host::SlotRow slots[] = {
 
 } // namespace table
 
-Form14::Form14(host::SheetHost& host) : host::Window(host, spec) {}
+Form14::Form14(host::SheetHost& host) : host::Window(host, form14::spec) {}
 
 void Form14::load()
 {

@@ -44,7 +44,7 @@ Real FahrenheitACentigrados(Real fahrenheit)
     return (fahrenheit - 32.0) * 5.0 / 9.0;
 }
 
-Form22::Form22(host::SheetHost& host) : host::Window(host, spec) {}
+Form22::Form22(host::SheetHost& host) : host::Window(host, form22::spec) {}
 
 // A cancelled box counts as an empty answer, an empty answer as 0.
 Real Form22::asked(const BiText& prompt, std::string_view proposal)
