@@ -36,8 +36,9 @@ start_virtual_display() {
     DISPLAY=:$(<"$number")
     export DISPLAY
     unset WAYLAND_DISPLAY
-    openbox --sm-disable >"$virtual_display_folder/openbox.log" 2>&1 &
+    openbox --sm-disable --startup "touch $virtual_display_folder/managed" >"$virtual_display_folder/openbox.log" 2>&1 &
     virtual_display_ids+=($!)
+    until_true 20 test -e "$virtual_display_folder/managed" || stop "The window manager did not start."
 }
 
 # start_vnc: shows the virtual display on the loopback address alone; sets vnc_port.
