@@ -48,7 +48,32 @@ Handle Window::named(std::string_view controlName) const
     for (const ControlRow& candidate : spec_.controls)
         if (sameName(candidate.name, controlName))
             return candidate.id;
-    return noControl;
+    return controlName.ends_with(')') ? noControl : named(std::string(controlName) + "(0)");
+}
+
+std::span<const Mark> Window::drawing(Handle control) const
+{
+    const auto borrowed = borrowedDrawings_.find(control);
+    return row(borrowed == borrowedDrawings_.end() ? control : borrowed->second).drawing;
+}
+
+void Window::borrowDrawing(Handle control, Handle from)
+{
+    borrowedDrawings_[control] = from;
+    markChanged(control);
+}
+
+const std::string& Window::picture(Handle control) const
+{
+    static const std::string none;
+    const auto held = pictures_.find(control);
+    return held == pictures_.end() ? none : held->second;
+}
+
+void Window::setPicture(Handle control, std::string_view path)
+{
+    pictures_[control] = path;
+    markChanged(control);
 }
 
 void Window::markChanged(Handle control)

@@ -74,7 +74,8 @@ public:
     std::size_t controlCount() const { return controls_.size(); }
     const ControlRow& row(Handle control) const { return spec_.controls[control]; }
     const Control& control(Handle control) const { return controls_[control]; }
-    /// Finds a control without regard to capitals; noControl when there is none.
+    /// Finds a control without regard to capitals; noControl when there is none. The bare name of an array is its
+    /// element 0.
     Handle named(std::string_view controlName) const;
 
     const std::string& text(Handle control) const { return controls_[control].text; }
@@ -98,6 +99,13 @@ public:
     template <class... Handles> void hide(Handles... controls) { (setVisible(controls, false), ...); }
     template <class... Handles> void enable(Handles... controls) { (setEnabled(controls, true), ...); }
     template <class... Handles> void disable(Handles... controls) { (setEnabled(controls, false), ...); }
+
+    /// The drawing that a control shows: its row's, or the one borrowed from another control (a flapping butterfly).
+    std::span<const Mark> drawing(Handle control) const;
+    void borrowDrawing(Handle control, Handle from);
+    /// Path of a picture file that an image shows; empty for none.
+    const std::string& picture(Handle control) const;
+    void setPicture(Handle control, std::string_view path);
 
     /// The long text of an editor control.
     TextStore& store(Handle editor);
@@ -141,6 +149,8 @@ private:
     std::vector<Control> controls_;
     std::map<Handle, std::unique_ptr<TextStore>> stores_;
     std::map<Handle, ListState> lists_;
+    std::map<Handle, Handle> borrowedDrawings_;
+    std::map<Handle, std::string> pictures_;
     std::vector<Handle> changes_;
     std::string caption_;
     Place place_;

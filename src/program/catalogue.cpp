@@ -7,6 +7,8 @@
 #include "tools/calculator.h"
 #include "tools/form14.h"
 #include "tools/form22.h"
+#include "tools/form6.h"
+#include "tools/frm_drag.h"
 
 namespace velmor::program {
 
@@ -16,6 +18,8 @@ host::Catalogue catalogue()
         &calculator::spec,
         &form14::spec,
         &form22::spec,
+        &form6::spec,
+        &frm_drag::spec,
     };
     return windows;
 }
