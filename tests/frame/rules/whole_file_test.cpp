@@ -368,6 +368,16 @@ TEST(ReadWhole, RefusesAFileOfAGibibyteWithoutHoldingIt) {
     EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 4096) << "KiB";
 }
 
+TEST(ReadWhole, AsksForNoMemoryThatALyingSizeWouldTake) {
+    const ScratchFolder folder;
+    folder.put("vast", "x");
+    std::error_code tooVast;
+    fs::resize_file(folder / "vast", std::uintmax_t{1} << 42, tooVast);
+    if (tooVast)
+        GTEST_SKIP() << "this file system has no files of four tebibytes";
+    EXPECT_EQ(readWhole(folder / "vast", mebibyte), std::nullopt);
+}
+
 TEST(ReadWhole, TrustsWhatItReadsMoreThanTheSizeItWasTold) {
     // The system's own files say that they are empty.
     ASSERT_EQ(fs::file_size("/proc/self/status"), 0u);
