@@ -54,8 +54,8 @@ QColor shade(const Inks& inks, host::Ink ink);
 /// Contrast between two opaque colours, 1 to 21, by relative luminance.
 double contrast(const QColor& one, const QColor& other);
 
-/// A readable ink on a ground that a sheet chose itself (`backColor`): the wished one if its contrast is at least 4.5,
-/// else near black or near white.
+/// A readable ink on a ground that a sheet chose itself (`backColor`): the wished one, drawn towards black or white until
+/// its contrast is at least 4.5.
 QColor readableOn(const QColor& ground, const QColor& wished);
 
 } // namespace velmor::desktop

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include <QPointF>
+#include <QRectF>
 
 #include "desktop/palette_of_inks.h"
 #include "host/control.h"
@@ -20,6 +21,7 @@ struct View {
     const Inks* inks = &lightInks();
     host::Handle hovered = host::noControl;    ///< control under the pointer
     host::Handle pressed = host::noControl;    ///< button held down
+    QRectF exposed{};                          ///< painter's coordinates; `paintWindow` leaves out what lies outside; empty: all
     bool forPrint = false;                     ///< no snapping to pixels, no focus, no hover
     std::int16_t languageIsEnglish = 0;
 

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+// Splits a name into runs and measures them.
+#include "desktop/symbol_label.h"
+
+#include <algorithm>
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include "desktop/typefaces.h"
+
+namespace velmor::desktop {
+
+namespace labels {
+
+enum class Style { italic, upright, subscript };
+
+constexpr double subscriptSize = 0.68;
+constexpr double subscriptDrop = 0.20;
+
+bool endsSubscript(QChar letter)
+{
+    return letter.isSpace() || QStringLiteral("=+-/,·×()<>∥;:").contains(letter);
+}
+
+QString prepared(std::string_view name)
+{
+    QString text = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    text.replace(QStringLiteral("/\\"), QStringLiteral("Δ"));
+    text.replace(QLatin1Char('\''), QChar(0x2032));
+    return text;
+}
+
+/// Letters up to the next end of a word, and whether a subscript follows.
+bool isSymbolWord(const QString& text, qsizetype start)
+{
+    qsizetype end = start;
+    while (end < text.size() && text[end].isLetter())
+        ++end;
+    const bool subscriptFollows = end < text.size() && text[end] == QLatin1Char('_');
+    return start == 0 || subscriptFollows;
+}
+
+void add(SymbolLabel& label, const QString& text, Style style, double pixels)
+{
+    if (text.isEmpty())
+        return;
+    const double size = style == Style::subscript ? pixels * subscriptSize : pixels;
+    const QFont font = drawingFont(size, style == Style::italic);
+    const QFontMetricsF metrics(font);
+    // Italic letters lean over their own width: the subscript keeps clear of them.
+    const double lean = style == Style::italic ? pixels * 0.03 : 0.0;
+    const double drop = style == Style::subscript ? pixels * subscriptDrop : 0.0;
+    label.runs.push_back({text, font, label.width, drop});
+    label.width += metrics.horizontalAdvance(text) + lean;
+    label.ascent = std::max(label.ascent, metrics.capHeight() - drop);
+    const bool descends = style != Style::subscript;
+    label.descent = std::max(label.descent, descends ? pixels * 0.04 : drop + size * 0.03);
+}
+
+Style styleOf(const QString& text, qsizetype position, bool inWord, Style before)
+{
+    const QChar letter = text[position];
+    if (!letter.isLetter())
+        return Style::upright;
+    if (inWord)
+        return before;
+    return isSymbolWord(text, position) || (position > 0 && text[position - 1] == QLatin1Char('/')) ? Style::italic
+                                                                                                      : Style::upright;
+}
+
+} // namespace labels
+
+SymbolLabel setLabel(std::string_view name, double pixels)
+{
+    using namespace labels;
+    const QString text = prepared(name);
+    SymbolLabel label;
+    label.capHeight = QFontMetricsF(drawingFont(pixels, false)).capHeight();
+    QString run;
+    Style style = Style::italic;
+    bool inWord = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        Style next = style;
+        if (style == Style::subscript && !endsSubscript(text[i])) {
+            run += text[i];
+            continue;
+        }
+        if (text[i] == QLatin1Char('_') && i + 1 < text.size()) {
+            add(label, run, style, pixels);
+            run.clear();
+            style = Style::subscript;
+            inWord = false;
+            continue;
+        }
+        next = styleOf(text, i, inWord && style != Style::subscript, style);
+        if (next != style) {
+            add(label, run, style, pixels);
+            run.clear();
+            style = next;
+        }
+        inWord = text[i].isLetter();
+        run += text[i];
+    }
+    add(label, run, style, pixels);
+    return label;
+}
+
+SymbolLabel setUpright(const QString& text, double pixels)
+{
+    SymbolLabel label;
+    label.capHeight = QFontMetricsF(drawingFont(pixels, false)).capHeight();
+    labels::add(label, text, labels::Style::upright, pixels);
+    return label;
+}
+
+void append(SymbolLabel& label, const SymbolLabel& next, double gap)
+{
+    for (LabelRun run : next.runs) {
+        run.offset += label.width + gap;
+        label.runs.push_back(run);
+    }
+    label.width += next.width + gap;
+    label.ascent = std::max(label.ascent, next.ascent);
+    label.descent = std::max(label.descent, next.descent);
+}
+
+void drawLabel(QPainter& painter, const SymbolLabel& label, QPointF baseline)
+{
+    for (const LabelRun& run : label.runs) {
+        painter.setFont(run.font);
+        painter.drawText(baseline + QPointF(run.offset, run.lowered), run.text);
+    }
+}
+
+} // namespace velmor::desktop
