@@ -173,7 +173,7 @@ int sizeFor(const QString& text, const Manner& manner, const QRectF& room, int f
 
 double fieldLetters(const host::Window& window, host::Handle field, const View& view)
 {
-    const double height = window.placeOf(field).height * view.pixelsPerTwip;
+    const double height = host::shownPlace(window, field).height * view.pixelsPerTwip;
     const double wanted = std::max<double>(8.5, window.control(field).fontSize) * fitting::twipsPerPoint * view.pixelsPerTwip;
     return std::max(smallestLetters, std::min(wanted, height * 0.68));
 }

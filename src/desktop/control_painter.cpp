@@ -402,7 +402,7 @@ void paintLayer(QPainter& painter, const host::Window& window, const View& view,
 
 QRectF boxOf(const host::Window& window, Handle control, const View& view)
 {
-    const host::Place& place = window.placeOf(control);
+    const host::Place place = host::shownPlace(window, control);
     const double scale = view.pixelsPerTwip;
     return {view.origin.x() + place.left * scale, view.origin.y() + place.top * scale, place.width * scale,
             place.height * scale};

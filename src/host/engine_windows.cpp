@@ -270,7 +270,7 @@ void Engine::setState(Window& window, int state)
         window.setPlace(engine_windows_detail::iconPlace);
     else if (state == 2 && window.isChild())
         window.setPlace(client_);
-    else if (state == 0)
+    else
         window.setPlace(window.normalPlace_);
     if (window.loaded_ && window.everShown_)
         resized(window);

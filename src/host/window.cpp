@@ -206,6 +206,12 @@ bool Window::takeWindowChanged()
     return std::exchange(windowChanged_, false);
 }
 
+Place shownPlace(const Window& window, Handle control)
+{
+    const auto place = window.spec().shownPlace;
+    return place == nullptr ? window.placeOf(control) : place(window, control);
+}
+
 SlotIndex::SlotIndex(const WindowSpec& spec) : byControl_(spec.controls.size() + 1)
 {
     for (const SlotRow& bound : spec.slots) {

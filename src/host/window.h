@@ -46,6 +46,8 @@ struct WindowSpec {
     std::unique_ptr<Window> (*create)(SheetHost&) = nullptr;
     bool modal = false;
     BiText sheetTitle{}; ///< of a sheet: the caption that a menu or clone gives it
+    /// Where a screen shows a control when that is not its place in the model; null: every control at its place.
+    Place (*shownPlace)(const Window&, Handle) = nullptr;
 };
 
 /// State of a list control.
@@ -178,6 +180,9 @@ private:
     explicit SlotIndex(const WindowSpec& spec);
     std::vector<std::array<SlotFunction, static_cast<std::size_t>(Event::count)>> byControl_;
 };
+
+/// Where a screen shows a control: its place, unless the window's table says otherwise.
+Place shownPlace(const Window& window, Handle control);
 
 /// Equality of names without regard to ASCII capitals.
 bool sameName(std::string_view one, std::string_view other);

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "frame/mdi_form1_controls.h"
 #include "tools/calculator.h"
 #include "tools/form14.h"
 #include "tools/form22.h"
@@ -15,6 +16,7 @@ namespace velmor::program {
 host::Catalogue catalogue()
 {
     static const std::vector<const host::WindowSpec*> windows{
+        &main_window::spec,
         &calculator::spec,
         &form14::spec,
         &form22::spec,

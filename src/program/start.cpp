@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The start sequence of the program. The order of its steps is behaviour.
+// The start sequence of the program, whose order is behaviour, and the making of a new sheet from outside.
 #include "program/catalogue.h"
 
 #include <string>
+
+#include "frame/mdi_form1.h"
 
 namespace velmor::program {
 
@@ -37,6 +39,14 @@ void start(host::Engine& engine)
         host.Show("Form2");
         host.Show("Form16");
         host.values().ScreenMode = 1;
+    });
+}
+
+void newSheet(host::Engine& engine, const host::WindowSpec& sheet)
+{
+    engine.userRun([&] {
+        if (auto* mainWindow = dynamic_cast<main_window::MDIForm1*>(&engine.mainWindow()))
+            mainWindow->newSheet(sheet.name);
     });
 }
 

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+// The menu tables of the main window, Spanish and English side by side, slips and blanks as the program has them.
+#include "frame/mdi_form1_menus.h"
+
+#include <algorithm>
+
+namespace velmor::main_window {
+
+// clang-format off
+constexpr std::array<DesignItem, 15> designItems{{
+    {.newItem = uno,    .openItems = {unoB, host::noControl},    .sheet = "Form3",
+     .itemCaption   = {.es = "Diferencial &Simple",                          .en = "Long Tail Pairs"},
+     .windowCaption = {.es = "  Diferencial Simple",                         .en = "  Long Tail Pairs  -  Differential Amplifier"}},
+    {.newItem = Dos,    .openItems = {dosB, host::noControl},    .sheet = "Form13",
+     .itemCaption   = {.es = "Diferencial &Compuesto",                       .en = "Long Tail Pairs Compound"},
+     .windowCaption = {.es = "  Diferencial Compuesto ó Cascode",            .en = "Long Tail Pairs Compound"}},
+    {.newItem = tres,   .openItems = {tresB, host::noControl},   .sheet = "Form4",
+     .itemCaption   = {.es = "Base &Común",                                  .en = "Common Base"},
+     .windowCaption = {.es = "  Base Común",                                 .en = "  Common Base"}},
+    {.newItem = cuatro, .openItems = {cuatroB, host::noControl}, .sheet = "Form12",
+     .itemCaption   = {.es = "&Fuente de Corriente",                         .en = "D.C. Source"},
+     .windowCaption = {.es = "  Fuente de Corriente Constante",              .en = "  D.C. source"}},
+    {.newItem = cinco,  .openItems = {cincoB, host::noControl},  .sheet = "Form9",
+     .itemCaption   = {.es = "&Parafase",                                    .en = "Paraphase"},
+     .windowCaption = {.es = "  Parafase",                                   .en = "  Paraphase"}},
+    {.newItem = seis,   .openItems = {seisB, host::noControl},   .sheet = "Form17",
+     .itemCaption   = {.es = "&Colector Común",                              .en = "Common Collector"},
+     .windowCaption = {.es = "  Colector Común",                             .en = "  Common Collector"}},
+    {.newItem = siete,  .openItems = {ochoB, host::noControl},   .sheet = "form20",
+     .itemCaption   = {.es = "Clase A - &Darlington",                        .en = "(Class A Darlington)"},
+     .windowCaption = {.es = "  Clase A mejorada...",                        .en = "  Power Amplifier. (Class A - Darlington)"}},
+    {.newItem = ocho,   .openItems = {sieteB, host::noControl},  .sheet = "Form15",
+     .itemCaption   = {.es = "Clase A &Simple",                              .en = "Class A - Simple"},
+     .windowCaption = {.es = "  Amplificador Clase A Simple",                .en = "  Power Amplifier Class A Simple"}},
+    {.newItem = nueve,  .openItems = {nueveB, host::noControl},  .sheet = "Form10",
+     .itemCaption   = {.es = "Clase B &Simple",                              .en = "Class B Simple"},
+     .windowCaption = {.es = "  Amplificador de Potencia Clase B",           .en = "  Power Amplifier Class B"}},
+    {.newItem = diez,   .openItems = {diezB, host::noControl},   .sheet = "Form11",
+     .itemCaption   = {.es = "Clase B - &Darlington",                        .en = "Class B Darlington"},
+     .windowCaption = {.es = "  Amplificador de Potencia Clase B Mejorado",  .en = "  Power Amplifier Class B Darlington"}},
+    {.newItem = once,   .openItems = {onceB, mnuEmisor},         .sheet = "Form2",
+     .itemCaption   = {.es = "&Emisor Común",                                .en = "Common Emitter"},
+     .windowCaption = {.es = "  Emisor Común Realimentado por Corriente",    .en = "  Common Emitter, Feedback for Current"}},
+    {.newItem = doce,   .openItems = {doceB, host::noControl},   .sheet = "Form8",
+     .itemCaption   = {.es = "Circuito &Simple",                             .en = "Circuits Simple"},
+     .windowCaption = {.es = "  Circuito Realimentado por Tensión Simple",   .en = "  Feedback  Voltage Circuits Simple"},
+     .unloadsForm7  = true},
+    {.newItem = trece,  .openItems = {treceB, host::noControl},  .sheet = "Form18",
+     .itemCaption   = {.es = "Circuito &Estable",                            .en = "Circuits Stable"},
+     .windowCaption = {.es = "  Circuito Realimentado por Tensión Estable",  .en = "  Feedback  Voltage Circuits Stable"},
+     .unloadsForm7  = true},
+    {.openItems = {mnuDesac, host::noControl}, .sheet = "desaco"},
+    {.openItems = {MnuParc, host::noControl},  .sheet = "ParcDesac",
+     .windowCaption = {.es = "  Emisor Común Parcialmente Desacoplado",      .en = "  Common Emitter, Bypass"}},
+}};
+
+constexpr std::array<ItemCaption, 26> itemCaptions{{
+    {mnuArchivo,       {.es = "&Archivo",             .en = "&Archive"}},
+    {mnuCirc,          {.es = "&Nuevos",              .en = "New"}},
+    {mnuFile0,         {.es = "A&brir",               .en = "Open"}},
+    {mnuFile1,         {.es = "&Salvar",              .en = "Save"}},
+    {mnuFile2,         {.es = "Sa&lvar como",         .en = "Save as"}},
+    {mnuFile3,         {.es = "&Cerrar",              .en = "Close"}},
+    {mnuSalir2,        {.es = "&Irse (Sin salvar)",   .en = "&Exit (No save)"}},
+    {mnuVer,           {.es = "&Ventana",             .en = "&Window"}},
+    {mnuCas,           {.es = "&Cascada",             .en = "Cascade"}},
+    {mnuHoriz,         {.es = "&Horizontal",          .en = "&Horizontal"}},
+    {mnuVert,          {.es = "&Vertical",            .en = "&Vertical"}},
+    {mnuTools,         {.es = "&Herramientas",        .en = "&Tools"}},
+    {mnuImpor,         {.es = "&Importar",            .en = "Import"}},
+    {mnuProy,          {.es = "&Proyecto",            .en = "&Project"}},
+    {mnuOp,            {.es = "&Opciones",            .en = "&Options"}},
+    {mnuid,            {.es = "&Idioma",              .en = "Language"}},
+    {mnuBarra,         {.es = "&Barra de Circuitos",  .en = "Circuit Bar"}},
+    {mnuPrederminados, {.es = "&Predeterminar",       .en = "Default"}},
+    {mnuPredet0,       {.es = "&Lenguaje",            .en = "Language"}},
+    {mnuPredet1,       {.es = "&Pantalla",            .en = "Screen"}},
+    {mnuScreen1,       {.es = "&Solo Barra ",         .en = "Only  Bar"}},
+    {mnuayu,           {.es = "A&yuda",               .en = "&Help"}},
+    {mnuayuda,         {.es = "&Ayuda",               .en = "Help"}},
+    {mnuAcerca,        {.es = "&Autor",               .en = "Author"}},
+    {mnuActu,          {.es = "&Contactar",           .en = "New design"}},
+    {mnuvac,           {.es = "&Acerca de...",        .en = "About..."}},
+}};
+
+constexpr std::array<NeededWindow, 8> neededWindows{{
+    {mnuEdit,   {"frmEdito1", "frmEdito3"}},
+    {mnuProy,   {"frmEdito1", "frmEdito3"}},
+    {Image29,   {"frmEdito1", "frmEdito3"}},
+    {mnuImpor,  {"frmDrag", ""}},
+    {mnuayuda,  {"Form19", ""}},
+    {mnuAcerca, {"frmAbout", ""}},
+    {mnuvac,    {"frmAbout", ""}},
+    {mnuActu,   {"infoform", ""}},
+}};
+// clang-format on
+
+const DesignItem* designOfNewItem(host::Handle item)
+{
+    const auto found = std::find_if(designItems.begin(), designItems.end(),
+                                    [item](const DesignItem& design) { return design.newItem == item; });
+    return found == designItems.end() ? nullptr : &*found;
+}
+
+const DesignItem* designOfOpenItem(host::Handle item)
+{
+    const auto found = std::find_if(designItems.begin(), designItems.end(), [item](const DesignItem& design) {
+        return std::find(design.openItems.begin(), design.openItems.end(), item) != design.openItems.end();
+    });
+    return found == designItems.end() ? nullptr : &*found;
+}
+
+const DesignItem* designOfSheet(std::string_view sheet)
+{
+    const auto found = std::find_if(designItems.begin(), designItems.end(), [sheet](const DesignItem& design) {
+        return host::sameName(design.sheet, sheet);
+    });
+    return found == designItems.end() ? nullptr : &*found;
+}
+
+} // namespace velmor::main_window
