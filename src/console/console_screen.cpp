@@ -19,7 +19,8 @@ namespace fs = std::filesystem;
 constexpr int twipsOfACharacter = 120;
 
 // Takes the oldest entry of a queue; `none` when nothing is queued.
-template <class Entry> Entry taken(std::deque<Entry>& queue, Entry none)
+template <class Entry>
+Entry taken(std::deque<Entry>& queue, Entry none)
 {
     if (queue.empty())
         return none;
@@ -28,7 +29,8 @@ template <class Entry> Entry taken(std::deque<Entry>& queue, Entry none)
     return first;
 }
 
-template <class Entry> std::optional<Entry> oldest(std::deque<Entry>& queue)
+template <class Entry>
+std::optional<Entry> oldest(std::deque<Entry>& queue)
 {
     if (queue.empty())
         return std::nullopt;
@@ -118,7 +120,8 @@ host::Answer ConsoleScreen::messageBox(const host::MessageBox& box)
     host::Answer answer = console_screen_detail::taken(answers_, box.escape());
     if (!box.offers(answer)) {
         if (onWrongAnswer)
-            onWrongAnswer("the box " + inQuotes(plain(box.text)) + " does not offer " + std::string(answerWord(answer)));
+            onWrongAnswer("the box " + inQuotes(plain(box.text)) + " does not offer " +
+                          std::string(answerWord(answer)));
         answer = box.escape();
     }
     trace("answer " + std::string(answerWord(answer)));

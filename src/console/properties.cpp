@@ -15,6 +15,7 @@ namespace velmor::console {
 namespace properties_detail {
 
 using host::Handle;
+using host::Place;
 using host::Window;
 
 std::string text(Window& window, Handle control)
@@ -26,18 +27,52 @@ std::string text(Window& window, Handle control)
     return list.selected >= 0 && at < list.items.size() ? list.items[at] : std::string();
 }
 
-std::string visible(Window& window, Handle control) { return std::string(truthText(window.visible(control))); }
-std::string enabled(Window& window, Handle control) { return std::string(truthText(window.enabled(control))); }
-std::string checked(Window& window, Handle control) { return std::string(truthText(window.checked(control))); }
-std::string tag(Window& window, Handle control) { return window.tag(control); }
-std::string left(Window& window, Handle control) { return std::to_string(window.placeOf(control).left); }
-std::string top(Window& window, Handle control) { return std::to_string(window.placeOf(control).top); }
-std::string width(Window& window, Handle control) { return std::to_string(window.placeOf(control).width); }
-std::string height(Window& window, Handle control) { return std::to_string(window.placeOf(control).height); }
-std::string backColor(Window& window, Handle control) { return colourText(window.control(control).backColor); }
-std::string foreColor(Window& window, Handle control) { return colourText(window.control(control).foreColor); }
-std::string fontSize(Window& window, Handle control) { return std::to_string(window.control(control).fontSize); }
-std::string focus(Window& window, Handle control) { return std::string(truthText(window.focus() == control)); }
+std::string truth(bool value)
+{
+    return value ? "true" : "false";
+}
+
+std::string visible(Window& window, Handle control)
+{
+    return truth(window.visible(control));
+}
+
+std::string enabled(Window& window, Handle control)
+{
+    return truth(window.enabled(control));
+}
+
+std::string checked(Window& window, Handle control)
+{
+    return truth(window.checked(control));
+}
+
+std::string tag(Window& window, Handle control)
+{
+    return window.tag(control);
+}
+
+template <int Place::*Part>
+std::string place(Window& window, Handle control)
+{
+    return std::to_string(window.placeOf(control).*Part);
+}
+
+template <std::int32_t host::Control::*Colour>
+std::string colour(Window& window, Handle control)
+{
+    return colourText(window.control(control).*Colour);
+}
+
+std::string fontSize(Window& window, Handle control)
+{
+    return std::to_string(window.control(control).fontSize);
+}
+
+std::string focus(Window& window, Handle control)
+{
+    return truth(window.focus() == control);
+}
 
 struct ControlProperty {
     std::string_view name;
@@ -52,27 +87,41 @@ constexpr ControlProperty controlProperties[] = {
     {"enabled",   enabled},
     {"checked",   checked},
     {"tag",       tag},
-    {"left",      left},
-    {"top",       top},
-    {"width",     width},
-    {"height",    height},
-    {"backcolor", backColor},
-    {"forecolor", foreColor},
+    {"left",      place<&Place::left>},
+    {"top",       place<&Place::top>},
+    {"width",     place<&Place::width>},
+    {"height",    place<&Place::height>},
+    {"backcolor", colour<&host::Control::backColor>},
+    {"forecolor", colour<&host::Control::foreColor>},
     {"fontsize",  fontSize},
     {"focus",     focus},
 };
 // clang-format on
 
-std::string windowCaption(Walk&, Window& window) { return window.caption(); }
-std::string windowVisible(Walk&, Window& window) { return std::string(truthText(window.shown())); }
-std::string windowState(Walk&, Window& window) { return std::to_string(window.windowState()); }
-std::string windowLeft(Walk&, Window& window) { return std::to_string(window.place().left); }
-std::string windowTop(Walk&, Window& window) { return std::to_string(window.place().top); }
-std::string windowWidth(Walk&, Window& window) { return std::to_string(window.place().width); }
-std::string windowHeight(Walk&, Window& window) { return std::to_string(window.place().height); }
+std::string windowCaption(Walk&, Window& window)
+{
+    return window.caption();
+}
+
+std::string windowVisible(Walk&, Window& window)
+{
+    return truth(window.shown());
+}
+
+std::string windowState(Walk&, Window& window)
+{
+    return std::to_string(window.windowState());
+}
+
+template <int Place::*Part>
+std::string windowPlace(Walk&, Window& window)
+{
+    return std::to_string(window.place().*Part);
+}
+
 std::string windowFocus(Walk& walk, Window& window)
 {
-    return std::string(truthText(&walk.current() == &window));
+    return truth(&walk.current() == &window);
 }
 
 struct WindowProperty {
@@ -86,18 +135,26 @@ constexpr WindowProperty windowProperties[] = {
     {"text",        windowCaption},
     {"visible",     windowVisible},
     {"windowstate", windowState},
-    {"left",        windowLeft},
-    {"top",         windowTop},
-    {"width",       windowWidth},
-    {"height",      windowHeight},
+    {"left",        windowPlace<&Place::left>},
+    {"top",         windowPlace<&Place::top>},
+    {"width",       windowPlace<&Place::width>},
+    {"height",      windowPlace<&Place::height>},
     {"focus",       windowFocus},
 };
 // clang-format on
 
-std::string languageIsEnglish(const host::ProgramValues& values) { return std::to_string(values.LanguageIsEnglish); }
-std::string screenMode(const host::ProgramValues& values) { return std::to_string(values.ScreenMode); }
-std::string archivoGuia(const host::ProgramValues& values) { return values.ArchivoGuia; }
-std::string decimalSeparator(const host::ProgramValues& values) { return values.DecimalSeparator; }
+template <auto Value>
+std::string wholeValue(const host::ProgramValues& values)
+{
+    return std::to_string(values.*Value);
+}
+
+template <std::string host::ProgramValues::*Value>
+std::string textValue(const host::ProgramValues& values)
+{
+    return values.*Value;
+}
+
 std::string temperaturaCompartida(const host::ProgramValues& values)
 {
     return rules::NumberText(values.TemperaturaCompartida, ".");
@@ -110,15 +167,16 @@ struct ProgramProperty {
 
 // clang-format off
 constexpr ProgramProperty programProperties[] = {
-    {"LanguageIsEnglish",     languageIsEnglish},
-    {"ScreenMode",            screenMode},
-    {"ArchivoGuia",           archivoGuia},
+    {"LanguageIsEnglish",     wholeValue<&host::ProgramValues::LanguageIsEnglish>},
+    {"ScreenMode",            wholeValue<&host::ProgramValues::ScreenMode>},
+    {"ArchivoGuia",           textValue<&host::ProgramValues::ArchivoGuia>},
     {"TemperaturaCompartida", temperaturaCompartida},
-    {"DecimalSeparator",      decimalSeparator},
+    {"DecimalSeparator",      textValue<&host::ProgramValues::DecimalSeparator>},
 };
 // clang-format on
 
-template <class Row> const Row& find(std::span<const Row> rows, std::string_view name)
+template <class Row>
+const Row& find(std::span<const Row> rows, std::string_view name)
 {
     const auto found =
         std::find_if(rows.begin(), rows.end(), [name](const Row& row) { return host::sameName(row.name, name); });
@@ -163,11 +221,6 @@ void checkProperty(const host::WindowSpec& window, std::string_view word)
         if (host::sameName(row.name, wanted.owner))
             return;
     throw WalkError("unknown control " + inQuotes(wanted.owner) + " of " + std::string(window.name));
-}
-
-std::string_view truthText(bool value)
-{
-    return value ? "true" : "false";
 }
 
 } // namespace velmor::console

@@ -21,7 +21,4 @@ std::string propertyText(Walk& walk, host::Window& window, std::string_view word
 /// Throws WalkError unless a window of that kind has the property, whether one is open or not.
 void checkProperty(const host::WindowSpec& window, std::string_view word);
 
-/// "true" or "false".
-std::string_view truthText(bool value);
-
 } // namespace velmor::console

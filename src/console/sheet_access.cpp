@@ -20,14 +20,35 @@ Sheet& sheetOf(host::Window& window)
     throw WalkError(std::string(window.name()) + " is no sheet");
 }
 
-void abrir(Sheet& sheet) { sheet.Abrir(); }
-void guardar(Sheet& sheet) { sheet.Guardar(); }
-void cdlGuardarDatos(Sheet& sheet) { sheet.CDL_GuardarDatos(); }
-void cdlAbrirDatos(Sheet& sheet) { sheet.CDL_AbrirDatos(); }
+void abrir(Sheet& sheet)
+{
+    sheet.Abrir();
+}
+void guardar(Sheet& sheet)
+{
+    sheet.Guardar();
+}
+void cdlGuardarDatos(Sheet& sheet)
+{
+    sheet.CDL_GuardarDatos();
+}
+void cdlAbrirDatos(Sheet& sheet)
+{
+    sheet.CDL_AbrirDatos();
+}
 
-std::string modificado(const Sheet& sheet) { return std::to_string(sheet.modificado()); }
-std::string operCancelo(const Sheet& sheet) { return std::to_string(sheet.OperCancelo()); }
-std::string nombreArchivo(const Sheet& sheet) { return sheet.NombreArchivo(); }
+std::string modificado(const Sheet& sheet)
+{
+    return std::to_string(sheet.modificado());
+}
+std::string operCancelo(const Sheet& sheet)
+{
+    return std::to_string(sheet.OperCancelo());
+}
+std::string nombreArchivo(const Sheet& sheet)
+{
+    return sheet.NombreArchivo();
+}
 
 struct OperationRow {
     std::string_view name;
@@ -54,7 +75,8 @@ constexpr ValueRow values[] = {
 };
 // clang-format on
 
-template <class Row> const Row& rowOf(std::span<const Row> rows, std::string_view name)
+template <class Row>
+const Row& rowOf(std::span<const Row> rows, std::string_view name)
 {
     for (const Row& row : rows)
         if (host::sameName(row.name, name))

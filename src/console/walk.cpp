@@ -15,12 +15,13 @@ WalkResult& WalkResult::operator+=(const WalkResult& other)
 }
 
 Walk::Walk(const WalkedProgram& program, std::string file, std::ostream& out, bool trace)
-    : program_(program), file_(std::move(file)), out_(out), trace_(trace), engine_(program.catalogue, screen_, settings_)
+    : program_(program), file_(std::move(file)), out_(out), trace_(trace),
+      engine_(program.catalogue, screen_, settings_)
 {
     screen_.onWrongAnswer = [this](const std::string& reason) { fail(reason); };
     if (!trace_)
         return;
-    const auto sink = [this](std::string_view line) { this->trace("  " + std::string(line)); };
+    const auto sink = [this](std::string_view line) { this->trace("  " + inOneLine(line)); };
     screen_.onTrace = sink;
     engine_.setTrace(sink);
 }
@@ -45,7 +46,7 @@ std::string Walk::place() const
 void Walk::fail(std::string_view reason)
 {
     ++result_.failed;
-    print(place() + lineText_ + ": " + std::string(reason));
+    print(place() + lineText_ + (lineText_.empty() ? "" : ": ") + std::string(reason));
 }
 
 void Walk::compare(std::string_view expected, std::string_view found)

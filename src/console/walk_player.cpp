@@ -48,13 +48,15 @@ bool cleanedLine(std::istream& text, std::string& line, bool first)
     return true;
 }
 
-void endWalk(Walk& walk)
+void endWalk(Walk& walk, int lastLine)
 {
+    walk.atLine(lastLine, "");
     if (walk.screen().answersLeft() > 0)
         walk.fail("answers left over at the end: " + std::to_string(walk.screen().answersLeft()));
 }
 
-WalkResult playFile(const WalkedProgram& program, const std::string& name, std::istream& in, std::ostream& out, bool trace)
+WalkResult playFile(const WalkedProgram& program, const std::string& name, std::istream& in, std::ostream& out,
+                    bool trace)
 {
     if (name == "-")
         return playWalk(program, in, name, out, trace);
@@ -85,11 +87,12 @@ WalkResult playWalk(const WalkedProgram& program, std::istream& text, const std:
     Walk walk(program, name, out, trace);
     std::string line;
     try {
-        for (int number = 1; cleanedLine(text, line, number == 1); ++number) {
-            walk.atLine(number, line);
+        int number = 0;
+        while (cleanedLine(text, line, number == 0)) {
+            walk.atLine(++number, line);
             playLine(walk, line);
         }
-        endWalk(walk);
+        endWalk(walk, number);
     } catch (const std::exception& problem) {
         walk.stop(problem.what());
     }

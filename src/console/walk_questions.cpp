@@ -73,7 +73,8 @@ bool accepts(Walk& walk, const std::string& wanted, const std::string& found)
 
 std::string described(Walk& walk, const host::MessageBox& box)
 {
-    return "box " + inQuotes(walk.screen().plain(box.text)) + " " + inQuotes(box.title) + " " + std::to_string(box.flags);
+    return "box " + inQuotes(walk.screen().plain(box.text)) + " " + inQuotes(box.title) + " " +
+           std::to_string(box.flags);
 }
 
 std::string joined(std::string what, Words words)
@@ -85,8 +86,7 @@ std::string joined(std::string what, Words words)
 
 void expectBox(Walk& walk, Words words)
 {
-    const std::optional<int> flags =
-        words.size() > 2 ? std::optional(wholeNumber(words[2], 0, large)) : std::nullopt;
+    const std::optional<int> flags = words.size() > 2 ? std::optional(wholeNumber(words[2], 0, large)) : std::nullopt;
     const std::optional<host::MessageBox> box = walk.screen().takeBox();
     const bool holds = box && accepts(walk, words[0], box->text) &&
                        (words.size() < 2 || accepts(walk, words[1], box->title)) && (!flags || *flags == box->flags);
@@ -183,7 +183,8 @@ void expectArranged(Walk& walk, Words words)
 {
     constexpr int lastKind = 2;
     const int found = walk.engine().arrangement();
-    walk.check(wholeNumber(words[0], 0, lastKind) == found, words[0], found < 0 ? "never arranged" : std::to_string(found));
+    walk.check(wholeNumber(words[0], 0, lastKind) == found, words[0],
+               found < 0 ? "never arranged" : std::to_string(found));
 }
 
 void expectEnded(Walk& walk, Words)
@@ -215,7 +216,8 @@ void dump(Walk& walk, Words)
                std::to_string(window.windowState()) + " focus " + controlName(window, window.focus()));
     for (const host::ControlRow& row : window.spec().controls) {
         const std::string name(row.name);
-        std::string line = "  " + name + " " + inQuotes(walk.screen().plain(propertyText(walk, window, name + ".text")));
+        std::string line =
+            "  " + name + " " + inQuotes(walk.screen().plain(propertyText(walk, window, name + ".text")));
         line += window.visible(row.id) ? "" : " hidden";
         line += window.enabled(row.id) ? "" : " disabled";
         line += window.checked(row.id) ? " checked" : "";

@@ -120,12 +120,22 @@ std::string withLineFeeds(std::string_view text)
     return result;
 }
 
+std::string inOneLine(std::string_view text)
+{
+    std::string result;
+    for (const char letter : withLineFeeds(text))
+        result += letter == '\n' ? std::string("\\n") : std::string(1, letter);
+    return result;
+}
+
 int wholeNumber(std::string_view word, int least, int most)
 {
     int number = 0;
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number, walk_text_detail::decimal);
+    const auto [end, error] =
+        std::from_chars(word.data(), word.data() + word.size(), number, walk_text_detail::decimal);
     if (error != std::errc{} || end != word.data() + word.size() || number < least || number > most)
-        throw WalkError(inQuotes(word) + " is no whole number from " + std::to_string(least) + " to " + std::to_string(most));
+        throw WalkError(inQuotes(word) + " is no whole number from " + std::to_string(least) + " to " +
+                        std::to_string(most));
     return number;
 }
 

@@ -27,6 +27,9 @@ std::string inQuotes(std::string_view text);
 /// Every line break, CR LF and CR included, as one line feed.
 std::string withLineFeeds(std::string_view text);
 
+/// The text with each line break written as "\n".
+std::string inOneLine(std::string_view text);
+
 /// A whole number from `least` to `most`; throws WalkError.
 int wholeNumber(std::string_view word, int least, int most);
 

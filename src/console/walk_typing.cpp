@@ -99,7 +99,9 @@ void typeCharacter(Walk& walk, char32_t character)
         return;
     }
     if (!printable(character)) {
-        press(walk, character <= static_cast<char32_t>(largestCode) ? static_cast<std::int16_t>(character) : letterBeyondCodePage,
+        press(walk,
+              character <= static_cast<char32_t>(largestCode) ? static_cast<std::int16_t>(character)
+                                                              : letterBeyondCodePage,
               std::nullopt);
         return;
     }

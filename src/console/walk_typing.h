@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The keyboard of a walk: keys go through the program's key slots, and what they let through is put into the text of the
-// field or editor in hand.
+// The keyboard of a walk: keys go through the program's key slots, and what they let through is put into the text of
+// the field or editor in hand.
 #pragma once
 
 #include <cstdint>
