@@ -4,7 +4,8 @@
 #include <QMainWindow>
 #include <QMdiArea>
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv)
+{
     QApplication application(argc, argv);
     QMainWindow window;
     QMdiArea area;

@@ -19,7 +19,8 @@ struct Program {
     std::vector<double> kilobytes;
 };
 
-void measure(XScreen& screen, Program& program, bool warmUp) {
+void measure(XScreen& screen, Program& program, bool warmUp)
+{
     screen.forget();
     Child child(program.command);
     const auto mapped = screen.waitForWindow(child, 20000);
@@ -32,7 +33,8 @@ void measure(XScreen& screen, Program& program, bool warmUp) {
     program.kilobytes.push_back(static_cast<double>(child.resident()));
 }
 
-void run(int rounds, std::vector<Program>& programs) {
+void run(int rounds, std::vector<Program>& programs)
+{
     XScreen screen;
     for (int round = 0; round <= rounds; ++round) {
         for (Program& program : programs)
@@ -46,7 +48,8 @@ void run(int rounds, std::vector<Program>& programs) {
 
 } // namespace velmor::bench::start
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv)
+{
     using namespace velmor::bench::start;
     if (argc < 3) {
         std::fputs("usage: bench_start ROUNDS NAME=PROGRAM...\n", stderr);

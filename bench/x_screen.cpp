@@ -20,11 +20,13 @@ extern char** environ;
 
 namespace velmor::bench {
 
-double milliseconds(Clock::time_point from, Clock::time_point to) {
+double milliseconds(Clock::time_point from, Clock::time_point to)
+{
     return std::chrono::duration<double, std::milli>(to - from).count();
 }
 
-Child::Child(const std::vector<std::string>& command) {
+Child::Child(const std::vector<std::string>& command)
+{
     std::vector<char*> arguments;
     for (const std::string& argument : command)
         arguments.push_back(const_cast<char*>(argument.c_str()));
@@ -34,20 +36,23 @@ Child::Child(const std::vector<std::string>& command) {
         throw std::runtime_error("cannot start " + command.front());
 }
 
-Child::~Child() {
+Child::~Child()
+{
     for (int wait = 0; wait < 200 && !ended(); ++wait) {
         kill(id_, wait < 150 ? SIGTERM : SIGKILL);
         poll(nullptr, 0, 10);
     }
 }
 
-bool Child::ended() {
+bool Child::ended()
+{
     if (!ended_)
         ended_ = waitpid(id_, nullptr, WNOHANG) == id_;
     return ended_;
 }
 
-long Child::resident() const {
+long Child::resident() const
+{
     std::ifstream status("/proc/" + std::to_string(id_) + "/status");
     for (std::string line; std::getline(status, line);) {
         if (line.rfind("VmRSS:", 0) == 0)
@@ -56,7 +61,8 @@ long Child::resident() const {
     return 0;
 }
 
-XScreen::XScreen() : display_(XOpenDisplay(nullptr)) {
+XScreen::XScreen() : display_(XOpenDisplay(nullptr))
+{
     if (!display_)
         throw std::runtime_error("no display");
     int unused = 0;
@@ -70,15 +76,18 @@ XScreen::XScreen() : display_(XOpenDisplay(nullptr)) {
     XSync(display_, False);
 }
 
-XScreen::~XScreen() {
+XScreen::~XScreen()
+{
     XCloseDisplay(display_);
 }
 
-void XScreen::forget() {
+void XScreen::forget()
+{
     XSync(display_, True);
 }
 
-bool XScreen::waitForEvent(Clock::time_point end) {
+bool XScreen::waitForEvent(Clock::time_point end)
+{
     XFlush(display_);
     while (!XPending(display_)) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
@@ -90,7 +99,8 @@ bool XScreen::waitForEvent(Clock::time_point end) {
     return true;
 }
 
-std::optional<XScreen::Mapped> XScreen::waitForWindow(Child& child, int timeout) {
+std::optional<XScreen::Mapped> XScreen::waitForWindow(Child& child, int timeout)
+{
     const auto end = Clock::now() + std::chrono::milliseconds(timeout);
     while (Clock::now() < end && !child.ended()) {
         if (!waitForEvent(std::min(end, Clock::now() + std::chrono::milliseconds(100))))
@@ -108,12 +118,14 @@ std::optional<XScreen::Mapped> XScreen::waitForWindow(Child& child, int timeout)
     return std::nullopt;
 }
 
-void XScreen::watch(Window window) {
+void XScreen::watch(Window window)
+{
     damage_ = XDamageCreate(display_, window, XDamageReportRawRectangles);
     XSync(display_, False);
 }
 
-Clock::time_point XScreen::press(KeySym key, bool shift) {
+Clock::time_point XScreen::press(KeySym key, bool shift)
+{
     const KeyCode code = XKeysymToKeycode(display_, key);
     const KeyCode shiftCode = XKeysymToKeycode(display_, 0xffe1);
     if (shift)
@@ -127,7 +139,8 @@ Clock::time_point XScreen::press(KeySym key, bool shift) {
     return now;
 }
 
-std::optional<Clock::time_point> XScreen::waitForRepaint(int timeout) {
+std::optional<Clock::time_point> XScreen::waitForRepaint(int timeout)
+{
     const auto end = Clock::now() + std::chrono::milliseconds(timeout);
     while (waitForEvent(end)) {
         const auto now = Clock::now();
@@ -139,18 +152,21 @@ std::optional<Clock::time_point> XScreen::waitForRepaint(int timeout) {
     return std::nullopt;
 }
 
-void XScreen::settle(int quiet) {
+void XScreen::settle(int quiet)
+{
     while (waitForRepaint(quiet)) {
     }
 }
 
-double quantile(std::vector<double> values, double part) {
+double quantile(std::vector<double> values, double part)
+{
     std::sort(values.begin(), values.end());
     const auto last = static_cast<double>(values.size() - 1);
     return values[static_cast<std::size_t>(last * part + 0.5)];
 }
 
-void report(const std::string& name, double value) {
+void report(const std::string& name, double value)
+{
     std::printf("%s\t%.3f\n", name.c_str(), value);
     std::fflush(stdout);
 }

@@ -104,6 +104,17 @@ constexpr bool takesFocus(Kind kind)
     }
 }
 
+/// Typeface of an editor's text.
+struct Font {
+    std::string name = "Courier New";
+    double size = 10.0; ///< points
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    bool strikeout = false;
+    std::int32_t color = 0; ///< 0xRRGGBB
+};
+
 /// State of one control. Plain data; only `Window` changes it, so that the screen hears of it.
 struct Control {
     std::string text; ///< text of a field, caption of anything else

@@ -78,6 +78,8 @@ public:
     void userDragEnter(Window& window, Handle source, Handle target);
     void userDragLeave(Window& window, Handle source, Handle target);
     void userTimer(Window& window, Handle timer);
+    /// A key of the window's shortcut table.
+    void userShortcut(Window& window, std::size_t row);
     void userActivate(Window& window);
     void userClose(Window& window);
     void userState(Window& window, int state);

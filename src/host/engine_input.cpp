@@ -298,6 +298,35 @@ void Engine::userDrag(Window& window, Handle source, Handle target)
     });
 }
 
+void Engine::userShortcut(Window& window, std::size_t row)
+{
+    if (ended_ || window.gone_)
+        return;
+    const ShortcutRow& bound = window.spec().shortcuts[row];
+    const Handle control = bound.control == noControl ? window.focus_ : bound.control;
+    switch (bound.action) {
+    case KeyAction::click:
+        return control != noControl && window.row(control).kind == Kind::menu ? userMenu(window, control)
+                                                                               : userClick(window, control);
+    case KeyAction::doubleClick:
+        return userDoubleClick(window, control);
+    case KeyAction::rightPress:
+        return userPress(window, control, Button::right);
+    case KeyAction::hover:
+        return userHover(window, control);
+    case KeyAction::dragTo:
+        return userDrag(window, control, bound.target);
+    case KeyAction::run:
+        outermost([this, &window, row] {
+            EventArgs args;
+            args.key = static_cast<std::int16_t>(row);
+            if (isLoaded(&window))
+                run(window, noControl, Event::shortcut, args);
+        });
+        return;
+    }
+}
+
 void Engine::userTimer(Window& window, Handle timer)
 {
     outermost([this, &window, timer] {

@@ -27,6 +27,7 @@ enum class Event : std::uint8_t {
     drop,
     timer,
     menuOpen,  ///< a menu is about to open
+    shortcut,  ///< of a window: a key of its shortcut table that runs a deed of its own; `key` is the row's index
     // of a window (bound to noControl; click, doubleClick, mouseDown, mouseUp, hover and drop exist there too)
     load,
     activate,

@@ -52,16 +52,6 @@ struct InputBox {
     int top = 0;
 };
 
-struct Font {
-    std::string name = "Courier New";
-    double size = 10.0; ///< points
-    bool bold = false;
-    bool italic = false;
-    bool underline = false;
-    bool strikeout = false;
-    std::int32_t color = 0; ///< 0xRRGGBB
-};
-
 struct PrintJob {
     std::string text; ///< lines ended by carriage returns as the caller broke them
     Font font;

@@ -63,6 +63,19 @@ void Window::borrowDrawing(Handle control, Handle from)
     markChanged(control);
 }
 
+const Font& Window::font(Handle editor)
+{
+    return fonts_[editor];
+}
+
+void Window::setFont(Handle editor, const Font& font)
+{
+    fonts_[editor] = font;
+    controls_[editor].fontSize = static_cast<std::int16_t>(font.size);
+    controls_[editor].foreColor = font.color;
+    markChanged(editor);
+}
+
 const std::string& Window::picture(Handle control) const
 {
     static const std::string none;

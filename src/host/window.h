@@ -24,7 +24,14 @@ class Window;
 enum class Role : std::uint8_t { mainWindow, sheet, editor, palette, tool };
 
 /// A key that does what otherwise only the mouse reaches. The desktop listens for it; `action` is played on `control`.
-enum class KeyAction : std::uint8_t { click, doubleClick, rightPress, hover, dragTo };
+enum class KeyAction : std::uint8_t {
+    click,
+    doubleClick,
+    rightPress,
+    hover,
+    dragTo,
+    run, ///< the window's `shortcut` slot, which is told the index of the row
+};
 struct ShortcutRow {
     std::string_view keys{};   ///< portable text as in "Ctrl+B", "F1"
     Handle control = noControl; ///< noControl: the control that has the focus
@@ -105,6 +112,9 @@ public:
     /// The drawing that a control shows: its row's, or the one borrowed from another control (a flapping butterfly).
     std::span<const Mark> drawing(Handle control) const;
     void borrowDrawing(Handle control, Handle from);
+    /// Typeface of an editor.
+    const Font& font(Handle editor);
+    void setFont(Handle editor, const Font& font);
     /// Path of a picture file that an image shows; empty for none.
     const std::string& picture(Handle control) const;
     void setPicture(Handle control, std::string_view path);
@@ -153,6 +163,7 @@ private:
     std::map<Handle, ListState> lists_;
     std::map<Handle, Handle> borrowedDrawings_;
     std::map<Handle, std::string> pictures_;
+    std::map<Handle, Font> fonts_;
     std::vector<Handle> changes_;
     std::string caption_;
     Place place_;

@@ -75,7 +75,7 @@ public:
     template <host::Event Which> void note(host::EventArgs& args)
     {
         static constexpr const char* names[] = {"focus", "lost", "click", "double", "down", "up", "hover", "key", "change",
-                                                "enter", "leave", "drop", "timer", "opens", "load", "activate", "back",
+                                                "enter", "leave", "drop", "timer", "opens", "shortcut", "load", "activate", "back",
                                                 "repaint", "resize", "ask", "unload"};
         const std::string who = args.control == host::noControl ? std::string(name()) : std::string(row(args.control).name);
         log.push_back(who + " " + names[static_cast<int>(Which)]);

@@ -36,10 +36,9 @@ std::optional<std::string> CircuitReader::readLine() {
         return std::nullopt;
     const std::size_t end = std::min(bytes_.find(lineEnd_, position_), bytes_.size());
     const std::size_t length = end - position_;
-    if (length > longestCircuitLine) {
-        position_ = bytes_.size();
+    // The reader stays before such a line, so that nothing behind it is ever reached.
+    if (length > longestCircuitLine)
         return std::nullopt;
-    }
     std::string line = fromWindows1252(std::string_view(bytes_).substr(position_, length));
     position_ = std::min(end + lineEnd_.size(), bytes_.size());
     return line;
