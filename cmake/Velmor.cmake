@@ -59,7 +59,7 @@ function(velmor_walks directory)
     foreach(folder IN LISTS folders)
         file(GLOB files CONFIGURE_DEPENDS ${folder}/*.walk)
         cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${directory} OUTPUT_VARIABLE title)
-        add_test(NAME "walks/${title}" COMMAND velmor-walk ${files})
+        add_test(NAME "walks/${title}" COMMAND velmor-walk ${files} WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
         set_tests_properties("walks/${title}" PROPERTIES TIMEOUT 120 LABELS walks
                              ENVIRONMENT "${VELMOR_TEST_ENVIRONMENT}")
     endforeach()

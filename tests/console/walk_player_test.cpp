@@ -185,6 +185,19 @@ TEST(WalkPlayer, TheTraceTellsEverythingInItsOrder)
                           "0 passed, 0 failed\n");
 }
 
+TEST(WalkPlayer, TheManualTellsEveryCommand)
+{
+    std::ifstream file(std::filesystem::path(places::source()) / "docs" / "walks.md");
+    const std::string manual(std::istreambuf_iterator<char>(file), {});
+    ASSERT_FALSE(manual.empty());
+    for (const std::span<const Verb> verbs : {preparations(), deeds(), questions()})
+        for (const Verb& verb : verbs) {
+            const std::string name = "`" + std::string(verb.name);
+            EXPECT_TRUE(manual.find(name + "`") != std::string::npos || manual.find(name + " ") != std::string::npos)
+                << verb.name;
+        }
+}
+
 TEST(WalkPlayer, EachCommandStandsOnceInTheTables)
 {
     std::size_t count = 0;
