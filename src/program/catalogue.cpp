@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "frame/mdi_form1_controls.h"
+#include "editors/editor.h"
+#include "editors/find_dialogs.h"
 #include "tools/calculator.h"
 #include "tools/form14.h"
 #include "tools/form22.h"
@@ -17,6 +19,12 @@ host::Catalogue catalogue()
 {
     static const std::vector<const host::WindowSpec*> windows{
         &main_window::spec,
+        &editors::frmEditor,
+        &editors::frmEdito1,
+        &editors::frmEdito2,
+        &editors::frmEdito3,
+        &find_dialogs::frmFind,
+        &find_dialogs::frmReplace,
         &calculator::spec,
         &form14::spec,
         &form22::spec,

@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: MIT
+// Documents of the editors: opening, reading, saving, and the questions that keep a text from being lost.
+#include "editors/editor.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "frame/rules/code_page.h"
+#include "frame/rules/whole_file.h"
+
+namespace velmor::editors {
+
+using host::BiText;
+
+namespace editor_detail {
+
+constexpr std::string_view guideFolder = "Archivos";
+constexpr std::string_view fileFilter =
+    "Archivos de Laboratorio (*.LAB)|*.Lab|Archivos detexto(*.txt)|*.txt|Todos los archivos (*.*)|*.*";
+constexpr std::string_view applicationTitle = "Velmor";
+constexpr std::size_t largestDocument = std::size_t{64} * 1024 * 1024;
+constexpr int answerOk = 1;
+constexpr int answerCancel = 2;
+constexpr int answerYes = 6;
+constexpr int answerNo = 7;
+
+// A document is read line by line and every line is added with its line break: a last line without one gets it.
+std::string linesOf(std::string text)
+{
+    std::string lines;
+    lines.reserve(text.size() + 1);
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (text[i] != '\r')
+            lines.push_back(text[i]);
+        else if (i + 1 >= text.size() || text[i + 1] != '\n')
+            lines.push_back('\n');
+    if (!lines.empty() && lines.back() != '\n')
+        lines.push_back('\n');
+    return lines;
+}
+
+// On disk a line ends with CR LF; the text goes out in one piece as a record with a final line break.
+std::string recordOf(const std::string& text)
+{
+    std::string record;
+    record.reserve(text.size() + text.size() / 32 + 2);
+    for (const char letter : text) {
+        if (letter == '\n')
+            record.push_back('\r');
+        record.push_back(letter);
+    }
+    return record.append("\r\n");
+}
+
+std::string pathOfGuide(const std::string& folder, std::string_view name)
+{
+    return (folder + "/").append(guideFolder).append("/").append(name);
+}
+
+} // namespace editor_detail
+
+using namespace editor_detail;
+
+Editor::Editor(host::SheetHost& host, const host::WindowSpec& window, const EditorSpec& editor)
+    : host::Window(host, window), editor_(editor)
+{
+}
+
+void Editor::load()
+{
+    documentoCambiado_ = false;
+    documentoNuevo_ = true;
+    const host::Place inner = place();
+    setPlaceOf(txtEdit, {0, 0, inner.width, inner.height});
+    if (accionCancelada_)
+        return;
+    if (editor_.guide == GuidePlace::none)
+        runOpen();
+    else
+        openGuide();
+}
+
+void Editor::resize()
+{
+    setPlaceOf(txtEdit, {0, 0, place().width, place().height});
+}
+
+// Where the two report editors look differs on purpose.
+void Editor::openGuide()
+{
+    const std::string folder = host().programFolder();
+    const std::string guide = host().values().ArchivoGuia;
+    setBusy(true);
+    putText("");
+    documentoCambiado_ = false;
+    nombreDocumento_ = editor_.guide == GuidePlace::programFolder ? guide : pathOfGuide(folder, guide);
+    std::optional<std::filesystem::path> within = folder;
+    if (editor_.guide == GuidePlace::archivos)
+        within = rules::findFolder(folder, guideFolder);
+    const auto path = within && !guide.empty() ? rules::findFile(*within, guide) : std::nullopt;
+    if (!path || !readDocument(path->string()))
+        return;
+    setTitle(nombreDocumento_ + std::string(pick(editor_.guideTitle)));
+}
+
+void Editor::putText(std::string_view text)
+{
+    setText(txtEdit, text);
+}
+
+/// Reads a whole document into the text. False, with the old text in place, when it cannot be read.
+bool Editor::readDocument(const std::string& path)
+{
+    const std::optional<std::string> bytes = rules::readWhole(path, largestDocument);
+    if (!bytes)
+        return false;
+    putText(linesOf(rules::decodeDocument(*bytes)));
+    setBusy(false);
+    documentoNuevo_ = false;
+    documentoCambiado_ = false;
+    return true;
+}
+
+bool Editor::writeDocument(const std::string& path)
+{
+    return rules::writeWhole(path, rules::encodeDocument(recordOf(store(txtEdit).all())));
+}
+
+void Editor::changed()
+{
+    documentoCambiado_ = true;
+}
+
+// The text editors write their titles on the report editor, which gets them only when it is loaded.
+void Editor::setTitle(std::string_view title)
+{
+    if (!editor_.titlesOnReportEditor)
+        setCaption(title);
+    else if (host::Window* reportEditor = host().find("frmEdito3"))
+        reportEditor->setCaption(title);
+}
+
+void Editor::setBusy(bool busy)
+{
+    host().screen().busyPointer(busy);
+}
+
+int Editor::ask(const Question& question)
+{
+    return host().MsgBox(pick(question.text), question.flags, pick(question.title));
+}
+
+/// The ask-to-save rule. True when the command may go on: nothing to lose, the answer No, or a save that was done.
+bool Editor::mayDiscard(const Question& keep, bool exiting)
+{
+    const bool unsaved = documentoNuevo_ ? store(txtEdit).length() > 0 : documentoCambiado_;
+    if (!unsaved)
+        return true;
+    switch (ask(keep)) {
+    case answerYes:
+        return exiting && !documentoNuevo_ ? writeDocument(nombreDocumento_) : runSaveAs();
+    case answerNo:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Editor::startEmpty()
+{
+    putText("");
+    setTitle(pick(editor_.newTitle));
+    documentoNuevo_ = true;
+    documentoCambiado_ = false;
+}
+
+void Editor::newDocument()
+{
+    accionCancelada_ = false;
+    if (mayDiscard(editor_.keep, false))
+        startEmpty();
+}
+
+void Editor::openDocument()
+{
+    accionCancelada_ = false;
+    if (mayDiscard(editor_.keep, false))
+        runOpen();
+}
+
+void Editor::runOpen()
+{
+    const auto path = host().fileDialog({.kind = host::DialogKind::open,
+                                         .title = std::string(applicationTitle),
+                                         .filter = std::string(fileFilter),
+                                         .folder = host().programFolder(),
+                                         .flags = 0});
+    if (!path)
+        return;
+    setBusy(true);
+    if (!readDocument(*path)) {
+        setBusy(false);
+        return;
+    }
+    nombreDocumento_ = *path;
+    setTitle(nombreDocumento_ + std::string(pick(editor_.documentTitle)));
+}
+
+void Editor::saveDocument()
+{
+    accionCancelada_ = false;
+    if (documentoNuevo_) {
+        runSaveAs();
+    } else if (documentoCambiado_ && writeDocument(nombreDocumento_)) {
+        runOpen();
+    }
+}
+
+void Editor::saveDocumentAs()
+{
+    accionCancelada_ = false;
+    runSaveAs();
+}
+
+/// Saving does not reset `DocumentoCambiado`: the next exit asks again.
+bool Editor::runSaveAs()
+{
+    const auto path = host().fileDialog({.kind = host::DialogKind::save,
+                                         .title = std::string(applicationTitle),
+                                         .filter = std::string(fileFilter),
+                                         .folder = host().programFolder(),
+                                         .flags = 0});
+    if (!path)
+        return false;
+    std::error_code ignored;
+    if (std::filesystem::exists(*path, ignored) && ask(editor_.replaceFile) != answerOk)
+        return false;
+    if (!writeDocument(*path))
+        return false;
+    nombreDocumento_ = *path;
+    documentoNuevo_ = false;
+    setTitle(nombreDocumento_ + std::string(pick(editor_.documentTitle)));
+    return true;
+}
+
+void Editor::exit()
+{
+    accionCancelada_ = false;
+    if (!mayDiscard(editor_.keepAtExit, true))
+        return;
+    if (editor_.confirmExit.flags == 0) {
+        if (host::Window* reportEditor = host().find("frmEdito3"))
+            host().Show(*reportEditor);
+    } else if (ask(editor_.confirmExit) == answerOk) {
+        host().Unload(*this);
+    }
+}
+
+void Editor::queryClose(host::EventArgs& args)
+{
+    if (args.reason != host::CloseReason::button || editor_.closeByButton.flags == 0)
+        return;
+    const int answer = host().MsgBox(pick(editor_.closeByButton.text), editor_.closeByButton.flags, caption());
+    args.cancel = answer == answerNo || answer == answerCancel;
+}
+
+} // namespace velmor::editors

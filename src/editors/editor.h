@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+// What the four editors share: one large text, a document on disk, and the menus around it. Each window adds a table
+// of its texts and flags; the crossed titles of the text editors are in those tables.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "host/sheet_host.h"
+#include "host/window.h"
+
+namespace velmor::editors {
+
+/// The controls that every editor has, first in its table and in this order.
+enum Control : host::Handle {
+    txtEdit,
+    mnuFile, mnuFilenew, mnuFileOpen, mnuGuardar, mnuFileSaveAs, mnuImprimir, mnuFileItem, mnuFileexit,
+    mnuEdit, mnuEditItem0, mnuEditItem1, mnuEditItem2,
+    mnuSearch, mnuBuscar, mnuBr,
+    mnuWindow, mnuCas, mnuHoriz, mnuVert, mnuCircuit,
+    mnuSettings, mnuBackColorItem, mnuForeColorItem, mnuFontSizesItem,
+    mnuHelp, mnuAbout,
+    controlCount
+};
+
+/// A question: text, title, flags.
+struct Question {
+    host::BiText text{};
+    host::BiText title{};
+    int flags = 0;
+};
+
+/// Where a window looks for the guide that it opens with.
+enum class GuidePlace : std::uint8_t {
+    archivos,        ///< the subfolder "Archivos" of the program's folder
+    archivosByName,  ///< the path of "Archivos" is kept as the name, but the bare name is opened in the program's folder
+    programFolder,   ///< the bare name, in the program's folder
+    none,            ///< no guide: the open dialog runs at once
+};
+
+/// What distinguishes one editor from another.
+struct EditorSpec {
+    GuidePlace guide = GuidePlace::archivos;
+    bool titlesOnReportEditor = false; ///< titles go to `frmEdito3`, when that is loaded, instead of this window
+    host::BiText guideTitle{};         ///< behind the path, after a guide was read
+    host::BiText documentTitle{};      ///< behind the path, after open and save as
+    host::BiText newTitle{};           ///< title of a new document
+    Question keep{};                   ///< ask-to-save
+    Question keepAtExit{};
+    Question replaceFile{};
+    Question confirmExit{};            ///< flags 0: no confirmation
+    Question closeByButton{};          ///< flags 0: no question
+    bool newDocumentByItem = false;    ///< `mnuFileItem` makes a new document here instead of a new window
+    host::BiText newWindow{};          ///< the editor that `mnuFileItem` opens
+    std::string_view guideOfNewWindow{}; ///< `ArchivoGuia` set around it; empty leaves it alone
+    bool printsFontSize = true;
+};
+
+class Editor : public host::Window {
+public:
+    Editor(host::SheetHost& host, const host::WindowSpec& window, const EditorSpec& editor);
+
+    void load();
+    void resize();
+    void queryClose(host::EventArgs& args);
+    void changed();
+    void shortcut(host::EventArgs& args);
+
+    void newDocument();
+    void openDocument();
+    void saveDocument();
+    void saveDocumentAs();
+    void print();
+    void newWindow();
+    void exit();
+    void editMenuOpens();
+    void cut();
+    void copy();
+    void paste();
+    void find();
+    void replace();
+    void cascade();
+    void tileHorizontally();
+    void tileVertically();
+    void bringCircuitsBack();
+    void backColour();
+    void foreColour();
+    void fonts();
+    void about();
+
+    const std::string& NombreDocumento() const { return nombreDocumento_; }
+    bool DocumentoNuevo() const { return documentoNuevo_; }
+    bool DocumentoCambiado() const { return documentoCambiado_; }
+    void setAccionCancelada(bool cancelled) { accionCancelada_ = cancelled; }
+
+private:
+    std::string_view pick(const host::BiText& text) const { return host().pick(text); }
+    int ask(const Question& question);
+    bool mayDiscard(const Question& keep, bool exiting);
+    void openGuide();
+    bool readDocument(const std::string& path);
+    bool writeDocument(const std::string& path);
+    bool runSaveAs();
+    void runOpen();
+    void putText(std::string_view text);
+    void replaceSelection(std::string_view text);
+    void setTitle(std::string_view title);
+    void setBusy(bool busy);
+    void startEmpty();
+
+    const EditorSpec& editor_;
+    std::string nombreDocumento_;
+    bool documentoNuevo_ = true;
+    bool documentoCambiado_ = false;
+    bool accionCancelada_ = false;
+};
+
+/// Rows of the menus and the slots, the same for all four; a window's table leaves out what it lacks by hiding it.
+extern const std::span<const host::SlotRow> editorSlots;
+extern const std::span<const host::ShortcutRow> editorShortcuts;
+
+extern const host::WindowSpec frmEditor;
+extern const host::WindowSpec frmEdito1;
+extern const host::WindowSpec frmEdito2;
+extern const host::WindowSpec frmEdito3;
+
+} // namespace velmor::editors
