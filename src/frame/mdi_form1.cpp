@@ -142,7 +142,7 @@ void MDIForm1::pressBackground(host::EventArgs& args)
 
 void MDIForm1::askExit(host::EventArgs& args)
 {
-    args.cancel = host().MsgBox(host().pick(exitQuestion), exitFlags, caption()) != answerYes;
+    args.cancel = host().MsgBox(host().pick(main_texts::exitQuestion), main_texts::exitFlags, caption()) != main_texts::answerYes;
 }
 
 // The comma is left behind as decimal separator, whatever stood there before the start.

@@ -115,7 +115,8 @@ void MDIForm1::closeActive()
 
 void MDIForm1::exitWithoutSaving()
 {
-    if (host().MsgBox(host().pick(exitQuestion), exitFlags, applicationTitle) == answerYes)
+    if (host().MsgBox(host().pick(item_texts::exitQuestion), item_texts::exitFlags, applicationTitle) ==
+        item_texts::answerYes)
         endProgram();
 }
 
