@@ -38,27 +38,28 @@ struct Manner {
     bool bold = false;
     bool serif = false;
     bool italic = false;
+    bool oneLine = false; ///< rather a little smaller than in two lines
 };
 
 Manner mannerOfLook(Look look)
 {
     switch (look) {
     case Look::heading:
-        return {.points = 8.5, .bold = true};
+        return {.points = 8.5, .bold = true, .oneLine = true};
     case Look::prompt:
         return {.padding = {14.0, 5.0, 9.0, 5.0}, .points = 9.5};
     case Look::hint:
-        return {.padding = {8.0, 3.0, 6.0, 3.0}, .points = 8.5};
+        return {.padding = {8.0, 3.0, 6.0, 3.0}, .points = 8.5, .oneLine = true};
     case Look::balloon:
-        return {.padding = {7.0, 2.0, 7.0, 2.0}, .points = 8.0, .alignment = Qt::AlignCenter};
+        return {.padding = {7.0, 2.0, 7.0, 2.0}, .points = 8.0, .alignment = Qt::AlignCenter, .oneLine = true};
     case Look::note:
-        return {.points = 7.5, .italic = true};
+        return {.points = 7.5, .italic = true, .oneLine = true};
     case Look::result:
-        return {.points = 9.5, .serif = true};
+        return {.points = 9.5, .serif = true, .oneLine = true};
     case Look::warning:
-        return {.padding = {24.0, 4.0, 8.0, 4.0}, .points = 8.5};
+        return {.padding = {27.0, 4.0, 8.0, 4.0}, .points = 8.5};
     case Look::title:
-        return {.points = 13.0, .bold = true};
+        return {.points = 13.0, .bold = true, .oneLine = true};
     case Look::group:
         return {.padding = {10.0, 5.0, 10.0, 4.0}, .points = 8.5, .alignment = Qt::AlignLeft | Qt::AlignTop, .bold = true};
     default:
@@ -74,7 +75,7 @@ Manner mannerOf(const host::ControlRow& row)
         return manner;
     switch (row.kind) {
     case Kind::button:
-        manner = {.padding = {8.0, 2.0, 8.0, 2.0}, .alignment = Qt::AlignCenter};
+        manner = {.padding = {6.0, 2.0, 6.0, 2.0}, .alignment = Qt::AlignCenter, .oneLine = true};
         break;
     case Kind::panel:
         manner = {.padding = {8.0, 4.0, 8.0, 4.0}, .alignment = Qt::AlignCenter};
@@ -86,7 +87,10 @@ Manner mannerOf(const host::ControlRow& row)
         break;
     case Kind::option:
     case Kind::check:
-        manner = {.padding = {19.0, 0.0, 2.0, 0.0}};
+        manner = {.padding = {19.0, 0.0, 2.0, 0.0}, .oneLine = true};
+        break;
+    case Kind::field:
+        manner = {.padding = {4.0, 0.0, 4.0, 0.0}, .oneLine = true};
         break;
     default:
         break;
@@ -148,6 +152,11 @@ double wantedPixels(const host::Window& window, host::Handle control, const Mann
 int searchSize(const QString& text, const Manner& manner, const QRectF& room, int flags, double wanted)
 {
     const int largest = std::max(static_cast<int>(smallestLetters), static_cast<int>(std::lround(wanted)));
+    const int least = std::max(static_cast<int>(smallestLetters), static_cast<int>(std::lround(wanted * 0.82)));
+    const int unwrapped = flags & ~static_cast<int>(Qt::TextWordWrap);
+    for (int pixels = largest; manner.oneLine && pixels >= least; --pixels)
+        if (measure(text, fontOf(manner, pixels), room, unwrapped).fits)
+            return pixels;
     for (int pixels = largest; pixels > static_cast<int>(smallestLetters); --pixels)
         if (measure(text, fontOf(manner, pixels), room, flags).fits)
             return pixels;
@@ -157,7 +166,7 @@ int searchSize(const QString& text, const Manner& manner, const QRectF& room, in
 int sizeFor(const QString& text, const Manner& manner, const QRectF& room, int flags, double wanted)
 {
     static QHash<Question, int> answers;
-    const int key = flags << 3 | (manner.bold ? 1 : 0) | (manner.serif ? 2 : 0) | (manner.italic ? 4 : 0);
+    const int key = flags << 4 | (manner.oneLine ? 8 : 0) | (manner.bold ? 1 : 0) | (manner.serif ? 2 : 0) | (manner.italic ? 4 : 0);
     const Question question{text, room.size(), wanted, key};
     const auto known = answers.constFind(question);
     if (known != answers.constEnd())
@@ -183,9 +192,11 @@ CaptionSetting setCaption(const host::Window& window, host::Handle control, cons
     using namespace fitting;
     CaptionSetting setting;
     setting.text = displayText(window.text(control));
-    if (setting.text.isEmpty())
-        return setting;
     const Manner manner = mannerOf(window.row(control));
+    if (setting.text.isEmpty()) {
+        setting.font = fontOf(manner, wantedPixels(window, control, manner, view));
+        return setting;
+    }
     const QRectF box = boxOf(window, control, view);
     setting.room = roomIn(box, manner.padding, view.pixelsPerUnit());
     setting.flags = manner.alignment | Qt::TextWordWrap;

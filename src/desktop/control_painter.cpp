@@ -13,6 +13,7 @@
 #include "desktop/caption_fit.h"
 #include "desktop/field_marks.h"
 #include "desktop/schematic_painter.h"
+#include "desktop/typefaces.h"
 
 namespace velmor::desktop {
 
@@ -314,11 +315,7 @@ void paintShape(const Scene& scene)
 void paintPrintedField(const Scene& scene)
 {
     plate(scene, QColor(), scene.inks().edge, 2.0, hairline(scene));
-    const CaptionSetting setting = setCaption(scene.window, scene.control, scene.view);
-    scene.painter.setFont(setting.font);
-    scene.painter.setPen(scene.inks().ink);
-    const double margin = 4.0 * scene.unit();
-    scene.painter.drawText(scene.box.adjusted(margin, 0.0, -margin, 0.0), Qt::AlignLeft | Qt::AlignVCenter, setting.text);
+    writeCaption(scene, scene.inks().ink, scene.inks().paper);
 }
 
 void paintByKind(const Scene& scene)
@@ -381,12 +378,6 @@ bool isWidget(Kind kind)
     return kind == Kind::field || kind == Kind::page || kind == Kind::editor || kind == Kind::list;
 }
 
-bool isPainted(const host::Window& window, Handle control)
-{
-    const host::ControlRow& row = window.row(control);
-    return window.visible(control) && row.look != Look::invisible && row.kind != Kind::timer && row.kind != Kind::menu;
-}
-
 void paintLayer(QPainter& painter, const host::Window& window, const View& view, bool overlays)
 {
     for (Handle control = 0; control < window.controlCount(); ++control) {
@@ -399,6 +390,15 @@ void paintLayer(QPainter& painter, const host::Window& window, const View& view,
 }
 
 } // namespace painting
+
+bool isPainted(const host::Window& window, Handle control)
+{
+    const host::ControlRow& row = window.row(control);
+    for (Handle part = control; part != host::noControl; part = window.row(part).parent)
+        if (!window.visible(part))
+            return false;
+    return row.look != Look::invisible && row.kind != Kind::timer && row.kind != Kind::menu;
+}
 
 QRectF boxOf(const host::Window& window, Handle control, const View& view)
 {
@@ -444,6 +444,8 @@ QRectF inkBounds(const host::Window& window, Handle control, const View& view)
 
 QFont captionFont(const host::Window& window, Handle control, const View& view)
 {
+    if (painting::isWidget(window.row(control).kind))
+        return interfaceFont(fieldLetters(window, control, view));
     return setCaption(window, control, view).font;
 }
 

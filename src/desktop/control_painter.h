@@ -22,6 +22,9 @@ void paintControl(QPainter& painter, const host::Window& window, host::Handle co
 /// unless `view.forPrint`, where fields show their text in a plain box.
 void paintWindow(QPainter& painter, const host::Window& window, const View& view);
 
+/// Visible, in visible panels, of a look and kind that show something.
+bool isPainted(const host::Window& window, host::Handle control);
+
 /// Place of a control in the painter's coordinates.
 QRectF boxOf(const host::Window& window, host::Handle control, const View& view);
 
@@ -34,7 +37,7 @@ QRectF inkBounds(const host::Window& window, host::Handle control, const View& v
 QString displayText(std::string_view text);
 
 /// The font of a control's text at this scale: that in which its text fits its place, between the wanted size and
-/// the readable minimum of 9 logical pixels. Fields: the size that fits the field's height.
+/// the readable minimum of 9 logical pixels. Fields: the size that fits the field's height, whatever the text.
 QFont captionFont(const host::Window& window, host::Handle control, const View& view);
 
 /// True when the control's text fits inside its place in a readable size, and, of a field, its symbol and unit too

@@ -78,7 +78,7 @@ bool exportPdf(const QString& path, const host::Window& window, std::int16_t lan
 bool exportSvg(const QString& path, const host::Window& window, std::int16_t languageIsEnglish)
 {
     using namespace exporting;
-    SvgDevice device(fineSize(window), titleOf(window));
+    SvgDevice device(fineSize(window), finePerUnit, titleOf(window));
     QPainter painter(&device);
     paintWindow(painter, window, fineView(languageIsEnglish));
     painter.end();

@@ -33,12 +33,9 @@ struct Setting {
 bool isObstacle(const Window& window, Handle other, const QRectF& field, const View& view)
 {
     const host::ControlRow& row = window.row(other);
-    if (!window.visible(other) || row.overlay || row.look == Look::paper || row.look == Look::group ||
-        row.look == Look::invisible)
+    if (row.overlay || row.look == Look::paper || row.look == Look::group || !isPainted(window, other))
         return false;
     switch (row.kind) {
-    case Kind::timer:
-    case Kind::menu:
     case Kind::line:
     case Kind::shape:
         return false;

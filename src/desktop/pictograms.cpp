@@ -23,7 +23,7 @@ public:
         corner_ = box.center() - QPointF(side_, side_) / 2.0;
         const double scale = side_ * sketch.unit() / 24.0;
         // Lines thin out with the picture, but never below a pixel nor above the drawing's own weight.
-        weight_ = sketch.weight(std::min(1.5, 1.6 * side_ / 24.0) * stroke.factor);
+        weight_ = sketch.weight(std::min(1.5, 1.6 * side_ / 24.0) * stroke.factor());
         length_ = scale;
     }
 

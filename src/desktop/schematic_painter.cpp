@@ -27,7 +27,6 @@ constexpr double letterUnits = 15.0;
 constexpr double valueSize = 0.8;
 constexpr double gap = 6.0;
 constexpr double haloMargin = 5.0;
-constexpr double heavier = 1.6;
 
 struct Line {
     SymbolLabel label;
@@ -196,16 +195,12 @@ void addHalo(Sketch& sketch, const Mark& mark, const Block& block, const View& v
 {
     const double margin = haloMargin * sketch.unit();
     const QRectF body = bodyOf(mark);
+    QRectF box = block.box;
+    if (!isFree(mark.symbol))
+        box |= QRectF(sketch.exactly(body.topLeft()), sketch.exactly(body.bottomRight()));
     QPainterPath path;
-    path.setFillRule(Qt::WindingFill);
-    if (!isFree(mark.symbol)) {
-        const QRectF box = QRectF(sketch.exactly(body.topLeft()), sketch.exactly(body.bottomRight()))
-                               .adjusted(-margin, -margin, margin, margin);
-        path.addRoundedRect(box, margin, margin);
-    }
-    if (!block.lines.empty())
-        path.addRoundedRect(block.box.adjusted(-margin, -margin, margin, margin), margin, margin);
-    sketch.fill(Layer::halo, view.inks->accentTint, path.simplified());
+    path.addRoundedRect(box.adjusted(-margin, -margin, margin, margin), margin, margin);
+    sketch.fill(Layer::halo, view.inks->accentTint, path);
 }
 
 void writeMeterLetter(Sketch& sketch, const Mark& mark, const QColor& ink)
@@ -221,7 +216,7 @@ void addMark(Sketch& sketch, QPointF origin, const host::Window& window, const M
 {
     const bool highlighted = inHand(window, mark, view);
     const QColor ink = inkOf(mark, view);
-    Stroke stroke{ink, highlighted ? view.inks->accent : ink, view.inks->paper, highlighted ? heavier : 1.0};
+    Stroke stroke{ink, highlighted ? view.inks->accent : ink, view.inks->paper, highlighted};
     const Block block = blockOf(window, mark, sketch.unit(), origin, view);
     if (highlighted)
         addHalo(sketch, mark, block, view);

@@ -18,6 +18,16 @@ double Sketch::weight(double units) const
     return snaps_ ? std::max(1.0, std::floor(width + 0.45)) : width;
 }
 
+double Sketch::curveWeight() const
+{
+    return snaps_ ? std::clamp(1.5 * unit_, leadWeight() - 0.3, leadWeight() + 0.4) : leadWeight();
+}
+
+double Sketch::heavyWeight() const
+{
+    return snaps_ ? leadWeight() + 2.0 * std::max(1.0, std::round(leadWeight() * 0.25)) : 1.6 * leadWeight();
+}
+
 double Sketch::phase() const { return std::fmod(leadWeight(), 2.0) == 0.0 ? 0.0 : 0.5; }
 
 QPointF Sketch::at(QPointF point) const

@@ -54,6 +54,10 @@ public:
     /// Width of a stroke: whole pixels, at least one.
     double weight(double units) const;
     double leadWeight() const { return weight(1.5); }
+    /// Width for curves and slants, which cannot lie on whole pixels: near the true one, so that they look as dark as leads.
+    double curveWeight() const;
+    /// Width of the outline of the part in hand: heavier than a lead by a whole pixel on each side.
+    double heavyWeight() const;
 
     void stroke(Layer layer, const QColor& color, double width, const QPainterPath& path);
     void stroke(Layer layer, const QColor& color, double width, std::initializer_list<QPointF> points);

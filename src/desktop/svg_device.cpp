@@ -143,8 +143,8 @@ private:
     double opacity_ = 1.0;
 };
 
-SvgDevice::SvgDevice(QSizeF size, const QString& title)
-    : size_(size), title_(title), engine_(std::make_unique<SvgEngine>())
+SvgDevice::SvgDevice(QSizeF size, double unitsPerPixel, const QString& title)
+    : size_(size), unitsPerPixel_(unitsPerPixel), title_(title), engine_(std::make_unique<SvgEngine>())
 {
 }
 
@@ -156,9 +156,10 @@ QByteArray SvgDevice::document() const
 {
     const QString head =
         QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                       "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%1\" height=\"%2\" viewBox=\"0 0 %1 %2\">\n"
-                       "<title>%3</title>\n")
-            .arg(svg::number(size_.width()), svg::number(size_.height()), title_.toHtmlEscaped());
+                       "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%1\" height=\"%2\" viewBox=\"0 0 %3 %4\">\n"
+                       "<title>%5</title>\n")
+            .arg(svg::number(size_.width() / unitsPerPixel_), svg::number(size_.height() / unitsPerPixel_),
+                 svg::number(size_.width()), svg::number(size_.height()), title_.toHtmlEscaped());
     return (head + engine_->body() + QStringLiteral("</svg>\n")).toUtf8();
 }
 
@@ -173,6 +174,10 @@ int SvgDevice::metric(PaintDeviceMetric metric) const
         return static_cast<int>(size_.width() * 25.4 / 96.0);
     case PdmHeightMM:
         return static_cast<int>(size_.height() * 25.4 / 96.0);
+    case PdmDevicePixelRatio:
+        return 1;
+    case PdmDevicePixelRatioScaled:
+        return static_cast<int>(devicePixelRatioFScale());
     case PdmDpiX:
     case PdmDpiY:
     case PdmPhysicalDpiX:

@@ -15,8 +15,8 @@ class SvgEngine;
 
 class SvgDevice final : public QPaintDevice {
 public:
-    /// `size` in user units; the document is shown at one unit a CSS pixel.
-    SvgDevice(QSizeF size, const QString& title);
+    /// `size` in user units, of which `unitsPerPixel` make a CSS pixel.
+    SvgDevice(QSizeF size, double unitsPerPixel, const QString& title);
     ~SvgDevice() override;
 
     QPaintEngine* paintEngine() const override;
@@ -28,6 +28,7 @@ protected:
 
 private:
     QSizeF size_;
+    double unitsPerPixel_;
     QString title_;
     std::unique_ptr<SvgEngine> engine_;
 };

@@ -20,7 +20,7 @@ constexpr double subscriptDrop = 0.20;
 
 bool endsSubscript(QChar letter)
 {
-    return letter.isSpace() || QStringLiteral("=+-/,·×()<>∥;:").contains(letter);
+    return letter.isSpace() || QStringLiteral("=+−/,·×()<>∥;:").contains(letter);
 }
 
 QString prepared(std::string_view name)
@@ -28,8 +28,12 @@ QString prepared(std::string_view name)
     QString text = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
     text.replace(QStringLiteral("/\\"), QStringLiteral("Δ"));
     text.replace(QLatin1Char('\''), QChar(0x2032));
+    text.replace(QLatin1Char('-'), QChar(0x2212));
     return text;
 }
+
+/// A delta stands before a quantity and is none itself.
+bool isQuantity(QChar letter) { return letter.isLetter() && letter != QChar(0x0394); }
 
 /// Letters up to the next end of a word, and whether a subscript follows.
 bool isSymbolWord(const QString& text, qsizetype start)
@@ -61,11 +65,12 @@ void add(SymbolLabel& label, const QString& text, Style style, double pixels)
 Style styleOf(const QString& text, qsizetype position, bool inWord, Style before)
 {
     const QChar letter = text[position];
-    if (!letter.isLetter())
+    if (!isQuantity(letter))
         return Style::upright;
     if (inWord)
         return before;
-    return isSymbolWord(text, position) || (position > 0 && text[position - 1] == QLatin1Char('/')) ? Style::italic
+    const bool afterOperator = position > 0 && QStringLiteral("%Δ=+−/(·×∥").contains(text[position - 1]);
+    return isSymbolWord(text, position) || afterOperator ? Style::italic
                                                                                                       : Style::upright;
 }
 
@@ -99,7 +104,7 @@ SymbolLabel setLabel(std::string_view name, double pixels)
             run.clear();
             style = next;
         }
-        inWord = text[i].isLetter();
+        inWord = isQuantity(text[i]);
         run += text[i];
     }
     add(label, run, style, pixels);

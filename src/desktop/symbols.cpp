@@ -116,12 +116,13 @@ struct Pen {
     const Stroke& stroke;
     Axes axes;
 
-    double weight(double units) const { return sketch.weight(units * stroke.factor); }
-    double bodyWeight() const { return weight(1.5); }
-    void outline(const QPainterPath& path) const
-    {
-        sketch.stroke(Layer::outline, stroke.body, bodyWeight(), path);
-    }
+    double weight(double units) const { return sketch.weight(units * stroke.factor()); }
+    double bodyWeight() const { return stroke.heavy ? sketch.heavyWeight() : sketch.leadWeight(); }
+    double curveWeight() const { return stroke.heavy ? sketch.heavyWeight() : sketch.curveWeight(); }
+    void outline(const QPainterPath& path) const { sketch.stroke(Layer::outline, stroke.body, bodyWeight(), path); }
+    /// Outlines that are round or slanted.
+    void curve(const QPainterPath& path) const { sketch.stroke(Layer::outline, stroke.body, curveWeight(), path); }
+    void wave(const QPainterPath& path) const { sketch.stroke(Layer::lead, stroke.body, curveWeight(), path); }
     void solid(const QPainterPath& path) const { sketch.fill(Layer::solid, stroke.body, path); }
     void line(double alongA, double acrossA, double alongB, double acrossB) const
     {
@@ -165,8 +166,8 @@ void drawPreset(const Pen& pen)
 void drawCapacitor(const Pen& pen)
 {
     pen.leads(3.5);
-    pen.solid(pen.axes.bar(-3.5, 13.0, plateWeight * pen.stroke.factor));
-    pen.solid(pen.axes.bar(3.5, 13.0, plateWeight * pen.stroke.factor));
+    pen.solid(pen.axes.bar(-3.5, 13.0, plateWeight * pen.stroke.factor()));
+    pen.solid(pen.axes.bar(3.5, 13.0, plateWeight * pen.stroke.factor()));
 }
 
 void drawPolarised(const Pen& pen)
@@ -183,8 +184,8 @@ void drawPolarised(const Pen& pen)
 void drawDiode(const Pen& pen)
 {
     pen.leads(7.0);
-    pen.outline(pen.axes.shape({{-7.0, -8.0}, {-7.0, 8.0}, {7.0, 0.0}}));
-    pen.solid(pen.axes.bar(7.0, 8.5, 2.0 * pen.stroke.factor));
+    pen.curve(pen.axes.shape({{-7.0, -8.0}, {-7.0, 8.0}, {7.0, 0.0}}));
+    pen.solid(pen.axes.bar(7.0, 8.5, 2.0 * pen.stroke.factor()));
 }
 
 void drawZener(const Pen& pen)
@@ -212,25 +213,25 @@ void drawGenerator(const Pen& pen)
     pen.leads(15.0);
     const double unit = pen.sketch.unit();
     const QPointF centre = pen.axes.centre();
-    pen.outline(circleAt(centre, pen.axes.length(15.0)));
+    pen.curve(circleAt(centre, pen.axes.length(15.0)));
     QPainterPath wave;
     wave.moveTo(centre + QPointF(-8.5, 0.0) * unit);
     wave.cubicTo(centre + QPointF(-5.4, -11.4) * unit, centre + QPointF(-3.1, -11.4) * unit, centre);
     wave.cubicTo(centre + QPointF(3.1, 11.4) * unit, centre + QPointF(5.4, 11.4) * unit, centre + QPointF(8.5, 0.0) * unit);
-    pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.bodyWeight(), wave);
+    pen.wave(wave);
 }
 
 void drawMeter(const Pen& pen)
 {
     pen.leads(15.0);
-    pen.outline(circleAt(pen.axes.centre(), pen.axes.length(15.0)));
+    pen.curve(circleAt(pen.axes.centre(), pen.axes.length(15.0)));
 }
 
 void drawLoudspeaker(const Pen& pen)
 {
     pen.leads(9.0);
     pen.outline(pen.axes.shape({{-9.0, -5.0}, {9.0, -5.0}, {9.0, 4.0}, {-9.0, 4.0}}));
-    pen.outline(pen.axes.shape({{-9.0, 4.0}, {-17.0, 14.0}, {17.0, 14.0}, {9.0, 4.0}}));
+    pen.curve(pen.axes.shape({{-9.0, 4.0}, {-17.0, 14.0}, {17.0, 14.0}, {9.0, 4.0}}));
 }
 
 /// `turns` bumps along the axis, from `start`, at `across`, each reaching `bulge` to one side.
@@ -250,7 +251,7 @@ QPainterPath winding(const Axes& axes, double half, int turns, double across, do
 void drawInductor(const Pen& pen)
 {
     pen.leads(18.0);
-    pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.bodyWeight(), winding(pen.axes, 18.0, 4, 0.0, 6.5));
+    pen.wave(winding(pen.axes, 18.0, 4, 0.0, 6.5));
 }
 
 void drawTransformer(const Pen& pen)
@@ -260,8 +261,8 @@ void drawTransformer(const Pen& pen)
     const double half = std::hypot(pen.mark.to.x - pen.mark.from.x, pen.mark.to.y - pen.mark.from.y) / 2.0;
     pen.lead(axes.at(-half, 40.0), axes.at(-20.0, 40.0));
     pen.lead(axes.at(20.0, 40.0), axes.at(half, 40.0));
-    pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.bodyWeight(), winding(axes, 20.0, 4, 0.0, 10.0));
-    pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.bodyWeight(), winding(axes, 20.0, 4, 40.0, -10.0));
+    pen.wave(winding(axes, 20.0, 4, 0.0, 10.0));
+    pen.wave(winding(axes, 20.0, 4, 40.0, -10.0));
     pen.line(-22.0, 17.5, 22.0, 17.5);
     pen.line(-22.0, 22.5, 22.0, 22.5);
 }
@@ -269,8 +270,8 @@ void drawTransformer(const Pen& pen)
 void drawBattery(const Pen& pen)
 {
     pen.leads(3.5);
-    pen.solid(pen.axes.bar(-3.5, 13.0, 1.5 * pen.stroke.factor));
-    pen.solid(pen.axes.bar(3.5, 6.5, 3.2 * pen.stroke.factor));
+    pen.solid(pen.axes.bar(-3.5, 13.0, 1.5 * pen.stroke.factor()));
+    pen.solid(pen.axes.bar(3.5, 6.5, 3.2 * pen.stroke.factor()));
 }
 
 void drawSwitch(const Pen& pen, bool closed)
@@ -278,7 +279,7 @@ void drawSwitch(const Pen& pen, bool closed)
     pen.leads(12.0);
     pen.line(-12.0, 0.0, closed ? 12.0 : 9.0, closed ? 0.0 : 11.0);
     for (const double along : {-12.0, 12.0})
-        pen.sketch.outline(Layer::terminal, pen.stroke.body, pen.stroke.paper, pen.bodyWeight(),
+        pen.sketch.outline(Layer::terminal, pen.stroke.body, pen.stroke.paper, pen.curveWeight(),
                            circleAt(pen.axes.at(along, 0.0), 2.6 * pen.sketch.unit()));
 }
 
@@ -291,14 +292,14 @@ void drawTransistor(const Pen& pen)
     // Along runs from the base into the transistor; upwards is always up on the paper.
     const Axes axes(pen.sketch, base, {mirrored ? -1.0 : 1.0, 0.0});
     const double up = mirrored ? -1.0 : 1.0;
-    pen.outline(circleAt(axes.at(20.0, 0.0), axes.length(21.0)));
+    pen.curve(circleAt(axes.at(20.0, 0.0), axes.length(21.0)));
     pen.lead(axes.at(0.0, 0.0), axes.at(13.0, 0.0));
-    pen.solid(axes.bar(13.0, 12.5, 3.0 * pen.stroke.factor));
+    pen.solid(axes.bar(13.0, 12.5, 3.0 * pen.stroke.factor()));
     for (const double side : {up, -up}) {
         const QPointF knee = axes.at(30.0, side * 18.7);
         const QPointF end = pen.sketch.at(unitsOf(side == up ? host::upperEnd(symbol, pen.mark.from)
                                                              : host::lowerEnd(symbol, pen.mark.from)));
-        pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.bodyWeight(), {axes.at(13.0, side * 6.0), knee});
+        pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.curveWeight(), {axes.at(13.0, side * 6.0), knee});
         pen.lead({end.x(), knee.y()}, end);
     }
     const double side = host::isPnp(symbol) ? up : -up;
@@ -323,7 +324,7 @@ void drawSupply(const Pen& pen, double down)
 {
     const Axes axes(pen.sketch, unitsOf(pen.mark.from), {0.0, down});
     pen.lead(axes.at(0.0, 0.0), axes.at(10.0, 0.0));
-    pen.solid(axes.bar(0.0, 9.0, groundWeight * pen.stroke.factor));
+    pen.solid(axes.bar(0.0, 9.0, groundWeight * pen.stroke.factor()));
 }
 
 void drawNode(const Pen& pen)
@@ -333,7 +334,7 @@ void drawNode(const Pen& pen)
 
 void drawTerminal(const Pen& pen)
 {
-    pen.sketch.outline(Layer::terminal, pen.stroke.body, pen.stroke.paper, pen.bodyWeight(),
+    pen.sketch.outline(Layer::terminal, pen.stroke.body, pen.stroke.paper, pen.curveWeight(),
                        circleAt(pen.sketch.at(unitsOf(pen.mark.from)), 3.2 * pen.sketch.unit()));
 }
 
@@ -365,7 +366,7 @@ void drawSine(const Pen& pen, double sign)
     wave.moveTo(start);
     wave.cubicTo(start + QPointF(step * 0.3642, rise), start + QPointF(step * 0.6358, rise), start + QPointF(step, 0.0));
     wave.cubicTo(start + QPointF(step * 1.3642, -rise), start + QPointF(step * 1.6358, -rise), start + QPointF(2.0 * step, 0.0));
-    pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.bodyWeight(), wave);
+    pen.wave(wave);
 }
 
 void drawPolyline(const Pen& pen, bool filled)
@@ -389,7 +390,7 @@ void drawFrame(const Pen& pen)
     QPainterPath path;
     if (pen.mark.symbol == Symbol::circle) {
         path.addEllipse(box);
-        pen.sketch.stroke(Layer::outline, pen.stroke.body, pen.bodyWeight(), path);
+        pen.curve(path);
     } else if (pen.mark.symbol == Symbol::roundFrame) {
         path.addRoundedRect(box, 6.0 * pen.sketch.unit(), 6.0 * pen.sketch.unit());
         pen.sketch.outline(Layer::ground, pen.stroke.body, pen.stroke.paper, pen.weight(thinWeight), path);

@@ -15,7 +15,10 @@ struct Stroke {
     QColor ink;    ///< leads
     QColor body;   ///< outline of the part
     QColor paper;  ///< what lies inside hollow things
-    double factor = 1.0; ///< on the weight of the body; above 1 for the part in hand
+    bool heavy = false; ///< the part in hand
+
+    /// On the weight of bars and plates.
+    double factor() const { return heavy ? 1.5 : 1.0; }
 };
 
 /// How far a symbol reaches from the middle of its name's anchor, in units.
