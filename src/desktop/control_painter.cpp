@@ -435,10 +435,13 @@ void paintWindow(QPainter& painter, const host::Window& window, const View& view
 QRectF inkBounds(const host::Window& window, Handle control, const View& view)
 {
     const double margin = 7.0 * view.pixelsPerUnit();
+    const double overhang = 2.0 * view.pixelsPerUnit(); // of slanted letters
     QRectF bounds = boxOf(window, control, view).adjusted(-margin, -margin, margin, margin);
     bounds |= boundsOfMarks(window, window.row(control).drawing, boxOf(window, control, view).topLeft(), view);
     if (painting::isWidget(window.row(control).kind))
-        bounds |= symbolBounds(window, control, view) | unitBounds(window, control, view);
+        for (const QRectF& box : {symbolBounds(window, control, view), unitBounds(window, control, view)})
+            if (!box.isEmpty())
+                bounds |= box.adjusted(-overhang, -overhang, overhang, overhang);
     return bounds;
 }
 

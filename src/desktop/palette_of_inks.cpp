@@ -129,7 +129,7 @@ double contrast(const QColor& one, const QColor& other)
 QColor readableOn(const QColor& ground, const QColor& wished)
 {
     const bool towardsLight = contrast(ground, Qt::white) >= contrast(ground, Qt::black);
-    const QColor end = towardsLight ? QColor(0xFA, 0xFB, 0xFC) : lightInks().ink;
+    const QColor end = towardsLight ? QColor(Qt::white) : QColor(Qt::black);
     for (int step = 0; step < 8; ++step) {
         const double part = step / 8.0;
         const auto mix = [part](int from, int to) { return static_cast<int>(std::lround(from + (to - from) * part)); };

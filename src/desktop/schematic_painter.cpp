@@ -239,12 +239,15 @@ bool isBareNumber(const QString& text)
     return number.match(text).hasMatch();
 }
 
-/// At most five significant figures: the field beside the drawing shows them all.
+/// At most five significant figures of a fraction, but every figure before the point: the field beside the drawing shows
+/// them all.
 QString shortNumber(const QString& text)
 {
-    if (text.size() <= 6)
+    if (text.size() <= 6 || text.contains(QLatin1Char('E'), Qt::CaseInsensitive))
         return text;
-    return QString::number(text.toDouble(), 'G', 5);
+    const qsizetype before = text.indexOf(QLatin1Char('.'));
+    const int digits = static_cast<int>(before < 0 ? text.size() : before);
+    return QString::number(text.toDouble(), 'G', std::max(5, digits));
 }
 
 } // namespace schematic
@@ -292,12 +295,7 @@ QRectF boundsOfMarks(const host::Window& window, std::span<const Mark> marks, QP
     const double margin = schematic::haloMargin * unit + 1.0;
     QRectF bounds;
     for (const Mark& mark : marks) {
-        QRectF box = bodyOf(mark);
-        box |= QRectF(schematic::point(mark.from), QSizeF(0.1, 0.1));
-        if (isTwoEnded(mark.symbol))
-            box |= QRectF(schematic::point(mark.to), QSizeF(0.1, 0.1));
-        if (isTransistor(mark.symbol))
-            box.adjust(0.0, -9.0, 0.0, 9.0);
+        const QRectF box = extentOf(mark);
         bounds |= QRectF(origin + box.topLeft() * unit, box.size() * unit);
         bounds |= labelBounds(window, mark, origin, view);
     }

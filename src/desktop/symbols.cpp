@@ -512,6 +512,21 @@ QRectF bodyOf(const Mark& mark)
     return {from - QPointF(reach.across, reach.along), from + QPointF(reach.across, reach.along)};
 }
 
+QRectF extentOf(const Mark& mark)
+{
+    const QSizeF speck(0.1, 0.1);
+    QRectF box = bodyOf(mark) | QRectF(symbols::unitsOf(mark.from), speck);
+    if (isTwoEnded(mark.symbol))
+        box |= QRectF(symbols::unitsOf(mark.to), speck);
+    if (isTransistor(mark.symbol))
+        box |= QRectF(symbols::unitsOf(host::upperEnd(mark.symbol, mark.from)), QSizeF(0.1, 2.0 * host::transistorReach.y));
+    if (mark.symbol == Symbol::supplyUp)
+        box.adjust(0.0, 0.0, 0.0, 10.0);
+    if (mark.symbol == Symbol::supplyDown)
+        box.adjust(0.0, -10.0, 0.0, 0.0);
+    return box;
+}
+
 void drawSymbol(Sketch& sketch, const Mark& mark, const Stroke& stroke)
 {
     using namespace symbols;

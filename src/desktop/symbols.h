@@ -32,8 +32,10 @@ bool isTwoEnded(host::Symbol symbol);
 bool isTransistor(host::Symbol symbol);
 bool isPictogram(host::Symbol symbol);
 
-/// Box of a symbol's body in units (leads excluded), for highlights and repaints.
+/// Box of a symbol's body in units (leads excluded), for highlights and labels.
 QRectF bodyOf(const host::Mark& mark);
+/// Box of body and leads.
+QRectF extentOf(const host::Mark& mark);
 
 /// Adds a mark's strokes to the sketch; names and values are not its business.
 void drawSymbol(Sketch& sketch, const host::Mark& mark, const Stroke& stroke);

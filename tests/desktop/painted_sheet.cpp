@@ -82,7 +82,7 @@ constexpr host::ControlRow stageRows[] = {
     {.id = FieldLoad, .name = "FieldLoad", .kind = Kind::field, .place = {8400, 4500, 1000, 330}, .text = "10.1234567", .symbol = "R_L", .unit = "kΩ"},
     {.id = FieldGain, .name = "FieldGain", .kind = Kind::field, .place = {8400, 4900, 1000, 330}, .text = "", .enabled = false, .symbol = "%/\\Q_Ic", .unit = "%"},
     {.id = Voice, .name = "Voice", .kind = Kind::panel, .place = {150, 150, 7050, 780}, .text = "Ingrese el valor de la fuente. Recuerde que Eq debe ser mayor que 3 V: con menos, el transistor entra en saturación & recorta.", .look = Look::prompt},
-    {.id = Hint, .name = "Hint", .kind = Kind::label, .place = {7350, 150, 3000, 360}, .text = "Enter...acepta      Esc...valor predeterminado ", .look = Look::hint},
+    {.id = Hint, .name = "Hint", .kind = Kind::label, .place = {7350, 90, 3000, 420}, .text = "Enter...acepta      Esc...valor predeterminado ", .look = Look::hint},
     {.id = Balloon, .name = "Balloon", .kind = Kind::label, .place = {5700, 1200, 1350, 285}, .text = "Bootstrap", .look = Look::balloon},
     {.id = Note, .name = "Note", .kind = Kind::label, .place = {7500, 1950, 2700, 240}, .text = "valor comercial más próximo", .look = Look::note},
     {.id = Result, .name = "Result", .kind = Kind::label, .place = {7350, 5640, 3000, 270}, .text = " Rb2=  12 K          comercial...", .look = Look::result},
