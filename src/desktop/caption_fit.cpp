@@ -61,7 +61,8 @@ Manner mannerOfLook(Look look)
     case Look::title:
         return {.points = 13.0, .bold = true, .oneLine = true};
     case Look::group:
-        return {.padding = {10.0, 5.0, 10.0, 4.0}, .points = 8.5, .alignment = Qt::AlignLeft | Qt::AlignTop, .bold = true};
+        return {
+            .padding = {10.0, 5.0, 10.0, 4.0}, .points = 8.5, .alignment = Qt::AlignLeft | Qt::AlignTop, .bold = true};
     default:
         return {};
     }
@@ -140,7 +141,8 @@ struct Question {
 
 size_t qHash(const Question& question, size_t seed = 0)
 {
-    return qHashMulti(seed, question.text, question.room.width(), question.room.height(), question.wanted, question.manner);
+    return qHashMulti(seed, question.text, question.room.width(), question.room.height(), question.wanted,
+                      question.manner);
 }
 
 double wantedPixels(const host::Window& window, host::Handle control, const Manner& manner, const View& view)
@@ -166,7 +168,8 @@ int searchSize(const QString& text, const Manner& manner, const QRectF& room, in
 int sizeFor(const QString& text, const Manner& manner, const QRectF& room, int flags, double wanted)
 {
     static QHash<Question, int> answers;
-    const int key = flags << 4 | (manner.oneLine ? 8 : 0) | (manner.bold ? 1 : 0) | (manner.serif ? 2 : 0) | (manner.italic ? 4 : 0);
+    const int key = flags << 4 | (manner.oneLine ? 8 : 0) | (manner.bold ? 1 : 0) | (manner.serif ? 2 : 0) |
+                    (manner.italic ? 4 : 0);
     const Question question{text, room.size(), wanted, key};
     const auto known = answers.constFind(question);
     if (known != answers.constEnd())
@@ -183,7 +186,8 @@ int sizeFor(const QString& text, const Manner& manner, const QRectF& room, int f
 double fieldLetters(const host::Window& window, host::Handle field, const View& view)
 {
     const double height = host::shownPlace(window, field).height * view.pixelsPerTwip;
-    const double wanted = std::max<double>(8.5, window.control(field).fontSize) * fitting::twipsPerPoint * view.pixelsPerTwip;
+    const double wanted =
+        std::max<double>(8.5, window.control(field).fontSize) * fitting::twipsPerPoint * view.pixelsPerTwip;
     return std::max(smallestLetters, std::min(wanted, height * 0.68));
 }
 

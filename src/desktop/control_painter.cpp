@@ -41,7 +41,10 @@ struct Scene {
     bool pressed() const { return !view.forPrint && enabled() && view.pressed == control; }
 };
 
-QColor colorOf(std::int32_t rgb) { return QColor::fromRgb(static_cast<QRgb>(rgb)); }
+QColor colorOf(std::int32_t rgb)
+{
+    return QColor::fromRgb(static_cast<QRgb>(rgb));
+}
 
 /// A box on whole device pixels, so that its border is one crisp line.
 QRectF crisp(const Scene& scene, const QRectF& box)
@@ -134,7 +137,8 @@ void paintPrompt(const Scene& scene)
     QPainterPath edge;
     edge.addRoundedRect(scene.box, 5.0 * scene.unit(), 5.0 * scene.unit());
     scene.painter.save();
-    scene.painter.setClipRect(QRectF(scene.box.topLeft(), QSizeF(4.0 * scene.unit(), scene.box.height())), Qt::IntersectClip);
+    scene.painter.setClipRect(QRectF(scene.box.topLeft(), QSizeF(4.0 * scene.unit(), scene.box.height())),
+                              Qt::IntersectClip);
     scene.painter.fillPath(edge, scene.inks().accent);
     scene.painter.restore();
     writeCaption(scene, scene.inks().ink, ground);
@@ -162,7 +166,8 @@ void paintBalloon(const Scene& scene)
 void warningSign(const Scene& scene)
 {
     const double size = std::min(14.0 * scene.unit(), scene.box.height() * 0.7);
-    const QPointF centre(scene.box.left() + std::min(13.0 * scene.unit(), scene.box.width() * 0.12), scene.box.center().y());
+    const QPointF centre(scene.box.left() + std::min(13.0 * scene.unit(), scene.box.width() * 0.12),
+                         scene.box.center().y());
     QPainterPath triangle(centre + QPointF(0.0, -0.5) * size);
     triangle.lineTo(centre + QPointF(0.56, 0.45) * size);
     triangle.lineTo(centre + QPointF(-0.56, 0.45) * size);
@@ -246,7 +251,9 @@ QColor buttonGround(const Scene& scene)
 void paintButton(const Scene& scene)
 {
     const QColor ground = buttonGround(scene);
-    const QColor border = !scene.enabled() ? scene.inks().rule : scene.hovered() ? scene.inks().accent : scene.inks().edge;
+    const QColor border = !scene.enabled()  ? scene.inks().rule
+                          : scene.hovered() ? scene.inks().accent
+                                            : scene.inks().edge;
     plate(scene, ground, border, 5.0, hairline(scene));
     paintDrawing(scene);
     writeCaption(scene, scene.enabled() ? scene.inks().ink : scene.inks().buttonOffInk, ground);

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include <QPagedPaintDevice>
 #include <QPageLayout>
+#include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -36,7 +36,10 @@ QSizeF fineSize(const host::Window& window)
     return QSizeF(place.width, place.height) * (finePerUnit / twipsPerUnit);
 }
 
-QString titleOf(const host::Window& window) { return QString::fromStdString(window.caption()).trimmed(); }
+QString titleOf(const host::Window& window)
+{
+    return QString::fromStdString(window.caption()).trimmed();
+}
 
 } // namespace exporting
 
@@ -67,7 +70,8 @@ bool exportPdf(const QString& path, const host::Window& window, std::int16_t lan
         writer.setResolution(600);
         const QSizeF size = fineSize(window);
         const bool wide = size.width() > size.height();
-        writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), wide ? QPageLayout::Landscape : QPageLayout::Portrait,
+        writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4),
+                                         wide ? QPageLayout::Landscape : QPageLayout::Portrait,
                                          QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter));
         if (!printDrawing(writer, window, languageIsEnglish))
             return false;

@@ -67,7 +67,8 @@ double roomBeside(const Window& window, Handle field, const View& view, bool toT
 }
 
 /// The largest label that fits the room, down to the readable minimum.
-template <class Make> SymbolLabel fitted(Make make, double pixels, double room)
+template <class Make>
+SymbolLabel fitted(Make make, double pixels, double room)
 {
     SymbolLabel label = make(pixels);
     while (label.width > room && pixels > smallestLetters + 1.0) {
@@ -94,9 +95,9 @@ Setting symbolOf(const Window& window, Handle field, const View& view)
     const double room = above ? box.width() * 1.5 : roomBeside(window, field, view, true) - space;
     const double letters = fieldLetters(window, field, view) * symbolSize;
     setting.label = fitted([&row](double pixels) { return setLabel(row.symbol, pixels); }, letters, room);
-    setting.baseline = above ? QPointF(box.left(), box.top() - space * 0.6 - setting.label.descent)
-                             : QPointF(box.left() - space - setting.label.width,
-                                       box.center().y() + setting.label.capHeight / 2.0);
+    setting.baseline =
+        above ? QPointF(box.left(), box.top() - space * 0.6 - setting.label.descent)
+              : QPointF(box.left() - space - setting.label.width, box.center().y() + setting.label.capHeight / 2.0);
     setting.box = boxAround(setting.label, setting.baseline);
     return setting;
 }
@@ -140,9 +141,15 @@ bool isFree(const Window& window, Handle field, const QRectF& box, const View& v
 
 } // namespace marks
 
-QRectF symbolBounds(const Window& window, Handle field, const View& view) { return marks::symbolOf(window, field, view).box; }
+QRectF symbolBounds(const Window& window, Handle field, const View& view)
+{
+    return marks::symbolOf(window, field, view).box;
+}
 
-QRectF unitBounds(const Window& window, Handle field, const View& view) { return marks::unitOf(window, field, view).box; }
+QRectF unitBounds(const Window& window, Handle field, const View& view)
+{
+    return marks::unitOf(window, field, view).box;
+}
 
 void paintFieldMarks(QPainter& painter, const Window& window, Handle field, const View& view)
 {

@@ -133,7 +133,8 @@ QColor readableOn(const QColor& ground, const QColor& wished)
     for (int step = 0; step < 8; ++step) {
         const double part = step / 8.0;
         const auto mix = [part](int from, int to) { return static_cast<int>(std::lround(from + (to - from) * part)); };
-        const QColor color(mix(wished.red(), end.red()), mix(wished.green(), end.green()), mix(wished.blue(), end.blue()));
+        const QColor color(mix(wished.red(), end.red()), mix(wished.green(), end.green()),
+                           mix(wished.blue(), end.blue()));
         if (contrast(ground, color) >= 4.5)
             return color;
     }

@@ -23,17 +23,17 @@ struct Inks {
     QColor onAccent;   ///< text on a ground of `accent`
     QColor warning;
     QColor warningTint;
-    QColor rule;       ///< thin rules and frames that separate
-    QColor edge;       ///< outline of fields and buttons, 3 to 1 against its ground
+    QColor rule; ///< thin rules and frames that separate
+    QColor edge; ///< outline of fields and buttons, 3 to 1 against its ground
 
-    QColor voice;      ///< ground of the teacher's panel
-    QColor hint;       ///< ground of hints
-    QColor balloon;    ///< ground of balloons
+    QColor voice;   ///< ground of the teacher's panel
+    QColor hint;    ///< ground of hints
+    QColor balloon; ///< ground of balloons
     QColor onBalloon;
 
-    QColor field;      ///< ground of a field that can be filled
+    QColor field; ///< ground of a field that can be filled
     QColor fieldInk;
-    QColor fieldOff;   ///< ground of a disabled field
+    QColor fieldOff; ///< ground of a disabled field
     QColor fieldOffInk;
     QColor button;
     QColor buttonHover;

@@ -15,8 +15,7 @@ namespace pictograms {
 /// The field of 24 by 24, kept square in the middle of the mark's box.
 class Field {
 public:
-    Field(Sketch& sketch, const Mark& mark, const Stroke& stroke)
-        : sketch_(sketch), stroke_(stroke)
+    Field(Sketch& sketch, const Mark& mark, const Stroke& stroke) : sketch_(sketch), stroke_(stroke)
     {
         const QRectF box = bodyOf(mark);
         side_ = std::min(box.width(), box.height());
@@ -128,8 +127,18 @@ void thermometer(const Field& field)
 
 void lamp(const Field& field)
 {
-    field.curve({9.5, 17}, {{9.5, 14}, {6.5, 13}, {6.5, 9.5}, {6.5, 6.4}, {9, 4}, {12, 4},
-                            {15, 4}, {17.5, 6.4}, {17.5, 9.5}, {17.5, 13}, {14.5, 14}, {14.5, 17}});
+    field.curve({9.5, 17}, {{9.5, 14},
+                            {6.5, 13},
+                            {6.5, 9.5},
+                            {6.5, 6.4},
+                            {9, 4},
+                            {12, 4},
+                            {15, 4},
+                            {17.5, 6.4},
+                            {17.5, 9.5},
+                            {17.5, 13},
+                            {14.5, 14},
+                            {14.5, 17}});
     field.line({{9.5, 17}, {14.5, 17}});
     field.line({{10, 19.5}, {14, 19.5}});
     field.line({{11, 22}, {13, 22}});
@@ -173,7 +182,8 @@ void butterfly(const Field& field)
     for (const double side : {-1.0, 1.0}) {
         const auto x = [side](double across) { return 12.0 + side * across; };
         field.curve({x(0.4), 11}, {{x(3), 4}, {x(10), 1.5}, {x(10.5), 5}, {x(11), 9}, {x(7), 13}, {x(0.4), 12.5}});
-        field.curve({x(0.4), 12.5}, {{x(5), 12.5}, {x(8.5), 15}, {x(7.5), 18.5}, {x(6.5), 21.5}, {x(2), 19}, {x(0.4), 14.5}});
+        field.curve({x(0.4), 12.5},
+                    {{x(5), 12.5}, {x(8.5), 15}, {x(7.5), 18.5}, {x(6.5), 21.5}, {x(2), 19}, {x(0.4), 14.5}});
         field.line({{x(0.3), 8.5}, {x(2.5), 4}});
     }
     field.line({{12, 8.5}, {12, 18.5}});

@@ -47,14 +47,20 @@ struct Anchor {
     Side side = Side::none;
 };
 
-bool isFree(Symbol symbol) { return symbol == Symbol::text || symbol == Symbol::label; }
+bool isFree(Symbol symbol)
+{
+    return symbol == Symbol::text || symbol == Symbol::label;
+}
 
 bool isUpright(const Mark& mark)
 {
     return std::abs(mark.to.y - mark.from.y) >= std::abs(mark.to.x - mark.from.x);
 }
 
-QPointF point(host::GridPoint from) { return {static_cast<double>(from.x), static_cast<double>(from.y)}; }
+QPointF point(host::GridPoint from)
+{
+    return {static_cast<double>(from.x), static_cast<double>(from.y)};
+}
 
 bool standsAtMiddle(Symbol symbol)
 {
@@ -90,13 +96,18 @@ Anchor anchorOf(const Mark& mark)
 }
 
 /// Value in the same line as the name, as in "V_CC = 12 V".
-bool isInline(Symbol symbol) { return symbol == Symbol::terminal || symbol == Symbol::supplyUp || symbol == Symbol::supplyDown; }
+bool isInline(Symbol symbol)
+{
+    return symbol == Symbol::terminal || symbol == Symbol::supplyUp || symbol == Symbol::supplyDown;
+}
 
 std::vector<SymbolLabel> linesOf(const host::Window& window, const Mark& mark, double unit, const View& view)
 {
     const double letters = letterUnits * unit * mark.size / 100.0;
     std::vector<SymbolLabel> lines;
-    const auto plain = [](std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); };
+    const auto plain = [](std::string_view text) {
+        return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    };
     if (mark.symbol == Symbol::text) {
         const std::string_view note = mark.note.in(view.languageIsEnglish);
         const QString text = plain(note.empty() ? mark.name : note);
@@ -178,7 +189,8 @@ Block blockOf(const host::Window& window, const Mark& mark, double unit, QPointF
 
 QColor inkOf(const Mark& mark, const View& view)
 {
-    const bool isSignal = mark.symbol == Symbol::arrow || mark.symbol == Symbol::sine || mark.symbol == Symbol::sineInverted;
+    const bool isSignal =
+        mark.symbol == Symbol::arrow || mark.symbol == Symbol::sine || mark.symbol == Symbol::sineInverted;
     if (isSignal && mark.ink == host::Ink::normal)
         return view.inks->accent;
     if (mark.symbol == Symbol::pointer && mark.ink == host::Ink::normal)
@@ -209,7 +221,8 @@ void writeMeterLetter(Sketch& sketch, const Mark& mark, const QColor& ink)
                                           letterUnits * sketch.unit());
     const QPointF centre = sketch.exactly((point(mark.from) + point(mark.to)) / 2.0);
     for (const LabelRun& run : letter.runs)
-        sketch.write(centre + QPointF(run.offset - letter.width / 2.0, letter.capHeight / 2.0), run.text, run.font, ink);
+        sketch.write(centre + QPointF(run.offset - letter.width / 2.0, letter.capHeight / 2.0), run.text, run.font,
+                     ink);
 }
 
 void addMark(Sketch& sketch, QPointF origin, const host::Window& window, const Mark& mark, const View& view)

@@ -28,7 +28,10 @@ double Sketch::heavyWeight() const
     return snaps_ ? leadWeight() + 2.0 * std::max(1.0, std::round(leadWeight() * 0.25)) : 1.6 * leadWeight();
 }
 
-double Sketch::phase() const { return std::fmod(leadWeight(), 2.0) == 0.0 ? 0.0 : 0.5; }
+double Sketch::phase() const
+{
+    return std::fmod(leadWeight(), 2.0) == 0.0 ? 0.0 : 0.5;
+}
 
 QPointF Sketch::at(QPointF point) const
 {

@@ -70,7 +70,8 @@ QString transformOf(const QTransform& transform)
 
 class SvgEngine final : public QPaintEngine {
 public:
-    SvgEngine() : QPaintEngine(AllFeatures & ~(PatternBrush | PerspectiveTransform | ConicalGradientFill | PorterDuff)) {}
+    SvgEngine() : QPaintEngine(AllFeatures & ~(PatternBrush | PerspectiveTransform | ConicalGradientFill | PorterDuff))
+    {}
 
     bool begin(QPaintDevice*) override { return true; }
     bool end() override { return true; }
@@ -111,9 +112,10 @@ public:
     void drawTextItem(const QPointF& at, const QTextItem& item) override
     {
         const QFont font = item.font();
-        QString text = QStringLiteral("<text x=\"%1\" y=\"%2\" xml:space=\"preserve\" font-family=\"%3, serif\" font-size=\"%4\"")
-                           .arg(svg::number(at.x()), svg::number(at.y()), font.family().toHtmlEscaped(),
-                                svg::number(font.pixelSize()));
+        QString text =
+            QStringLiteral("<text x=\"%1\" y=\"%2\" xml:space=\"preserve\" font-family=\"%3, serif\" font-size=\"%4\"")
+                .arg(svg::number(at.x()), svg::number(at.y()), font.family().toHtmlEscaped(),
+                     svg::number(font.pixelSize()));
         if (font.italic())
             text += QStringLiteral(" font-style=\"italic\"");
         if (font.bold())
@@ -145,12 +147,14 @@ private:
 
 SvgDevice::SvgDevice(QSizeF size, double unitsPerPixel, const QString& title)
     : size_(size), unitsPerPixel_(unitsPerPixel), title_(title), engine_(std::make_unique<SvgEngine>())
-{
-}
+{}
 
 SvgDevice::~SvgDevice() = default;
 
-QPaintEngine* SvgDevice::paintEngine() const { return engine_.get(); }
+QPaintEngine* SvgDevice::paintEngine() const
+{
+    return engine_.get();
+}
 
 QByteArray SvgDevice::document() const
 {

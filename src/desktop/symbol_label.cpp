@@ -33,7 +33,10 @@ QString prepared(std::string_view name)
 }
 
 /// A delta stands before a quantity and is none itself.
-bool isQuantity(QChar letter) { return letter.isLetter() && letter != QChar(0x0394); }
+bool isQuantity(QChar letter)
+{
+    return letter.isLetter() && letter != QChar(0x0394);
+}
 
 /// Letters up to the next end of a word, and whether a subscript follows.
 bool isSymbolWord(const QString& text, qsizetype start)
@@ -70,8 +73,7 @@ Style styleOf(const QString& text, qsizetype position, bool inWord, Style before
     if (inWord)
         return before;
     const bool afterOperator = position > 0 && QStringLiteral("%Δ=+−/(·×∥").contains(text[position - 1]);
-    return isSymbolWord(text, position) || afterOperator ? Style::italic
-                                                                                                      : Style::upright;
+    return isSymbolWord(text, position) || afterOperator ? Style::italic : Style::upright;
 }
 
 } // namespace labels

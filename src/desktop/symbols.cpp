@@ -19,7 +19,10 @@ constexpr double plateWeight = 2.6;
 constexpr double groundWeight = 1.8;
 constexpr double thinWeight = 1.0;
 
-QPointF unitsOf(GridPoint point) { return {static_cast<double>(point.x), static_cast<double>(point.y)}; }
+QPointF unitsOf(GridPoint point)
+{
+    return {static_cast<double>(point.x), static_cast<double>(point.y)};
+}
 
 /// A symbol's own axes on the canvas.
 class Axes {
@@ -27,11 +30,13 @@ public:
     Axes(const Sketch& sketch, QPointF centreInUnits, QPointF direction)
         : sketch_(sketch), centre_(sketch.at(centreInUnits)), along_(direction), across_(direction.y(), -direction.x()),
           aligned_(direction.x() == 0.0 || direction.y() == 0.0)
-    {
-    }
+    {}
 
     QPointF centre() const { return centre_; }
-    QPointF at(double along, double across) const { return centre_ + along_ * length(along) + across_ * length(across); }
+    QPointF at(double along, double across) const
+    {
+        return centre_ + along_ * length(along) + across_ * length(across);
+    }
     /// A corner on the border of a pixel, for filled bars.
     QPointF border(double along, double across) const
     {
@@ -44,7 +49,8 @@ public:
     {
         QPainterPath path;
         path.moveTo(at(corners.begin()->x(), corners.begin()->y()));
-        std::for_each(corners.begin() + 1, corners.end(), [&](QPointF corner) { path.lineTo(at(corner.x(), corner.y())); });
+        std::for_each(corners.begin() + 1, corners.end(),
+                      [&](QPointF corner) { path.lineTo(at(corner.x(), corner.y())); });
         path.closeSubpath();
         return path;
     }
@@ -55,8 +61,8 @@ public:
         const double depth = sketch_.weight(thickness);
         const QPointF middle = at(along, 0.0);
         // The bar's faces lie on pixel borders: a lead's middle is half a pixel off when leads are odd.
-        const bool shifted = aligned_ && sketch_.snaps() &&
-                             std::fmod(depth, 2.0) != std::fmod(sketch_.leadWeight(), 2.0);
+        const bool shifted =
+            aligned_ && sketch_.snaps() && std::fmod(depth, 2.0) != std::fmod(sketch_.leadWeight(), 2.0);
         const QPointF start = middle - along_ * (depth / 2.0 + (shifted ? 0.5 : 0.0));
         const QPointF reach = across_ * (aligned_ ? sketch_.edge(half) : half * sketch_.unit());
         QPainterPath path;
@@ -217,7 +223,8 @@ void drawGenerator(const Pen& pen)
     QPainterPath wave;
     wave.moveTo(centre + QPointF(-8.5, 0.0) * unit);
     wave.cubicTo(centre + QPointF(-5.4, -11.4) * unit, centre + QPointF(-3.1, -11.4) * unit, centre);
-    wave.cubicTo(centre + QPointF(3.1, 11.4) * unit, centre + QPointF(5.4, 11.4) * unit, centre + QPointF(8.5, 0.0) * unit);
+    wave.cubicTo(centre + QPointF(3.1, 11.4) * unit, centre + QPointF(5.4, 11.4) * unit,
+                 centre + QPointF(8.5, 0.0) * unit);
     pen.wave(wave);
 }
 
@@ -297,8 +304,8 @@ void drawTransistor(const Pen& pen)
     pen.solid(axes.bar(13.0, 12.5, 3.0 * pen.stroke.factor()));
     for (const double side : {up, -up}) {
         const QPointF knee = axes.at(30.0, side * 18.7);
-        const QPointF end = pen.sketch.at(unitsOf(side == up ? host::upperEnd(symbol, pen.mark.from)
-                                                             : host::lowerEnd(symbol, pen.mark.from)));
+        const QPointF end = pen.sketch.at(
+            unitsOf(side == up ? host::upperEnd(symbol, pen.mark.from) : host::lowerEnd(symbol, pen.mark.from)));
         pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.curveWeight(), {axes.at(13.0, side * 6.0), knee});
         pen.lead({end.x(), knee.y()}, end);
     }
@@ -329,7 +336,8 @@ void drawSupply(const Pen& pen, double down)
 
 void drawNode(const Pen& pen)
 {
-    pen.sketch.fill(Layer::node, pen.stroke.body, circleAt(pen.sketch.at(unitsOf(pen.mark.from)), 2.7 * pen.sketch.unit()));
+    pen.sketch.fill(Layer::node, pen.stroke.body,
+                    circleAt(pen.sketch.at(unitsOf(pen.mark.from)), 2.7 * pen.sketch.unit()));
 }
 
 void drawTerminal(const Pen& pen)
@@ -351,7 +359,8 @@ void drawArrow(const Pen& pen)
 void drawPointer(const Pen& pen)
 {
     const QPointF to = pen.sketch.at(unitsOf(pen.mark.to));
-    pen.sketch.stroke(Layer::thin, pen.stroke.body, pen.weight(thinWeight), {pen.sketch.at(unitsOf(pen.mark.from)), to});
+    pen.sketch.stroke(Layer::thin, pen.stroke.body, pen.weight(thinWeight),
+                      {pen.sketch.at(unitsOf(pen.mark.from)), to});
     pen.sketch.fill(Layer::node, pen.stroke.body, circleAt(to, 1.8 * pen.sketch.unit()));
 }
 
@@ -364,8 +373,10 @@ void drawSine(const Pen& pen, double sign)
     const double rise = -sign * box.height() / 1.5;
     QPainterPath wave;
     wave.moveTo(start);
-    wave.cubicTo(start + QPointF(step * 0.3642, rise), start + QPointF(step * 0.6358, rise), start + QPointF(step, 0.0));
-    wave.cubicTo(start + QPointF(step * 1.3642, -rise), start + QPointF(step * 1.6358, -rise), start + QPointF(2.0 * step, 0.0));
+    wave.cubicTo(start + QPointF(step * 0.3642, rise), start + QPointF(step * 0.6358, rise),
+                 start + QPointF(step, 0.0));
+    wave.cubicTo(start + QPointF(step * 1.3642, -rise), start + QPointF(step * 1.6358, -rise),
+                 start + QPointF(2.0 * step, 0.0));
     pen.wave(wave);
 }
 
@@ -408,7 +419,10 @@ bool isTransistor(Symbol symbol)
     return symbol == Symbol::npn || symbol == Symbol::pnp || symbol == Symbol::npnLeft || symbol == Symbol::pnpLeft;
 }
 
-bool isPictogram(Symbol symbol) { return symbol >= Symbol::page && symbol <= Symbol::colourBands; }
+bool isPictogram(Symbol symbol)
+{
+    return symbol >= Symbol::page && symbol <= Symbol::colourBands;
+}
 
 bool isTwoEnded(Symbol symbol)
 {
@@ -519,7 +533,8 @@ QRectF extentOf(const Mark& mark)
     if (isTwoEnded(mark.symbol))
         box |= QRectF(symbols::unitsOf(mark.to), speck);
     if (isTransistor(mark.symbol))
-        box |= QRectF(symbols::unitsOf(host::upperEnd(mark.symbol, mark.from)), QSizeF(0.1, 2.0 * host::transistorReach.y));
+        box |= QRectF(symbols::unitsOf(host::upperEnd(mark.symbol, mark.from)),
+                      QSizeF(0.1, 2.0 * host::transistorReach.y));
     if (mark.symbol == Symbol::supplyUp)
         box.adjust(0.0, 0.0, 0.0, 10.0);
     if (mark.symbol == Symbol::supplyDown)

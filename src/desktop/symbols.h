@@ -12,9 +12,9 @@ namespace velmor::desktop {
 
 /// Colours and weight in which one mark is drawn.
 struct Stroke {
-    QColor ink;    ///< leads
-    QColor body;   ///< outline of the part
-    QColor paper;  ///< what lies inside hollow things
+    QColor ink;         ///< leads
+    QColor body;        ///< outline of the part
+    QColor paper;       ///< what lies inside hollow things
     bool heavy = false; ///< the part in hand
 
     /// On the weight of bars and plates.

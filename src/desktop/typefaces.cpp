@@ -21,7 +21,10 @@ QString firstPresent(const QStringList& families)
     return QStringLiteral("serif");
 }
 
-int wholePixels(double pixels) { return std::max(1, static_cast<int>(std::lround(pixels))); }
+int wholePixels(double pixels)
+{
+    return std::max(1, static_cast<int>(std::lround(pixels)));
+}
 
 } // namespace
 

@@ -17,12 +17,12 @@ inline constexpr double twipsPerUnit = 15.0;
 
 struct View {
     double pixelsPerTwip = 1.0 / twipsPerUnit; ///< logical pixels; 1/15 is 100 %
-    QPointF origin{};                          ///< where the window's left top corner lies, in the painter's coordinates
+    QPointF origin{}; ///< where the window's left top corner lies, in the painter's coordinates
     const Inks* inks = &lightInks();
-    host::Handle hovered = host::noControl;    ///< control under the pointer
-    host::Handle pressed = host::noControl;    ///< button held down
-    QRectF exposed{};                          ///< painter's coordinates; `paintWindow` leaves out what lies outside; empty: all
-    bool forPrint = false;                     ///< no snapping to pixels, no focus, no hover
+    host::Handle hovered = host::noControl; ///< control under the pointer
+    host::Handle pressed = host::noControl; ///< button held down
+    QRectF exposed{};      ///< painter's coordinates; `paintWindow` leaves out what lies outside; empty: all
+    bool forPrint = false; ///< no snapping to pixels, no focus, no hover
     std::int16_t languageIsEnglish = 0;
 
     double pixelsPerUnit() const { return pixelsPerTwip * twipsPerUnit; }

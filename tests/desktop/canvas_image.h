@@ -31,8 +31,8 @@ inline QImage paperImage(QSize pixels, const desktop::Inks& inks = desktop::ligh
     return image;
 }
 
-inline QImage imageOfMarks(const host::Window& window, std::span<const host::Mark> marks, double scale, double ratio = 1.0,
-                           QPointF origin = {}, QSize pixels = {400, 400})
+inline QImage imageOfMarks(const host::Window& window, std::span<const host::Mark> marks, double scale,
+                           double ratio = 1.0, QPointF origin = {}, QSize pixels = {400, 400})
 {
     const desktop::View view = viewAt(scale);
     QImage image = paperImage(pixels, *view.inks, ratio);

@@ -184,12 +184,18 @@ public:
     using host::Window::Window;
 };
 
-std::unique_ptr<host::Window> makeStage(host::SheetHost& host) { return std::make_unique<PlainWindow>(host, stageSpec); }
+std::unique_ptr<host::Window> makeStage(host::SheetHost& host)
+{
+    return std::make_unique<PlainWindow>(host, stageSpec);
+}
 std::unique_ptr<host::Window> makeSymbols(host::SheetHost& host)
 {
     return std::make_unique<PlainWindow>(host, symbolSpec);
 }
-std::unique_ptr<host::Window> makeMain(host::SheetHost& host) { return std::make_unique<PlainWindow>(host, mainSpec); }
+std::unique_ptr<host::Window> makeMain(host::SheetHost& host)
+{
+    return std::make_unique<PlainWindow>(host, mainSpec);
+}
 
 constexpr std::array<const host::WindowSpec*, 3> catalogue{&mainSpec, &stageSpec, &symbolSpec};
 

@@ -17,12 +17,23 @@ namespace {
 
 std::vector<std::pair<QColor, QColor>> textPairs(const Inks& inks)
 {
-    return {{inks.ink, inks.paper},          {inks.quiet, inks.paper},        {inks.accent, inks.paper},
-            {inks.warning, inks.paper},      {inks.ink, inks.desk},           {inks.accent, inks.accentTint},
-            {inks.ink, inks.accentTint},     {inks.onAccent, inks.accent},    {inks.warning, inks.warningTint},
-            {inks.ink, inks.voice},          {inks.ink, inks.hint},           {inks.onBalloon, inks.balloon},
-            {inks.fieldInk, inks.field},     {inks.fieldOffInk, inks.fieldOff}, {inks.ink, inks.button},
-            {inks.ink, inks.buttonHover},    {inks.buttonOffInk, inks.buttonOff}};
+    return {{inks.ink, inks.paper},
+            {inks.quiet, inks.paper},
+            {inks.accent, inks.paper},
+            {inks.warning, inks.paper},
+            {inks.ink, inks.desk},
+            {inks.accent, inks.accentTint},
+            {inks.ink, inks.accentTint},
+            {inks.onAccent, inks.accent},
+            {inks.warning, inks.warningTint},
+            {inks.ink, inks.voice},
+            {inks.ink, inks.hint},
+            {inks.onBalloon, inks.balloon},
+            {inks.fieldInk, inks.field},
+            {inks.fieldOffInk, inks.fieldOff},
+            {inks.ink, inks.button},
+            {inks.ink, inks.buttonHover},
+            {inks.buttonOffInk, inks.buttonOff}};
 }
 
 } // namespace

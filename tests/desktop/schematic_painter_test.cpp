@@ -7,9 +7,9 @@
 
 #include <gtest/gtest.h>
 
-#include "desktop/symbols.h"
 #include "desktop/canvas_image.h"
 #include "desktop/painted_sheet.h"
+#include "desktop/symbols.h"
 
 using namespace velmor;
 using desktop::lightInks;
@@ -46,7 +46,10 @@ protected:
     const host::Window& window() { return program.stage(); }
 };
 
-QRgb at(const QImage& image, int x, int y) { return image.pixel(x, y); }
+QRgb at(const QImage& image, int x, int y)
+{
+    return image.pixel(x, y);
+}
 
 } // namespace
 
@@ -68,7 +71,8 @@ TEST_P(EverySymbol, LooksUnlikeAWire)
         return;
     mark.name = mark.symbol == Symbol::text || mark.symbol == Symbol::label ? "R" : "";
     const Mark wire{.symbol = Symbol::wire, .from = mark.from, .to = mark.to};
-    EXPECT_NE(test::imageOfMarks(program.stage(), {&mark, 1}, 1.0), test::imageOfMarks(program.stage(), {&wire, 1}, 1.0));
+    EXPECT_NE(test::imageOfMarks(program.stage(), {&mark, 1}, 1.0),
+              test::imageOfMarks(program.stage(), {&wire, 1}, 1.0));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, EverySymbol, testing::Range(0, static_cast<int>(Symbol::colourBands) + 1));
@@ -136,7 +140,8 @@ TEST_F(Schematic, TransistorsEndWhereTheTablesSay)
     for (const Symbol symbol : {Symbol::npn, Symbol::pnp, Symbol::npnLeft, Symbol::pnpLeft}) {
         const Mark mark{.symbol = symbol, .from = {100, 100}};
         const QImage image = test::imageOfMarks(window(), {&mark, 1}, 2.0);
-        for (const GridPoint end : {host::collectorEnd(symbol, mark.from), host::emitterEnd(symbol, mark.from), mark.from})
+        for (const GridPoint end :
+             {host::collectorEnd(symbol, mark.from), host::emitterEnd(symbol, mark.from), mark.from})
             EXPECT_EQ(at(image, end.x * 2, end.y * 2), lightInks().ink.rgb()) << static_cast<int>(symbol);
     }
     EXPECT_EQ(host::collectorEnd(Symbol::npn, {0, 0}).y, -30);
@@ -160,8 +165,13 @@ TEST_F(Schematic, TwoEndedSymbolsReachBothEnds)
 TEST_F(Schematic, NameAndValueKeepClearOfTheSymbol)
 {
     for (const host::Side side : {host::Side::left, host::Side::right, host::Side::above, host::Side::below}) {
-        const Mark mark{.symbol = Symbol::resistor, .from = {100, 60}, .to = {100, 130}, .name = "R_C", .side = side,
-                        .value = test::FieldCollector, .unit = "kΩ"};
+        const Mark mark{.symbol = Symbol::resistor,
+                        .from = {100, 60},
+                        .to = {100, 130},
+                        .name = "R_C",
+                        .side = side,
+                        .value = test::FieldCollector,
+                        .unit = "kΩ"};
         const QRectF box = desktop::labelBounds(window(), mark, {}, test::viewAt(1.0));
         EXPECT_FALSE(box.isEmpty());
         EXPECT_FALSE(box.intersects(desktop::bodyOf(mark)));
