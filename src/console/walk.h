@@ -49,7 +49,8 @@ public:
 
     /// From now on reports name this line of the walk.
     void atLine(int number, std::string_view text);
-    void print(std::string_view text) { out_ << text << '\n'; }
+    /// Flushes, so that nothing is lost should a slot crash.
+    void print(std::string_view text) { out_ << text << std::endl; }
     void trace(std::string_view text);
     /// Counts an expectation that held.
     void pass() { ++result_.passed; }

@@ -2,6 +2,7 @@
 // Reading of walks: what cannot be read, exit statuses, several files, the trace.
 #include <filesystem>
 #include <fstream>
+#include <random>
 
 #include "console/fixture_program.h"
 #include "console/verbs.h"
@@ -183,6 +184,86 @@ TEST(WalkPlayer, TheTraceTellsEverythingInItsOrder)
                           "  dialog open \"Open it\" \"All|*.*\"\n"
                           "> type \"\"\n"
                           "0 passed, 0 failed\n");
+}
+
+// Words for walks made by chance: names that exist, names that do not, numbers, answers, broken quotes.
+constexpr const char* chanceWords[] = {"Text1",
+                                       "Text2",
+                                       "Text3",
+                                       "Hidden",
+                                       "Command1",
+                                       "Image1",
+                                       "Fruit",
+                                       "txtEdit",
+                                       "Timer1",
+                                       "Sheet1",
+                                       "Editor1",
+                                       "Tool1",
+                                       "Form16",
+                                       "MDIForm1",
+                                       "mnuEditor",
+                                       "mnuTool",
+                                       "mnuBox(2)",
+                                       "mnuOpen",
+                                       "mnuNew",
+                                       "mnuTile",
+                                       "mnuPalette",
+                                       "mnuHidden",
+                                       "mnuExit",
+                                       "mnuFails",
+                                       "apple",
+                                       "left",
+                                       "right",
+                                       "ok",
+                                       "cancel",
+                                       "yes",
+                                       "1",
+                                       "0",
+                                       "13",
+                                       "\"a b\\n\"",
+                                       "\"ñ€Ω\"",
+                                       "\"",
+                                       "Sheet1#2",
+                                       "Text1.text",
+                                       "..caption",
+                                       "sheet.modificado",
+                                       "sheet.NombreArchivo",
+                                       "Guardar",
+                                       "Abrir",
+                                       "CDL_AbrirDatos",
+                                       "english",
+                                       ".",
+                                       "a.txt"};
+
+std::string chanceLine(std::mt19937& chance)
+{
+    const std::span<const Verb> tables[] = {preparations(), deeds(), deeds(), deeds(), questions()};
+    const std::span<const Verb> verbs = tables[chance() % std::size(tables)];
+    const Verb& verb = verbs[chance() % verbs.size()];
+    std::string line(verb.name);
+    const std::size_t words = verb.least + chance() % (std::min<std::size_t>(verb.most, 4) - verb.least + 1);
+    for (std::size_t i = 0; i < words; ++i)
+        line += std::string(" ") + chanceWords[chance() % std::size(chanceWords)];
+    return line;
+}
+
+TEST(WalkPlayer, WalksMadeByChanceEndWithACountAndAStatus)
+{
+    std::mt19937 chance(20260714);
+    int statuses[3] = {};
+    for (int walk = 0; walk < 60; ++walk) {
+        std::string text = "new Sheet1\n";
+        // A line that cannot be read ends a walk, so each line is first tried as the last one.
+        for (int line = 0; line < 30; ++line) {
+            const std::string longer = text + chanceLine(chance) + "\n";
+            const Played played = play(longer);
+            ++statuses[played.result.exitStatus()];
+            if (played.result.exitStatus() < 2)
+                text = longer;
+        }
+    }
+    for (const int reached : statuses)
+        EXPECT_GT(reached, 30);
 }
 
 TEST(WalkPlayer, TheManualTellsEveryCommand)
