@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "frame/design_pages.h"
 #include "frame/mdi_form1_menus.h"
 #include "frame/welcome_texts.h"
 
@@ -90,6 +91,7 @@ void MDIForm1::writeItemCaptions()
     for (const NamedText& caption : groupCaptions)
         if (const Handle item = named(caption.name); item != noControl)
             setText(item, host().pick(caption.text));
+    setText(lblButton, host().pick(palette::allDesigns));
     for (const DesignItem& design : designItems) {
         if (design.newItem == noControl)
             continue;

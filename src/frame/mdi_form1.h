@@ -33,6 +33,18 @@ public:
     void endProgram();
     void pressBackground(host::EventArgs& args);
 
+    // slots of the circuit bar and of the welcome panel
+    void hoverBarButton(host::EventArgs& args);
+    void pressBarButton(host::EventArgs& args);
+    void releaseBarButton(host::EventArgs& args);
+    void clickBarButton(host::EventArgs& args);
+    void hoverBarLabel();
+    void clickBarLabel();
+    void pressBar(host::EventArgs& args);
+    void hoverMaxim();
+    void clickTitle();
+    void runShortcut();
+
     // slots of the menus
     void clickNewItem(host::EventArgs& args);
     void clickOpenItem(host::EventArgs& args);

@@ -3,11 +3,13 @@
 // circuit bar. Captions are written at load, from the tables of texts.
 #include "frame/mdi_form1_controls.h"
 
+#include "frame/button_drawings.h"
 #include "frame/mdi_form1.h"
 
 namespace velmor::main_window {
 
 using host::Event;
+using host::KeyAction;
 using host::Kind;
 using host::Look;
 using host::noControl;
@@ -19,6 +21,8 @@ constexpr int windowWidth = 20250;
 constexpr int windowHeight = 10125;
 constexpr int barWidth = 2400;
 constexpr host::Place pagePlace{0, headPictureHeight, windowWidth - 2 * barWidth, 7000};
+
+constexpr host::Mark guideDrawing[] = {{.symbol = host::Symbol::book, .from = {16, 18}, .to = {52, 54}, .ink = host::Ink::accent}};
 
 // clang-format off
 // The item `onceB` does what `mnuEmisor` does, and `mnuContexto` pops up over the circuit bar: neither is seen in the
@@ -145,31 +149,46 @@ constexpr host::ControlRow controls[] = {
     {.id = Shape1_10, .name = "Shape1(10)", .kind = Kind::shape, .place = {3630, 0, 360, 360}, .parent = Picture14},
     {.id = Shape1_11, .name = "Shape1(11)", .kind = Kind::shape, .place = {3990, 0, 360, 360}, .parent = Picture14},
     {.id = Shape1_12, .name = "Shape1(12)", .kind = Kind::shape, .place = {4350, 0, 360, 360}, .parent = Picture14},
-    {.id = imgButton0, .name = "imgButton(0)", .kind = Kind::image, .place = {30, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton1, .name = "imgButton(1)", .kind = Kind::image, .place = {390, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton2, .name = "imgButton(2)", .kind = Kind::image, .place = {750, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton3, .name = "imgButton(3)", .kind = Kind::image, .place = {1110, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton4, .name = "imgButton(4)", .kind = Kind::image, .place = {1470, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton5, .name = "imgButton(5)", .kind = Kind::image, .place = {1860, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton6, .name = "imgButton(6)", .kind = Kind::image, .place = {2250, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton7, .name = "imgButton(7)", .kind = Kind::image, .place = {2550, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton8, .name = "imgButton(8)", .kind = Kind::image, .place = {2910, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton9, .name = "imgButton(9)", .kind = Kind::image, .place = {3270, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton10, .name = "imgButton(10)", .kind = Kind::image, .place = {3630, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton11, .name = "imgButton(11)", .kind = Kind::image, .place = {3990, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = imgButton12, .name = "imgButton(12)", .kind = Kind::image, .place = {4350, 0, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = lblButton, .name = "lblButton", .kind = Kind::label, .place = {30, 4350, 360, 360}, .look = Look::toolButton, .parent = Picture14},
-    {.id = Image29,   .name = "Image29",   .kind = Kind::image, .place = {30, 4800, 360, 360}, .look = Look::toolButton, .parent = Picture14},
+    {.id = imgButton0, .name = "imgButton(0)", .kind = Kind::image, .place = {30, 0, 360, 360},
+     .meaning = {.es = "Amplificador Diferencial Simple", .en = "Long Tail Pairs Simple"}, .look = Look::toolButton, .drawing = palette::button_drawings::longTailedPair, .parent = Picture14},
+    {.id = imgButton1, .name = "imgButton(1)", .kind = Kind::image, .place = {390, 0, 360, 360},
+     .meaning = {.es = "Amplificador Diferencial Compuesto", .en = "Long Tail Pairs Compound"}, .look = Look::toolButton, .drawing = palette::button_drawings::cascodePair, .parent = Picture14},
+    {.id = imgButton2, .name = "imgButton(2)", .kind = Kind::image, .place = {750, 0, 360, 360},
+     .meaning = {.es = "Circuito con Base Común", .en = "Common Base"}, .look = Look::toolButton, .drawing = palette::button_drawings::commonBase, .parent = Picture14},
+    {.id = imgButton3, .name = "imgButton(3)", .kind = Kind::image, .place = {1110, 0, 360, 360},
+     .meaning = {.es = "Fuente de Corriente Constante", .en = "DC Current Source"}, .look = Look::toolButton, .drawing = palette::button_drawings::currentSource, .parent = Picture14},
+    {.id = imgButton4, .name = "imgButton(4)", .kind = Kind::image, .place = {1470, 0, 360, 360},
+     .meaning = {.es = "Inversor de Fase", .en = "Paraphase"}, .look = Look::toolButton, .drawing = palette::button_drawings::paraphase, .parent = Picture14},
+    {.id = imgButton5, .name = "imgButton(5)", .kind = Kind::image, .place = {1860, 0, 360, 360},
+     .meaning = {.es = "Colector Común", .en = "Common Collector"}, .look = Look::toolButton, .drawing = palette::button_drawings::emitterFollower, .parent = Picture14},
+    {.id = imgButton6, .name = "imgButton(6)", .kind = Kind::image, .place = {2250, 0, 360, 360},
+     .meaning = {.es = "Potencia en Clase A mejorada...", .en = "Power Amplifier. (Class A - Darlington)"}, .look = Look::toolButton, .drawing = palette::button_drawings::classADarlington, .parent = Picture14},
+    {.id = imgButton7, .name = "imgButton(7)", .kind = Kind::image, .place = {2550, 0, 360, 360},
+     .meaning = {.es = "Amplificador Clase A Simple", .en = "Power Amplifier Class A Simple"}, .look = Look::toolButton, .drawing = palette::button_drawings::classASimple, .parent = Picture14},
+    {.id = imgButton8, .name = "imgButton(8)", .kind = Kind::image, .place = {2910, 0, 360, 360},
+     .meaning = {.es = "Amplificador Clase B", .en = "Power Amplifier Class B"}, .look = Look::toolButton, .drawing = palette::button_drawings::classBSimple, .parent = Picture14},
+    {.id = imgButton9, .name = "imgButton(9)", .kind = Kind::image, .place = {3270, 0, 360, 360},
+     .meaning = {.es = "Clase B mejorado...", .en = "Power Amplifier Class B Darlington."}, .look = Look::toolButton, .drawing = palette::button_drawings::classBDarlington, .parent = Picture14},
+    {.id = imgButton10, .name = "imgButton(10)", .kind = Kind::image, .place = {3630, 0, 360, 360},
+     .meaning = {.es = "Emisor Común Realimentado por Corriente", .en = "Common Emmiter (feedback for current)"}, .look = Look::toolButton, .drawing = palette::button_drawings::commonEmitter, .parent = Picture14},
+    {.id = imgButton11, .name = "imgButton(11)", .kind = Kind::image, .place = {3990, 0, 360, 360},
+     .meaning = {.es = "Emisor Común Realimentado por tensión", .en = "Common Emmiter (feedback for Voltage)"}, .look = Look::toolButton, .drawing = palette::button_drawings::voltageFeedback, .parent = Picture14},
+    {.id = imgButton12, .name = "imgButton(12)", .kind = Kind::image, .place = {4350, 0, 360, 360},
+     .look = Look::plain, .drawing = palette::button_drawings::ornament, .parent = Picture14},
+    {.id = lblButton, .name = "lblButton", .kind = Kind::label, .place = {30, 4350, 360, 360},
+     .meaning = {.es = "Todos los circuitos", .en = "All circuits"}, .look = Look::toolButton, .parent = Picture14},
+    {.id = Image29,   .name = "Image29",   .kind = Kind::image, .place = {30, 4800, 360, 360},
+     .meaning = {.es = "Guía de trabajos prácticos", .en = "Practical-work guide"}, .look = Look::toolButton, .drawing = guideDrawing, .parent = Picture14},
 };
 static_assert(host::rowsInOrder(controls));
 static_assert(std::size(controls) == controlCount);
 
 template <std::size_t Count>
-constexpr std::array<host::SlotRow, Count> bound(const std::array<Control, Count>& items, host::SlotFunction run)
+constexpr std::array<host::SlotRow, Count> bound(const std::array<Control, Count>& items, host::SlotFunction run, Event event = Event::click)
 {
     std::array<host::SlotRow, Count> rows{};
     for (std::size_t i = 0; i < Count; ++i)
-        rows[i] = {items[i], Event::click, run};
+        rows[i] = {items[i], event, run};
     return rows;
 }
 constexpr std::array newItems{uno, Dos, tres, cuatro, cinco, seis, siete, ocho, nueve, diez, once, doce, trece};
@@ -186,6 +205,12 @@ constexpr std::array ownSlots{
     host::SlotRow{noControl, Event::click, slot<&MDIForm1::showBarAsChosen>},
     host::SlotRow{noControl, Event::mouseDown, slot<&MDIForm1::pressBackground>},
     host::SlotRow{mnudise, Event::click, slot<&MDIForm1::showBarAsChosen>},
+    host::SlotRow{noControl, Event::shortcut, slot<&MDIForm1::runShortcut>},
+    host::SlotRow{lblButton, Event::hover, slot<&MDIForm1::hoverBarLabel>},
+    host::SlotRow{lblButton, Event::click, slot<&MDIForm1::clickBarLabel>},
+    host::SlotRow{Picture14, Event::mouseDown, slot<&MDIForm1::pressBar>},
+    host::SlotRow{Label21, Event::hover, slot<&MDIForm1::hoverMaxim>},
+    host::SlotRow{Label35, Event::click, slot<&MDIForm1::clickTitle>},
     host::SlotRow{mnuFile1, Event::click, slot<&MDIForm1::save>},
     host::SlotRow{mnuFile2, Event::click, slot<&MDIForm1::saveAs>},
     host::SlotRow{mnuFile3, Event::click, slot<&MDIForm1::closeActive>},
@@ -209,8 +234,51 @@ constexpr std::array ownSlots{
 };
 // clang-format on
 
+// clang-format off
+// What the mouse does on bar and panel, by key. The last row has a deed of its own: the right button on the background.
+constexpr host::ShortcutRow shortcuts[] = {
+    {.keys = "Ctrl+Shift+F1", .control = imgButton0, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F2", .control = imgButton1, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F3", .control = imgButton2, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F4", .control = imgButton3, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F5", .control = imgButton4, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F6", .control = imgButton5, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F7", .control = imgButton6, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F8", .control = imgButton7, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F9", .control = imgButton8, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F10", .control = imgButton9, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F11", .control = imgButton10, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F12", .control = imgButton11, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Alt+Shift+F1",  .control = imgButton0, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F2",  .control = imgButton1, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F3",  .control = imgButton2, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F4",  .control = imgButton3, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F5",  .control = imgButton4, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F6",  .control = imgButton5, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F7",  .control = imgButton6, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F8",  .control = imgButton7, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F9",  .control = imgButton8, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F10",  .control = imgButton9, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F11",  .control = imgButton10, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F12",  .control = imgButton11, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+Home", .control = lblButton, .action = KeyAction::hover, .meaning = {.es = "Página general", .en = "General page"}},
+    {.keys = "Alt+Shift+End",  .control = lblButton, .action = KeyAction::click, .meaning = {.es = "Despejar la ventana", .en = "Clear the window"}},
+    {.keys = "Ctrl+Shift+M",   .control = Label21,   .action = KeyAction::hover, .meaning = {.es = "Notas de la página", .en = "Notes of the page"}},
+    {.keys = "Ctrl+Shift+P",   .control = Label35,   .action = KeyAction::click, .meaning = {.es = "Poema", .en = "Poem"}},
+    {.keys = "Ctrl+Shift+G",   .control = Image29,   .action = KeyAction::click, .meaning = {.es = "Guía", .en = "Guide"}},
+    {.keys = "Ctrl+Shift+B",   .control = mnudise,   .action = KeyAction::click, .meaning = {.es = "Mostrar los diseños", .en = "Show the designs"}},
+    {.keys = "Ctrl+Shift+H",   .action = KeyAction::run, .meaning = {.es = "Ocultar la barra", .en = "Hide the bar"}},
+};
+// clang-format on
+
 constexpr auto newSlots = bound(newItems, slot<&MDIForm1::clickNewItem>);
 constexpr auto openSlots = bound(openItems, slot<&MDIForm1::clickOpenItem>);
+constexpr std::array barButtons{imgButton0, imgButton1, imgButton2, imgButton3, imgButton4,  imgButton5,
+                                imgButton6, imgButton7, imgButton8, imgButton9, imgButton10, imgButton11};
+constexpr auto hoverSlots = bound(barButtons, slot<&MDIForm1::hoverBarButton>, Event::hover);
+constexpr auto pressSlots = bound(barButtons, slot<&MDIForm1::pressBarButton>, Event::mouseDown);
+constexpr auto releaseSlots = bound(barButtons, slot<&MDIForm1::releaseBarButton>, Event::mouseUp);
+constexpr auto clickSlots = bound(barButtons, slot<&MDIForm1::clickBarButton>);
 constexpr auto arrangementSlots = bound(arrangements, slot<&MDIForm1::clickArrangement>);
 
 template <std::size_t... Counts> constexpr auto joined(const std::array<host::SlotRow, Counts>&... parts)
@@ -224,7 +292,7 @@ template <std::size_t... Counts> constexpr auto joined(const std::array<host::Sl
     (add(parts), ...);
     return all;
 }
-constexpr auto slots = joined(ownSlots, newSlots, openSlots, arrangementSlots);
+constexpr auto slots = joined(ownSlots, newSlots, openSlots, arrangementSlots, hoverSlots, pressSlots, releaseSlots, clickSlots);
 
 } // namespace controls_table
 
@@ -235,6 +303,7 @@ const host::WindowSpec spec{
     .place = {0, 0, controls_table::windowWidth, controls_table::windowHeight},
     .controls = controls_table::controls,
     .slots = controls_table::slots,
+    .shortcuts = controls_table::shortcuts,
     .create = create,
 };
 

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "frame/form16_controls.h"
 #include "frame/mdi_form1_controls.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
@@ -19,6 +20,7 @@ host::Catalogue catalogue()
 {
     static const std::vector<const host::WindowSpec*> windows{
         &main_window::spec,
+        &palette::spec,
         &editors::frmEditor,
         &editors::frmEdito1,
         &editors::frmEdito2,
