@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/child_frame.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QScopedValueRollback>
+
+#include "desktop/sheet_view.h"
+#include "desktop/texts.h"
+
+namespace velmor::desktop {
+
+namespace child_frame_detail {
+
+constexpr QSize smallestFrame(240, 120);
+
+} // namespace child_frame_detail
+
+ChildFrame::ChildFrame(Desk& desk, host::Window& model) : desk_(desk), view_(new SheetView(desk, model))
+{
+    setWidget(view_);
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setMinimumSize(child_frame_detail::smallestFrame);
+    setObjectName(shown(model.name()));
+}
+
+host::Window* ChildFrame::model() const
+{
+    return view_->model();
+}
+
+int ChildFrame::shownState() const
+{
+    return isMinimized() ? 1 : isMaximized() ? 2 : 0;
+}
+
+void ChildFrame::followWindow()
+{
+    if (model() == nullptr)
+        return;
+    const QScopedValueRollback following(following_, true);
+    const QString title = shownTitle(model()->caption()).simplified();
+    if (windowTitle() != title)
+        setWindowTitle(title);
+    if (isHidden() == model()->shown())
+        setVisible(model()->shown());
+    followState();
+}
+
+void ChildFrame::followState()
+{
+    const int state = model()->windowState();
+    if (state != shownState()) {
+        if (state == 1)
+            showMinimized();
+        else if (state == 2)
+            showMaximized();
+        else
+            showNormal();
+    }
+    if (state != 0 || (told_ == model()->place() && toldScale_ == desk_.scale))
+        return;
+    told_ = model()->place();
+    toldScale_ = desk_.scale;
+    setGeometry(desk_.pixelsOf(told_));
+}
+
+void ChildFrame::followControls()
+{
+    view_->bringUpToDate();
+}
+
+void ChildFrame::bringToFront()
+{
+    const QScopedValueRollback following(following_, true);
+    if (mdiArea() != nullptr && model() != nullptr && model()->shown())
+        mdiArea()->setActiveSubWindow(this);
+    raise();
+}
+
+void ChildFrame::relabel()
+{
+    view_->relabel();
+}
+
+void ChildFrame::recolor()
+{
+    view_->recolor();
+}
+
+void ChildFrame::farewell()
+{
+    const QScopedValueRollback following(following_, true);
+    view_->forgetModel();
+    hide();
+    if (mdiArea() != nullptr)
+        mdiArea()->removeSubWindow(this);
+    deleteLater();
+}
+
+// Whether the window may close is the engine's to say; a frame goes by farewell alone.
+void ChildFrame::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    if (model() != nullptr && !desk_.closing)
+        desk_.engine->userClose(*model());
+}
+
+void ChildFrame::changeEvent(QEvent* event)
+{
+    QMdiSubWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || following_ || model() == nullptr || desk_.closing)
+        return;
+    if (shownState() != model()->windowState())
+        desk_.engine->userState(*model(), shownState());
+}
+
+void ChildFrame::moveEvent(QMoveEvent* event)
+{
+    QMdiSubWindow::moveEvent(event);
+    tellPlace();
+}
+
+void ChildFrame::resizeEvent(QResizeEvent* event)
+{
+    QMdiSubWindow::resizeEvent(event);
+    tellPlace();
+}
+
+void ChildFrame::tellPlace()
+{
+    if (following_ || model() == nullptr || desk_.closing || isHidden() || shownState() != 0 || model()->windowState() != 0)
+        return;
+    if (geometry() == desk_.pixelsOf(model()->place()))
+        return;
+    told_ = desk_.twipsOf(geometry());
+    toldScale_ = desk_.scale;
+    desk_.engine->userResized(*model(), told_);
+}
+
+} // namespace velmor::desktop

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+// What all views of one running program share: the engine behind them, the measure of their places, their colours.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include <QRect>
+
+#include "desktop/palette_of_inks.h"
+#include "host/control.h"
+#include "host/engine.h"
+
+class QWidget;
+
+namespace velmor::desktop {
+
+struct Desk {
+    host::Engine* engine = nullptr;
+    const Inks* inks = &lightInks();
+    double scale = 1.0; ///< logical pixels of 15 twips of a window's place, by the size of the main window
+    bool muted = false; ///< pasted characters that the key filter refuses make no sound
+    bool closing = false; ///< the program has ended; views take no more events
+    std::function<void()> nextPane;  ///< the keyboard goes to the next window that is open beside the main one
+    std::function<void(QWidget*)> touched; ///< a person pressed a key or a button in that view
+
+    bool english() const { return engine->values().LanguageIsEnglish == host::trueValue; }
+    bool idle() const { return !closing && engine->idle() && !engine->ended(); }
+    int pixels(int twips) const { return static_cast<int>(twips * scale / 15.0 + (twips < 0 ? -0.5 : 0.5)); }
+    int twips(int pixels) const { return static_cast<int>(pixels * 15.0 / scale + (pixels < 0 ? -0.5 : 0.5)); }
+    QRect pixelsOf(const host::Place& place) const
+    {
+        return {pixels(place.left), pixels(place.top), pixels(place.width), pixels(place.height)};
+    }
+    host::Place twipsOf(const QRect& box) const
+    {
+        return {twips(box.x()), twips(box.y()), twips(box.width()), twips(box.height())};
+    }
+};
+
+} // namespace velmor::desktop

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// The widget of a design field: one flat line, whose keys, mouse and focus are led by the model.
+#pragma once
+
+#include <QLineEdit>
+
+#include "host/control.h"
+
+namespace velmor::desktop {
+
+struct Inks;
+
+class FieldEdit final : public QLineEdit {
+public:
+    FieldEdit(const Inks& inks, QWidget* parent);
+
+    void setInks(const Inks& inks);
+    /// Shows the program's text; a text that the program had selected whole stays so.
+    void showText(const QString& text);
+    /// As a field that gets the focus by keyboard or by the program.
+    void selectWhole();
+    /// From here on the selection is the person's own.
+    void handTaken() { selectedWhole_ = false; }
+    /// The colours a sheet gave the field; -1 the usual ones.
+    void setOwnColors(std::int32_t ground, std::int32_t ink);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool focusNextPrevChild(bool) override { return false; }
+
+private:
+    void recolor();
+
+    const Inks* inks_;
+    std::int32_t ground_ = -1;
+    std::int32_t ink_ = -1;
+    bool selectedWhole_ = false;
+};
+
+} // namespace velmor::desktop

@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/main_window.h"
+
+#include <algorithm>
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMdiArea>
+#include <QMenuBar>
+#include <QScopedValueRollback>
+#include <QScreen>
+
+#include "desktop/canvas.h"
+#include "desktop/menus.h"
+#include "desktop/texts.h"
+
+namespace velmor::desktop {
+
+using host::Handle;
+using host::noControl;
+
+namespace main_window_detail {
+
+/// The inner area for which places were drawn, in units of 15 twips; a larger window shows everything larger.
+constexpr double drawnWidth = 1350.0;
+constexpr double drawnHeight = 675.0;
+constexpr int likelyTitleHeight = 30;
+constexpr double panelShare = 0.45; ///< of the height, when a sheet lies below it
+constexpr QSize smallestWindow(640, 420);
+
+} // namespace main_window_detail
+
+MainWindow::MainWindow(Desk& desk, host::Window& model)
+    : desk_(desk), model_(&model), area_(new QMdiArea), middle_(new QWidget)
+{
+    setObjectName(shown(model.name()));
+    setMinimumSize(main_window_detail::smallestWindow);
+    menus_ = new Menus(desk, model, *menuBar());
+    area_->setParent(middle_);
+    area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setBackground(desk.inks->desk);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    const Handle bar = model.named("Picture14");
+    welcome_ = new Canvas(desk, model, noControl, bar);
+    welcome_->setParent(middle_);
+    welcome_->setFocusPolicy(Qt::NoFocus);
+    if (bar != noControl) {
+        bar_ = new Canvas(desk, model, bar);
+        bar_->setParent(middle_);
+        bar_->setFocusPolicy(Qt::NoFocus);
+    }
+    middle_->installEventFilter(this);
+    setCentralWidget(middle_);
+    welcome_->applyAll();
+    if (bar_ != nullptr)
+        bar_->applyAll();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::foresee()
+{
+    using namespace main_window_detail;
+    const QScreen* on = QGuiApplication::primaryScreen();
+    const QRect room = on == nullptr ? QRect(0, 0, 1366, 768) : on->availableGeometry();
+    setGeometry(room.adjusted(0, likelyTitleHeight, 0, 0));
+    const QSize inner(room.width(), room.height() - likelyTitleHeight - menuBar()->sizeHint().height());
+    middle_->resize(inner);
+    area_->setGeometry(QRect(QPoint(), inner));
+    desk_.scale = std::min(inner.width() / drawnWidth, inner.height() / drawnHeight);
+    desk_.engine->setClientArea(desk_.twips(inner.width()), desk_.twips(inner.height()));
+    model_->setPlace({0, 0, desk_.twips(inner.width()), desk_.twips(inner.height())});
+}
+
+void MainWindow::followWindow()
+{
+    if (model_ == nullptr)
+        return;
+    const QScopedValueRollback following(following_, true);
+    const QString title = shownTitle(model_->caption()).simplified();
+    if (windowTitle() != title)
+        setWindowTitle(title);
+    const Qt::WindowStates wanted = model_->windowState() == 2   ? Qt::WindowMaximized
+                                    : model_->windowState() == 1 ? Qt::WindowMinimized
+                                                                 : Qt::WindowNoState;
+    const Qt::WindowStates compared = Qt::WindowMaximized | Qt::WindowMinimized;
+    if ((windowState() & compared) != wanted)
+        setWindowState((windowState() & ~compared) | wanted);
+    if (isVisible() != model_->shown())
+        setVisible(model_->shown());
+}
+
+void MainWindow::followControls()
+{
+    if (model_ == nullptr)
+        return;
+    const std::vector<Handle> changes = model_->takeChanges();
+    if (changes.empty())
+        return;
+    menus_->apply(changes);
+    welcome_->apply(changes);
+    if (bar_ != nullptr)
+        bar_->apply(changes);
+    layOutPanels();
+}
+
+void MainWindow::setHasChildren(bool hasChildren)
+{
+    if (std::exchange(hasChildren_, hasChildren) != hasChildren)
+        layOutPanels();
+}
+
+void MainWindow::bringToFront()
+{
+    if (isVisible() && !isActiveWindow()) {
+        raise();
+        activateWindow();
+    }
+}
+
+void MainWindow::relabel()
+{
+    welcome_->relabel();
+    if (bar_ != nullptr)
+        bar_->relabel();
+}
+
+void MainWindow::recolor()
+{
+    area_->setBackground(desk_.inks->desk);
+    welcome_->recolor();
+    if (bar_ != nullptr)
+        bar_->recolor();
+}
+
+void MainWindow::farewell()
+{
+    welcome_->forgetModel();
+    if (bar_ != nullptr)
+        bar_->forgetModel();
+    menus_->forgetModel();
+    model_ = nullptr;
+}
+
+// The bar takes a strip of its own. The welcome panel fills the rest while no sheet is open and lies over the upper part
+// of the sheets otherwise, so that its coming and going moves nothing that a student is working on.
+void MainWindow::layOutPanels()
+{
+    if (model_ == nullptr || middle_->width() <= 0)
+        return;
+    QRect rest = middle_->rect();
+    const Handle bar = model_->named("Picture14");
+    const bool barShown = bar_ != nullptr && model_->visible(bar);
+    if (barShown) {
+        const host::Place& place = model_->placeOf(bar);
+        bar_->setDesign(place);
+        if (place.height >= place.width) {
+            const double scale = std::min(desk_.scale, rest.height() * twipsPerUnit / std::max(1, place.height));
+            const int width = qRound(place.width * scale / twipsPerUnit);
+            bar_->layOut(scale, QSize(width, rest.height()));
+            bar_->move(rest.left(), rest.top());
+            rest.setLeft(rest.left() + width);
+        } else {
+            const double scale = std::min(desk_.scale, rest.width() * twipsPerUnit / std::max(1, place.width));
+            const int height = qRound(place.height * scale / twipsPerUnit);
+            bar_->layOut(scale, QSize(rest.width(), height));
+            bar_->move(rest.left(), rest.top());
+            rest.setTop(rest.top() + height);
+        }
+    }
+    if (bar_ != nullptr)
+        bar_->setVisible(barShown);
+    if (area_->geometry() != rest)
+        area_->setGeometry(rest);
+    const Handle panel = model_->named("SSPanel1");
+    const bool welcomes = panel != noControl && model_->visible(panel);
+    if (welcomes) {
+        host::Place place = model_->placeOf(panel);
+        welcome_->setDesign(place);
+        const int most = hasChildren_ ? static_cast<int>(rest.height() * main_window_detail::panelShare) : rest.height();
+        const double scale = welcome_->scaleFor(QSize(rest.width(), most));
+        const int height = hasChildren_ ? std::min(most, qRound(place.height * scale / twipsPerUnit)) : rest.height();
+        welcome_->layOut(scale, QSize(rest.width(), height));
+        welcome_->move(rest.topLeft());
+        welcome_->raise();
+    }
+    welcome_->setVisible(welcomes);
+    tellClientArea();
+}
+
+// What stands in the area keeps its share of it: a sheet that fills the area goes on filling it.
+void MainWindow::tellClientArea()
+{
+    using namespace main_window_detail;
+    if (!isVisible() || desk_.closing || isMinimized())
+        return;
+    const double scale = std::min(middle_->width() / drawnWidth, middle_->height() / drawnHeight);
+    const QSize inner = area_->size();
+    const host::Place before = desk_.engine->clientArea();
+    desk_.scale = scale;
+    const int width = desk_.twips(inner.width());
+    const int height = desk_.twips(inner.height());
+    if (before.width == width && before.height == height)
+        return;
+    desk_.engine->userRun([this, before, width, height] {
+        desk_.engine->setClientArea(width, height);
+        for (host::Window* window : desk_.engine->windows()) {
+            if (!window->isChild() || window->windowState() != 0)
+                continue;
+            const host::Place& old = window->place();
+            const auto across = [&](int value) { return static_cast<int>(static_cast<long long>(value) * width / before.width); };
+            const auto down = [&](int value) { return static_cast<int>(static_cast<long long>(value) * height / before.height); };
+            window->setPlace({across(old.left), down(old.top), across(old.width), down(old.height)});
+        }
+    });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(desk_.closing || model_ == nullptr);
+    if (!event->isAccepted())
+        desk_.engine->userClose(*model_);
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || following_ || model_ == nullptr || desk_.closing || !isVisible())
+        return;
+    const int state = isMinimized() ? 1 : isMaximized() ? 2 : 0;
+    if (state != model_->windowState())
+        desk_.engine->userState(*model_, state);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    if (model_ == nullptr || desk_.closing || !isVisible() || isMinimized())
+        return;
+    layOutPanels();
+    const host::Place place{0, 0, desk_.twips(width()), desk_.twips(height())};
+    if (!(place == model_->place()))
+        desk_.engine->userResized(*model_, place);
+}
+
+bool MainWindow::eventFilter(QObject* object, QEvent* event)
+{
+    if (object == middle_ && event->type() == QEvent::Resize)
+        layOutPanels();
+    return QMainWindow::eventFilter(object, event);
+}
+
+} // namespace velmor::desktop

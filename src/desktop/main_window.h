@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// The main window: menus, the child windows' area, the welcome panel over or in front of it, the circuit bar beside it.
+#pragma once
+
+#include <QMainWindow>
+
+#include "desktop/desk.h"
+#include "desktop/window_frame.h"
+
+class QMdiArea;
+
+namespace velmor::desktop {
+
+class Canvas;
+class Menus;
+
+class MainWindow final : public QMainWindow, public WindowFrame {
+public:
+    MainWindow(Desk& desk, host::Window& model);
+    ~MainWindow() override;
+
+    host::Window* model() const override { return model_; }
+    QWidget& widget() override { return *this; }
+    SheetView* view() override { return nullptr; }
+    void followWindow() override;
+    void followControls() override;
+    void bringToFront() override;
+    void relabel() override;
+    void recolor() override;
+    void farewell() override;
+
+    QMdiArea& area() const { return *area_; }
+    Menus& menus() const { return *menus_; }
+    /// A child window is shown, so the welcome panel leaves it room.
+    void setHasChildren(bool hasChildren);
+    /// Takes the size that it will have on this screen before it is shown, so that the first sheets are made to it.
+    void foresee();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void layOutPanels();
+    void tellClientArea();
+
+    Desk& desk_;
+    host::Window* model_;
+    Menus* menus_ = nullptr;
+    QMdiArea* area_;
+    QWidget* middle_;
+    Canvas* welcome_ = nullptr;
+    Canvas* bar_ = nullptr;
+    bool hasChildren_ = false;
+    bool following_ = false;
+};
+
+} // namespace velmor::desktop

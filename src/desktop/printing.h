@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// A text on paper: how wide it runs and how it falls into pages. Texts stay texts, so that a PDF can be searched.
+#pragma once
+
+#include <QFont>
+#include <QString>
+#include <QStringList>
+
+#include "host/screen.h"
+
+class QPagedPaintDevice;
+class QWidget;
+
+namespace velmor::desktop {
+
+/// The font of a print-out, its size in points times 20, so that its widths come out in twips.
+QFont twipFont(const host::Font& font, bool sizeGiven = true);
+
+/// Width of one line in twips. Line feeds have none.
+int printedTwips(const host::Font& font, std::string_view text);
+
+/// The lines of a job: the caller's carriage returns end a line, and what is wider than the page is broken at blanks.
+QStringList printedLines(const host::PrintJob& job, double pageTwips);
+
+/// Prints on a device whose page is set. False when it cannot be written.
+bool printOn(QPagedPaintDevice& device, const host::PrintJob& job);
+
+/// Asks for the printer (or a PDF file) and prints.
+void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english);
+
+} // namespace velmor::desktop

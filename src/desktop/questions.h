@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// The program's questions as real dialogs: message box, file, input, colour, font. Texts appear to the letter.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include <QPoint>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include "host/screen.h"
+
+class QWidget;
+
+namespace velmor::desktop {
+
+host::Answer askMessage(QWidget* parent, const host::MessageBox& box, bool english);
+
+/// `folder` is where the dialog starts when the program names none.
+std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& dialog, const QString& folder, bool english);
+
+/// `at` is the wished left top corner on the screen; the box is kept inside the screen.
+std::optional<std::string> askInput(QWidget* parent, const host::InputBox& box, QPoint at, bool english);
+
+std::optional<std::int32_t> askColour(QWidget* parent, std::int32_t initial, bool english);
+std::optional<host::Font> askFont(QWidget* parent, const host::Font& initial, bool english);
+
+/// Qt's own dialogs speak the program's language from now on.
+void speakInDialogs(bool english);
+
+/// "description|pattern|..." as the file dialog wants it, each pattern in any capitals.
+QStringList nameFilters(const std::string& filter);
+/// The ending, without a point, that the pattern of a name filter asks for; empty when it takes any.
+QString endingOf(const QString& nameFilter);
+
+/// Moves a rectangle into the screen on which its middle lies, or the nearest one.
+QPoint insideScreen(QPoint wished, QSize size);
+
+} // namespace velmor::desktop

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// The settings store as a small file of the user's own. A file that cannot be read gives defaults, one that cannot be
+// written is left alone; nobody is told.
+#pragma once
+
+#include <QSettings>
+#include <QString>
+
+#include "host/settings_store.h"
+
+namespace velmor::desktop {
+
+class SettingsFile final : public host::SettingsStore {
+public:
+    explicit SettingsFile(const QString& path = usualPath());
+
+    std::optional<std::string> value(std::string_view section, std::string_view key) const override;
+    void setValue(std::string_view section, std::string_view key, std::string_view value) override;
+
+    /// The place that the platform gives to the settings of one user and program.
+    static QString usualPath();
+
+private:
+    mutable QSettings file_;
+    bool readable_ = true;
+};
+
+} // namespace velmor::desktop

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/sheet_view.h"
+
+#include <algorithm>
+
+#include <QMenuBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "desktop/field_edit.h"
+#include "desktop/menus.h"
+#include "desktop/pointer.h"
+
+namespace velmor::desktop {
+
+using host::Handle;
+using host::Kind;
+using host::noControl;
+using host::Role;
+
+namespace sheet_view_detail {
+
+/// Below this scale an 8 point text falls under 9 logical pixels: the sheet scrolls instead.
+constexpr double smallestScale = 0.85;
+constexpr int scrollMargin = 40;
+
+} // namespace sheet_view_detail
+
+SheetView::SheetView(Desk& desk, host::Window& model, QWidget* parent)
+    : QWidget(parent), desk_(desk), area_(new QScrollArea(this)), canvas_(new Canvas(desk, model))
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    if (Menus::hasMenus(model.spec())) {
+        bar_ = new QMenuBar(this);
+        bar_->setNativeMenuBar(false);
+        menus_ = new Menus(desk, model, *bar_);
+        column->addWidget(bar_);
+    }
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setFocusPolicy(Qt::NoFocus);
+    area_->setWidget(canvas_);
+    column->addWidget(area_);
+    setFocusProxy(canvas_);
+    canvas_->applyAll();
+    model.takeChanges();
+    followTimers();
+}
+
+SheetView::~SheetView() = default;
+
+void SheetView::forgetModel()
+{
+    canvas_->forgetModel();
+    if (menus_ != nullptr)
+        menus_->forgetModel();
+    for (const auto& [handle, timer] : timers_)
+        timer->stop();
+}
+
+void SheetView::bringUpToDate()
+{
+    if (model() == nullptr)
+        return;
+    const std::vector<Handle> changes = model()->takeChanges();
+    if (changes.empty())
+        return;
+    canvas_->apply(changes);
+    if (menus_ != nullptr)
+        menus_->apply(changes);
+    followTimers();
+}
+
+void SheetView::followFocus()
+{
+    QWidget* target = canvas_->focusTarget();
+    if (target->hasFocus())
+        return;
+    target->setFocus(Qt::OtherFocusReason);
+    if (auto* field = dynamic_cast<FieldEdit*>(target))
+        if (!canvas_->pointer().placesCaretIn(*field))
+            field->selectWhole();
+    bringIntoView();
+}
+
+QSize SheetView::wantedSize() const
+{
+    const host::Place& design = canvas_->design();
+    const int menuHeight = bar_ == nullptr ? 0 : bar_->sizeHint().height();
+    return {desk_.pixels(design.width), desk_.pixels(design.height) + menuHeight};
+}
+
+bool SheetView::isScrolled() const
+{
+    return canvas_->width() > area_->viewport()->width() || canvas_->height() > area_->viewport()->height();
+}
+
+void SheetView::layOutCanvas()
+{
+    if (model() == nullptr)
+        return;
+    if (model()->role() != Role::sheet && model()->role() != Role::editor)
+        canvas_->setDesign({0, 0, model()->place().width, model()->place().height});
+    const QSize room = area_->maximumViewportSize();
+    if (model()->role() == Role::editor) {
+        canvas_->layOut(desk_.scale, room);
+        return;
+    }
+    const double scale = std::max(canvas_->scaleFor(room), sheet_view_detail::smallestScale);
+    const host::Place& design = canvas_->design();
+    const QSize needed(static_cast<int>(design.width * scale / twipsPerUnit), static_cast<int>(design.height * scale / twipsPerUnit));
+    canvas_->layOut(scale, needed.expandedTo(room));
+    bringIntoView();
+}
+
+void SheetView::bringIntoView()
+{
+    if (model() == nullptr || model()->focus() == noControl || !isScrolled())
+        return;
+    const QRect box = canvas_->boxInPixels(model()->focus());
+    const int margin = sheet_view_detail::scrollMargin;
+    area_->ensureVisible(box.center().x(), box.center().y(), box.width() / 2 + margin, box.height() / 2 + margin);
+}
+
+void SheetView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    layOutCanvas();
+}
+
+void SheetView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    layOutCanvas();
+    followTimers();
+}
+
+// A timer ticks while its control is enabled and its window is shown; while a slot runs or a box waits it stands still.
+void SheetView::followTimers()
+{
+    if (model() == nullptr)
+        return;
+    for (const host::ControlRow& row : model()->spec().controls) {
+        if (row.kind != Kind::timer || row.interval <= 0)
+            continue;
+        QTimer*& timer = timers_[row.id];
+        if (timer == nullptr) {
+            timer = new QTimer(this);
+            timer->setInterval(row.interval);
+            connect(timer, &QTimer::timeout, this, [this, handle = row.id] {
+                if (model() != nullptr && isVisible() && desk_.idle())
+                    desk_.engine->userTimer(*model(), handle);
+            });
+        }
+        const bool runs = model()->enabled(row.id) && model()->shown();
+        if (runs != timer->isActive())
+            runs ? timer->start() : timer->stop();
+    }
+}
+
+} // namespace velmor::desktop

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/tool_window.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "desktop/questions.h"
+#include "desktop/sheet_view.h"
+#include "desktop/texts.h"
+
+namespace velmor::desktop {
+
+namespace tool_window_detail {
+
+constexpr int gap = 12; ///< logical pixels to the edge of the screen
+constexpr double largestShare = 0.92; ///< of the screen
+
+Qt::WindowFlags flagsOf(const host::WindowSpec& spec)
+{
+    const Qt::WindowFlags buttons = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint
+                                    | Qt::WindowSystemMenuHint;
+    return spec.role == host::Role::palette ? Qt::Tool | buttons : Qt::Dialog | buttons;
+}
+
+} // namespace tool_window_detail
+
+ToolWindow::ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow)
+    : QWidget(mainWindow, tool_window_detail::flagsOf(model.spec())), desk_(desk), view_(new SheetView(desk, model))
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(view_);
+    setObjectName(shown(model.name()));
+    setFocusProxy(view_);
+    if (model.role() == host::Role::palette)
+        setAttribute(Qt::WA_ShowWithoutActivating);
+    if (model.spec().modal)
+        setWindowModality(Qt::ApplicationModal);
+}
+
+host::Window* ToolWindow::model() const
+{
+    return view_->model();
+}
+
+QRect ToolWindow::room() const
+{
+    const QWidget* beside = parentWidget();
+    const QScreen* screen = beside != nullptr ? beside->screen() : this->screen();
+    return screen == nullptr ? QRect(0, 0, 1024, 768) : screen->availableGeometry();
+}
+
+void ToolWindow::followWindow()
+{
+    if (model() == nullptr)
+        return;
+    const QString title = shownTitle(model()->caption()).simplified();
+    if (windowTitle() != title)
+        setWindowTitle(title);
+    followSize();
+    if (model()->shown() && !isVisible() && !placed_)
+        placeFirst();
+    const bool minimised = model()->windowState() == 1;
+    if (isVisible() != (model()->shown() && !minimised))
+        setVisible(model()->shown() && !minimised);
+}
+
+void ToolWindow::followSize()
+{
+    const host::Place& place = model()->place();
+    if (place.width == told_.width && place.height == told_.height)
+        return;
+    told_ = place;
+    view_->canvas().setDesign({0, 0, place.width, place.height});
+    const QSize wanted = view_->wantedSize();
+    const QSize most = room().size() * tool_window_detail::largestShare;
+    resize(wanted.width() > most.width() || wanted.height() > most.height() ? wanted.scaled(most, Qt::KeepAspectRatio)
+                                                                             : wanted);
+    view_->layOutCanvas();
+}
+
+// The palette at the lower edge, the rest to the right, where sheets have their notes rather than their fields.
+void ToolWindow::placeFirst()
+{
+    placed_ = true;
+    const QRect all = room();
+    const int right = all.right() + 1 - width() - tool_window_detail::gap;
+    const int bottom = all.bottom() + 1 - height() - 3 * tool_window_detail::gap;
+    const QPoint wished = model()->role() == host::Role::palette
+                              ? QPoint(all.center().x() - width() / 2, bottom)
+                          : model()->spec().modal ? all.center() - rect().center()
+                                                  : QPoint(right, all.center().y() - height() / 2);
+    move(insideScreen(wished, size()));
+}
+
+void ToolWindow::giveWayTo(const QRect& field)
+{
+    if (!isVisible() || !frameGeometry().intersects(field))
+        return;
+    const QRect all = room();
+    const int gap = tool_window_detail::gap;
+    const QSize mine = frameGeometry().size();
+    const int lefts[] = {all.right() + 1 - mine.width() - gap, all.left() + gap, all.center().x() - mine.width() / 2};
+    const int tops[] = {all.bottom() + 1 - mine.height() - gap, all.top() + gap, all.center().y() - mine.height() / 2};
+    for (const int top : tops)
+        for (const int left : lefts)
+            if (!QRect(QPoint(left, top), mine).intersects(field)) {
+                move(left, top);
+                return;
+            }
+}
+
+void ToolWindow::followControls()
+{
+    view_->bringUpToDate();
+}
+
+void ToolWindow::bringToFront()
+{
+    if (!isVisible())
+        return;
+    raise();
+    if (model() != nullptr && model()->role() != host::Role::palette)
+        activateWindow();
+}
+
+void ToolWindow::relabel()
+{
+    view_->relabel();
+}
+
+void ToolWindow::recolor()
+{
+    view_->recolor();
+}
+
+void ToolWindow::farewell()
+{
+    view_->forgetModel();
+    hide();
+    deleteLater();
+}
+
+void ToolWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    if (model() != nullptr && !desk_.closing)
+        desk_.engine->userClose(*model());
+}
+
+} // namespace velmor::desktop

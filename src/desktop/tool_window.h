@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// A palette, a tool or a help page as a window of its own beside the main window. It keeps the proportions of its table,
+// stays inside the screen and out of the way of the field in hand.
+#pragma once
+
+#include <QWidget>
+
+#include "desktop/desk.h"
+#include "desktop/window_frame.h"
+
+namespace velmor::desktop {
+
+class ToolWindow final : public QWidget, public WindowFrame {
+public:
+    ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow);
+
+    host::Window* model() const override;
+    QWidget& widget() override { return *this; }
+    SheetView* view() override { return view_; }
+    void followWindow() override;
+    void followControls() override;
+    void bringToFront() override;
+    void relabel() override;
+    void recolor() override;
+    void farewell() override;
+
+    /// Moves aside when it lies on `field` (in screen coordinates).
+    void giveWayTo(const QRect& field);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void followSize();
+    void placeFirst();
+    QRect room() const;
+
+    Desk& desk_;
+    SheetView* view_;
+    host::Place told_;
+    bool placed_ = false;
+};
+
+} // namespace velmor::desktop
