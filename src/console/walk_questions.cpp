@@ -209,6 +209,14 @@ void print(Walk& walk, Words words)
     walk.print(words[0] + " " + inQuotes(walk.screen().plain(propertyText(walk, words[0]))));
 }
 
+std::string entries(Walk& walk, const host::ListState& list)
+{
+    std::string result = " entries";
+    for (const std::string& entry : list.items)
+        result += " " + inQuotes(walk.screen().plain(entry));
+    return result;
+}
+
 void dump(Walk& walk, Words)
 {
     Window& window = walk.current();
@@ -221,6 +229,7 @@ void dump(Walk& walk, Words)
         line += window.visible(row.id) ? "" : " hidden";
         line += window.enabled(row.id) ? "" : " disabled";
         line += window.checked(row.id) ? " checked" : "";
+        line += row.kind == host::Kind::list ? entries(walk, window.list(row.id)) : "";
         walk.print(line);
     }
 }

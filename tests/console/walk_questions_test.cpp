@@ -212,6 +212,7 @@ TEST(WalkQuestions, PrintDumpWindowsAndBoxesCheckNothing)
               "Sheet1#1 \"  Hoja\" state 0 focus Text1\n"
               "  Text1 \"1\"\n");
     EXPECT_NE(played.output.find("  Text3 \"\" disabled\n  Hidden \"\" hidden\n"), std::string::npos);
+    EXPECT_NE(played.output.find("  Fruit \"\" entries \"pear\" \"apple\"\n"), std::string::npos);
 }
 
 } // namespace walk_questions_test
