@@ -226,7 +226,7 @@ bool captionFits(const host::Window& window, host::Handle control, const View& v
     }
 }
 
-namespace {
+namespace columns {
 
 QString withoutColumns(const QString& line)
 {
@@ -246,13 +246,13 @@ QString withoutColumns(const QString& line)
     return shown;
 }
 
-} // namespace
+} // namespace columns
 
 QString displayText(std::string_view text)
 {
     QStringList lines = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).split(QLatin1Char('\n'));
     for (QString& line : lines)
-        line = withoutColumns(line);
+        line = columns::withoutColumns(line);
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -9,7 +9,7 @@
 
 namespace velmor::desktop {
 
-namespace {
+namespace luminances {
 
 double linear(int channel)
 {
@@ -22,7 +22,7 @@ double luminance(const QColor& color)
     return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) + 0.0722 * linear(color.blue());
 }
 
-} // namespace
+} // namespace luminances
 
 // clang-format off
 const Inks& lightInks()
@@ -101,7 +101,8 @@ const Inks& printInks()
 
 const Inks& inksFor(const QPalette& desktop)
 {
-    const bool dark = luminance(desktop.color(QPalette::Window)) < luminance(desktop.color(QPalette::WindowText));
+    const bool dark = luminances::luminance(desktop.color(QPalette::Window)) <
+                      luminances::luminance(desktop.color(QPalette::WindowText));
     return dark ? darkInks() : lightInks();
 }
 
@@ -122,7 +123,7 @@ QColor shade(const Inks& inks, host::Ink ink)
 
 double contrast(const QColor& one, const QColor& other)
 {
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    const auto [darker, lighter] = std::minmax({luminances::luminance(one), luminances::luminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

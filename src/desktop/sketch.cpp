@@ -92,7 +92,7 @@ void Sketch::write(QPointF baseline, const QString& text, const QFont& font, con
     letterings_.push_back({snaps_ ? QPointF(baseline.x(), std::round(baseline.y())) : baseline, text, font, color});
 }
 
-namespace {
+namespace strokes {
 
 QPen penOf(const Trace& trace)
 {
@@ -108,7 +108,7 @@ QPen penOf(const Trace& trace)
     return pen;
 }
 
-} // namespace
+} // namespace strokes
 
 void Sketch::paint(QPainter& painter) const
 {
@@ -119,7 +119,7 @@ void Sketch::paint(QPainter& painter) const
     std::stable_sort(order.begin(), order.end(), [](auto* one, auto* other) { return one->layer < other->layer; });
     painter.setRenderHint(QPainter::Antialiasing);
     for (const Trace* trace : order) {
-        painter.setPen(penOf(*trace));
+        painter.setPen(strokes::penOf(*trace));
         painter.setBrush(trace->ground.isValid() ? QBrush(trace->ground) : QBrush(Qt::NoBrush));
         painter.drawPath(trace->path);
     }

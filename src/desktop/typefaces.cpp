@@ -11,7 +11,7 @@
 
 namespace velmor::desktop {
 
-namespace {
+namespace families {
 
 QString firstPresent(const QStringList& families)
 {
@@ -26,13 +26,13 @@ int wholePixels(double pixels)
     return std::max(1, static_cast<int>(std::lround(pixels)));
 }
 
-} // namespace
+} // namespace families
 
 QString drawingFamily()
 {
-    static const QString family = firstPresent({QStringLiteral("TeX Gyre Termes"), QStringLiteral("TeX Gyre Schola"),
-                                                QStringLiteral("Liberation Serif"), QStringLiteral("FreeSerif"),
-                                                QStringLiteral("Noto Serif"), QStringLiteral("DejaVu Serif")});
+    static const QString family = families::firstPresent(
+        {QStringLiteral("TeX Gyre Termes"), QStringLiteral("TeX Gyre Schola"), QStringLiteral("Liberation Serif"),
+         QStringLiteral("FreeSerif"), QStringLiteral("Noto Serif"), QStringLiteral("DejaVu Serif")});
     return family;
 }
 
@@ -45,7 +45,7 @@ QFont drawingFont(double pixels, bool italic)
         return font;
     }();
     QFont font(upright);
-    font.setPixelSize(wholePixels(pixels));
+    font.setPixelSize(families::wholePixels(pixels));
     font.setItalic(italic);
     return font;
 }
@@ -53,7 +53,7 @@ QFont drawingFont(double pixels, bool italic)
 QFont interfaceFont(double pixels, bool bold)
 {
     QFont font(QGuiApplication::font());
-    font.setPixelSize(wholePixels(pixels));
+    font.setPixelSize(families::wholePixels(pixels));
     font.setBold(bold);
     return font;
 }
