@@ -14,7 +14,7 @@
 using namespace velmor;
 using desktop::lightInks;
 
-namespace {
+namespace control_painter_tests {
 
 class PaintedControls : public testing::Test {
 protected:
@@ -22,7 +22,9 @@ protected:
     host::Window& stage = program.stage();
 };
 
-} // namespace
+} // namespace control_painter_tests
+
+using namespace control_painter_tests;
 
 TEST_F(PaintedControls, EveryTextOfTheSampleFitsAtThreeSizes)
 {

@@ -12,7 +12,7 @@
 
 using namespace velmor;
 
-namespace {
+namespace drawing_export_tests {
 
 class Export : public testing::Test {
 protected:
@@ -26,7 +26,9 @@ protected:
     test::PaintedProgram program;
 };
 
-} // namespace
+} // namespace drawing_export_tests
+
+using namespace drawing_export_tests;
 
 TEST_F(Export, PdfIsWhole)
 {

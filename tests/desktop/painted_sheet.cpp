@@ -15,7 +15,7 @@ using host::Mark;
 using host::Side;
 using host::Symbol;
 
-namespace {
+namespace painted_sheet {
 
 // clang-format off
 constexpr Mark circuit[] = {
@@ -199,9 +199,9 @@ std::unique_ptr<host::Window> makeMain(host::SheetHost& host)
 
 constexpr std::array<const host::WindowSpec*, 3> catalogue{&mainSpec, &stageSpec, &symbolSpec};
 
-} // namespace
+} // namespace painted_sheet
 
-PaintedProgram::PaintedProgram() : engine(catalogue, screen, settings)
+PaintedProgram::PaintedProgram() : engine(painted_sheet::catalogue, screen, settings)
 {
     engine.loadMainWindow();
     engine.userRun([this] {

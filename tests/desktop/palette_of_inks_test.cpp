@@ -13,7 +13,7 @@ using namespace velmor;
 using desktop::contrast;
 using desktop::Inks;
 
-namespace {
+namespace palette_of_inks_tests {
 
 std::vector<std::pair<QColor, QColor>> textPairs(const Inks& inks)
 {
@@ -36,7 +36,9 @@ std::vector<std::pair<QColor, QColor>> textPairs(const Inks& inks)
             {inks.buttonOffInk, inks.buttonOff}};
 }
 
-} // namespace
+} // namespace palette_of_inks_tests
+
+using namespace palette_of_inks_tests;
 
 // Figures of the definition: white on black is 21, a colour on itself 1; #777777 on white is 4.478 worked by hand:
 // (0x77/255 + 0.055)/1.055 to the 2.4 = 0.1845, 1.05 / 0.2345.

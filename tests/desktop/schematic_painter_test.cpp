@@ -17,7 +17,7 @@ using host::GridPoint;
 using host::Mark;
 using host::Symbol;
 
-namespace {
+namespace schematic_painter_tests {
 
 constexpr GridPoint triangle[] = {{60, 60}, {120, 60}, {90, 110}};
 
@@ -51,7 +51,9 @@ QRgb at(const QImage& image, int x, int y)
     return image.pixel(x, y);
 }
 
-} // namespace
+} // namespace schematic_painter_tests
+
+using namespace schematic_painter_tests;
 
 TEST_P(EverySymbol, LeavesInkWithinItsBounds)
 {

@@ -12,7 +12,7 @@
 
 using namespace velmor::desktop;
 
-namespace {
+namespace symbol_label_tests {
 
 /// Runs in one line: italic as /x/, lowered as _x_, upright bare.
 std::string told(const SymbolLabel& label)
@@ -25,7 +25,9 @@ std::string told(const SymbolLabel& label)
     return text;
 }
 
-} // namespace
+} // namespace symbol_label_tests
+
+using namespace symbol_label_tests;
 
 TEST(SymbolLabel, SetsTheLetterItalicAndTheSubscriptUprightBelow)
 {
