@@ -15,6 +15,7 @@
 #include "desktop/control_pane.h"
 #include "desktop/field_edit.h"
 #include "desktop/keyboard.h"
+#include "desktop/page_picture.h"
 #include "desktop/pointer.h"
 #include "desktop/texts.h"
 
@@ -28,7 +29,7 @@ Canvas::Canvas(Desk& desk, host::Window& model, Handle area, Handle except)
       ink_(model.controlCount()), pointer_(std::make_unique<Pointer>(*this)), keyboard_(std::make_unique<Keyboard>(*this))
 {
     design_ = area == noControl ? host::Place{0, 0, model.spec().place.width, model.spec().place.height}
-                                : model.placeOf(area);
+                                : host::shownPlace(model, area);
     view_.inks = desk.inks;
     view_.languageIsEnglish = desk.engine->values().LanguageIsEnglish;
     setFocusPolicy(Qt::StrongFocus);
@@ -141,8 +142,12 @@ QWidget* Canvas::focusTarget()
 
 void Canvas::paintOne(QPainter& painter, Handle control, const QRectF& clip)
 {
-    if (model_ != nullptr && shows(control) && model_->row(control).look != host::Look::invisible
-        && ink(control).intersects(clip))
+    if (model_ == nullptr || !shows(control) || model_->row(control).look == host::Look::invisible
+        || !ink(control).intersects(clip))
+        return;
+    if (isPagePicture(*model_, control))
+        paintPagePicture(painter, *model_, control, view_);
+    else
         paintControl(painter, *model_, control, view_);
 }
 
@@ -260,7 +265,8 @@ bool Canvas::filterMouse(Handle control, QWidget& widget, QEvent& event)
 
 void Canvas::keyPressEvent(QKeyEvent* event)
 {
-    if (model_ == nullptr || !keyboard_->pressed(*event))
+    // A key that a text box has left over has been here before.
+    if (model_ == nullptr || !hasFocus() || !keyboard_->pressed(*event))
         QWidget::keyPressEvent(event);
 }
 

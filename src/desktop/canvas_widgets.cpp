@@ -47,6 +47,20 @@ void colorText(QWidget& widget, const QColor& ground, const QColor& wished)
         widget.setPalette(colors);
 }
 
+// The student's own choice of typeface, in true points.
+void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen)
+{
+    QFont font(shown(chosen.name));
+    font.setStyleHint(QFont::Monospace);
+    font.setPointSizeF(std::max(1.0, chosen.size));
+    font.setBold(chosen.bold);
+    font.setItalic(chosen.italic);
+    font.setUnderline(chosen.underline);
+    font.setStrikeOut(chosen.strikeout);
+    if (font != editor.font())
+        editor.setFont(font);
+}
+
 bool hasPane(const host::ControlRow& row)
 {
     return row.overlay || row.kind == Kind::button || row.kind == Kind::picture || row.kind == Kind::option
@@ -129,7 +143,9 @@ void Canvas::refreshWidget(Handle control, bool shown)
         field->setOwnColors(state.backColor, state.foreColor);
     } else if (auto* page = qobject_cast<QPlainTextEdit*>(widget)) {
         const QString text = desktop::shown(state.text);
-        if (model_->row(control).kind == Kind::page && page->toPlainText() != text)
+        if (model_->row(control).kind == Kind::editor)
+            setEditorFont(*page, model_->font(control));
+        else if (page->toPlainText() != text)
             page->setPlainText(text);
         colorText(*page, colorOr(state.backColor, desk_.inks->field), colorOr(state.foreColor, desk_.inks->fieldInk));
     } else if (auto* list = qobject_cast<QListWidget*>(widget)) {

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/keyboard.h"
 
+#include <algorithm>
+#include <map>
+#include <vector>
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
@@ -59,11 +63,6 @@ bool isTyped(const QKeyEvent& event)
     return held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
 }
 
-QKeyCombination bareCombination(const QKeyEvent& event)
-{
-    return QKeyCombination(event.modifiers() & ~Qt::KeypadModifier, static_cast<Qt::Key>(event.key()));
-}
-
 QKeyCombination combinationOf(std::string_view keys)
 {
     const QKeySequence sequence(shown(keys), QKeySequence::PortableText);
@@ -94,15 +93,28 @@ char32_t characterOf(std::int16_t code)
     return static_cast<char32_t>(code);
 }
 
+// Parsed once for all windows of a kind: this is asked at every key.
+std::size_t shortcutRow(const host::WindowSpec& spec, QKeyCombination keys)
+{
+    static std::map<const host::WindowSpec*, std::vector<QKeyCombination>> tables;
+    auto known = tables.find(&spec);
+    if (known == tables.end()) {
+        known = tables.emplace(&spec, std::vector<QKeyCombination>()).first;
+        for (const host::ShortcutRow& row : spec.shortcuts)
+            known->second.push_back(keyboard_detail::combinationOf(row.keys));
+    }
+    const auto found = std::find(known->second.begin(), known->second.end(), keys);
+    return found == known->second.end() ? noRow : static_cast<std::size_t>(found - known->second.begin());
+}
+
+QKeyCombination keysOf(const QKeyEvent& event)
+{
+    return QKeyCombination(event.modifiers() & ~Qt::KeypadModifier, static_cast<Qt::Key>(event.key()));
+}
+
 bool Keyboard::wants(const QKeyEvent& event) const
 {
-    if (canvas_.model() == nullptr)
-        return false;
-    const QKeyCombination keys = keyboard_detail::bareCombination(event);
-    for (const host::ShortcutRow& row : canvas_.model()->spec().shortcuts)
-        if (keyboard_detail::combinationOf(row.keys) == keys)
-            return true;
-    return false;
+    return canvas_.model() != nullptr && shortcutRow(canvas_.model()->spec(), keysOf(event)) != noRow;
 }
 
 bool Keyboard::pressed(const QKeyEvent& event)
@@ -114,7 +126,7 @@ bool Keyboard::pressed(const QKeyEvent& event)
         canvas_.desk().touched(&canvas_);
     if (event.key() == Qt::Key_Escape && canvas_.pointer().cancelDrag())
         return true;
-    const QKeyCombination keys = keyboard_detail::bareCombination(event);
+    const QKeyCombination keys = keysOf(event);
     if (runShortcut(keys) || runCommon(keys))
         return true;
     const Handle held = model->focus();
@@ -131,35 +143,11 @@ bool Keyboard::pressed(const QKeyEvent& event)
 
 bool Keyboard::runShortcut(QKeyCombination keys)
 {
-    host::Window& model = *canvas_.model();
-    host::Engine& engine = *canvas_.desk().engine;
-    for (const host::ShortcutRow& row : model.spec().shortcuts) {
-        if (keyboard_detail::combinationOf(row.keys) != keys)
-            continue;
-        const Handle control = row.control == noControl ? model.focus() : row.control;
-        if (control != noControl && model.row(control).kind == Kind::menu) {
-            engine.userMenu(model, control);
-            return true;
-        }
-        switch (row.action) {
-        case host::KeyAction::click:
-            engine.userClick(model, control);
-            return true;
-        case host::KeyAction::doubleClick:
-            engine.userDoubleClick(model, control);
-            return true;
-        case host::KeyAction::rightPress:
-            engine.userPress(model, control, host::Button::right);
-            return true;
-        case host::KeyAction::hover:
-            engine.userHover(model, control);
-            return true;
-        case host::KeyAction::dragTo:
-            engine.userDrag(model, control, row.target);
-            return true;
-        }
-    }
-    return false;
+    const std::size_t row = shortcutRow(canvas_.model()->spec(), keys);
+    if (row == noRow)
+        return false;
+    canvas_.desk().engine->userShortcut(*canvas_.model(), row);
+    return true;
 }
 
 bool Keyboard::runCommon(QKeyCombination keys)

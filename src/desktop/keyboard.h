@@ -10,7 +10,7 @@
 #include <QString>
 
 #include "host/bitext.h"
-#include "host/control.h"
+#include "host/window.h"
 
 class QInputMethodEvent;
 class QKeyEvent;
@@ -28,6 +28,12 @@ struct CommonKeyRow {
     host::BiText meaning;
 };
 std::span<const CommonKeyRow> commonKeys();
+
+/// The row of a window's shortcut table for these keys; noRow when there is none.
+std::size_t shortcutRow(const host::WindowSpec& spec, QKeyCombination keys);
+inline constexpr std::size_t noRow = static_cast<std::size_t>(-1);
+/// The keys of an event, whether or not they lie on the number pad.
+QKeyCombination keysOf(const QKeyEvent& event);
 
 class Keyboard {
 public:

@@ -5,12 +5,16 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMdiArea>
+#include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
 
 #include "desktop/canvas.h"
+#include "desktop/keyboard.h"
 #include "desktop/menus.h"
 #include "desktop/texts.h"
 
@@ -25,7 +29,6 @@ namespace main_window_detail {
 constexpr double drawnWidth = 1350.0;
 constexpr double drawnHeight = 675.0;
 constexpr int likelyTitleHeight = 30;
-constexpr double panelShare = 0.45; ///< of the height, when a sheet lies below it
 constexpr QSize smallestWindow(640, 420);
 
 } // namespace main_window_detail
@@ -52,6 +55,7 @@ MainWindow::MainWindow(Desk& desk, host::Window& model)
         bar_->setFocusPolicy(Qt::NoFocus);
     }
     middle_->installEventFilter(this);
+    area_->viewport()->installEventFilter(this);
     setCentralWidget(middle_);
     welcome_->applyAll();
     if (bar_ != nullptr)
@@ -144,8 +148,8 @@ void MainWindow::farewell()
     model_ = nullptr;
 }
 
-// The bar takes a strip of its own. The welcome panel fills the rest while no sheet is open and lies over the upper part
-// of the sheets otherwise, so that its coming and going moves nothing that a student is working on.
+// The bar takes a strip of its own. The welcome panel fills the rest while no sheet is open and lies over the sheets
+// otherwise, so that its coming and going moves nothing that a student is working on.
 void MainWindow::layOutPanels()
 {
     if (model_ == nullptr || middle_->width() <= 0)
@@ -154,7 +158,7 @@ void MainWindow::layOutPanels()
     const Handle bar = model_->named("Picture14");
     const bool barShown = bar_ != nullptr && model_->visible(bar);
     if (barShown) {
-        const host::Place& place = model_->placeOf(bar);
+        const host::Place& place = host::shownPlace(*model_, bar);
         bar_->setDesign(place);
         if (place.height >= place.width) {
             const double scale = std::min(desk_.scale, rest.height() * twipsPerUnit / std::max(1, place.height));
@@ -175,14 +179,10 @@ void MainWindow::layOutPanels()
     if (area_->geometry() != rest)
         area_->setGeometry(rest);
     const Handle panel = model_->named("SSPanel1");
-    const bool welcomes = panel != noControl && model_->visible(panel);
+    const bool welcomes = panel != noControl && (model_->visible(panel) || !hasChildren_);
     if (welcomes) {
-        host::Place place = model_->placeOf(panel);
-        welcome_->setDesign(place);
-        const int most = hasChildren_ ? static_cast<int>(rest.height() * main_window_detail::panelShare) : rest.height();
-        const double scale = welcome_->scaleFor(QSize(rest.width(), most));
-        const int height = hasChildren_ ? std::min(most, qRound(place.height * scale / twipsPerUnit)) : rest.height();
-        welcome_->layOut(scale, QSize(rest.width(), height));
+        welcome_->setDesign(host::shownPlace(*model_, panel));
+        welcome_->layOut(welcome_->scaleFor(rest.size()), rest.size());
         welcome_->move(rest.topLeft());
         welcome_->raise();
     }
@@ -245,11 +245,43 @@ void MainWindow::resizeEvent(QResizeEvent* event)
         desk_.engine->userResized(*model_, place);
 }
 
+// Keys of the main window's own table work whichever window inside it has the keyboard.
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+    const std::size_t row = model_ == nullptr || desk_.closing ? noRow : shortcutRow(model_->spec(), keysOf(*event));
+    if (row != noRow)
+        desk_.engine->userShortcut(*model_, row);
+    else if (model_ == nullptr || !openMenuByKey(keysOf(*event)))
+        QMainWindow::keyPressEvent(event);
+}
+
+// New and open are menus here, one item for each circuit: their usual keys open them.
+bool MainWindow::openMenuByKey(QKeyCombination keys)
+{
+    if (keys.keyboardModifiers() != Qt::ControlModifier || (keys.key() != Qt::Key_N && keys.key() != Qt::Key_O))
+        return false;
+    QMenu* menu = menus_->menuOf(model_->named(keys.key() == Qt::Key_N ? "mnuCirc" : "mnuFile(0)"));
+    if (menu == nullptr)
+        return false;
+    menu->popup(middle_->mapToGlobal(QPoint(0, 0)));
+    return true;
+}
+
 bool MainWindow::eventFilter(QObject* object, QEvent* event)
 {
     if (object == middle_ && event->type() == QEvent::Resize)
         layOutPanels();
+    else if (object == area_->viewport() && event->type() == QEvent::MouseButtonPress && model_ != nullptr && !desk_.closing)
+        pressBackground(*static_cast<QMouseEvent*>(event));
     return QMainWindow::eventFilter(object, event);
+}
+
+void MainWindow::pressBackground(const QMouseEvent& event)
+{
+    if (event.button() == Qt::LeftButton)
+        desk_.engine->userClick(*model_, noControl);
+    else if (event.button() == Qt::RightButton)
+        desk_.engine->userPress(*model_, noControl, host::Button::right);
 }
 
 } // namespace velmor::desktop

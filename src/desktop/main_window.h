@@ -39,10 +39,13 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    bool openMenuByKey(QKeyCombination keys);
+    void pressBackground(const QMouseEvent& event);
     void layOutPanels();
     void tellClientArea();
 

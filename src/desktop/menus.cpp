@@ -49,12 +49,22 @@ void Menus::add(Handle row, QWidget& parent)
                 refresh(row);
         });
         const QString keys = keysOf(row);
-        if (!keys.isEmpty())
+        if (!keys.isEmpty()) {
             action->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
+            // Keys of a window's table reach the engine through its keyboard; here they are only told.
+            if (model_->role() != host::Role::mainWindow || tableNames(row))
+                action->setShortcutContext(Qt::WidgetShortcut);
+        }
     }
     parent.addAction(action);
     actions_[row] = action;
     refresh(row);
+}
+
+bool Menus::tableNames(Handle item) const
+{
+    const auto& rows = model_->spec().shortcuts;
+    return std::any_of(rows.begin(), rows.end(), [item](const host::ShortcutRow& row) { return row.control == item; });
 }
 
 QString Menus::keysOf(Handle item) const
@@ -62,7 +72,23 @@ QString Menus::keysOf(Handle item) const
     for (const host::ShortcutRow& row : model_->spec().shortcuts)
         if (row.control == item)
             return shown(row.keys);
+    if (model_->role() == host::Role::mainWindow)
+        for (const MenuKeys& usual : mainMenuKeys())
+            if (host::sameName(model_->row(item).name, usual.item))
+                return shown(usual.keys);
     return {};
+}
+
+std::span<const MenuKeys> mainMenuKeys()
+{
+    static constexpr MenuKeys rows[] = {
+        {"mnuFile(1)", "Ctrl+S"},
+        {"mnuFile(2)", "Ctrl+Shift+S"},
+        {"mnuFile(3)", "Ctrl+W"},
+        {"mnuIng", "Ctrl+Shift+I"},
+        {"mnuEsp", "Ctrl+Shift+E"},
+    };
+    return rows;
 }
 
 void Menus::refresh(Handle item)
@@ -74,7 +100,7 @@ void Menus::refresh(Handle item)
     const QString caption = shown(state.text).simplified();
     if (action->text() != caption && !action->isSeparator())
         action->setText(caption);
-    action->setVisible(state.visible);
+    action->setVisible(state.visible && model_->row(item).look != host::Look::invisible);
     action->setEnabled(state.enabled);
     if (state.checked)
         action->setCheckable(true);

@@ -275,18 +275,21 @@ void WindowKeeper::windowActivated()
     postFocus();
 }
 
-// A press or a key in a sheet: activations that were awaited no longer matter, and a welcome panel that lies over the
-// sheet goes as if the sheet had been drawn anew.
+// A press or a key: activations that were awaited no longer matter, and a welcome panel that lies over the sheet goes as
+// if the sheet had been drawn anew.
 void WindowKeeper::touched(QWidget* view)
 {
     awaited_ = nullptr;
     auto* canvas = dynamic_cast<Canvas*>(view);
-    host::Window* sheet = canvas == nullptr ? nullptr : canvas->model();
-    if (sheet == nullptr || sheet->role() != Role::sheet || !desk_.idle())
+    host::Window* sheet = desk_.engine->activeChild();
+    if (canvas == nullptr || canvas->model() == nullptr || sheet == nullptr || !desk_.idle())
         return;
+    const bool onPanel = canvas->model()->role() == Role::mainWindow;
     host::Window& main = desk_.engine->mainWindow();
     const host::Handle panel = main.named("SSPanel1");
-    if (panel == noControl || !main.visible(panel))
+    if (panel == noControl || !main.visible(panel) || (!onPanel && canvas->model() != sheet))
+        return;
+    if (onPanel && canvas->controlAt(canvas->mapFromGlobal(QCursor::pos())) != noControl)
         return;
     desk_.engine->userRun([sheet] {
         host::EventArgs args;

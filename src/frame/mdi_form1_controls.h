@@ -66,6 +66,9 @@ inline constexpr int headPictureHeight = 2600;
 inline constexpr std::array<int, buttonCount> barLefts{30,   390,  750,  1110, 1470, 1860, 2250,
                                                        2550, 2910, 3270, 3630, 3990, 4350};
 
+/// Where the real window shows a control of bar and welcome panel.
+host::Place shownPlaceOf(const host::Window& window, host::Handle control);
+
 extern const host::WindowSpec spec;
 std::unique_ptr<host::Window> create(host::SheetHost& host);
 
