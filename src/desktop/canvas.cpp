@@ -140,10 +140,17 @@ QWidget* Canvas::focusTarget()
     return widget != nullptr && widget->isVisibleTo(this) && widget->isEnabled() ? widget : this;
 }
 
+// The panels of the main window are the canvas itself there.
+bool Canvas::isGround(Handle control) const
+{
+    const host::ControlRow& row = model_->row(control);
+    return model_->role() == host::Role::mainWindow && row.kind == host::Kind::panel && row.parent == noControl;
+}
+
 void Canvas::paintOne(QPainter& painter, Handle control, const QRectF& clip)
 {
     if (model_ == nullptr || !shows(control) || model_->row(control).look == host::Look::invisible
-        || !ink(control).intersects(clip))
+        || !ink(control).intersects(clip) || isGround(control))
         return;
     if (isPagePicture(*model_, control))
         paintPagePicture(painter, *model_, control, view_);

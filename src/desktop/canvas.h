@@ -78,6 +78,7 @@ protected:
 
 private:
     bool belongs(host::Handle control) const;
+    bool isGround(host::Handle control) const;
     const QRectF& ink(host::Handle control) const;
     void refresh(host::Handle control);
     void refreshWidget(host::Handle control, bool shown);

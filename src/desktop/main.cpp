@@ -7,6 +7,7 @@
 
 #include "desktop/control_pane.h"
 #include "desktop/desktop_screen.h"
+#include "desktop/program_icon.h"
 #include "desktop/settings_file.h"
 #include "program/catalogue.h"
 
@@ -18,6 +19,7 @@ int main(int argumentCount, char** arguments)
     QApplication::setApplicationName(QStringLiteral("Velmor"));
     QApplication::setDesktopFileName(QStringLiteral("velmor"));
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(velmor::desktop::programIcon());
     QApplication::setStyle(QStringLiteral("Fusion"));
     velmor::desktop::tellAssistiveTechnology();
 

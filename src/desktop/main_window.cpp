@@ -112,8 +112,24 @@ void MainWindow::followControls()
 
 void MainWindow::setHasChildren(bool hasChildren)
 {
-    if (std::exchange(hasChildren_, hasChildren) != hasChildren)
+    const host::Window* below = desk_.engine->activeChild();
+    const bool changed = hasChildren_ != hasChildren || below_ != below;
+    hasChildren_ = hasChildren;
+    below_ = below;
+    if (changed)
         layOutPanels();
+}
+
+void MainWindow::setStrip(int height)
+{
+    if (std::exchange(strip_, height) != height)
+        layOutPanels();
+}
+
+QRect MainWindow::strip() const
+{
+    const QRect inside(0, middle_->height() - strip_, middle_->width(), strip_);
+    return {middle_->mapToGlobal(inside.topLeft()), inside.size()};
 }
 
 void MainWindow::bringToFront()
@@ -149,7 +165,8 @@ void MainWindow::farewell()
 }
 
 // The bar takes a strip of its own. The welcome panel fills the rest while no sheet is open and lies over the sheets
-// otherwise, so that its coming and going moves nothing that a student is working on.
+// otherwise, so that its coming and going moves nothing that a student is working on. An editor, which does not send it
+// away as sheets do, is never covered.
 void MainWindow::layOutPanels()
 {
     if (model_ == nullptr || middle_->width() <= 0)
@@ -176,10 +193,13 @@ void MainWindow::layOutPanels()
     }
     if (bar_ != nullptr)
         bar_->setVisible(barShown);
+    rest.setBottom(std::max(rest.top(), rest.bottom() - strip_));
     if (area_->geometry() != rest)
         area_->setGeometry(rest);
     const Handle panel = model_->named("SSPanel1");
-    const bool welcomes = panel != noControl && (model_->visible(panel) || !hasChildren_);
+    const host::Window* child = desk_.engine->activeChild();
+    const bool sheetBelow = child != nullptr && child->role() == host::Role::sheet;
+    const bool welcomes = panel != noControl && (!hasChildren_ || (model_->visible(panel) && sheetBelow));
     if (welcomes) {
         welcome_->setDesign(host::shownPlace(*model_, panel));
         welcome_->layOut(welcome_->scaleFor(rest.size()), rest.size());

@@ -31,6 +31,10 @@ public:
 
     QMdiArea& area() const { return *area_; }
     Menus& menus() const { return *menus_; }
+    /// Leaves a strip at the lower edge free for the palette.
+    void setStrip(int height);
+    /// That strip, in screen coordinates.
+    QRect strip() const;
     /// A child window is shown, so the welcome panel leaves it room.
     void setHasChildren(bool hasChildren);
     /// Takes the size that it will have on this screen before it is shown, so that the first sheets are made to it.
@@ -56,6 +60,8 @@ private:
     QWidget* middle_;
     Canvas* welcome_ = nullptr;
     Canvas* bar_ = nullptr;
+    const host::Window* below_ = nullptr; ///< active child at the last layout; compared only
+    int strip_ = 0;
     bool hasChildren_ = false;
     bool following_ = false;
 };

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -22,6 +23,7 @@ namespace sheet_view_detail {
 
 /// Below this scale an 8 point text falls under 9 logical pixels: the sheet scrolls instead.
 constexpr double smallestScale = 0.85;
+constexpr double smallestOfPictures = 0.4;
 constexpr int scrollMargin = 40;
 
 } // namespace sheet_view_detail
@@ -84,6 +86,19 @@ void SheetView::followFocus()
     bringIntoView();
 }
 
+QRect SheetView::inHand() const
+{
+    if (model() == nullptr || model()->focus() == noControl)
+        return {};
+    QRect box = canvas_->boxInPixels(model()->focus());
+    QWidget* on = canvas_;
+    if (auto* editor = qobject_cast<QPlainTextEdit*>(canvas_->widgetOf(model()->focus()))) {
+        box = editor->cursorRect().adjusted(-sheet_view_detail::scrollMargin, 0, sheet_view_detail::scrollMargin, 0);
+        on = editor->viewport();
+    }
+    return {on->mapToGlobal(box.topLeft()), box.size()};
+}
+
 QSize SheetView::wantedSize() const
 {
     const host::Place& design = canvas_->design();
@@ -107,7 +122,9 @@ void SheetView::layOutCanvas()
         canvas_->layOut(desk_.scale, room);
         return;
     }
-    const double scale = std::max(canvas_->scaleFor(room), sheet_view_detail::smallestScale);
+    const bool pictures = model()->role() == Role::palette;
+    const double scale = std::max(canvas_->scaleFor(room), pictures ? sheet_view_detail::smallestOfPictures
+                                                                     : sheet_view_detail::smallestScale);
     const host::Place& design = canvas_->design();
     const QSize needed(static_cast<int>(design.width * scale / twipsPerUnit), static_cast<int>(design.height * scale / twipsPerUnit));
     canvas_->layOut(scale, needed.expandedTo(room));

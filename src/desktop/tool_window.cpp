@@ -15,6 +15,9 @@ namespace tool_window_detail {
 
 constexpr int gap = 12; ///< logical pixels to the edge of the screen
 constexpr double largestShare = 0.92; ///< of the screen
+constexpr double paletteShare = 0.8;  ///< of the size in its table: it is seen all the time
+constexpr int likelyTitleHeight = 28;
+constexpr int movedByHand = 64; ///< logical pixels; window managers move a little on their own
 
 Qt::WindowFlags flagsOf(const host::WindowSpec& spec)
 {
@@ -35,6 +38,7 @@ ToolWindow::ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow)
     setFocusProxy(view_);
     if (model.role() == host::Role::palette)
         setAttribute(Qt::WA_ShowWithoutActivating);
+    resting_ = model.role() == host::Role::palette;
     if (model.spec().modal)
         setWindowModality(Qt::ApplicationModal);
 }
@@ -73,7 +77,7 @@ void ToolWindow::followSize()
         return;
     told_ = place;
     view_->canvas().setDesign({0, 0, place.width, place.height});
-    const QSize wanted = view_->wantedSize();
+    const QSize wanted = view_->wantedSize() * (model()->role() == host::Role::palette ? tool_window_detail::paletteShare : 1.0);
     const QSize most = room().size() * tool_window_detail::largestShare;
     resize(wanted.width() > most.width() || wanted.height() > most.height() ? wanted.scaled(most, Qt::KeepAspectRatio)
                                                                              : wanted);
@@ -91,7 +95,38 @@ void ToolWindow::placeFirst()
                               ? QPoint(all.center().x() - width() / 2, bottom)
                           : model()->spec().modal ? all.center() - rect().center()
                                                   : QPoint(right, all.center().y() - height() / 2);
-    move(insideScreen(wished, size()));
+    moveTo(insideScreen(wished, size()));
+}
+
+bool ToolWindow::isShownInModel() const
+{
+    return model() != nullptr && model()->shown() && model()->windowState() != 1;
+}
+
+int ToolWindow::restHeight() const
+{
+    const int frame = isVisible() ? frameGeometry().height() : height() + tool_window_detail::likelyTitleHeight;
+    return frame + 4;
+}
+
+void ToolWindow::restIn(const QRect& strip)
+{
+    const QSize mine = isVisible() ? frameGeometry().size() : QSize(width(), height() + tool_window_detail::likelyTitleHeight);
+    moveTo({strip.center().x() - mine.width() / 2, strip.center().y() - mine.height() / 2});
+}
+
+void ToolWindow::moveTo(QPoint place)
+{
+    if (std::exchange(wished_, place) != place)
+        move(place);
+}
+
+void ToolWindow::moveEvent(QMoveEvent* event)
+{
+    QWidget::moveEvent(event);
+    if (resting_ && placed_ && isVisible()
+        && (frameGeometry().topLeft() - wished_).manhattanLength() > tool_window_detail::movedByHand)
+        resting_ = false;
 }
 
 void ToolWindow::giveWayTo(const QRect& field)
@@ -106,7 +141,7 @@ void ToolWindow::giveWayTo(const QRect& field)
     for (const int top : tops)
         for (const int left : lefts)
             if (!QRect(QPoint(left, top), mine).intersects(field)) {
-                move(left, top);
+                moveTo({left, top});
                 return;
             }
 }

@@ -24,11 +24,16 @@ public:
     void recolor() override;
     void farewell() override;
 
+    /// True for a palette that stands where the program has put it.
+    bool rests() const { return resting_ && isShownInModel(); }
+    int restHeight() const;
+    void restIn(const QRect& strip);
     /// Moves aside when it lies on `field` (in screen coordinates).
     void giveWayTo(const QRect& field);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
 
 private:
     void followSize();
@@ -38,6 +43,11 @@ private:
     Desk& desk_;
     SheetView* view_;
     host::Place told_;
+    bool isShownInModel() const;
+    void moveTo(QPoint place);
+
+    QPoint wished_;
+    bool resting_ = false;
     bool placed_ = false;
 };
 

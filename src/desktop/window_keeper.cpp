@@ -129,8 +129,10 @@ void WindowKeeper::followAll()
             frame->followWindow();
         children = children || (window->isChild() && window->shown() && window->windowState() != 1);
     }
-    if (main_)
+    if (main_) {
         main_->setHasChildren(children);
+        main_->setStrip(stripHeight());
+    }
     followRaised();
     followActive();
     followFocus();
@@ -143,6 +145,16 @@ void WindowKeeper::followLanguage()
         return;
     for (const auto& [window, frame] : frames_)
         frame->relabel();
+}
+
+// The palette has a strip of the main window to itself until the person moves it elsewhere.
+int WindowKeeper::stripHeight() const
+{
+    int height = 0;
+    for (const auto& [window, frame] : frames_)
+        if (auto* tool = dynamic_cast<ToolWindow*>(frame); tool != nullptr && tool->rests())
+            height = std::max(height, tool->restHeight());
+    return height;
 }
 
 // A window unloaded by a slot that still runs is out of sight at once.
@@ -214,6 +226,7 @@ void WindowKeeper::postFocus()
             return;
         const QScopedValueRollback following(following_, true);
         followFocus();
+        makeRoom();
     });
 }
 
@@ -231,13 +244,14 @@ void WindowKeeper::focusMoved(QWidget* now)
 void WindowKeeper::makeRoom()
 {
     SheetView* view = activeView();
-    if (view == nullptr || view->model() == nullptr || view->model()->focus() == noControl)
-        return;
-    const QRect box = view->canvas().boxInPixels(view->model()->focus());
-    const QRect onScreen(view->canvas().mapToGlobal(box.topLeft()), box.size());
+    const QRect inHand = view == nullptr ? QRect() : view->inHand();
     for (const auto& [window, frame] : frames_)
-        if (auto* tool = dynamic_cast<ToolWindow*>(frame); tool != nullptr && tool->view() != view)
-            tool->giveWayTo(onScreen);
+        if (auto* tool = dynamic_cast<ToolWindow*>(frame); tool != nullptr && tool->view() != view) {
+            if (tool->rests() && main_)
+                tool->restIn(main_->strip());
+            else if (!inHand.isEmpty())
+                tool->giveWayTo(inHand);
+        }
 }
 
 void WindowKeeper::childActivated(QMdiSubWindow* child)

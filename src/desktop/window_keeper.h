@@ -55,6 +55,7 @@ private:
     void followActive();
     void followFocus();
     void makeRoom();
+    int stripHeight() const;
     void postFocus();
     void focusMoved(QWidget* now);
     void childActivated(QMdiSubWindow* child);
