@@ -10,9 +10,14 @@
 #include "editors/find_dialogs.h"
 #include "tools/calculator.h"
 #include "tools/form14.h"
+#include "tools/form19.h"
+#include "tools/form21.h"
 #include "tools/form22.h"
 #include "tools/form6.h"
+#include "tools/form7.h"
+#include "tools/frm_about.h"
 #include "tools/frm_drag.h"
+#include "tools/infoform.h"
 
 namespace velmor::program {
 
@@ -29,9 +34,14 @@ host::Catalogue catalogue()
         &find_dialogs::frmReplace,
         &calculator::spec,
         &form14::spec,
+        &form19::spec,
+        &form21::spec,
         &form22::spec,
         &form6::spec,
+        &form7::spec,
+        &frm_about::spec,
         &frm_drag::spec,
+        &infoform::spec,
     };
     return windows;
 }

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// The panel that presents the two voltage-feedback circuits and lets the student choose one.
+#pragma once
+
+#include <memory>
+
+#include "host/sheet_host.h"
+#include "host/window.h"
+
+namespace velmor::form7 {
+
+enum Control : host::Handle {
+    Picture1, Picture2, Command1, Command2, Command3, Command4, Command5, SSCommand1, SSCommand2,
+    Label1, Label2, Label3, Label4, Label5, Timer1, Main, OpenWings, CloseWings
+};
+
+extern const host::WindowSpec spec;
+std::unique_ptr<host::Window> create(host::SheetHost& host);
+
+class Form7 final : public host::Window {
+public:
+    explicit Form7(host::SheetHost& host);
+    void load();
+    void activate();
+    void chooseSimple();
+    void chooseStable();
+    void startSimple();
+    void startStable();
+    void showFormulas();
+    void leave();
+    void flap();
+
+private:
+    std::string_view pick(const host::BiText& text) const { return host().pick(text); }
+    void showFlow(const host::BiText& page);
+    void start(std::string_view sheet, const host::BiText& title);
+
+    bool stable_ = false; ///< which circuit was chosen last
+    bool wingsOpen_ = false;
+};
+
+} // namespace velmor::form7

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+// Table, slots and the two circuits of the choosing panel.
+#include "tools/butterfly.h"
+#include "tools/form7.h"
+
+namespace velmor::form7 {
+
+using host::Event;
+using host::GridPoint;
+using host::Kind;
+using host::Look;
+using host::Mark;
+using host::Side;
+using host::slot;
+using host::Symbol;
+
+namespace table {
+
+// clang-format off
+constexpr GridPoint baseLead[] = {{130, 110}, {130, 150}, {170, 150}};
+constexpr Mark simpleCircuit[] = {
+    {.symbol = Symbol::terminal, .from = {200, 30}, .name = "E_s", .side = Side::right},
+    {.symbol = Symbol::wire, .from = {200, 30}, .to = {200, 40}},
+    {.symbol = Symbol::resistor, .from = {200, 40}, .to = {200, 100}, .name = "R_L", .side = Side::right},
+    {.symbol = Symbol::wire, .from = {200, 100}, .to = {200, 120}},
+    {.symbol = Symbol::node, .from = {200, 110}},
+    {.symbol = Symbol::resistor, .from = {200, 110}, .to = {130, 110}, .name = "R_b", .side = Side::above},
+    {.symbol = Symbol::polyline, .points = baseLead},
+    {.symbol = Symbol::npn, .from = {170, 150}, .name = "Q_1", .side = Side::right},
+    {.symbol = Symbol::wire, .from = {200, 180}, .to = {200, 220}},
+    {.symbol = Symbol::ground, .from = {200, 220}},
+    {.symbol = Symbol::terminal, .from = {50, 150}},
+    {.symbol = Symbol::capacitor, .from = {50, 150}, .to = {130, 150}, .name = "C_in", .side = Side::above},
+    {.symbol = Symbol::node, .from = {130, 150}},
+    {.symbol = Symbol::capacitor, .from = {200, 110}, .to = {280, 110}, .name = "C_out", .side = Side::below},
+    {.symbol = Symbol::terminal, .from = {280, 110}},
+};
+constexpr Mark stableCircuit[] = {
+    {.symbol = Symbol::terminal, .from = {200, 30}, .name = "E_s", .side = Side::right},
+    {.symbol = Symbol::wire, .from = {200, 30}, .to = {200, 40}},
+    {.symbol = Symbol::resistor, .from = {200, 40}, .to = {200, 100}, .name = "R_L", .side = Side::right},
+    {.symbol = Symbol::wire, .from = {200, 100}, .to = {200, 120}},
+    {.symbol = Symbol::node, .from = {200, 110}},
+    {.symbol = Symbol::resistor, .from = {200, 110}, .to = {130, 110}, .name = "R_b1", .side = Side::above},
+    {.symbol = Symbol::polyline, .points = baseLead},
+    {.symbol = Symbol::resistor, .from = {130, 150}, .to = {130, 220}, .name = "R_b2", .side = Side::left},
+    {.symbol = Symbol::ground, .from = {130, 220}},
+    {.symbol = Symbol::npn, .from = {170, 150}, .name = "Q_1", .side = Side::right},
+    {.symbol = Symbol::wire, .from = {200, 180}, .to = {200, 220}},
+    {.symbol = Symbol::ground, .from = {200, 220}},
+    {.symbol = Symbol::terminal, .from = {50, 150}},
+    {.symbol = Symbol::capacitor, .from = {50, 150}, .to = {130, 150}, .name = "C_in", .side = Side::above},
+    {.symbol = Symbol::node, .from = {130, 150}},
+    {.symbol = Symbol::capacitor, .from = {200, 110}, .to = {280, 110}, .name = "C_out", .side = Side::below},
+    {.symbol = Symbol::terminal, .from = {280, 110}},
+};
+
+constexpr host::Place wings{600, 7500, 900, 750};
+constexpr host::ControlRow controls[] = {
+    {.id = Picture1, .name = "Picture1", .kind = Kind::picture, .place = {600, 1200, 5100, 4200},
+     .meaning = {.es = "Circuito simple", .en = "Simple circuit"}, .drawing = simpleCircuit},
+    {.id = Picture2, .name = "Picture2", .kind = Kind::picture, .place = {6300, 1200, 5100, 4200},
+     .meaning = {.es = "Circuito estable", .en = "Stable circuit"}, .drawing = stableCircuit},
+    {.id = Command1, .name = "Command1", .kind = Kind::button, .place = {3300, 7800, 2100, 600}, .text = "Empezar", .visible = false},
+    {.id = Command2, .name = "Command2", .kind = Kind::button, .place = {2100, 5700, 2100, 600}, .text = "Simple"},
+    {.id = Command3, .name = "Command3", .kind = Kind::button, .place = {7800, 5700, 2100, 600}, .text = "Estable"},
+    {.id = Command4, .name = "Command4", .kind = Kind::button, .place = {3300, 7800, 2100, 600}, .text = "Empezar", .visible = false},
+    {.id = Command5, .name = "Command5", .kind = Kind::button, .place = {900, 7800, 2100, 600}, .text = "Formulas", .visible = false},
+    {.id = SSCommand1, .name = "SSCommand1", .kind = Kind::button, .place = {5700, 7800, 2100, 600}, .text = " 'Salir..."},
+    {.id = SSCommand2, .name = "SSCommand2", .kind = Kind::button, .place = {8100, 7800, 2100, 600}, .text = "Volver", .visible = false},
+    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {600, 600, 5100, 480}, .look = Look::heading},
+    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {6300, 600, 5100, 480}, .look = Look::heading},
+    {.id = Label3, .name = "Label3", .kind = Kind::label, .place = {600, 300, 10800, 7200}, .visible = false, .look = Look::prompt},
+    {.id = Label4, .name = "Label4", .kind = Kind::label, .place = {300, 150, 7500, 7500}, .visible = false, .look = Look::prompt},
+    {.id = Label5, .name = "Label5", .kind = Kind::label, .place = {7950, 150, 3760, 8175}, .visible = false, .look = Look::prompt},
+    {.id = Timer1, .name = "Timer1", .kind = Kind::timer, .interval = butterfly::interval},
+    {.id = Main, .name = "Main", .kind = Kind::image, .place = wings},
+    {.id = OpenWings, .name = "OpenWings", .kind = Kind::image, .place = wings, .visible = false, .drawing = butterfly::openWings},
+    {.id = CloseWings, .name = "CloseWings", .kind = Kind::image, .place = wings, .visible = false, .drawing = butterfly::closedWings},
+};
+static_assert(host::rowsInOrder(controls));
+
+constexpr host::SlotRow slots[] = {
+    {host::noControl, Event::load,     slot<&Form7::load>},
+    {host::noControl, Event::activate, slot<&Form7::activate>},
+    {Command1,        Event::click,    slot<&Form7::startStable>},
+    {Command2,        Event::click,    slot<&Form7::chooseSimple>},
+    {Command3,        Event::click,    slot<&Form7::chooseStable>},
+    {Command4,        Event::click,    slot<&Form7::startSimple>},
+    {Command5,        Event::click,    slot<&Form7::showFormulas>},
+    {SSCommand1,      Event::click,    slot<&Form7::leave>},
+    {Timer1,          Event::timer,    slot<&Form7::flap>},
+};
+
+constexpr host::Handle order[] = {Command2, Command3, Command4, Command1, Command5, SSCommand1, SSCommand2};
+// clang-format on
+
+} // namespace table
+
+const host::WindowSpec spec{
+    .name = "Form7",
+    .role = host::Role::tool,
+    .caption = "Circuitos Realimentados por Tensión",
+    .place = {0, 0, 12000, 8700},
+    .controls = table::controls,
+    .slots = table::slots,
+    .tabOrder = table::order,
+    .create = create,
+};
+
+std::unique_ptr<host::Window> create(host::SheetHost& host)
+{
+    return std::make_unique<Form7>(host);
+}
+
+} // namespace velmor::form7
