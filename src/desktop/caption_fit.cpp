@@ -81,6 +81,10 @@ Manner mannerOf(const host::ControlRow& row)
     case Kind::panel:
         manner = {.padding = {8.0, 4.0, 8.0, 4.0}, .alignment = Qt::AlignCenter};
         break;
+    case Kind::label:
+        if (row.look == Look::toolButton)
+            manner = {.padding = {4.0, 2.0, 4.0, 2.0}, .alignment = Qt::AlignCenter};
+        break;
     case Kind::picture:
     case Kind::image:
         manner = {.padding = {4.0, 2.0, 4.0, 3.0}};

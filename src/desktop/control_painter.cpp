@@ -312,9 +312,10 @@ void paintLine(const Scene& scene)
 
 void paintShape(const Scene& scene)
 {
+    const bool marked = scene.state().backColor >= 0;
     if (scene.row().drawing.empty())
-        plate(scene, scene.state().backColor >= 0 ? colorOf(scene.state().backColor) : QColor(), scene.inks().rule, 4.0,
-              hairline(scene));
+        plate(scene, marked ? colorOf(scene.state().backColor) : QColor(), marked ? scene.inks().accent : scene.inks().rule,
+              4.0, hairline(scene) * (marked ? 2.0 : 1.0));
     paintDrawing(scene);
 }
 

@@ -43,6 +43,7 @@ void showPicture(host::Window& main, std::size_t shown)
     main.setPlaceOf(picture, place);
     for (std::size_t i = 0; i < main_window::pagePictureCount; ++i)
         main.setVisible(element(main_window::Picture1, i), i == shown);
+    main.hide(main_window::Image1);
 }
 
 void hideNotes(host::Window& main)
@@ -136,6 +137,7 @@ void ClearDesignPage(host::SheetHost& host)
         main.hide(main_window::Label21);
     for (std::size_t i = 0; i < main_window::pagePictureCount; ++i)
         main.hide(element(main_window::Picture1, i));
+    main.show(main_window::Image1);
     hideNotes(main);
     main.hide(main_window::Label1);
     putTop(main, main_window::Label1, pageTop);

@@ -5,6 +5,8 @@
 
 #include "frame/button_drawings.h"
 #include "frame/mdi_form1.h"
+#include "frame/mdi_form1_layout.h"
+#include "frame/page_drawings.h"
 
 namespace velmor::main_window {
 
@@ -19,7 +21,7 @@ namespace controls_table {
 
 constexpr int windowWidth = 20250;
 constexpr int windowHeight = 10125;
-constexpr int barWidth = 2400;
+constexpr int barWidth = circuitBar.width;
 constexpr host::Place pagePlace{0, headPictureHeight, windowWidth - 2 * barWidth, 7000};
 
 constexpr host::Mark guideDrawing[] = {{.symbol = host::Symbol::book, .from = {16, 18}, .to = {52, 54}, .ink = host::Ink::accent}};
@@ -108,23 +110,24 @@ constexpr host::ControlRow controls[] = {
     {.id = mnudise,           .name = "mnudise",          .kind = Kind::menu, .parent = mnuContexto},
 
     {.id = SSPanel1, .name = "SSPanel1", .kind = Kind::panel, .place = {barWidth, 0, windowWidth - barWidth, windowHeight}, .look = Look::group},
+    {.id = Image1,   .name = "Image1",   .kind = Kind::image, .place = {700, 3200, 16000, 5000}, .look = Look::paper, .drawing = page_drawings::emblem, .parent = SSPanel1},
     {.id = Label35,  .name = "Label35",  .kind = Kind::label, .place = {700, 450, 9000, 1100}, .look = Look::title, .parent = SSPanel1, .fontSize = 36},
     {.id = Label3,   .name = "Label3",   .kind = Kind::label, .place = {700, 1600, 9000, 400}, .look = Look::heading, .parent = SSPanel1, .fontSize = 12},
     {.id = Label4,   .name = "Label4",   .kind = Kind::label, .place = {700, 2050, 9000, 700}, .parent = SSPanel1, .fontSize = 10},
 
-    {.id = Picture1, .name = "Picture1", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::longTailedPair},
-    {.id = Picture2, .name = "Picture2", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::cascodePair},
-    {.id = Picture3, .name = "Picture3", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::commonBase},
-    {.id = Picture4, .name = "Picture4", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::currentSource},
-    {.id = Picture5, .name = "Picture5", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::paraphase},
-    {.id = Picture6, .name = "Picture6", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::emitterFollower},
-    {.id = Picture7, .name = "Picture7", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::classADarlington},
-    {.id = Picture8, .name = "Picture8", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::classASimple},
-    {.id = Picture9, .name = "Picture9", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::classBSimple},
-    {.id = Picture10, .name = "Picture10", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::classBDarlington},
-    {.id = Picture11, .name = "Picture11", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::commonEmitter},
-    {.id = Picture12, .name = "Picture12", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::voltageFeedback},
-    {.id = Picture13, .name = "Picture13", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = palette::button_drawings::ornament},
+    {.id = Picture1, .name = "Picture1", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::longTailedPair},
+    {.id = Picture2, .name = "Picture2", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::cascodePair},
+    {.id = Picture3, .name = "Picture3", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::commonBase},
+    {.id = Picture4, .name = "Picture4", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::currentSource},
+    {.id = Picture5, .name = "Picture5", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::paraphase},
+    {.id = Picture6, .name = "Picture6", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::emitterFollower},
+    {.id = Picture7, .name = "Picture7", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::classADarlington},
+    {.id = Picture8, .name = "Picture8", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::classASimple},
+    {.id = Picture9, .name = "Picture9", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::classBSimple},
+    {.id = Picture10, .name = "Picture10", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::classBDarlington},
+    {.id = Picture11, .name = "Picture11", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::commonEmitter},
+    {.id = Picture12, .name = "Picture12", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::voltageFeedback},
+    {.id = Picture13, .name = "Picture13", .kind = Kind::image, .place = pagePlace, .visible = false, .look = Look::paper, .drawing = page_drawings::poemPicture},
 
     {.id = Label1,  .name = "Label1",  .kind = Kind::label, .place = {100, 20, 6000, 3400}, .visible = false, .look = Look::prompt, .fontSize = 11},
     {.id = Label21, .name = "Label21", .kind = Kind::label, .place = {100, 20, 3700, 2000}, .visible = false, .look = Look::hint, .fontSize = 11},

@@ -37,7 +37,7 @@ enum Control : host::Handle {
     mnuayu, mnuayuda, mnuAcerca, mnuActu, mnuvac,
     mnuContexto, mnudise,
     // welcome panel and pages
-    SSPanel1, Label35, Label3, Label4,
+    SSPanel1, Image1, Label35, Label3, Label4,
     Picture1, Picture2, Picture3, Picture4, Picture5, Picture6, Picture7, Picture8, Picture9, Picture10, Picture11,
     Picture12, Picture13,
     Label1, Label21, Label20, Label22, Label24, Label25, Label26, Label33,

@@ -1,40 +1,47 @@
 // SPDX-License-Identifier: MIT
-// Where the real main window shows the circuit bar and the welcome panel. The places that the slots read and write are
-// told by the program's rules and overlap; these do not.
+// Where the real window shows the circuit bar and the welcome panel. The places that the slots read and write are told by
+// the program's rules and overlap; these do not: a bar of two columns, and a page with its text to the left of its picture.
+#include "frame/mdi_form1_layout.h"
+
 #include "frame/mdi_form1_controls.h"
 
 namespace velmor::main_window {
 
 namespace layout_table {
 
-using host::Handle;
-using host::Place;
+constexpr int barWidth = 2400;
+constexpr int left = barWidth + 600;
+constexpr int textWidth = 8300;
+constexpr int top = pageStrip.top;
+constexpr host::Place header{left, 500, 10000, 1150};
+constexpr host::Place subtitle{left, 1650, 10000, 420};
+constexpr host::Place advice{left, 2080, 10000, 640};
+constexpr host::Place picture{left + 8700, top + 150, 8100, 4700};
+constexpr host::Place pageText{left, top + 200, textWidth, 2150};
+constexpr host::Place maxim{left, top + 2500, textWidth, 800};
+constexpr host::Place notes{left, top + 3450, textWidth, 1400};
+constexpr host::Place emblem{left, top + 250, 16650, 4500};
+constexpr host::Place stanzasLeft{left, top + 200, 4050, 4600};
+constexpr host::Place stanzasRight{left + 4250, top + 200, 4050, 4600};
 
-constexpr int columnWidth = 1130;
-constexpr int rowHeight = 1170;
-constexpr int margin = 90;
+constexpr int columns = 2;
+constexpr host::Place firstButton{120, 160, 1040, 1080};
+constexpr int columnStep = 1120;
+constexpr int rowStep = 1200;
+constexpr int halo = 30;
+constexpr host::Place guide{firstButton.left + columnStep, firstButton.top + 6 * rowStep, 1040, 1080};
+constexpr host::Place all{firstButton.left, firstButton.top + 7 * rowStep, 2160, 520};
 
-constexpr Place panelPlace{0, 0, 17850, 10125};
-constexpr Place picturePlace{9200, 2600, 8000, 5700};
-constexpr Place notePlace{11000, 500, 6300, 1900};
-
-constexpr Place cell(int index)
+host::Place buttonPlace(int index)
 {
-    return {margin + index % 2 * columnWidth, margin + index / 2 * rowHeight, columnWidth - 60, rowHeight - 60};
+    return {firstButton.left + index % columns * columnStep, firstButton.top + index / columns * rowStep, firstButton.width,
+            firstButton.height};
 }
 
-Place barPlace(Handle control)
+host::Place shapePlace(int index)
 {
-    constexpr int last = 12;
-    if (control >= Shape1_0 && control <= Shape1_12) {
-        const Place button = cell(control - Shape1_0);
-        return {button.left - 20, button.top - 20, button.width + 40, button.height + 40};
-    }
-    if (control >= imgButton0 && control < imgButton0 + last)
-        return cell(control - imgButton0);
-    if (control == imgButton12)
-        return cell(last + 3);
-    return control == lblButton ? cell(last) : cell(last + 1);
+    const host::Place button = buttonPlace(index);
+    return {button.left - halo, button.top - halo, button.width + 2 * halo, button.height + 2 * halo};
 }
 
 } // namespace layout_table
@@ -42,22 +49,43 @@ Place barPlace(Handle control)
 host::Place shownPlaceOf(const host::Window& window, host::Handle control)
 {
     using namespace layout_table;
-    if (control == Picture14)
-        return window.row(control).place;
-    if (control >= Shape1_0 && control <= Image29)
-        return barPlace(control);
+    const bool poem = window.visible(Picture13);
     if (control >= Picture1 && control <= Picture13)
-        return picturePlace;
+        return picture;
+    if (control >= Shape1_0 && control <= Shape1_12)
+        return shapePlace(control - Shape1_0);
+    if (control >= imgButton0 && control <= imgButton12)
+        return buttonPlace(control - imgButton0);
     switch (control) {
-    case SSPanel1: return panelPlace;
-    case Label35:  return {900, 700, 9500, 1100};
-    case Label3:   return {900, 1900, 9500, 450};
-    case Label4:   return {900, 2450, 8000, 900};
-    case Label1:   return {900, 3600, 7900, 3200};
-    case Label21:  return {900, 6950, 7900, 1350};
-    case Label20: case Label22: case Label24: case Label25: case Label26: case Label33:
-        return notePlace;
-    default:       return window.placeOf(control);
+    case Label35:
+        return header;
+    case Label3:
+        return subtitle;
+    case Label4:
+        return advice;
+    case Label1:
+        return poem ? stanzasLeft : pageText;
+    case Label21:
+        return poem ? stanzasRight : maxim;
+    case Label20:
+    case Label22:
+    case Label24:
+    case Label25:
+    case Label26:
+    case Label33:
+        return notes;
+    case lblButton:
+        return all;
+    case Image29:
+        return guide;
+    case Image1:
+        return emblem;
+    case SSPanel1:
+        return welcomePanel;
+    case Picture14:
+        return circuitBar;
+    default:
+        return window.placeOf(control);
     }
 }
 
