@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "designs/common_emitter/form2.h"
 #include "frame/form16_controls.h"
 #include "frame/mdi_form1_controls.h"
 #include "editors/editor.h"
@@ -26,6 +27,7 @@ host::Catalogue catalogue()
     static const std::vector<const host::WindowSpec*> windows{
         &main_window::spec,
         &palette::spec,
+        &form2::spec,
         &editors::frmEditor,
         &editors::frmEdito1,
         &editors::frmEdito2,

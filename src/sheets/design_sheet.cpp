@@ -37,8 +37,7 @@ using namespace design_sheet_texts;
 
 DesignSheet::DesignSheet(host::SheetHost& host, const host::WindowSpec& window, const SheetSpec& sheet)
     : host::Window(host, window), sheet_(sheet)
-{
-}
+{}
 
 std::string DesignSheet::MiFiltro() const
 {
@@ -51,6 +50,8 @@ void DesignSheet::Abrir()
     if (!reader)
         return;
     for (const FileLine& line : sheet_.read) {
+        if (line.showFirst)
+            show(line.control);
         const std::optional<std::string> read = reader->readLine();
         if (!read)
             return;

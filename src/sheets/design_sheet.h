@@ -18,14 +18,15 @@ namespace velmor::sheets {
 /// One line of a circuit file. `noControl` is a line that carries no value.
 struct FileLine {
     host::Handle control = host::noControl;
-    bool show = false; ///< reading makes the control visible
+    bool show = false;      ///< reading makes the control visible
+    bool showFirst = false; ///< visible before its line is read, so also where the file ends before it
 };
 
 /// What the files and reports of one sheet are, as data.
 struct SheetSpec {
-    host::BiText filter{};                 ///< `MiFiltro`
-    std::span<const FileLine> written{};   ///< order in which `Datos` writes
-    std::span<const FileLine> read{};      ///< order in which `Abrir` reads
+    host::BiText filter{};                           ///< `MiFiltro`
+    std::span<const FileLine> written{};             ///< order in which `Datos` writes
+    std::span<const FileLine> read{};                ///< order in which `Abrir` reads
     host::Handle temperatureField = host::noControl; ///< takes `TemperaturaCompartida` when it gets the focus
 };
 

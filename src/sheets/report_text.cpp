@@ -58,7 +58,7 @@ ReportText& ReportText::rows(const host::Window& sheet, std::span<const ReportRo
     return *this;
 }
 
-ReportText& ReportText::heading(const DesignSheet& sheet, std::string_view title, std::string_view designName, bool airy)
+ReportText& ReportText::opening(const DesignSheet& sheet, std::string_view title, bool airy)
 {
     const auto pick = [&sheet](std::string_view es, std::string_view en) { return std::string(sheet.pick({es, en})); };
     twoSteps(title);
@@ -68,10 +68,13 @@ ReportText& ReportText::heading(const DesignSheet& sheet, std::string_view title
     oneStep(pick("Curso: ", "Course: "));
     oneStep(pick("Fecha: ", "Date: ") + sheet.host().Date());
     oneStep(pick("Hora: ", "Time: ") + sheet.host().Time());
-    if (airy)
-        empty();
-    twoSteps(designName);
-    return empty();
+    return airy ? empty() : *this;
+}
+
+ReportText& ReportText::heading(const DesignSheet& sheet, std::string_view title, std::string_view designName,
+                                bool airy)
+{
+    return opening(sheet, title, airy).twoSteps(designName).empty();
 }
 
 } // namespace velmor::sheets

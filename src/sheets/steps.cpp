@@ -37,13 +37,29 @@ std::int16_t filteredKey(DesignSheet& sheet, host::EventArgs& args)
     return args.key;
 }
 
+Press pressed(DesignSheet& sheet, host::EventArgs& args, const BoxText& whenEmpty)
+{
+    const std::int16_t key = filteredKey(sheet, args);
+    if (key == escapeKey)
+        return Press::escape;
+    if (key != enterKey)
+        return Press::nothing;
+    if (isEmpty(sheet, args.control)) {
+        say(sheet, whenEmpty);
+        return Press::nothing;
+    }
+    makeBare(sheet, args.control);
+    return Press::enter;
+}
+
 rules::Real number(const host::Window& window, Handle control)
 {
     return rules::ParseLeadingNumber(window.text(control));
 }
 
-rules::Real strictNumber(const DesignSheet& sheet, Handle field)
+rules::Real strictNumber(DesignSheet& sheet, Handle field)
 {
+    makeBare(sheet, field);
     return rules::StrictNumber(sheet.text(field), sheet.decimalSeparator());
 }
 
@@ -91,7 +107,8 @@ bool correctFrom(DesignSheet& sheet, Handle field, double low, double otherwise)
 
 void goTo(DesignSheet& sheet, Handle field)
 {
-    sheet.setEnabled(field, true);
+    sheet.show(field);
+    sheet.enable(field);
     sheet.host().SetFocus(sheet, field);
 }
 
@@ -119,6 +136,17 @@ void clone(DesignSheet& sheet, const ClonePair& pair, Handle clicked)
 void showCalculator(DesignSheet& sheet)
 {
     sheet.host().Show("Calculator");
+}
+
+void showBarAsChosen(host::SheetHost& host)
+{
+    host::Window* mainWindow = host.find("MDIForm1");
+    if (mainWindow == nullptr)
+        return;
+    host::EventArgs args;
+    args.control = mainWindow->named("mnudise");
+    if (args.control != host::noControl)
+        mainWindow->runSlot(args.control, host::Event::click, args);
 }
 
 void rearrange(host::SheetHost& host)

@@ -29,10 +29,20 @@ extern const BoxText placeANumber;
 /// `modificado` set. Returns the filtered key, which is also the event's key from then on.
 std::int16_t filteredKey(DesignSheet& sheet, host::EventArgs& args);
 
+/// What a key press asks of a field of the chain.
+enum class Press : std::uint8_t {
+    nothing, ///< an ordinary key, or Enter in the empty field, which has been told so
+    enter,   ///< go on; the field is bare by now
+    escape,  ///< take the default and go on
+};
+/// A key press in `args.control`, filtered first. Enter in an empty field shows `whenEmpty` and asks nothing; Enter in a
+/// filled one rewrites it as its bare number before anything else of the step.
+Press pressed(DesignSheet& sheet, host::EventArgs& args, const BoxText& whenEmpty);
+
 /// The number that a field's or caption's text begins with.
 rules::Real number(const host::Window& window, host::Handle control);
-/// The number of a text that is bare by now; ends the program when it is none.
-rules::Real strictNumber(const DesignSheet& sheet, host::Handle field);
+/// The number of a field that must hold nothing else: it is rewritten as its bare number first.
+rules::Real strictNumber(DesignSheet& sheet, host::Handle field);
 
 /// Writes a number into a field: up to 15 digits.
 void writeNumber(DesignSheet& sheet, host::Handle control, rules::Real value);
@@ -49,7 +59,7 @@ void makeBare(DesignSheet& sheet, host::Handle field);
 bool correctToRange(DesignSheet& sheet, host::Handle field, double low, double high, double otherwise);
 bool correctFrom(DesignSheet& sheet, host::Handle field, double low, double otherwise);
 
-/// Enables the field and gives it the focus.
+/// Shows and enables the control and gives it the focus.
 void goTo(DesignSheet& sheet, host::Handle field);
 
 /// Shows a box in the language of the moment; returns its answer.
@@ -64,6 +74,9 @@ struct ClonePair {
 void clone(DesignSheet& sheet, const ClonePair& pair, host::Handle clicked);
 
 void showCalculator(DesignSheet& sheet);
+
+/// The main window's bar routine: brings up the bar that the student has chosen.
+void showBarAsChosen(host::SheetHost& host);
 
 /// Re-applies the arrangement of the main window's marks; cascades, and marks `mnuCas`, when there is none.
 void rearrange(host::SheetHost& host);

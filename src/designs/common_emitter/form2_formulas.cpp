@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+// The formulas, operation by operation as the course writes them.
+#include "designs/common_emitter/form2_formulas.h"
+
+namespace velmor::form2 {
+
+namespace formulas_detail {
+
+constexpr double junctionMillivolts = 25.0;
+constexpr double twoPi = 6.28;
+constexpr double tenth = 0.1;
+constexpr double million = 1000000.0;
+constexpr double fixedJunction = 0.6;
+
+} // namespace formulas_detail
+
+using namespace formulas_detail;
+
+Real stabilityVoltage(Real temperature, Real drift, Real allowedChange)
+{
+    return ((temperature - 20.0) * (drift / 1000.0) * 100.0) / allowedChange;
+}
+
+Real idealEmitterResistor(Real emitterVoltage, Real QIc)
+{
+    return emitterVoltage / (QIc / 1000.0);
+}
+
+Real junctionResistance(Real QIc)
+{
+    return junctionMillivolts / QIc;
+}
+
+Real quiescentCurrent(Real emitterVoltage, Real Res)
+{
+    return (emitterVoltage / Res) * 1000.0;
+}
+
+Real bypassedLoad(Real Vg, Real QIc)
+{
+    return Vg * junctionResistance(QIc);
+}
+
+Real unbypassedLoad(Real Vg, Real Res)
+{
+    return Vg * Res;
+}
+
+Real collectorResistor(Real RLw, Real RLac)
+{
+    return (RLw * RLac) / (RLw - RLac);
+}
+
+Real parallel(Real one, Real other)
+{
+    return (one * other) / (one + other);
+}
+
+Real realGain(Real RLac, Real Res)
+{
+    return RLac / (Res / 1000.0);
+}
+
+Real inputForOutput(Real Eopp, Real Vg)
+{
+    return (Eopp / 2.0 * 0.707) / Vg;
+}
+
+Real outputForInput(Real Ein, Real Vg)
+{
+    return Ein * 1.41 * 2.0 * Vg;
+}
+
+Real leastSupply(Real ERes, Real ERL, Real Eopp)
+{
+    return ERes + ERL + Eopp + 1.0;
+}
+
+Real collectorEmitterVoltage(Real Es, Real QIc, Real Res, Real RL)
+{
+    return Es - ((QIc / 1000.0) * Res + RL * QIc);
+}
+
+Real collectorEmitterVoltageByEmitter(Real Es, Real QIc, Real RL)
+{
+    return Es - RL * QIc;
+}
+
+CurrencyValue lowerBaseResistor(Real Res, Real S)
+{
+    return CurrencyValue(Res * S);
+}
+
+Real stabilityFactor(CurrencyValue Rb2, Real Res)
+{
+    return rules::TruncToInteger((1000.0 * Real(Rb2.toDouble())) / Res);
+}
+
+Real transistorInput(Real Beta, Real emitterResistance)
+{
+    return Beta * emitterResistance;
+}
+
+Real inputWithoutRb1(Real Rb2, Real BRes)
+{
+    return parallel(Rb2, BRes);
+}
+
+Real upperBaseVoltage(Real Es, Real QIc, Real RL, Real Res, Real Vj)
+{
+    return Es - (QIc / 1000.0 * RL + QIc * Res / 1000.0) + QIc * (RL / 1000.0) - Vj;
+}
+
+Real upperBaseResistor(Real ERb1, Real Rin, Real Res, Real QIc, Real Vj)
+{
+    return (ERb1 * Rin) / ((((Res / 1000.0) * QIc) / 1000.0) * 1000.0 + Vj);
+}
+
+Real inputImpedance(Real Rin, Real Rb1)
+{
+    return parallel(Rin, Rb1);
+}
+
+Real inputImpedanceBypassed(Real Rb2, Real Rb1, Real BRes)
+{
+    const Real divider = parallel(Rb2, Rb1);
+    return (divider * BRes / 1000.0) / (divider + BRes / 1000.0);
+}
+
+Real inputImpedanceByEmitter(Real Rb2, Real Beta, Real QIc)
+{
+    return parallel(Rb2 * 1000.0, Beta * junctionResistance(QIc));
+}
+
+Real inputImpedanceFirstBootstrap(Real Beta, Real Res, Real Rb2, Real Rb1)
+{
+    const Real transistor = Beta * (Res + (Res * (Rb2 / 2.0)) / (Rb2 / 2.0));
+    return parallel(Rb1, transistor);
+}
+
+Real inputImpedanceBootstrapped(Real Beta, Real Res, Real Rb2, Real Rb1)
+{
+    const Real halves = parallel(Rb2 / 2.0, Rb1 / 2.0);
+    return Beta * parallel(Res, halves);
+}
+
+Real couplingCapacitor(Real fo, Real R)
+{
+    return (1.0 / ((fo * twoPi * tenth) * R)) * million;
+}
+
+Real firstBootstrapCapacitor(Real Rb2, Real fo)
+{
+    return (1.0 / (((Rb2 * 1000.0) * (fo * twoPi * tenth)) / 2.0)) * million;
+}
+
+Real secondBootstrapCapacitor(Real Rb1, Real fo)
+{
+    return (1.0 / (((fo * twoPi * tenth) * (Rb1 * 1000.0)) / 2.0)) * million;
+}
+
+Real bypassCapacitor(Real QIc, Real fo)
+{
+    return rules::TruncToInteger((1.0 / ((0.025 / (QIc / 1000.0)) * (fo * twoPi))) * million);
+}
+
+Real obtainedCurrent(const CurrentCheck& circuit)
+{
+    const Real ERes = circuit.Res * (circuit.QIc / 1000.0);
+    const Real Eq = circuit.Es - (circuit.RL * circuit.QIc + ERes);
+    const Real upper = ((Eq + circuit.RL * circuit.QIc) - fixedJunction) / (circuit.Rb1 * 1000.0);
+    const Real lower = (ERes + fixedJunction) / (circuit.Rb2 * 1000.0);
+    return (upper - lower) * circuit.Beta * 1000.0;
+}
+
+} // namespace velmor::form2
