@@ -35,10 +35,10 @@ make_tree() {
     cp -L /etc/resolv.conf "$tree/etc/resolv.conf"
 }
 
-# inside COMMAND...: in the tree, with mounts and processes of its own that end with the command.
+# inside COMMAND...: in the tree, with mounts and processes of its own that end with the command. For a subshell alone.
 inside() {
     # shellcheck disable=SC2016
-    unshare --mount --pid --fork --kill-child bash -c '
+    exec unshare --mount --pid --fork --kill-child bash -c '
         mount --make-rprivate / && mount -t proc proc "$1/proc" && mount --rbind /dev "$1/dev" &&
             mount -t tmpfs tmpfs "$1/dev/shm" || exit
         tree=$1
@@ -48,14 +48,14 @@ inside() {
 
 timed() {
     local started=$SECONDS
-    "$@"
+    (inside "$@") </dev/null
     say "$((SECONDS - started)) seconds: ${*: -1}"
 }
 
 try_test() {
     make_tree
-    timed inside /root/velmor/test </dev/null
-    timed inside /root/velmor/test </dev/null
+    timed /root/velmor/test
+    timed /root/velmor/test
 }
 
 # The X server in the tree answers out here too: the network is shared.

@@ -5,12 +5,30 @@
 virtual_display_ids=()
 virtual_display_folder=$(mktemp -d)
 
+has_ended() {
+    local line
+    # What has ended and was not waited for yet is a zombie.
+    { read -r line <"/proc/$1/stat"; } 2>/dev/null || return 0
+    [[ $line == *") Z "* ]]
+}
+
+# An X server without clients may sleep over the signal that ends it for ten minutes: it is sent until it is heard.
+end_process() {
+    local left
+    for ((left = 100; left > 0; left--)); do
+        ! has_ended "$1" || break
+        kill -TERM "$1" 2>/dev/null || break
+        sleep 0.02
+    done
+    ((left > 0)) || kill -KILL "$1" 2>/dev/null || true
+    wait "$1" 2>/dev/null || true
+}
+
 end_virtual_display() {
     local id
     # The last started goes first: the X server ends after those that draw on it.
     for ((id = ${#virtual_display_ids[@]} - 1; id >= 0; id--)); do
-        kill "${virtual_display_ids[id]}" 2>/dev/null || true
-        wait "${virtual_display_ids[id]}" 2>/dev/null || true
+        end_process "${virtual_display_ids[id]}"
     done
     rm -rf -- "$virtual_display_folder"
 }
@@ -36,6 +54,10 @@ start_virtual_display() {
     DISPLAY=:$(<"$number")
     export DISPLAY
     unset WAYLAND_DISPLAY
+    if [[ -z ${XDG_RUNTIME_DIR:-} ]]; then
+        # The folder is open to its owner alone, as it must be.
+        export XDG_RUNTIME_DIR=$virtual_display_folder
+    fi
     openbox --sm-disable --startup "touch $virtual_display_folder/managed" >"$virtual_display_folder/openbox.log" 2>&1 &
     virtual_display_ids+=($!)
     until_true 20 test -e "$virtual_display_folder/managed" || stop "The window manager did not start."

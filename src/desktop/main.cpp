@@ -3,6 +3,7 @@
 #include <clocale>
 
 #include <QApplication>
+#include <QIcon>
 #include <QTimer>
 
 #include "desktop/control_pane.h"
@@ -18,6 +19,7 @@ int main(int argumentCount, char** arguments)
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("Velmor"));
     QApplication::setDesktopFileName(QStringLiteral("velmor"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/velmor.png")));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(velmor::desktop::programIcon());
     QApplication::setStyle(QStringLiteral("Fusion"));
