@@ -3,7 +3,6 @@
 #include <clocale>
 
 #include <QApplication>
-#include <QIcon>
 #include <QTimer>
 
 #include "desktop/control_pane.h"
@@ -19,7 +18,6 @@ int main(int argumentCount, char** arguments)
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName(QStringLiteral("Velmor"));
     QApplication::setDesktopFileName(QStringLiteral("velmor"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/velmor.png")));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setWindowIcon(velmor::desktop::programIcon());
     QApplication::setStyle(QStringLiteral("Fusion"));
