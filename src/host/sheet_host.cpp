@@ -147,6 +147,11 @@ bool SheetHost::canShow(std::string_view name)
     return engine_.specOf(name) != nullptr;
 }
 
+Place SheetHost::clientArea()
+{
+    return engine_.clientArea();
+}
+
 Window& SheetHost::mainWindow()
 {
     return engine_.mainWindow();

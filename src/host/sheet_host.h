@@ -61,6 +61,7 @@ public:
     Window* find(std::string_view name);
     bool canShow(std::string_view name); ///< the program has a window of that name
     Window& mainWindow();
+    Place clientArea(); ///< inner area of the main window
     Window* activeChild();
     /// All loaded windows in order of creation.
     std::vector<Window*> windows();

@@ -6,6 +6,7 @@
 
 #include "designs/common_emitter/form2.h"
 #include "frame/form16_controls.h"
+#include "designs/differential/form3_controls.h"
 #include "frame/mdi_form1_controls.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
@@ -26,6 +27,7 @@ host::Catalogue catalogue()
 {
     static const std::vector<const host::WindowSpec*> windows{
         &main_window::spec,
+        &form3::spec,
         &palette::spec,
         &form2::spec,
         &editors::frmEditor,

@@ -18,7 +18,14 @@ ReportText& ReportText::empty()
 
 ReportText& ReportText::plain(std::string_view text)
 {
-    text_.append(text).append(report_detail::lineEnd);
+    // A caption of several lines becomes several lines of the report.
+    for (const char letter : text) {
+        if (letter == '\n')
+            text_.append(report_detail::lineEnd);
+        else
+            text_.push_back(letter);
+    }
+    text_.append(report_detail::lineEnd);
     return *this;
 }
 

@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+// The formulas of the long-tailed pair. Their order of multiplication and division decides the last digit.
+#include "designs/differential/form3_formulas.h"
+
+#include "frame/rules/numbers.h"
+
+namespace velmor::form3 {
+
+Real leastERes(Real T, Real dVbe, Real dQic)
+{
+    return ((T - 20.0) * dVbe * 100.0 * 0.001) / dQic;
+}
+
+Real einOf(Real Eopp, Real Vg)
+{
+    return ((Eopp / 2.0) * 0.707) / Vg;
+}
+
+Real eoppOf(Real Ein, Real Vg)
+{
+    return ((Ein * 1.41) * 2.0) * Vg;
+}
+
+Real resOf(Real Ebias, Real QIc)
+{
+    return Ebias / (QIc * 2.0);
+}
+
+Real dynamicRe(Real TailCurrent)
+{
+    return Real(25.0) / (TailCurrent / 2.0);
+}
+
+Real rlacOf(Real Vg, Real ReDyn)
+{
+    return (Vg * 2.5) * ReDyn;
+}
+
+bool loadEqualsRlac(Real RLw, Real RLac)
+{
+    return RLw * 1000.0 - RLac == Real(0.0);
+}
+
+Real rlOf(Real RLw, Real RLac)
+{
+    return ((RLw * 1000.0) * RLac) / ((RLw * 1000.0) - RLac);
+}
+
+Real rlForEopp(Real Eopp, Real QIc)
+{
+    return rules::TruncToInteger(((Eopp / 2.0) + 1.0) / QIc);
+}
+
+Real zinOf(Real Beta, Real ReDyn)
+{
+    return (Beta * 2.0) * ReDyn;
+}
+
+Real cciOf(Real fo, Real Zin)
+{
+    return Real(1.0) / (((Real(6.28) * fo) * 0.1) * Zin);
+}
+
+Real ccoOf(Real fo, Real RLw)
+{
+    return Real(1.0) / ((((Real(6.28) * fo) * 0.1) * RLw) * 1000.0);
+}
+
+Real vgOf(Real RL, Real RLw, Real ReDyn)
+{
+    const Real rl = RL * 1000.0;
+    const Real rlw = RLw * 1000.0;
+    return ((rl * rlw) / (rl + rlw)) / (Real(2.5) * ReDyn);
+}
+
+Real vrms(const Quantities& q)
+{
+    return (q.Eopp / 2.0) * 0.707;
+}
+
+Real outputPower(const Quantities& q)
+{
+    return vrms(q) * vrms(q) / q.RLac;
+}
+
+Real inputPower(const Quantities& q)
+{
+    return ((q.Ein * q.Ein) / q.Zin) * 1000.0;
+}
+
+Real collectorVoltage(const Quantities& q)
+{
+    return q.EQ;
+}
+
+Real collectorCurrent(const Quantities& q)
+{
+    return q.QIc;
+}
+
+Real bothCurrents(const Quantities& q)
+{
+    return q.QIc * 2.0;
+}
+
+Real negativeSupply(const Quantities& q)
+{
+    return q.Ebias;
+}
+
+Real negativePower(const Quantities& q)
+{
+    return (q.Ebias * q.QIc * 2.0) / 1000.0;
+}
+
+Real positiveSupply(const Quantities& q)
+{
+    return q.Es;
+}
+
+Real positivePower(const Quantities& q)
+{
+    return (q.Es * q.QIc * 2.0) / 1000.0;
+}
+
+Real emitterVoltage(const Quantities& q)
+{
+    return q.Vj;
+}
+
+Real baseVoltage(const Quantities& q)
+{
+    return q.Rb2 * (q.QIc / q.Beta);
+}
+
+Real baseCurrent(const Quantities& q)
+{
+    return q.QIc / q.Beta;
+}
+
+Real inputVoltage(const Quantities& q)
+{
+    return q.Ein;
+}
+
+Real inputImpedance(const Quantities& q)
+{
+    return q.Zin;
+}
+
+Real loadImpedance(const Quantities& q)
+{
+    return q.RLw * 1000.0;
+}
+
+Real outputAtCutoff(const Quantities& q)
+{
+    return vrms(q) - vrms(q) / 10.0;
+}
+
+Real outputPowerAtCutoff(const Quantities& q)
+{
+    return outputPower(q) - outputPower(q) / 10.0;
+}
+
+Real inputAtCutoff(const Quantities& q)
+{
+    return q.Ein + q.Ein / 10.0;
+}
+
+Real inputPowerAtCutoff(const Quantities& q)
+{
+    return inputPower(q) + inputPower(q) / 10.0;
+}
+
+Real inputImpedanceAtCutoff(const Quantities& q)
+{
+    return q.Zin + q.Zin / 10.0;
+}
+
+} // namespace velmor::form3

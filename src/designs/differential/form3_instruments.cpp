@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+// The tables of probe and meter. A probe between collectors shows twice one output; with the second input in opposite phase
+// the example keeps its 5 V.
+#include "designs/differential/form3_instruments.h"
+
+#include <algorithm>
+#include <array>
+
+#include "designs/differential/form3_controls.h"
+
+namespace velmor::form3 {
+
+namespace instruments {
+
+using enum Signal;
+
+constexpr InputSignals Aground{A, ground};
+constexpr InputSignals Bground{B, ground};
+constexpr InputSignals groundA{ground, A};
+constexpr InputSignals groundB{ground, B};
+constexpr InputSignals AA{A, A};
+constexpr InputSignals BB{B, B};
+constexpr InputSignals AB{A, B};
+
+// clang-format off
+constexpr host::BiText blank{.es = " ", .en = " "};
+constexpr host::BiText zeroAtOutput1{.es = " Cero Volts",      .en = " Voltage Zero"};
+constexpr host::BiText zeroAtOutput2{.es = "    Cero volts ",  .en = " Zero Voltage"};
+constexpr host::BiText zeroForA     {.es = "  Cero volts ",    .en = "  Votage Zero "};
+constexpr host::BiText zeroForB     {.es = "  Cero volts ",    .en = "  Voltage Zero "};
+constexpr host::BiText zeroAtImage4 {.es = "    Cero volts ",  .en = "  Voltage Zero "};
+
+// Image4 takes the reading of Image24 and shows the other wave. It speaks English alone.
+constexpr std::array<ProbeRow, 27> probeTable{{
+    // point   inputs     reading               waves              SSPanel3        English only
+    {Image22, Aground, " Out 1 = 10 V",     Waves::Image23,   blank},
+    {Image22, Bground, " Out 1 = 10 V",     Waves::Image25,   blank},
+    {Image22, groundA, " Out 1 = 10 V",     Waves::Image25,   blank},
+    {Image22, groundB, " Out 1 = 10 V",     Waves::Image23,   blank},
+    {Image22, AA,      " Out 1 = 0 V",      Waves::neither,   zeroAtOutput1},
+    {Image22, AB,      " Out 1 = 10 Volts", Waves::Image23,   blank},
+    {Image26, Aground, " Out 1 = 10 V",     Waves::Image25,   blank},
+    {Image26, Bground, " Out 1 = 10 V",     Waves::Image23,   blank},
+    {Image26, groundA, " Out 1 = 10 V",     Waves::Image23,   blank},
+    {Image26, groundB, " Out 1 = 10 V",     Waves::asTheyAre, blank},
+    {Image26, AA,      " Out 2 = 0 V",      Waves::neither,   zeroAtOutput2},
+    {Image26, BB,      " Out 2 = 0 V",      Waves::neither,   zeroAtOutput2},
+    {Image26, AB,      " Out 1 = 10 V",     Waves::Image25,   blank},
+    {Image24, Aground, " Out 3 = 20 V",     Waves::Image25,   blank},
+    {Image24, Bground, " Out 3 = 20 V",     Waves::Image23,   blank},
+    {Image24, groundA, "Out 3 = 20 V",      Waves::Image23,   blank},
+    {Image24, groundB, "Out 3 = 20 V",      Waves::Image25,   blank},
+    {Image24, AA,      " Out 3 = 0 Volts",  Waves::neither,   zeroForA},
+    {Image24, BB,      " Out 3 = 0 Volts",  Waves::neither,   zeroForB},
+    {Image24, AB,      "Out 3 = 5 V",       Waves::both,      blank},
+    {Image4,  Aground, "Out 3 = 20 V",      Waves::Image23,   blank,          true},
+    {Image4,  Bground, "Out 3 = 20 V",      Waves::Image25,   blank,          true},
+    {Image4,  groundA, "Out 3 = 20 V",      Waves::Image25,   blank,          true},
+    {Image4,  groundB, "Out 3 = 20 V",      Waves::Image23,   blank,          true},
+    {Image4,  AA,      " Out 3 = 0 Volts",  Waves::neither,   zeroAtImage4,   true},
+    {Image4,  BB,      " Out 3 = 0 Volts",  Waves::neither,   zeroAtImage4,   true},
+    {Image4,  AB,      "Out 3 = 5 V",       Waves::Image23,   blank,          true},
+}};
+
+constexpr host::BiText volts         {.es = "   Tensión en Volts ",                       .en = "   Voltage in V     "};
+constexpr host::BiText current       {.es = "  Corriente  en mA  ",                       .en = "  Current in mA     "};
+constexpr host::BiText totalCurrent  {.es = "  Corriente total en mA  ",                  .en = "  Current in mA     "};
+constexpr host::BiText power         {.es = "   Potencia eficaz en Watts   ",             .en = "   Power (r.m.s.) in Watts    "};
+constexpr host::BiText milliPower    {.es = "   Potencia eficaz en mW   ",                .en = "   Power (r.m.s.) in mW    "};
+constexpr host::BiText currentOfBase {.es = " Corriente de base en mA ",                  .en = " Current Base in mA "};
+constexpr host::BiText entranceVolts {.es = " Tensión de entrada en valor eficaz ",       .en = " Entrance voltage (r.m.s.) "};
+constexpr host::BiText entranceOhms  {.es = "  Impedancia de entrada en Ohms. ",          .en = "  Entrance impedance ( Ohms ). "};
+constexpr host::BiText loadOhms      {.es = "  Impedancia de carga en Ohms. ",            .en = "  Load impedance ( Ohms ). "};
+constexpr host::BiText cutoffOhms    {.es = "  Impedancia de entrada en Ohms a la frecuencia de corte. ",
+                                      .en = "  Impedancia de entrada en Ohms a la frecuencia de corte. "};
+
+constexpr auto dc = Current::dc;
+constexpr auto ac = Current::ac;
+constexpr auto V = Function::V;
+constexpr auto I = Function::A;
+constexpr auto W = Function::W;
+constexpr auto Z = Function::Z;
+
+constexpr std::array<MeterRow, 31> meterTable{{
+    // point   current function value                     unit           comment     whole  finished only
+    {Image4,  dc, V, collectorVoltage,       volts,         "Guau !",   false, true},
+    {Image4,  dc, I, collectorCurrent,       current,       "",         false, true},
+    {Image4,  ac, V, vrms,                   volts},
+    {Image4,  ac, W, outputPower,            power},
+    {Image5,  dc, V, negativeSupply,         volts},
+    {Image5,  dc, I, bothCurrents,           totalCurrent},
+    {Image5,  dc, W, negativePower,          power},
+    {Image6,  dc, V, positiveSupply,         volts},
+    {Image6,  dc, I, bothCurrents,           totalCurrent},
+    {Image6,  dc, W, positivePower,          power},
+    {Image7,  dc, V, positiveSupply,         volts},
+    {Image7,  dc, I, collectorCurrent,       current},
+    {Image7,  dc, W, positivePower,          power},
+    {Image8,  dc, V, emitterVoltage,         volts,         "",         false, true},
+    {Image8,  dc, I, collectorCurrent,       current,       "",         false, true},
+    {Image9,  dc, V, baseVoltage,            volts,         "Ah ja.!"},
+    {Image9,  dc, I, baseCurrent,            currentOfBase},
+    {Image9,  ac, V, inputVoltage,           entranceVolts},
+    {Image9,  ac, W, inputPower,             milliPower},
+    {Image9,  ac, Z, inputImpedance,         entranceOhms,  "",         true},
+    {Image10, dc, V, baseVoltage,            volts},
+    {Image10, dc, I, baseCurrent,            currentOfBase},
+    {Image11, ac, V, outputAtCutoff,         volts,         "Hmm..."},
+    {Image11, ac, W, outputPowerAtCutoff,    power},
+    {Image11, ac, Z, loadImpedance,          loadOhms},
+    {Image26, ac, V, outputAtCutoff,         volts,         "Hmm..."},
+    {Image26, ac, W, outputPowerAtCutoff,    power},
+    {Image26, ac, Z, loadImpedance,          loadOhms},
+    {Image12, ac, V, inputAtCutoff,          entranceVolts},
+    {Image12, ac, W, inputPowerAtCutoff,     milliPower},
+    {Image12, ac, Z, inputImpedanceAtCutoff, cutoffOhms,    "",         true},
+}};
+// clang-format on
+
+} // namespace instruments
+
+std::span<const ProbeRow> probeRows()
+{
+    return instruments::probeTable;
+}
+
+const ProbeRow* probeRow(host::Handle point, const InputSignals& inputs)
+{
+    const auto& table = instruments::probeTable;
+    const auto found = std::find_if(table.begin(), table.end(), [&](const ProbeRow& row) {
+        return row.point == point && row.inputs == inputs;
+    });
+    return found == table.end() ? nullptr : &*found;
+}
+
+std::span<const MeterRow> meterRows()
+{
+    return instruments::meterTable;
+}
+
+const MeterRow* meterRow(host::Handle point, Current current, Function function)
+{
+    const auto& table = instruments::meterTable;
+    const auto found = std::find_if(table.begin(), table.end(), [&](const MeterRow& row) {
+        return row.point == point && row.current == current && row.function == function;
+    });
+    return found == table.end() ? nullptr : &*found;
+}
+
+bool isMeterPoint(host::Handle point)
+{
+    const auto& table = instruments::meterTable;
+    return std::any_of(table.begin(), table.end(), [point](const MeterRow& row) { return row.point == point; });
+}
+
+} // namespace velmor::form3
