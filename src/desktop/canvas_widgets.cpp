@@ -139,6 +139,8 @@ void Canvas::refreshWidget(Handle control, bool shown)
     using namespace canvas_widgets_detail;
     const host::Control& state = model_->control(control);
     if (auto* field = dynamic_cast<FieldEdit*>(widget)) {
+        if (model_->focus() != control)
+            field->handTaken();
         field->showText(desktop::shown(state.text));
         field->setOwnColors(state.backColor, state.foreColor);
     } else if (auto* page = qobject_cast<QPlainTextEdit*>(widget)) {
@@ -258,7 +260,8 @@ QString Canvas::tipOf(Handle control) const
     const host::ControlRow& row = model_->row(control);
     QString tip = desktop::shown(row.meaning.in(view_.languageIsEnglish));
     for (const host::ShortcutRow& shortcut : model_->spec().shortcuts)
-        if (shortcut.control == control && shortcut.action != host::KeyAction::hover && !tip.isEmpty())
+        if (shortcut.control == control && !tip.isEmpty()
+            && (shortcut.action == host::KeyAction::click || shortcut.action == host::KeyAction::dragTo))
             tip += QStringLiteral("  (%1)").arg(desktop::shown(shortcut.keys));
     return tip;
 }

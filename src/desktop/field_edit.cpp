@@ -30,9 +30,8 @@ void FieldEdit::showText(const QString& text)
 {
     if (this->text() == text)
         return;
-    const bool whole = selectedWhole_ && hasFocus();
     setText(text);
-    if (whole)
+    if (selectedWhole_)
         selectAll();
     else
         setCursorPosition(hasFocus() ? static_cast<int>(text.size()) : 0);

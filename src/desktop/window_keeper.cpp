@@ -278,6 +278,10 @@ void WindowKeeper::windowActivated()
     if (desk_.closing || active == nullptr || !desk_.idle() || (awaited_ && awaited_ != active))
         return;
     awaited_ = nullptr;
+    if (handedBack(active))
+        return;
+    if (wanted_ != active)
+        wanted_ = nullptr;
     host::Window* turnedTo = nullptr;
     for (const auto& [window, frame] : frames_)
         if (&frame->widget() == active)
@@ -287,6 +291,20 @@ void WindowKeeper::windowActivated()
     if (turnedTo != nullptr && desk_.engine->current() != turnedTo)
         desk_.engine->userActivate(*turnedTo);
     postFocus();
+}
+
+// Window managers give the keyboard to a palette that is shown or pressed; a student writes on in the sheet.
+bool WindowKeeper::handedBack(QWidget* active)
+{
+    auto* tool = dynamic_cast<ToolWindow*>(active);
+    if (tool == nullptr || tool->model() == nullptr || tool->model()->role() != Role::palette || wanted_ == active)
+        return false;
+    host::Window* current = desk_.engine->current();
+    WindowFrame* frame = current == nullptr || current->isChild() ? nullptr : frameOf(*current);
+    QWidget* back = frame == nullptr || frame == tool ? static_cast<QWidget*>(main_) : &frame->widget();
+    if (back != nullptr && back->isVisible())
+        back->activateWindow();
+    return true;
 }
 
 // A press or a key: activations that were awaited no longer matter, and a welcome panel that lies over the sheet goes as
@@ -359,6 +377,7 @@ void WindowKeeper::nextPane()
             at = i;
     host::Window* next = panes[(at + 1) % panes.size()];
     QWidget* top = next->isChild() ? static_cast<QWidget*>(main_) : &frameOf(*next)->widget();
+    wanted_ = top;
     top->raise();
     top->activateWindow();
 }

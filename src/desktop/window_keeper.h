@@ -60,6 +60,7 @@ private:
     void focusMoved(QWidget* now);
     void childActivated(QMdiSubWindow* child);
     void windowActivated();
+    bool handedBack(QWidget* active);
     void touched(QWidget* view);
 
     Desk& desk_;
@@ -67,6 +68,7 @@ private:
     std::unordered_map<const host::Window*, WindowFrame*> frames_;
     std::vector<host::Window*> raised_;
     QPointer<QWidget> awaited_; ///< asked to become active; other activations on the way to it do not count
+    QPointer<QWidget> wanted_; ///< the person asked for it by key
     std::int16_t language_ = 0;
     bool following_ = false;
     bool again_ = false;
