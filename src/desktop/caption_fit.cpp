@@ -77,6 +77,8 @@ Manner mannerOf(const host::ControlRow& row)
     switch (row.kind) {
     case Kind::button:
         manner = {.padding = {6.0, 2.0, 6.0, 2.0}, .alignment = Qt::AlignCenter, .oneLine = true};
+        if (!row.drawing.empty())
+            manner.alignment = Qt::AlignHCenter | Qt::AlignBottom;
         break;
     case Kind::panel:
         manner = {.padding = {8.0, 4.0, 8.0, 4.0}, .alignment = Qt::AlignCenter};

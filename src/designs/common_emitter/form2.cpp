@@ -159,6 +159,15 @@ std::unique_ptr<host::Window> create(host::SheetHost& host)
     return std::make_unique<Form2>(host);
 }
 
+/// `Text21` ends as wide as its last text was once set, which is too narrow for it: shown a little wider.
+host::Place shownPlace(const host::Window& window, Handle control)
+{
+    host::Place place = window.placeOf(control);
+    if (control == Text21)
+        place.width = std::max(place.width, 1860);
+    return place;
+}
+
 const sheets::SheetSpec sheetSpec{.filter = fileFilter, .written = written, .read = read, .temperatureField = Text3};
 
 } // namespace form2_tables
@@ -171,7 +180,8 @@ const host::WindowSpec spec{.name = "Form2",
                             .tabOrder = form2_tables::tabOrder,
                             .shortcuts = form2_tables::shortcuts,
                             .create = form2_tables::create,
-                            .sheetTitle = sheetTitle};
+                            .sheetTitle = sheetTitle,
+                            .shownPlace = form2_tables::shownPlace};
 
 Form2::Form2(host::SheetHost& host) : DesignSheet(host, form2::spec, form2_tables::sheetSpec) {}
 

@@ -71,7 +71,7 @@ consteval Part<Count> part(const Mark (&marks)[Count])
 }
 
 // clang-format off
-// The schematic. Columns: generator 276, base divider 430, transistor 620, bypass 790, load 905.
+// The schematic. Columns: generator 276, base divider 430, transistor 620, bypass 798, load 905.
 // Rows: supply 130, collector 280, base 340, emitter 410, ground 520.
 constexpr auto emitterLead = part({
     {.symbol = Symbol::wire, .from = {620, 370}, .to = {620, 430}},
@@ -102,9 +102,9 @@ constexpr auto outputCapacitor = part({
 });
 constexpr auto load = part({
     {.symbol = Symbol::node, .from = {905, 280}},
-    {.symbol = Symbol::wire, .from = {905, 280}, .to = {905, 320}},
-    {.symbol = Symbol::resistor, .from = {905, 320}, .to = {905, 400}, .field = Text9},
-    {.symbol = Symbol::wire, .from = {905, 400}, .to = {905, 520}},
+    {.symbol = Symbol::wire, .from = {905, 280}, .to = {905, 430}},
+    {.symbol = Symbol::resistor, .from = {905, 430}, .to = {905, 510}, .field = Text9},
+    {.symbol = Symbol::wire, .from = {905, 510}, .to = {905, 520}},
     {.symbol = Symbol::ground, .from = {905, 520}},
 });
 constexpr auto collectorResistor = part({
@@ -112,7 +112,7 @@ constexpr auto collectorResistor = part({
     {.symbol = Symbol::resistor, .from = {620, 140}, .to = {620, 220}, .field = Text17},
 });
 constexpr auto supplyRail = part({
-    {.symbol = Symbol::wire, .from = {430, 130}, .to = {690, 130}},
+    {.symbol = Symbol::wire, .from = {620, 130}, .to = {690, 130}},
     {.symbol = Symbol::node, .from = {620, 130}},
 });
 constexpr auto outputSignal = part({
@@ -137,11 +137,13 @@ constexpr auto baseLead = part({
     {.symbol = Symbol::node, .from = {430, 340}},
 });
 constexpr auto lowerDivider = part({
-    {.symbol = Symbol::wire, .from = {430, 340}, .to = {430, 440}},
-    {.symbol = Symbol::resistor, .from = {430, 440}, .to = {430, 520}, .field = Text18},
+    {.symbol = Symbol::wire, .from = {430, 340}, .to = {430, 430}},
+    {.symbol = Symbol::resistor, .from = {430, 430}, .to = {430, 510}, .field = Text18},
+    {.symbol = Symbol::wire, .from = {430, 510}, .to = {430, 520}},
     {.symbol = Symbol::ground, .from = {430, 520}},
 });
 constexpr auto upperDivider = part({
+    {.symbol = Symbol::wire, .from = {430, 130}, .to = {620, 130}},
     {.symbol = Symbol::wire, .from = {430, 130}, .to = {430, 140}},
     {.symbol = Symbol::preset, .from = {430, 140}, .to = {430, 220}, .field = Text19},
     {.symbol = Symbol::wire, .from = {430, 220}, .to = {430, 340}},
@@ -157,6 +159,7 @@ constexpr auto loadVoltage = part({
 });
 // Both resistors of the divider in halves, their middles tied to the emitter.
 constexpr auto bootstrapWires = part({
+    {.symbol = Symbol::wire, .from = {430, 130}, .to = {620, 130}},
     {.symbol = Symbol::wire, .from = {430, 130}, .to = {430, 140}},
     {.symbol = Symbol::resistor, .from = {430, 140}, .to = {430, 200}, .name = "R_b1/2", .side = Side::left},
     {.symbol = Symbol::wire, .from = {430, 200}, .to = {430, 250}},
@@ -179,10 +182,10 @@ constexpr auto bootstrapWires = part({
     {.symbol = Symbol::wire, .from = {590, 410}, .to = {620, 410}},
 });
 constexpr auto firstBootstrap = part({
-    {.symbol = Symbol::capacitor, .from = {470, 420}, .to = {510, 420}, .name = "C_bp1", .side = Side::above},
+    {.symbol = Symbol::capacitor, .from = {470, 420}, .to = {510, 420}},
 });
 constexpr auto secondBootstrap = part({
-    {.symbol = Symbol::capacitor, .from = {470, 225}, .to = {510, 225}, .name = "C_bp2", .side = Side::above},
+    {.symbol = Symbol::capacitor, .from = {470, 225}, .to = {510, 225}},
 });
 constexpr auto transistor = part({
     {.symbol = Symbol::npn, .from = {590, 340}, .name = "Q_1", .field = Text2},
@@ -191,44 +194,57 @@ constexpr auto supplyTerminal = part({
     {.symbol = Symbol::terminal, .from = {693, 130}, .field = Text16},
 });
 constexpr auto bypassCapacitor = part({
-    {.symbol = Symbol::wire, .from = {620, 410}, .to = {790, 410}},
-    {.symbol = Symbol::wire, .from = {790, 410}, .to = {790, 440}},
-    {.symbol = Symbol::capacitor, .from = {790, 440}, .to = {790, 490}},
-    {.symbol = Symbol::wire, .from = {790, 490}, .to = {790, 520}},
-    {.symbol = Symbol::ground, .from = {790, 520}},
+    {.symbol = Symbol::wire, .from = {620, 410}, .to = {798, 410}},
+    {.symbol = Symbol::wire, .from = {798, 410}, .to = {798, 440}},
+    {.symbol = Symbol::capacitor, .from = {798, 440}, .to = {798, 490}},
+    {.symbol = Symbol::wire, .from = {798, 490}, .to = {798, 520}},
+    {.symbol = Symbol::ground, .from = {798, 520}},
 });
 
 // Counted from the corner of their own control.
 constexpr Mark titleBlock[] = {
-    {.symbol = Symbol::text, .from = {640, 504}, .note = {"Emisor común, clase A", "Common emitter, class A"}, .ink = Ink::quiet, .size = 80},
-    {.symbol = Symbol::wire, .from = {632, 492}, .to = {774, 492}, .ink = Ink::quiet},
+    {.symbol = Symbol::text, .from = {640, 501}, .note = {"Emisor común, clase A", "Common emitter, class A"}, .ink = Ink::quiet, .size = 80},
+    {.symbol = Symbol::frame, .from = {630, 492}, .to = {772, 510}, .ink = Ink::quiet},
 };
 constexpr Mark emitterVoltageFrame[] = {
-    {.symbol = Symbol::label, .from = {-46, 11}, .name = "E_Res"},
+    {.symbol = Symbol::label, .from = {-38, 11}, .name = "E_Res"},
     {.symbol = Symbol::text, .from = {78, 11}, .name = "V", .ink = Ink::quiet, .size = 90},
     {.symbol = Symbol::frame, .from = {-4, 0}, .to = {72, 22}, .ink = Ink::quiet},
 };
 constexpr Mark obtainedCurrent[] = {
     {.symbol = Symbol::text, .from = {-76, 8}, .note = {"QIc obtenida", "QIc obtained"}, .ink = Ink::accent, .size = 80},
 };
-constexpr host::GridPoint partialWire[] = {{44, 14}, {44, 38}, {50, 38}};
 constexpr host::GridPoint bootstrapLoop[] = {{16, 34}, {16, 10}, {66, 10}, {66, 34}};
+// Resistors and capacitors smaller than the drawing's own, so that a button holds a circuit.
 constexpr Mark bypassMarks[] = {
-    {.symbol = Symbol::resistor, .from = {14, 14}, .to = {68, 14}},
-    {.symbol = Symbol::capacitor, .from = {14, 34}, .to = {68, 34}},
-    {.symbol = Symbol::wire, .from = {14, 14}, .to = {14, 34}},
-    {.symbol = Symbol::wire, .from = {68, 14}, .to = {68, 34}},
+    {.symbol = Symbol::wire, .from = {8, 24}, .to = {18, 24}},
+    {.symbol = Symbol::node, .from = {18, 24}},
+    {.symbol = Symbol::wire, .from = {18, 14}, .to = {18, 36}},
+    {.symbol = Symbol::wire, .from = {18, 14}, .to = {30, 14}},
+    {.symbol = Symbol::frame, .from = {30, 9}, .to = {52, 19}},
+    {.symbol = Symbol::wire, .from = {52, 14}, .to = {64, 14}},
+    {.symbol = Symbol::wire, .from = {18, 36}, .to = {38, 36}},
+    {.symbol = Symbol::wire, .from = {38, 29}, .to = {38, 43}},
+    {.symbol = Symbol::wire, .from = {44, 29}, .to = {44, 43}},
+    {.symbol = Symbol::wire, .from = {44, 36}, .to = {64, 36}},
+    {.symbol = Symbol::wire, .from = {64, 14}, .to = {64, 36}},
+    {.symbol = Symbol::node, .from = {64, 24}},
+    {.symbol = Symbol::wire, .from = {64, 24}, .to = {74, 24}},
 };
 constexpr Mark partialMarks[] = {
-    {.symbol = Symbol::wire, .from = {4, 16}, .to = {10, 16}},
-    {.symbol = Symbol::frame, .from = {10, 11}, .to = {30, 21}},
-    {.symbol = Symbol::wire, .from = {30, 16}, .to = {50, 16}},
-    {.symbol = Symbol::frame, .from = {50, 11}, .to = {70, 21}},
-    {.symbol = Symbol::wire, .from = {70, 16}, .to = {78, 16}},
-    {.symbol = Symbol::node, .from = {40, 16}},
-    {.symbol = Symbol::wire, .from = {40, 16}, .to = {40, 36}},
-    {.symbol = Symbol::capacitor, .from = {40, 36}, .to = {78, 36}},
-    {.symbol = Symbol::wire, .from = {78, 16}, .to = {78, 36}},
+    {.symbol = Symbol::wire, .from = {4, 14}, .to = {10, 14}},
+    {.symbol = Symbol::frame, .from = {10, 9}, .to = {28, 19}},
+    {.symbol = Symbol::wire, .from = {28, 14}, .to = {46, 14}},
+    {.symbol = Symbol::node, .from = {37, 14}},
+    {.symbol = Symbol::frame, .from = {46, 9}, .to = {64, 19}},
+    {.symbol = Symbol::wire, .from = {64, 14}, .to = {78, 14}},
+    {.symbol = Symbol::node, .from = {72, 14}},
+    {.symbol = Symbol::wire, .from = {37, 14}, .to = {37, 34}},
+    {.symbol = Symbol::wire, .from = {37, 34}, .to = {52, 34}},
+    {.symbol = Symbol::wire, .from = {52, 27}, .to = {52, 41}},
+    {.symbol = Symbol::wire, .from = {58, 27}, .to = {58, 41}},
+    {.symbol = Symbol::wire, .from = {58, 34}, .to = {72, 34}},
+    {.symbol = Symbol::wire, .from = {72, 14}, .to = {72, 34}},
 };
 constexpr Mark emitterOptionMarks[] = {
     {.symbol = Symbol::wire, .from = {28, 4}, .to = {28, 10}},
@@ -301,47 +317,47 @@ constexpr host::ControlRow rows[] = {
     {.id = Text5, .name = "Text5", .kind = Kind::field, .place = at(90, 402, 73, 22), .text = "25", .enabled = false, .symbol = "E_c(max)", .unit = "V", .meaning = {"Tensión máxima Colector - Emisor", "Maximum Collector - Emitter voltage"}},
     {.id = Text6, .name = "Text6", .kind = Kind::field, .place = at(90, 430, 73, 22), .text = "100", .enabled = false, .symbol = "I_c(max)", .unit = "mA", .meaning = {"Corriente máxima de colector", "Maximum collector current"}},
     {.id = Text7, .name = "Text7", .kind = Kind::field, .place = at(90, 458, 73, 22), .text = "0.6", .enabled = false, .symbol = "V_j", .unit = "V", .meaning = {"Tensión de juntura, Silicio o Germanio", "Junction voltage, Silicon or Germanium"}},
-    {.id = Text8, .name = "Text8", .kind = Kind::field, .place = at(90, 230, 113, 22), .text = "1", .enabled = false, .symbol = "Q_Ic", .unit = "mA", .meaning = {"Corriente de reposo de colector", "Quiescent collector current"}},
-    {.id = Text9, .name = "Text9", .kind = Kind::field, .place = at(917, 352, 73, 22), .text = "10", .enabled = false, .symbol = "R_Lw", .unit = "kΩ", .meaning = {"Resistencia de carga", "Load resistance"}, .symbolSide = SymbolSide::above},
+    {.id = Text8, .name = "Text8", .kind = Kind::field, .place = at(90, 230, 105, 22), .text = "1", .enabled = false, .symbol = "Q_Ic", .unit = "mA", .meaning = {"Corriente de reposo de colector", "Quiescent collector current"}},
+    {.id = Text9, .name = "Text9", .kind = Kind::field, .place = at(923, 459, 64, 22), .text = "10", .enabled = false, .symbol = "R_Lw", .unit = "kΩ", .meaning = {"Resistencia de carga", "Load resistance"}, .symbolSide = SymbolSide::above},
     {.id = Text10, .name = "Text10", .kind = Kind::field, .place = at(90, 258, 73, 22), .text = "10", .enabled = false, .symbol = "S", .meaning = {"Factor de estabilidad", "Stability factor"}},
     {.id = Text11, .name = "Text11", .kind = Kind::field, .place = at(90, 286, 73, 22), .text = "5", .enabled = false, .symbol = "V_g", .meaning = {"Ganancia de tensión", "Voltage gain"}},
     {.id = Text12, .name = "Text12", .kind = Kind::field, .place = at(90, 314, 73, 22), .text = "20", .enabled = false, .symbol = "f_o", .unit = "Hz", .meaning = {"Menor frecuencia de interés", "Lowest frequency of interest"}},
     {.id = Text13, .name = "Text13", .kind = Kind::field, .place = at(915, 238, 73, 22), .text = "1", .enabled = false, .symbol = "E_opp", .unit = "Vpp", .meaning = {"Tensión de salida, pico a pico", "Output voltage, peak to peak"}, .symbolSide = SymbolSide::above},
     {.id = Text14, .name = "Text14", .kind = Kind::field, .place = at(296, 414, 73, 22), .text = "0.35", .enabled = false, .symbol = "E_in", .unit = "V r.m.s.", .meaning = {"Tensión eficaz de entrada", "Input voltage, r.m.s."}, .symbolSide = SymbolSide::above},
-    {.id = Text15, .name = "Text15", .kind = Kind::field, .place = at(640, 462, 113, 22), .visible = false, .enabled = false, .symbol = "R_es", .unit = "Ω", .meaning = {"Resistor de emisor", "Emitter resistor"}, .symbolSide = SymbolSide::above},
-    {.id = Text16, .name = "Text16", .kind = Kind::field, .place = at(735, 119, 113, 22), .enabled = false, .symbol = "E_s", .unit = "V", .meaning = {"Tensión de la fuente de alimentación", "Supply voltage"}},
-    {.id = Text17, .name = "Text17", .kind = Kind::field, .place = at(640, 162, 113, 22), .enabled = false, .symbol = "R_L", .unit = "kΩ", .meaning = {"Resistor de colector", "Collector resistor"}, .symbolSide = SymbolSide::above},
-    {.id = Text18, .name = "Text18", .kind = Kind::field, .place = at(448, 476, 113, 22), .visible = false, .enabled = false, .symbol = "R_b2", .unit = "kΩ", .meaning = {"Resistor inferior de base", "Lower base resistor"}, .symbolSide = SymbolSide::above},
-    {.id = Text19, .name = "Text19", .kind = Kind::field, .place = at(448, 162, 113, 22), .enabled = false, .symbol = "R_b1", .unit = "kΩ", .meaning = {"Preset, resistor superior de base", "Preset, upper base resistor"}, .symbolSide = SymbolSide::above},
-    {.id = Text20, .name = "Text20", .kind = Kind::field, .place = at(812, 462, 85, 22), .visible = false, .enabled = false, .symbol = "C_bp", .meaning = {"Capacitor de desacople de emisor", "Emitter bypass capacitor"}, .symbolSide = SymbolSide::above},
-    {.id = Text21, .name = "Text21", .kind = Kind::field, .place = at(640, 545, 100, 22), .text = "  - Es = 20 V", .visible = false, .enabled = false, .symbol = "-E_s", .unit = "V", .meaning = {"Fuente negativa de emisor", "Negative emitter supply"}, .symbolSide = SymbolSide::above},
+    {.id = Text15, .name = "Text15", .kind = Kind::field, .place = at(640, 459, 122, 22), .visible = false, .enabled = false, .symbol = "R_es", .unit = "Ω", .meaning = {"Resistor de emisor", "Emitter resistor"}, .symbolSide = SymbolSide::above},
+    {.id = Text16, .name = "Text16", .kind = Kind::field, .place = at(735, 119, 122, 22), .enabled = false, .symbol = "E_s", .unit = "V", .meaning = {"Tensión de la fuente de alimentación", "Supply voltage"}},
+    {.id = Text17, .name = "Text17", .kind = Kind::field, .place = at(640, 162, 122, 22), .enabled = false, .symbol = "R_L", .unit = "kΩ", .meaning = {"Resistor de colector", "Collector resistor"}, .symbolSide = SymbolSide::above},
+    {.id = Text18, .name = "Text18", .kind = Kind::field, .place = at(448, 459, 122, 22), .visible = false, .enabled = false, .symbol = "R_b2", .unit = "kΩ", .meaning = {"Resistor inferior de base", "Lower base resistor"}, .symbolSide = SymbolSide::above},
+    {.id = Text19, .name = "Text19", .kind = Kind::field, .place = at(448, 162, 122, 22), .enabled = false, .symbol = "R_b1", .unit = "kΩ", .meaning = {"Preset, resistor superior de base", "Preset, upper base resistor"}, .symbolSide = SymbolSide::above},
+    {.id = Text20, .name = "Text20", .kind = Kind::field, .place = at(820, 459, 72, 22), .visible = false, .enabled = false, .symbol = "C_bp", .meaning = {"Capacitor de desacople de emisor", "Emitter bypass capacitor"}, .symbolSide = SymbolSide::above},
+    {.id = Text21, .name = "Text21", .kind = Kind::field, .place = at(640, 545, 100, 22), .text = "  - Es = 20 V", .visible = false, .enabled = false, .symbol = "-E_s", .meaning = {"Fuente negativa de emisor", "Negative emitter supply"}, .symbolSide = SymbolSide::above},
     {.id = Voltaje, .name = "Voltaje", .kind = Kind::label, .place = at(94, 202, 66, 22), .enabled = false, .meaning = {"Tensión de estabilidad ERes", "Voltage of stability ERes"}, .look = Look::result, .drawing = emitterVoltageFrame},
     {.id = VRes, .name = "VRes", .kind = Kind::label, .place = at(680, 420, 104, 18), .look = Look::result},
-    {.id = ER, .name = "ER", .kind = Kind::label, .place = at(812, 162, 110, 20), .visible = false, .look = Look::result},
-    {.id = res, .name = "res", .kind = Kind::label, .place = at(640, 488, 140, 18), .visible = false, .look = Look::result},
+    {.id = ER, .name = "ER", .kind = Kind::label, .place = at(830, 162, 110, 20), .visible = false, .look = Look::result},
+    {.id = res, .name = "res", .kind = Kind::label, .place = at(640, 484, 140, 18), .visible = false, .look = Look::result},
     {.id = Label24, .name = "Label24", .kind = Kind::label, .place = at(756, 314, 110, 18), .visible = false, .look = Look::result, .drawing = obtainedCurrent},
     {.id = Label19, .name = "Label19", .kind = Kind::label, .place = at(776, 545, 238, 20), .visible = false, .look = Look::note},
     {.id = Label20, .name = "Label20", .kind = Kind::label, .place = at(448, 196, 150, 18), .visible = false, .look = Look::note},
     {.id = statu17, .name = "statu17", .kind = Kind::label, .place = at(672, 370, 112, 18), .visible = false, .look = Look::result},
-    {.id = statu18, .name = "statu18", .kind = Kind::label, .place = at(917, 392, 99, 34), .visible = false, .look = Look::result},
+    {.id = statu18, .name = "statu18", .kind = Kind::label, .place = at(917, 484, 99, 34), .visible = false, .look = Look::result},
     {.id = statu19, .name = "statu19", .kind = Kind::label, .place = at(640, 188, 112, 18), .visible = false, .look = Look::result},
-    {.id = statu21, .name = "statu21", .kind = Kind::label, .place = at(396, 121, 28, 18), .text = "Es", .visible = false, .look = Look::result},
-    {.id = statu22, .name = "statu22", .kind = Kind::label, .place = at(296, 444, 128, 36), .visible = false, .look = Look::result},
-    {.id = statu23, .name = "statu23", .kind = Kind::label, .place = at(296, 482, 128, 34), .visible = false, .look = Look::result},
-    {.id = statu24, .name = "statu24", .kind = Kind::label, .place = at(244, 150, 176, 52), .visible = false, .look = Look::hint},
+    {.id = statu21, .name = "statu21", .kind = Kind::label, .place = at(636, 110, 40, 16), .text = "Es", .visible = false, .look = Look::result},
+    {.id = statu22, .name = "statu22", .kind = Kind::label, .place = at(296, 444, 114, 36), .visible = false, .look = Look::result},
+    {.id = statu23, .name = "statu23", .kind = Kind::label, .place = at(296, 482, 106, 34), .visible = false, .look = Look::result},
+    {.id = statu24, .name = "statu24", .kind = Kind::label, .place = at(244, 150, 166, 52), .visible = false, .look = Look::hint},
     {.id = statu25, .name = "statu25", .kind = Kind::label, .place = at(672, 334, 196, 34), .visible = false, .look = Look::result},
     {.id = statu30, .name = "statu30", .kind = Kind::label, .place = at(292, 206, 130, 18), .visible = false, .look = Look::result},
     {.id = statu31, .name = "statu31", .kind = Kind::label, .place = at(244, 298, 106, 18), .visible = false, .look = Look::result},
     {.id = statu32, .name = "statu32", .kind = Kind::label, .place = at(308, 358, 114, 18), .visible = false, .look = Look::result},
     {.id = statu33, .name = "statu33", .kind = Kind::label, .place = at(712, 296, 130, 16), .visible = false, .look = Look::result},
-    {.id = statu35, .name = "statu35", .kind = Kind::label, .place = at(917, 375, 99, 16), .visible = false, .look = Look::note},
+    {.id = statu35, .name = "statu35", .kind = Kind::label, .place = at(917, 484, 99, 16), .visible = false, .look = Look::note},
     {.id = status40, .name = "status40", .kind = Kind::label, .place = at(244, 545, 350, 62), .visible = false, .look = Look::warning},
     {.id = statu61, .name = "statu61", .kind = Kind::label, .place = at(244, 232, 150, 36), .visible = false, .look = Look::result},
     {.id = statu62, .name = "statu62", .kind = Kind::label, .place = at(308, 376, 114, 18), .visible = false, .look = Look::result},
-    {.id = statu71, .name = "statu71", .kind = Kind::label, .place = at(444, 434, 140, 18), .visible = false, .look = Look::result},
+    {.id = statu71, .name = "statu71", .kind = Kind::label, .place = at(446, 388, 108, 18), .visible = false, .look = Look::result},
     {.id = statu72, .name = "statu72", .kind = Kind::label, .place = at(446, 242, 106, 36), .visible = false, .look = Look::result},
     {.id = sta1, .name = "sta1", .kind = Kind::label, .place = at(640, 420, 40, 18), .text = "ERes =", .visible = false, .look = Look::result},
-    {.id = sta2, .name = "sta2", .kind = Kind::label, .place = at(778, 162, 34, 20), .text = "ERL =", .visible = false, .look = Look::result},
+    {.id = sta2, .name = "sta2", .kind = Kind::label, .place = at(790, 162, 36, 20), .text = "ERL =", .visible = false, .look = Look::result},
     {.id = sta3, .name = "sta3", .kind = Kind::label, .place = at(244, 206, 46, 18), .text = "ERb1 =", .visible = false, .look = Look::result},
     {.id = sta4, .name = "sta4", .kind = Kind::label, .place = at(640, 588, 220, 18), .visible = false, .look = Look::note},
     {.id = status1, .name = "status1", .kind = Kind::label, .place = at(8, 494, 220, 118), .visible = false, .look = Look::hint},
@@ -378,7 +394,7 @@ constexpr host::ControlRow rows[] = {
     {.id = SSCommand1, .name = "SSCommand1", .kind = Kind::button, .place = at(1026, 532, 82, 76), .meaning = {"Abrir la guía de trabajos prácticos", "Open the guide of practical work"}, .look = Look::toolButton, .drawing = guideMarks},
     {.id = Image35, .name = "Image35", .kind = Kind::image, .place = at(1112, 532, 82, 76), .meaning = {"Ayuda general", "General help"}, .look = Look::toolButton, .drawing = helpMarks},
     {.id = Image34, .name = "Image34", .kind = Kind::image, .place = at(1112, 532, 82, 76), .visible = false, .meaning = {"Cambia el dibujo de la ayuda", "Exchanges the drawing of the help"}, .look = Look::toolButton, .drawing = lampMarks},
-    {.id = STA70, .name = "STA70", .kind = Kind::label, .place = at(236, 44, 782, 46), .look = Look::hint},
+    {.id = STA70, .name = "STA70", .kind = Kind::label, .place = at(8, 44, 1186, 46), .look = Look::hint},
     {.id = SSPanel1, .name = "SSPanel1", .kind = Kind::panel, .place = at(0, 0, 1200, 40), .look = Look::prompt, .overlay = true},
 };
 // clang-format on

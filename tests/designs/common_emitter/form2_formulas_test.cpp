@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+// The formulas of Form2, against values worked out with pencil and paper; how stands beside each.
+#include <gtest/gtest.h>
+
+#include "designs/common_emitter/form2_formulas.h"
+#include "host/failure.h"
+
+namespace velmor::form2_formulas_test {
+
+using namespace form2;
+
+TEST(Form2Formulas, StabilityVoltageOfTheDefaultsIs1375Millivolts)
+{
+    // 55 degrees x 0.0025 V x 100 / 10
+    EXPECT_DOUBLE_EQ(stabilityVoltage(75, 2.5, 10).value(), 1.375);
+    // A tenth of the allowed change asks for ten times the voltage.
+    EXPECT_DOUBLE_EQ(stabilityVoltage(75, 2.5, 1).value(), 13.75);
+    EXPECT_DOUBLE_EQ(stabilityVoltage(20, 2.5, 10).value(), 0);
+}
+
+TEST(Form2Formulas, TheStandardResistorMovesTheCurrent)
+{
+    EXPECT_DOUBLE_EQ(idealEmitterResistor(1.375, 1).value(), 1375);
+    EXPECT_DOUBLE_EQ(quiescentCurrent(1.375, 1375).value(), 1);
+    EXPECT_DOUBLE_EQ(quiescentCurrent(1.5, 1500).value(), 1);
+    EXPECT_DOUBLE_EQ(junctionResistance(1).value(), 25);
+    EXPECT_DOUBLE_EQ(junctionResistance(2.5).value(), 10);
+}
+
+TEST(Form2Formulas, TheLoadFollowsTheGain)
+{
+    EXPECT_DOUBLE_EQ(unbypassedLoad(5, 1375).value(), 6875);
+    EXPECT_DOUBLE_EQ(bypassedLoad(55, 1).value(), 1375);
+    // 10000 x 6875 / 3125
+    EXPECT_DOUBLE_EQ(collectorResistor(10000, 6875).value(), 22000);
+    // 10000 x 1375 / 8625 = 1594.2028985...
+    EXPECT_NEAR(collectorResistor(10000, 1375).value(), 1594.2028985507, 1e-9);
+    EXPECT_DOUBLE_EQ(parallel(10, 22).value(), 6.875);
+    EXPECT_DOUBLE_EQ(realGain(6.875, 1375).value(), 5);
+}
+
+TEST(Form2Formulas, OutputAndInputAreTwoSidesOfTheGain)
+{
+    // 1 / 2 x 0.707 / 5
+    EXPECT_DOUBLE_EQ(inputForOutput(1, 5).value(), 0.0707);
+    // 0.1 x 1.41 x 2 x 5
+    EXPECT_DOUBLE_EQ(outputForInput(0.1, 5).value(), 1.41);
+}
+
+TEST(Form2Formulas, TheSupplyHoldsEveryDrop)
+{
+    EXPECT_DOUBLE_EQ(leastSupply(1.375, 22, 1).value(), 25.375);
+    // 35 - (0.001 x 1375 + 22 x 1)
+    EXPECT_DOUBLE_EQ(collectorEmitterVoltage(35, 1, 1375, 22).value(), 11.625);
+    EXPECT_DOUBLE_EQ(collectorEmitterVoltageByEmitter(35, 1, 22).value(), 13);
+}
+
+TEST(Form2Formulas, TheDividerIsTheCoursesOwn)
+{
+    EXPECT_EQ(lowerBaseResistor(1375, 10).scaled(), 137500000);
+    // 1000 x 12 / 1375 = 8.7, without its fraction
+    EXPECT_DOUBLE_EQ(stabilityFactor(CurrencyValue(12), 1375).value(), 8);
+    EXPECT_DOUBLE_EQ(transistorInput(80, 1375).value(), 110000);
+    // Kilohm and ohm unconverted: 12 x 80000 / 80012
+    EXPECT_NEAR(inputWithoutRb1(12, 80000).value(), 11.9982002699595, 1e-12);
+    // 35 - 1.375 - 0.6; the two terms with RL cancel
+    EXPECT_NEAR(upperBaseVoltage(35, 1, 22, 1375, 0.6).value(), 33.025, 1e-12);
+    // 33.025 x 11.9986910653 / 1.975
+    EXPECT_NEAR(upperBaseResistor(33.025, 11.9986910653, 1375, 1, 0.6).value(), 200.6363402, 1e-6);
+}
+
+TEST(Form2Formulas, ImpedancesAreParallels)
+{
+    EXPECT_DOUBLE_EQ(inputImpedance(12, 60).value(), 10);
+    // 20 || 20 = 10 K, and 10 || 10 (of 10000 ohm) = 5 K
+    EXPECT_DOUBLE_EQ(inputImpedanceBypassed(20, 20, 10000).value(), 5);
+    // 2000 || (80 x 25)
+    EXPECT_DOUBLE_EQ(inputImpedanceByEmitter(2, 80, 1).value(), 1000);
+    // 80 x (1000 + 1000) with Rb1 of 160000: 80000
+    EXPECT_DOUBLE_EQ(inputImpedanceFirstBootstrap(80, 1000, 12, 160000).value(), 80000);
+    // 80 x (5 || (10 || 10))
+    EXPECT_DOUBLE_EQ(inputImpedanceBootstrapped(80, 5, 20, 20).value(), 200);
+}
+
+TEST(Form2Formulas, CapacitorsUseTheRoundedTwoPiOfTheCourse)
+{
+    // 1 / (20 x 6.28 x 0.1 x 10) = 0.0079617834...
+    EXPECT_NEAR(couplingCapacitor(20, 10).value(), 7961.7834395, 1e-6);
+    // 2 / (12000 x 12.56) = 13.2696 millionths
+    EXPECT_NEAR(firstBootstrapCapacitor(12, 20).value(), 13.2696391, 1e-6);
+    EXPECT_NEAR(secondBootstrapCapacitor(120, 20).value(), 1.32696391, 1e-7);
+    // 1 / (25 x 125.6) = 318.47 millionths, without its fraction
+    EXPECT_DOUBLE_EQ(bypassCapacitor(1, 20).value(), 318);
+}
+
+TEST(Form2Formulas, TheObtainedCurrentUsesTheFixedJunction)
+{
+    // I1 = (11.625 + 22 - 0.6) / 120000, I2 = 1.975 / 12000: (0.00027520833 - 0.00016458333) x 80000
+    const CurrentCheck circuit{.Es = 35, .QIc = 1, .Res = 1375, .RL = 22, .Rb1 = 120, .Rb2 = 12, .Beta = 80};
+    EXPECT_NEAR(obtainedCurrent(circuit).value(), 8.85, 1e-9);
+}
+
+TEST(Form2Formulas, NothingDividesByZeroInSilence)
+{
+    EXPECT_THROW(idealEmitterResistor(1, 0), host::ProgramFailure);
+    EXPECT_THROW(collectorResistor(10, 10), host::ProgramFailure);
+    EXPECT_THROW(couplingCapacitor(0, 10), host::ProgramFailure);
+}
+
+} // namespace velmor::form2_formulas_test
