@@ -7,10 +7,9 @@
 
 #include "frame/rules/code_page.h"
 #include "frame/rules/whole_file.h"
+#include "host/engine.h"
 
 namespace velmor::editors {
-
-using host::BiText;
 
 namespace editor_detail {
 
@@ -70,8 +69,9 @@ void Editor::load()
 {
     documentoCambiado_ = false;
     documentoNuevo_ = true;
+    centre();
     const host::Place inner = place();
-    setPlaceOf(txtEdit, {0, 0, inner.width, inner.height});
+    setPlaceOf(txtEdit, {0, 0, inner.width - editor_.lessWidthAtStart, inner.height - editor_.lessHeightAtStart});
     if (accionCancelada_)
         return;
     if (editor_.guide == GuidePlace::none)
@@ -80,27 +80,44 @@ void Editor::load()
         openGuide();
 }
 
+// The main window's inner area is the screen that a child window knows.
+void Editor::centre()
+{
+    const host::Place screen = host().engine().clientArea();
+    host::Place wanted = place();
+    wanted.left = (screen.width - wanted.width) / 2;
+    wanted.top = (screen.height - wanted.height) / 2;
+    setPlace(wanted);
+}
+
 void Editor::resize()
 {
     setPlaceOf(txtEdit, {0, 0, place().width, place().height});
 }
 
-// Where the two report editors look differs on purpose.
-void Editor::openGuide()
+/// Where a guide stands or, when it does not, where it would: names are found without regard to capitals.
+std::string Editor::fileOfGuide(bool bareName, const std::string& guide) const
 {
     const std::string folder = host().programFolder();
+    const auto within = bareName ? std::optional<std::filesystem::path>(folder) : rules::findFolder(folder, guideFolder);
+    if (!within || guide.empty())
+        return pathOfGuide(folder, guide);
+    return rules::findFile(*within, guide).value_or(*within / guide).string();
+}
+
+// Where the two report editors look differs on purpose. After a missing guide the pointer must not stay an hourglass.
+void Editor::openGuide()
+{
     const std::string guide = host().values().ArchivoGuia;
+    const bool bareName = editor_.guide == GuidePlace::programFolder;
     setBusy(true);
     putText("");
     documentoCambiado_ = false;
-    nombreDocumento_ = editor_.guide == GuidePlace::programFolder ? guide : pathOfGuide(folder, guide);
-    std::optional<std::filesystem::path> within = folder;
-    if (editor_.guide == GuidePlace::archivos)
-        within = rules::findFolder(folder, guideFolder);
-    const auto path = within && !guide.empty() ? rules::findFile(*within, guide) : std::nullopt;
-    if (!path || !readDocument(path->string()))
-        return;
-    setTitle(nombreDocumento_ + std::string(pick(editor_.guideTitle)));
+    nombreDocumento_ = bareName ? guide : pathOfGuide(host().programFolder(), guide);
+    archivo_ = fileOfGuide(bareName, guide);
+    if (readDocument(fileOfGuide(editor_.guide != GuidePlace::archivos, guide)))
+        setTitle(nombreDocumento_ + std::string(pick(editor_.guideTitle)));
+    setBusy(false);
 }
 
 void Editor::putText(std::string_view text)
@@ -115,7 +132,6 @@ bool Editor::readDocument(const std::string& path)
     if (!bytes)
         return false;
     putText(linesOf(rules::decodeDocument(*bytes)));
-    setBusy(false);
     documentoNuevo_ = false;
     documentoCambiado_ = false;
     return true;
@@ -158,7 +174,7 @@ bool Editor::mayDiscard(const Question& keep, bool exiting)
         return true;
     switch (ask(keep)) {
     case answerYes:
-        return exiting && !documentoNuevo_ ? writeDocument(nombreDocumento_) : runSaveAs();
+        return exiting && !documentoNuevo_ ? writeDocument(archivo_) : runSaveAs();
     case answerNo:
         return true;
     default:
@@ -198,11 +214,11 @@ void Editor::runOpen()
     if (!path)
         return;
     setBusy(true);
-    if (!readDocument(*path)) {
-        setBusy(false);
+    const bool read = readDocument(*path);
+    setBusy(false);
+    if (!read)
         return;
-    }
-    nombreDocumento_ = *path;
+    nombreDocumento_ = archivo_ = *path;
     setTitle(nombreDocumento_ + std::string(pick(editor_.documentTitle)));
 }
 
@@ -211,7 +227,7 @@ void Editor::saveDocument()
     accionCancelada_ = false;
     if (documentoNuevo_) {
         runSaveAs();
-    } else if (documentoCambiado_ && writeDocument(nombreDocumento_)) {
+    } else if (documentoCambiado_ && writeDocument(archivo_)) {
         runOpen();
     }
 }
@@ -237,7 +253,7 @@ bool Editor::runSaveAs()
         return false;
     if (!writeDocument(*path))
         return false;
-    nombreDocumento_ = *path;
+    nombreDocumento_ = archivo_ = *path;
     documentoNuevo_ = false;
     setTitle(nombreDocumento_ + std::string(pick(editor_.documentTitle)));
     return true;
@@ -252,13 +268,15 @@ void Editor::exit()
         if (host::Window* reportEditor = host().find("frmEdito3"))
             host().Show(*reportEditor);
     } else if (ask(editor_.confirmExit) == answerOk) {
+        exitConfirmed_ = true;
         host().Unload(*this);
     }
 }
 
+// Whoever closes the window is asked, but for its own exit, which has asked already.
 void Editor::queryClose(host::EventArgs& args)
 {
-    if (args.reason != host::CloseReason::button || editor_.closeByButton.flags == 0)
+    if (exitConfirmed_ || args.reason == host::CloseReason::programEnd || editor_.closeByButton.flags == 0)
         return;
     const int answer = host().MsgBox(pick(editor_.closeByButton.text), editor_.closeByButton.flags, caption());
     args.cancel = answer == answerNo || answer == answerCancel;

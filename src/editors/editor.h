@@ -54,6 +54,8 @@ struct EditorSpec {
     host::BiText newWindow{};          ///< the editor that `mnuFileItem` opens
     std::string_view guideOfNewWindow{}; ///< `ArchivoGuia` set around it; empty leaves it alone
     bool printsFontSize = true;
+    int lessWidthAtStart = 0;          ///< how much smaller than the window the text is until the first resize, twips
+    int lessHeightAtStart = 0;
 };
 
 class Editor : public host::Window {
@@ -107,12 +109,16 @@ private:
     void setTitle(std::string_view title);
     void setBusy(bool busy);
     void startEmpty();
+    void centre();
+    std::string fileOfGuide(bool bareName, const std::string& guide) const;
 
     const EditorSpec& editor_;
     std::string nombreDocumento_;
+    std::string archivo_; ///< the file that `NombreDocumento` means: whole path, with the capitals that it has on the disk
     bool documentoNuevo_ = true;
     bool documentoCambiado_ = false;
     bool accionCancelada_ = false;
+    bool exitConfirmed_ = false;
 };
 
 /// Rows of the menus and the slots, the same for all four; a window's table leaves out what it lacks by hiding it.

@@ -148,8 +148,11 @@ void Editor::print()
         text.push_back(letter);
     }
     const host::Font face = font(txtEdit);
+    host::Font measured = face;
+    if (!editor_.printsFontSize)
+        measured.size = 0; // the printer's own
     const auto widthOf = [&](char32_t character) {
-        return host().screen().printedWidth(face, host::toUtf8(std::u32string_view(&character, 1)));
+        return host().screen().printedWidth(measured, host::toUtf8(std::u32string_view(&character, 1)));
     };
     host().screen().print({.text = breakForPrinter(text, widthOf), .font = face, .fontSizeGiven = editor_.printsFontSize});
 }

@@ -158,7 +158,8 @@ constexpr EditorSpec edito2Spec{
     .keep = keepReport, .keepAtExit = keepReportAtExit, .replaceFile = replaceReport, .confirmExit = confirmReportExit,
     .closeByButton = {.text = {.es = "¿Desea abandonar Informes Velmor?\n Recuerde salvar el Archivo...",
                                .en = "¿Do you wish EXIT of Velmor Reports?\n Remember to Save Archive..."}, .flags = 36},
-    .newWindow = {.es = "frmEdito2", .en = "frmEdito2"}, .guideOfNewWindow = feedbackGuide};
+    .newWindow = {.es = "frmEdito2", .en = "frmEdito2"}, .guideOfNewWindow = feedbackGuide,
+    .lessWidthAtStart = 130, .lessHeightAtStart = 340};
 constexpr EditorSpec edito3Spec{
     .guide = GuidePlace::archivosByName, .guideTitle = {.es = "Informe Velmor", .en = " Velmor Report"},
     .documentTitle = {.es = "Informes Velmor", .en = "Report Velmor "},
