@@ -73,12 +73,13 @@ Calculator::Calculator(host::SheetHost& host) : host::Window(host, calculator::s
 
 void Calculator::load()
 {
-    setCaption(pick(texts::title));
     setText(Command3, "Eo/Ei Po/Pi");
 }
 
+// It is hidden rather than closed: when it comes back the language may be another.
 void Calculator::activate()
 {
+    setCaption(pick(texts::title));
     setText(Command3, " Eo/Ei Po/Pi");
 }
 
@@ -139,8 +140,7 @@ void Calculator::startPowerGain()
     entered_ = false;
     hideAllBut(Text3);
     ask(Text3);
-    hide(Label1);
-    setText(Label2, "");
+    setText(Label2, ""); // what the voltage path said does not hold here
 }
 
 void Calculator::off()

@@ -27,7 +27,7 @@ constexpr host::ControlRow controls[] = {
 static_assert(host::rowsInOrder(controls));
 
 constexpr host::SlotRow slots[] = {
-    {host::noControl, host::Event::load, host::slot<&Form14::load>},
+    {host::noControl, host::Event::activate, host::slot<&Form14::activate>},
 };
 // clang-format on
 
@@ -35,7 +35,8 @@ constexpr host::SlotRow slots[] = {
 
 Form14::Form14(host::SheetHost& host) : host::Window(host, form14::spec) {}
 
-void Form14::load()
+// The main window hides it rather than closing it: when it comes back the language may be another.
+void Form14::activate()
 {
     setCaption(host().pick(table::title));
     setText(Frame1, host().pick(table::normalized));

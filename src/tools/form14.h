@@ -17,7 +17,7 @@ std::unique_ptr<host::Window> create(host::SheetHost& host);
 class Form14 final : public host::Window {
 public:
     explicit Form14(host::SheetHost& host);
-    void load();
+    void activate();
 };
 
 } // namespace velmor::form14

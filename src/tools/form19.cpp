@@ -50,12 +50,7 @@ void Form19::activate()
 {
     const int mainHeight = host().mainWindow().place().height;
     setPlace({table::left, mainHeight - table::height - table::bottomMargin, table::width, table::height});
-    for (const host::Handle page : {Text1, Text2}) {
-        host::Place wide = placeOf(page);
-        wide.left = 0;
-        wide.width = place().width;
-        setPlaceOf(page, wide);
-    }
+    resize();
 }
 
 void Form19::resize()
