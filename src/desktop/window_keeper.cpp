@@ -275,11 +275,11 @@ bool WindowKeeper::eventFilter(QObject* object, QEvent* event)
 void WindowKeeper::windowActivated()
 {
     QWidget* active = QApplication::activeWindow();
-    if (desk_.closing || active == nullptr || !desk_.idle() || (awaited_ && awaited_ != active))
+    if (desk_.closing || active == nullptr || !desk_.idle() || handedBack(active))
+        return;
+    if (awaited_ && awaited_ != active)
         return;
     awaited_ = nullptr;
-    if (handedBack(active))
-        return;
     if (wanted_ != active)
         wanted_ = nullptr;
     host::Window* turnedTo = nullptr;
