@@ -20,10 +20,10 @@ QString inAnyCapitals(const QString& patterns)
 {
     QStringList result;
     for (const QString& pattern : patterns.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-        const QString bare = pattern.trimmed();
+        const QString bare = pattern.trimmed() == QStringLiteral("*.*") ? QStringLiteral("*") : pattern.trimmed();
         for (const QString& form : {bare, bare.toLower(), bare.toUpper()})
             if (!result.contains(form))
-                result.append(form == QStringLiteral("*.*") ? QStringLiteral("*") : form);
+                result.append(form);
     }
     return result.join(QLatin1Char(' '));
 }

@@ -24,6 +24,7 @@ namespace sheet_view_detail {
 /// Below this scale an 8 point text falls under 9 logical pixels: the sheet scrolls instead.
 constexpr double smallestScale = 0.85;
 constexpr double smallestOfPictures = 0.4;
+constexpr int toolMargin = 120; ///< twips
 constexpr int scrollMargin = 40;
 
 } // namespace sheet_view_detail
@@ -86,6 +87,21 @@ void SheetView::followFocus()
     bringIntoView();
 }
 
+host::Place SheetView::designOfTool() const
+{
+    host::Place design{0, 0, model()->place().width, model()->place().height};
+    for (const host::ControlRow& row : model()->spec().controls) {
+        if (!hasPlace(row.kind) || row.overlay || row.look == host::Look::invisible)
+            continue;
+        const host::Place place = host::shownPlace(*model(), row.id);
+        if (place.left + place.width > design.width)
+            design.width = place.left + place.width + sheet_view_detail::toolMargin;
+        if (place.top + place.height > design.height)
+            design.height = place.top + place.height + sheet_view_detail::toolMargin;
+    }
+    return design;
+}
+
 QRect SheetView::inHand() const
 {
     if (model() == nullptr || model()->focus() == noControl)
@@ -116,7 +132,7 @@ void SheetView::layOutCanvas()
     if (model() == nullptr)
         return;
     if (model()->role() != Role::sheet && model()->role() != Role::editor)
-        canvas_->setDesign({0, 0, model()->place().width, model()->place().height});
+        canvas_->setDesign(designOfTool());
     const QSize room = area_->maximumViewportSize();
     if (model()->role() == Role::editor) {
         canvas_->layOut(desk_.scale, room);

@@ -36,6 +36,8 @@ public:
     void relabel() { canvas_->relabel(); }
     void recolor() { canvas_->recolor(); }
     void layOutCanvas();
+    /// The size of a tool: its window's, made larger where a control would be cut off.
+    host::Place designOfTool() const;
     /// What the keyboard works on, in screen coordinates: the field in hand, in an editor the line; empty without one.
     QRect inHand() const;
     /// Size in logical pixels that shows the window as its table wants it.

@@ -72,11 +72,11 @@ void ToolWindow::followWindow()
 
 void ToolWindow::followSize()
 {
-    const host::Place& place = model()->place();
-    if (place.width == told_.width && place.height == told_.height)
+    const host::Place design = view_->designOfTool();
+    if (design.width == told_.width && design.height == told_.height)
         return;
-    told_ = place;
-    view_->canvas().setDesign({0, 0, place.width, place.height});
+    told_ = design;
+    view_->canvas().setDesign(design);
     const QSize wanted = view_->wantedSize() * (model()->role() == host::Role::palette ? tool_window_detail::paletteShare : 1.0);
     const QSize most = room().size() * tool_window_detail::largestShare;
     resize(wanted.width() > most.width() || wanted.height() > most.height() ? wanted.scaled(most, Qt::KeepAspectRatio)

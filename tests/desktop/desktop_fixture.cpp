@@ -4,6 +4,7 @@
 #include <array>
 
 #include <QApplication>
+#include <QDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -309,6 +310,16 @@ void Bench::answerByKey(int key)
         if (duringBox)
             duringBox();
         QTest::keyClick(box, static_cast<Qt::Key>(key));
+    });
+    watch->start(1);
+}
+
+void Bench::answerAnything()
+{
+    auto* watch = new QTimer(&main());
+    QObject::connect(watch, &QTimer::timeout, watch, [] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            dialog->reject();
     });
     watch->start(1);
 }

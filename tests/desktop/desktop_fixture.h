@@ -91,6 +91,8 @@ public:
 
     /// Queues the key with which the next box is answered; what it showed is noted.
     void answerByKey(int key);
+    /// From now on every dialog is given up at once.
+    void answerAnything();
     std::vector<SeenBox> boxes;
     std::function<void()> duringBox;
 

@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: MIT
+// What the screen does on this machine: settings, the program's folder, texts of editors, printing, a second program.
+#include <clocale>
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFontMetricsF>
+#include <QLocale>
+#include <QPdfWriter>
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
+
+#include "desktop/document_store.h"
+#include "desktop/other_instance.h"
+#include "desktop/printing.h"
+#include "desktop/program_folder.h"
+#include "desktop/settings_file.h"
+
+namespace velmor::test::deeds_test {
+
+using desktop::DocumentStore;
+
+void write(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST(LocaleTest, theMachineWritesACommaAndNumbersStillHaveAPoint)
+{
+    ASSERT_EQ(QLocale::system().decimalPoint(), ",") << "the es_AR locale is missing";
+    EXPECT_STREQ(std::localeconv()->decimal_point, ".");
+    EXPECT_EQ(std::stod("1.5"), 1.5);
+}
+
+TEST(SettingsFileTest, valuesOutliveTheProgram)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("a/Velmor.ini");
+    desktop::SettingsFile(path).setValue("Predeterminados", "fCastIng", "1");
+    desktop::SettingsFile(path).setValue("international", "sDecimal", ".");
+    desktop::SettingsFile again(path);
+    EXPECT_EQ(again.value("Predeterminados", "fCastIng"), "1");
+    EXPECT_EQ(again.value("international", "sDecimal"), ".");
+    EXPECT_EQ(again.value("Predeterminados", "Pantalla"), std::nullopt);
+}
+
+TEST(SettingsFileTest, anyTextComesBackToTheLetter)
+{
+    const QTemporaryDir folder;
+    for (const std::string text : {"a, b;c", "@Invalid()", " ñ\"%1\n", "0", ""}) {
+        desktop::SettingsFile(folder.filePath("x.ini")).setValue("s", "k", text);
+        EXPECT_EQ(desktop::SettingsFile(folder.filePath("x.ini")).value("s", "k"), text);
+    }
+}
+
+TEST(SettingsFileTest, aDamagedFileGivesDefaultsAndIsReplacedAtTheNextWriting)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("Velmor.ini");
+    write(path, QByteArray("[Predeter\0minados\nfCast\xff\xfe=Ing,,,=\n]]]]\nPantalla", 50));
+    desktop::SettingsFile damaged(path);
+    EXPECT_EQ(damaged.value("Predeterminados", "fCastIng"), std::nullopt);
+    damaged.setValue("Predeterminados", "fCastIng", "1");
+    EXPECT_EQ(desktop::SettingsFile(path).value("Predeterminados", "fCastIng"), "1");
+}
+
+TEST(SettingsFileTest, aFileThatIsAListOrAFolderOrHugeGivesDefaults)
+{
+    const QTemporaryDir folder;
+    write(folder.filePath("list.ini"), "[Predeterminados]\nfCastIng=1, 2\n");
+    EXPECT_EQ(desktop::SettingsFile(folder.filePath("list.ini")).value("Predeterminados", "fCastIng"), std::nullopt);
+    QDir().mkpath(folder.filePath("folder.ini"));
+    EXPECT_EQ(desktop::SettingsFile(folder.filePath("folder.ini")).value("Predeterminados", "fCastIng"), std::nullopt);
+    write(folder.filePath("huge.ini"), QByteArray("[Predeterminados]\nfCastIng=1\n") + QByteArray(3 << 20, ';'));
+    EXPECT_EQ(desktop::SettingsFile(folder.filePath("huge.ini")).value("Predeterminados", "fCastIng"), std::nullopt);
+}
+
+TEST(SettingsFileTest, aPlaceThatCannotBeWrittenIsIgnored)
+{
+    desktop::SettingsFile nowhere("/proc/velmor/Velmor.ini");
+    nowhere.setValue("Predeterminados", "fCastIng", "1");
+    EXPECT_EQ(nowhere.value("Predeterminados", "fCastIng"), "1") << "for this run it counts all the same";
+    EXPECT_FALSE(QFile::exists("/proc/velmor"));
+}
+
+struct ProgramFolderTest : ::testing::Test {
+    void SetUp() override
+    {
+        for (const char* made : {"bin", "docs", "guides"})
+            QDir().mkpath(root.filePath(made));
+        write(root.filePath("guides/guia1.Lab"), "uno");
+        write(root.filePath("guides/Proy.LAB"), "dos");
+        write(root.filePath("guides/notes.txt"), "no");
+        places = {root.filePath("bin"), root.filePath("docs"), root.filePath("guides")};
+    }
+    void fill() { desktop::fillProgramFolder(desktop::programFolderOf(places), places.guides); }
+    QTemporaryDir root;
+    desktop::FolderPlaces places;
+};
+
+TEST_F(ProgramFolderTest, itIsMadeInTheDocumentsAndFilledTwice)
+{
+    EXPECT_EQ(desktop::programFolderOf(places), root.filePath("docs/Velmor"));
+    fill();
+    EXPECT_EQ(bytesOf(root.filePath("docs/Velmor/guia1.Lab")), "uno");
+    EXPECT_EQ(bytesOf(root.filePath("docs/Velmor/Archivos/Proy.LAB")), "dos");
+    EXPECT_FALSE(QFile::exists(root.filePath("docs/Velmor/notes.txt")));
+}
+
+TEST_F(ProgramFolderTest, nothingIsEverOverwrittenNorBroughtBack)
+{
+    fill();
+    write(root.filePath("docs/Velmor/guia1.Lab"), "mine");
+    QFile::remove(root.filePath("docs/Velmor/Proy.LAB"));
+    fill();
+    EXPECT_EQ(bytesOf(root.filePath("docs/Velmor/guia1.Lab")), "mine");
+    EXPECT_FALSE(QFile::exists(root.filePath("docs/Velmor/Proy.LAB")));
+}
+
+TEST_F(ProgramFolderTest, aPortableCopyKeepsItsFilesBesideTheExecutable)
+{
+    write(root.filePath("bin/GUIA1.lab"), "x");
+    EXPECT_EQ(desktop::programFolderOf(places), root.filePath("bin"));
+}
+
+TEST_F(ProgramFolderTest, aFolderThatCannotBeMadeDoesNoHarm)
+{
+    places.documents = "/proc";
+    fill();
+    EXPECT_EQ(desktop::programFolderOf(places), "/proc/Velmor");
+}
+
+TEST(OtherInstanceTest, theSecondSeesTheFirstAndNotAfterItsEnd)
+{
+    const QTemporaryDir folder;
+    {
+        const desktop::OtherInstance first(folder.filePath("mark"));
+        EXPECT_FALSE(first.running());
+        const desktop::OtherInstance second(folder.filePath("mark"));
+        EXPECT_TRUE(second.running());
+    }
+    EXPECT_FALSE(desktop::OtherInstance(folder.filePath("mark")).running());
+}
+
+TEST(DocumentStoreTest, positionsCountCharacters)
+{
+    DocumentStore store;
+    store.setAll("añ\U0001F600b\nc");
+    EXPECT_EQ(store.length(), 6U);
+    EXPECT_EQ(store.slice(2, 2), "\U0001F600b");
+    EXPECT_EQ(store.slice(4, 99), "\nc");
+    EXPECT_EQ(store.slice(99, 1), "");
+    store.select(3, 1);
+    EXPECT_EQ(store.selectionStart(), 3U);
+    EXPECT_EQ(store.selectionLength(), 1U);
+    store.replaceSelection("XY");
+    EXPECT_EQ(store.all(), "añ\U0001F600XY\nc");
+    EXPECT_EQ(store.selectionStart(), 5U);
+    EXPECT_EQ(store.selectionLength(), 0U);
+}
+
+TEST(DocumentStoreTest, lineBreaksGoInAndOutAsLineFeeds)
+{
+    DocumentStore store;
+    store.setAll("a\r\nb\rc\nd");
+    EXPECT_EQ(store.all(), "a\nb\nc\nd");
+    EXPECT_EQ(store.length(), 7U);
+    EXPECT_EQ(store.slice(1, 3), "\nb\n");
+}
+
+TEST(DocumentStoreTest, theWidgetThatShowsItKeepsTheSelectionAndMayGoFirst)
+{
+    DocumentStore store;
+    store.setAll("abcdef");
+    store.select(1, 2);
+    {
+        QPlainTextEdit edit;
+        store.shownBy(&edit);
+        EXPECT_EQ(edit.textCursor().selectedText(), "bc");
+        store.select(3, 3);
+        EXPECT_EQ(edit.textCursor().selectedText(), "def");
+        edit.textCursor().insertText("X");
+        EXPECT_EQ(store.all(), "abcX");
+    }
+    EXPECT_EQ(store.all(), "abcX");
+    store.select(0, 1);
+    EXPECT_EQ(store.selectionLength(), 1U);
+}
+
+TEST(DocumentStoreTest, theProgramsOwnChangesAreTold)
+{
+    DocumentStore store;
+    int own = 0;
+    QObject::connect(store.document(), &QTextDocument::contentsChanged, [&] { own += store.programChanges() ? 1 : 0; });
+    store.setAll("a");
+    store.replaceSelection("b");
+    EXPECT_EQ(own, 2);
+    EXPECT_FALSE(store.programChanges());
+}
+
+TEST(PrintingTest, widthsAreInTwipsAndLineFeedsHaveNone)
+{
+    const host::Font font{.name = "DejaVu Sans Mono", .size = 10.0};
+    const int one = desktop::printedTwips(font, "M");
+    EXPECT_NEAR(one, 120, 8) << "a letter of this face is 0.602 of its size, 10 points are 200 twips";
+    EXPECT_NEAR(desktop::printedTwips(font, "MMMM\n"), 4 * one, 3);
+    EXPECT_NEAR(desktop::printedTwips({.name = "DejaVu Sans Mono", .size = 20.0}, "M"), 2 * one, 4);
+}
+
+TEST(PrintingTest, theWholeTextIsPrintedAndLongLinesAreBrokenAtBlanks)
+{
+    host::PrintJob job{.text = "uno\rdos tres cuatro\r\rcinco", .font = {.name = "DejaVu Sans Mono", .size = 10.0}};
+    EXPECT_EQ(desktop::printedLines(job, 100000.0), (QStringList{"uno", "dos tres cuatro", "", "cinco"}));
+    const double width = desktop::printedTwips(job.font, "dos tres ") + 10.0;
+    EXPECT_EQ(desktop::printedLines(job, width), (QStringList{"uno", "dos tres ", "cuatro", "", "cinco"}));
+    job.text = "xxxxxxxxxx";
+    EXPECT_EQ(desktop::printedLines(job, desktop::printedTwips(job.font, "xxxx") + 10.0).join(""), "xxxxxxxxxx");
+}
+
+TEST(PrintingTest, aLongTextFallsIntoPages)
+{
+    const QTemporaryDir folder;
+    host::PrintJob job;
+    for (int i = 0; i < 500; ++i)
+        job.text += "Renglón " + std::to_string(i) + "\r";
+    {
+        QPdfWriter writer(folder.filePath("x.pdf"));
+        EXPECT_TRUE(desktop::printOn(writer, job));
+    }
+    const QByteArray pdf = bytesOf(folder.filePath("x.pdf"));
+    EXPECT_GT(pdf.count("/Type /Page\n") + pdf.count("/Type /Page/"), 5);
+}
+
+} // namespace velmor::test::deeds_test
