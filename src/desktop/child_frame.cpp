@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/child_frame.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QMdiArea>
+#include <QMenu>
 #include <QScopedValueRollback>
 
 #include "desktop/sheet_view.h"
@@ -22,6 +24,10 @@ ChildFrame::ChildFrame(Desk& desk, host::Window& model) : desk_(desk), view_(new
     setAttribute(Qt::WA_DeleteOnClose, false);
     setMinimumSize(child_frame_detail::smallestFrame);
     setObjectName(shown(model.name()));
+    // The toolkit's own menu of a frame claims Ctrl+W too, which is the main menu's: neither would work.
+    for (QAction* action : systemMenu()->actions())
+        if (action->shortcut() == QKeySequence(QKeySequence::Close))
+            action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4));
 }
 
 host::Window* ChildFrame::model() const

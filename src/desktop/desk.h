@@ -23,6 +23,8 @@ struct Desk {
     bool closing = false; ///< the program has ended; views take no more events
     std::function<void()> nextPane;  ///< the keyboard goes to the next window that is open beside the main one
     std::function<void(QWidget*)> touched; ///< a person pressed a key or a button in that view
+    /// The pointer, or a key in its place, has come over a control of that window; noControl is its background.
+    std::function<void(const host::Window&, host::Handle)> hovered;
 
     bool english() const { return engine->values().LanguageIsEnglish == host::trueValue; }
     bool idle() const { return !closing && engine->idle() && !engine->ended(); }

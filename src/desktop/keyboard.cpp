@@ -146,7 +146,11 @@ bool Keyboard::runShortcut(QKeyCombination keys)
     const std::size_t row = shortcutRow(canvas_.model()->spec(), keys);
     if (row == noRow)
         return false;
-    canvas_.desk().engine->userShortcut(*canvas_.model(), row);
+    const Desk& desk = canvas_.desk();
+    host::Window& model = *canvas_.model();
+    desk.engine->userShortcut(model, row);
+    if (desk.hovered && model.spec().shortcuts[row].action == host::KeyAction::hover && desk.idle())
+        desk.hovered(model, model.spec().shortcuts[row].control);
     return true;
 }
 
@@ -241,6 +245,9 @@ bool Keyboard::fieldKey(FieldEdit& field, const QKeyEvent& event)
         typeText(field, event.text());
         return true;
     }
+    // A letter with Alt is a menu's that no menu has: the line edit would write it past the key slot.
+    if (event.modifiers() == Qt::AltModifier && !event.text().isEmpty() && event.text().at(0).isPrint())
+        return true;
     field.handTaken();
     if (event.key() == Qt::Key_Backspace)
         return !passes(backspaceKey);

@@ -14,9 +14,12 @@
 #include <QScreen>
 
 #include "desktop/canvas.h"
+#include "desktop/canvas_plan.h"
 #include "desktop/keyboard.h"
 #include "desktop/menus.h"
+#include "desktop/page_picture.h"
 #include "desktop/texts.h"
+#include "frame/mdi_form1_layout.h"
 
 namespace velmor::desktop {
 
@@ -30,6 +33,7 @@ constexpr double drawnWidth = 1350.0;
 constexpr double drawnHeight = 675.0;
 constexpr int likelyTitleHeight = 30;
 constexpr QSize smallestWindow(640, 420);
+constexpr int edgeHeight = 2; ///< of the line between a sheet and the page that lies over it
 
 } // namespace main_window_detail
 
@@ -54,6 +58,9 @@ MainWindow::MainWindow(Desk& desk, host::Window& model)
         bar_->setParent(middle_);
         bar_->setFocusPolicy(Qt::NoFocus);
     }
+    edge_ = new QWidget(middle_);
+    edge_->setAutoFillBackground(true);
+    edge_->setPalette(QPalette(desk.inks->accent));
     middle_->installEventFilter(this);
     area_->viewport()->installEventFilter(this);
     setCentralWidget(middle_);
@@ -115,7 +122,8 @@ void MainWindow::setHasChildren(bool hasChildren)
     const host::Window* below = desk_.engine->activeChild();
     const bool changed = hasChildren_ != hasChildren || below_ != below;
     hasChildren_ = hasChildren;
-    below_ = below;
+    if (std::exchange(below_, below) != below)
+        talking_ = false;
     if (changed)
         layOutPanels();
 }
@@ -150,6 +158,7 @@ void MainWindow::relabel()
 void MainWindow::recolor()
 {
     area_->setBackground(desk_.inks->desk);
+    edge_->setPalette(QPalette(desk_.inks->accent));
     welcome_->recolor();
     if (bar_ != nullptr)
         bar_->recolor();
@@ -164,9 +173,7 @@ void MainWindow::farewell()
     model_ = nullptr;
 }
 
-// The bar takes a strip of its own. The welcome panel fills the rest while no sheet is open and lies over the sheets
-// otherwise, so that its coming and going moves nothing that a student is working on. An editor, which does not send it
-// away as sheets do, is never covered.
+// The bar takes a strip of its own.
 void MainWindow::layOutPanels()
 {
     if (model_ == nullptr || middle_->width() <= 0)
@@ -196,18 +203,67 @@ void MainWindow::layOutPanels()
     rest.setBottom(std::max(rest.top(), rest.bottom() - strip_));
     if (area_->geometry() != rest)
         area_->setGeometry(rest);
+    layOutWelcome(rest);
+    tellClientArea();
+}
+
+bool MainWindow::hasPage() const
+{
+    for (Handle control = 0; control < model_->controlCount(); ++control)
+        if (model_->visible(control) && isPagePicture(*model_, control) && model_->row(control).parent == noControl)
+            return true;
+    return false;
+}
+
+// At the lower edge, where the palette rests; at the upper one when a palette moved by hand stands in the way.
+QRect MainWindow::pageStripIn(const QRect& rest) const
+{
+    const host::Place& strip = main_window::pageStrip;
+    const int height = std::min(rest.height(), rest.width() * strip.height / strip.width);
+    const QRect low(rest.left(), rest.bottom() + 1 - height, rest.width(), height);
+    const auto* palette = findChild<QWidget*>(QStringLiteral("Form16"));
+    const bool covered = palette != nullptr && palette->isVisible()
+                         && QRect(middle_->mapToGlobal(low.topLeft()), low.size()).intersects(palette->frameGeometry());
+    return covered ? QRect(rest.topLeft(), low.size()) : low;
+}
+
+// The welcome panel fills the rest while no child is open. With sheets open it lies behind them; only the page of the
+// design under the mouse comes in front, so that its coming and going moves nothing that a student is working on.
+void MainWindow::layOutWelcome(const QRect& rest)
+{
     const Handle panel = model_->named("SSPanel1");
-    const host::Window* child = desk_.engine->activeChild();
-    const bool sheetBelow = child != nullptr && child->role() == host::Role::sheet;
-    const bool welcomes = panel != noControl && (!hasChildren_ || (model_->visible(panel) && sheetBelow));
-    if (welcomes) {
-        welcome_->setDesign(host::shownPlace(*model_, panel));
-        welcome_->layOut(welcome_->scaleFor(rest.size()), rest.size());
-        welcome_->move(rest.topLeft());
+    const bool page = hasChildren_ && talking_ && hasPage();
+    const bool whole = panel != noControl && !hasChildren_;
+    if (page || whole) {
+        const QRect place = page ? pageStripIn(rest) : rest;
+        welcome_->setDesign(page ? main_window::pageStrip : host::shownPlace(*model_, panel));
+        welcome_->layOut(welcome_->scaleFor(place.size()), place.size());
+        welcome_->move(place.topLeft());
         welcome_->raise();
     }
-    welcome_->setVisible(welcomes);
-    tellClientArea();
+    welcome_->setVisible(page || whole);
+    edge_->setGeometry(welcome_->x(), welcome_->y(), welcome_->width(), main_window_detail::edgeHeight);
+    edge_->setVisible(page);
+    edge_->raise();
+}
+
+void MainWindow::hovered(const host::Window& window, Handle control)
+{
+    if (model_ == nullptr)
+        return;
+    const Handle bar = model_->named("Picture14");
+    const bool onButtons = window.role() == host::Role::palette || (&window == model_ && liesIn(window.spec(), control, bar));
+    if (!onButtons && &window != model_)
+        hush();
+    else if (onButtons && control != noControl && window.hasSlot(control, host::Event::hover)
+             && !std::exchange(talking_, true))
+        layOutPanels();
+}
+
+void MainWindow::hush()
+{
+    if (std::exchange(talking_, false))
+        layOutPanels();
 }
 
 // What stands in the area keeps its share of it: a sheet that fills the area goes on filling it.
@@ -269,9 +325,12 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
     const std::size_t row = model_ == nullptr || desk_.closing ? noRow : shortcutRow(model_->spec(), keysOf(*event));
-    if (row != noRow)
+    if (row != noRow) {
+        const host::ShortcutRow& bound = model_->spec().shortcuts[row];
         desk_.engine->userShortcut(*model_, row);
-    else if (model_ == nullptr || !openMenuByKey(keysOf(*event)))
+        if (bound.action == host::KeyAction::hover)
+            hovered(*model_, bound.control);
+    } else if (model_ == nullptr || !openMenuByKey(keysOf(*event)))
         QMainWindow::keyPressEvent(event);
 }
 

@@ -37,6 +37,10 @@ public:
     QRect strip() const;
     /// A child window is shown, so the welcome panel leaves it room.
     void setHasChildren(bool hasChildren);
+    /// The pointer is over a control of some window: a button that talks brings the page of its design over the sheets.
+    void hovered(const host::Window& window, host::Handle control);
+    /// The page that lies over the sheets goes.
+    void hush();
     /// Takes the size that it will have on this screen before it is shown, so that the first sheets are made to it.
     void foresee();
 
@@ -51,6 +55,9 @@ private:
     bool openMenuByKey(QKeyCombination keys);
     void pressBackground(const QMouseEvent& event);
     void layOutPanels();
+    void layOutWelcome(const QRect& rest);
+    bool hasPage() const;
+    QRect pageStripIn(const QRect& rest) const;
     void tellClientArea();
 
     Desk& desk_;
@@ -60,9 +67,11 @@ private:
     QWidget* middle_;
     Canvas* welcome_ = nullptr;
     Canvas* bar_ = nullptr;
+    QWidget* edge_ = nullptr;
     const host::Window* below_ = nullptr; ///< active child at the last layout; compared only
     int strip_ = 0;
     bool hasChildren_ = false;
+    bool talking_ = false;
     bool following_ = false;
 };
 

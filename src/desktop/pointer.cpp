@@ -127,7 +127,11 @@ void Pointer::hover(Handle control)
         return;
     hovered_ = control;
     hoverKnown_ = true;
-    canvas_.desk().engine->userHover(*canvas_.model(), control);
+    const Desk& desk = canvas_.desk();
+    const host::Window& model = *canvas_.model();
+    desk.engine->userHover(*canvas_.model(), control);
+    if (desk.hovered && !desk.closing && desk.engine->isLoaded(&model))
+        desk.hovered(model, control);
 }
 
 void Pointer::left()

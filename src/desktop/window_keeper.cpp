@@ -25,6 +25,10 @@ WindowKeeper::WindowKeeper(Desk& desk) : desk_(desk)
 {
     desk_.nextPane = [this] { nextPane(); };
     desk_.touched = [this](QWidget* view) { touched(view); };
+    desk_.hovered = [this](const host::Window& window, host::Handle control) {
+        if (main_)
+            main_->hovered(window, control);
+    };
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focusMoved(now); });
 }
 
@@ -307,26 +311,17 @@ bool WindowKeeper::handedBack(QWidget* active)
     return true;
 }
 
-// A press or a key: activations that were awaited no longer matter, and a welcome panel that lies over the sheet goes as
-// if the sheet had been drawn anew.
+// A press or a key: activations that were awaited no longer matter, and the page that the mouse has brought over the sheets
+// goes, unless the press was on a button that talks.
 void WindowKeeper::touched(QWidget* view)
 {
     awaited_ = nullptr;
     auto* canvas = dynamic_cast<Canvas*>(view);
-    host::Window* sheet = desk_.engine->activeChild();
-    if (canvas == nullptr || canvas->model() == nullptr || sheet == nullptr || !desk_.idle())
+    if (!main_ || canvas == nullptr || canvas->model() == nullptr || canvas->model()->role() == Role::palette)
         return;
     const bool onPanel = canvas->model()->role() == Role::mainWindow;
-    host::Window& main = desk_.engine->mainWindow();
-    const host::Handle panel = main.named("SSPanel1");
-    if (panel == noControl || !main.visible(panel) || (!onPanel && canvas->model() != sheet))
-        return;
-    if (onPanel && canvas->controlAt(canvas->mapFromGlobal(QCursor::pos())) != noControl)
-        return;
-    desk_.engine->userRun([sheet] {
-        host::EventArgs args;
-        sheet->runSlot(noControl, host::Event::repaint, args);
-    });
+    if (!onPanel || canvas->controlAt(canvas->mapFromGlobal(QCursor::pos())) == noControl)
+        main_->hush();
 }
 
 QWidget* WindowKeeper::dialogParent() const

@@ -19,6 +19,7 @@ constexpr host::Place advice{left, 2080, 10000, 640};
 constexpr host::Place picture{left + 8700, top + 150, 8100, 4700};
 constexpr host::Place pageText{left, top + 200, textWidth, 2150};
 constexpr host::Place maxim{left, top + 2500, textWidth, 800};
+constexpr host::Place maximBelow{left, top + 5150, textWidth, 800}; ///< the general page keeps the last one
 constexpr host::Place notes{left, top + 3450, textWidth, 1400};
 constexpr host::Place emblem{left, top + 250, 16650, 4500};
 constexpr host::Place stanzasLeft{left, top + 200, 4050, 4600};
@@ -66,7 +67,7 @@ host::Place shownPlaceOf(const host::Window& window, host::Handle control)
     case Label1:
         return poem ? stanzasLeft : pageText;
     case Label21:
-        return poem ? stanzasRight : maxim;
+        return poem ? stanzasRight : window.visible(Image1) ? maximBelow : maxim;
     case Label20:
     case Label22:
     case Label24:

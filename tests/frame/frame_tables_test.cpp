@@ -246,6 +246,7 @@ TEST(FrameTables, NothingOnTheShownPageOverlaps)
     using namespace main_window;
     for (const bool poem : {false, true}) {
         window.setVisible(Picture13, poem);
+        window.setVisible(Image1, false);
         std::vector<host::Handle> page{Label35, Label3, Label4, Label1, Label21, Picture1};
         if (!poem)
             page.push_back(Label20);
@@ -260,6 +261,11 @@ TEST(FrameTables, NothingOnTheShownPageOverlaps)
             EXPECT_LE(place(onStrip).top + place(onStrip).height, pageStrip.top + pageStrip.height);
         }
     }
+    window.setVisible(Picture13, false);
+    window.setVisible(Image1, true);
+    for (const host::Handle one : {Label35, Label3, Label4, Image1})
+        EXPECT_TRUE(apart(place(one), place(Label21))) << spec.controls[one].name;
+    EXPECT_LE(place(Label21).top + place(Label21).height, welcomePanel.height);
     for (host::Handle one = imgButton0; one <= Image29; ++one) {
         EXPECT_LE(place(one).left + place(one).width, circuitBar.width);
         EXPECT_LE(place(one).top + place(one).height, circuitBar.height);
