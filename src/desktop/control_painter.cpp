@@ -118,7 +118,7 @@ void writeCaption(const Scene& scene, const QColor& ink, const QColor& ground)
 
 void paintDrawing(const Scene& scene)
 {
-    const auto& drawing = scene.row().drawing;
+    const auto drawing = scene.window.drawing(scene.control);
     if (drawing.empty())
         return;
     const bool faded = !scene.enabled() && scene.row().look == Look::toolButton;
@@ -314,8 +314,8 @@ void paintShape(const Scene& scene)
 {
     const bool marked = scene.state().backColor >= 0;
     if (scene.row().drawing.empty())
-        plate(scene, marked ? colorOf(scene.state().backColor) : QColor(), marked ? scene.inks().accent : scene.inks().rule,
-              4.0, hairline(scene) * (marked ? 2.0 : 1.0));
+        plate(scene, marked ? colorOf(scene.state().backColor) : QColor(),
+              marked ? scene.inks().accent : scene.inks().rule, 4.0, hairline(scene) * (marked ? 2.0 : 1.0));
     paintDrawing(scene);
 }
 
@@ -445,7 +445,7 @@ QRectF inkBounds(const host::Window& window, Handle control, const View& view)
     const double margin = 7.0 * view.pixelsPerUnit();
     const double overhang = 2.0 * view.pixelsPerUnit(); // of slanted letters
     QRectF bounds = boxOf(window, control, view).adjusted(-margin, -margin, margin, margin);
-    bounds |= boundsOfMarks(window, window.row(control).drawing, boxOf(window, control, view).topLeft(), view);
+    bounds |= boundsOfMarks(window, window.drawing(control), boxOf(window, control, view).topLeft(), view);
     if (painting::isWidget(window.row(control).kind))
         for (const QRectF& box : {symbolBounds(window, control, view), unitBounds(window, control, view)})
             if (!box.isEmpty())
