@@ -50,9 +50,10 @@ constexpr CommonKeyRow commonKeyRows[] = {
 // clang-format on
 
 // What Windows-1252 has between 128 and 159; 0 where it has nothing.
-constexpr char16_t upperHalf[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-                                    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-                                    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+constexpr char16_t upperHalf[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
+                                    0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
 bool isTyped(const QKeyEvent& event)
 {
@@ -135,8 +136,8 @@ bool Keyboard::pressed(const QKeyEvent& event)
     QWidget* widget = canvas_.widgetOf(held);
     if (auto* field = dynamic_cast<FieldEdit*>(widget))
         return fieldKey(*field, event);
-    return host::takesFocus(model->row(held).kind) && model->row(held).kind != Kind::page
-                   && model->row(held).kind != Kind::editor && model->row(held).kind != Kind::list
+    return host::takesFocus(model->row(held).kind) && model->row(held).kind != Kind::page &&
+                   model->row(held).kind != Kind::editor && model->row(held).kind != Kind::list
                ? paneKey(event)
                : textKey(event);
 }
@@ -191,20 +192,29 @@ bool Keyboard::run(CommonKey deed)
         if (canvas_.desk().nextPane)
             canvas_.desk().nextPane();
         return true;
-    case CommonKey::close: {
-        const bool beside = model.role() == host::Role::tool || model.role() == host::Role::palette;
-        if (!beside || (held != noControl && model.hasSlot(held, host::Event::key)))
-            return false;
-        if (model.role() == host::Role::palette) {
-            if (canvas_.desk().nextPane)
-                canvas_.desk().nextPane();
-        } else {
-            engine.userClose(model);
-        }
-        return true;
-    }
+    case CommonKey::close:
+        return closeTool();
     }
     return false;
+}
+
+// A small window goes at Escape, unless the control in hand has a use of its own for the key.
+bool Keyboard::closeTool()
+{
+    host::Window& model = *canvas_.model();
+    Desk& desk = canvas_.desk();
+    if (model.role() == host::Role::palette) {
+        if (desk.nextPane)
+            desk.nextPane();
+        return true;
+    }
+    if (model.role() != host::Role::tool)
+        return false;
+    const Handle held = model.focus();
+    const bool hears = held != noControl && model.hasSlot(held, host::Event::key);
+    if ((!hears || passes(keyboard_detail::escapeKey)) && canvas_.model() != nullptr)
+        desk.engine->userClose(model);
+    return true;
 }
 
 // The pair of pictures that show and hide the help; the one that is visible is meant.
@@ -226,11 +236,26 @@ bool Keyboard::passes(std::int16_t key)
     return canvas_.desk().engine->userKey(*canvas_.model(), key) == key;
 }
 
+// Enter in a field of a small window that knows nothing of the key does what the window is for.
+bool Keyboard::pressFirstButton()
+{
+    host::Window& model = *canvas_.model();
+    if (model.role() != host::Role::tool || model.hasSlot(model.focus(), host::Event::key))
+        return false;
+    for (const Handle control : host::Engine::tabOrder(model))
+        if (model.row(control).kind == Kind::button && model.canTakeFocus(control)) {
+            canvas_.desk().engine->userClick(model, control);
+            return true;
+        }
+    return false;
+}
+
 bool Keyboard::fieldKey(FieldEdit& field, const QKeyEvent& event)
 {
     using namespace keyboard_detail;
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
-        passes(enterKey);
+        if (!pressFirstButton())
+            passes(enterKey);
         return true;
     }
     if (event.key() == Qt::Key_Escape) {

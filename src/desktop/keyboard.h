@@ -51,6 +51,8 @@ private:
     bool runCommon(QKeyCombination keys);
     bool run(CommonKey deed);
     bool toggleHelp();
+    bool closeTool();
+    bool pressFirstButton();
     bool fieldKey(FieldEdit& field, const QKeyEvent& event);
     bool textKey(const QKeyEvent& event);
     bool paneKey(const QKeyEvent& event);

@@ -206,7 +206,8 @@ TEST_F(KeyboardTest, everyRowOfTheSheetsTableDoesItsDeed)
     on.keys("Ctrl+B");
     on.keys("F9");
     on.keys("Ctrl+D");
-    EXPECT_EQ(on.sheet().log, (std::vector<std::string>{"Image1 down", "Image1 click", "Image1 hover", "Image12 drop"}));
+    EXPECT_EQ(on.sheet().log,
+              (std::vector<std::string>{"Image1 down", "Image1 click", "Image1 hover", "Image12 drop"}));
     int right = 0;
     on.sheet().deeds[{Image1, Event::mouseDown}] = [&](host::EventArgs& args) {
         right += args.button == host::Button::right ? 1 : 0;
@@ -237,11 +238,10 @@ TEST_F(KeyboardTest, escapeClosesATool)
     host::Window& tool = on.show("Herramienta");
     on.engine.userClick(tool, ToolButton);
     on.settle();
-    static_cast<BenchWindow&>(tool).log.clear();
     on.keys("Esc");
-    EXPECT_NE(on.engine.defaultInstance("Herramienta"), nullptr) << "a control with a key slot keeps its Escape";
-    EXPECT_EQ(static_cast<BenchWindow&>(tool).log, (std::vector<std::string>{"Command1 key"}));
-    on.engine.userRun([&] { tool.hide(ToolText, ToolButton); });
+    EXPECT_EQ(on.engine.defaultInstance("Herramienta"), nullptr);
+    host::Window& again = on.show("Herramienta");
+    on.engine.userRun([&] { again.hide(ToolText, ToolButton); });
     on.settle();
     on.keys("Esc");
     EXPECT_EQ(on.engine.defaultInstance("Herramienta"), nullptr);
@@ -259,7 +259,8 @@ TEST_F(KeyboardTest, escapeInThePaletteGivesTheKeyboardBackAndEndsNothing)
 TEST_F(KeyboardTest, everyCommonKeyIsNamedInBothLanguages)
 {
     for (const desktop::CommonKeyRow& row : desktop::commonKeys()) {
-        EXPECT_FALSE(QKeySequence(QString::fromUtf8(row.keys.data(), static_cast<qsizetype>(row.keys.size()))).isEmpty());
+        EXPECT_FALSE(
+            QKeySequence(QString::fromUtf8(row.keys.data(), static_cast<qsizetype>(row.keys.size()))).isEmpty());
         EXPECT_FALSE(row.meaning.es.empty());
         EXPECT_FALSE(row.meaning.en.empty());
     }
