@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 
 #include "desktop/canvas.h"
 #include "desktop/control_painter.h"
@@ -21,6 +22,8 @@ using host::noControl;
 namespace canvas_widgets_detail {
 
 constexpr double smallestText = 9.0; ///< logical pixels
+constexpr double pageMargin = 0.8;   ///< around a long text, in heights of its letters
+constexpr double rowHeight = 1.6;    ///< of a list, in heights of its letters
 
 QColor colorOr(std::int32_t own, const QColor& usual)
 {
@@ -47,6 +50,25 @@ void colorText(QWidget& widget, const QColor& ground, const QColor& wished)
         widget.setPalette(colors);
 }
 
+void setPageMargin(QPlainTextEdit& page)
+{
+    const int margin = qRound(page.font().pixelSize() * pageMargin);
+    if (qRound(page.document()->documentMargin()) != margin)
+        page.document()->setDocumentMargin(margin);
+}
+
+/// Rows of a list with room to hit them.
+class RoomyRows final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QSize usual = QStyledItemDelegate::sizeHint(option, index);
+        return {usual.width(), qRound(option.fontMetrics.height() * rowHeight)};
+    }
+};
+
 // The student's own choice of typeface, in true points.
 void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen)
 {
@@ -63,8 +85,8 @@ void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen)
 
 bool hasPane(const host::ControlRow& row)
 {
-    return row.overlay || row.kind == Kind::button || row.kind == Kind::picture || row.kind == Kind::option
-           || row.kind == Kind::check;
+    return row.overlay || row.kind == Kind::button || row.kind == Kind::picture || row.kind == Kind::option ||
+           row.kind == Kind::check;
 }
 
 void fillList(QListWidget& list, const host::ListState& state)
@@ -195,7 +217,8 @@ QWidget* Canvas::makePage(Handle control)
 {
     auto* page = new QPlainTextEdit(this);
     page->setReadOnly(true);
-    page->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    // Without a caret the arrow keys scroll, as a reader expects; copying works all the same.
+    page->setTextInteractionFlags(Qt::TextSelectableByMouse);
     page->setFocusPolicy(Qt::NoFocus);
     page->setContextMenuPolicy(Qt::NoContextMenu);
     page->viewport()->setMouseTracking(true);
@@ -227,6 +250,7 @@ QWidget* Canvas::makeList(Handle control)
     auto* list = new QListWidget(this);
     list->setFocusPolicy(Qt::NoFocus);
     list->setUniformItemSizes(true);
+    list->setItemDelegate(new canvas_widgets_detail::RoomyRows(list));
     list->setContextMenuPolicy(Qt::NoContextMenu);
     list->viewport()->installEventFilter(this);
     handles_[list->viewport()] = control;
@@ -252,6 +276,8 @@ void Canvas::place(Handle control, QWidget& widget)
             widget.setFont(font);
     } else if (row.kind == Kind::page || row.kind == Kind::list) {
         setTextSize(widget, model_->control(control).fontSize, view_.pixelsPerUnit());
+        if (auto* page = qobject_cast<QPlainTextEdit*>(&widget))
+            setPageMargin(*page);
     }
 }
 
@@ -260,8 +286,8 @@ QString Canvas::tipOf(Handle control) const
     const host::ControlRow& row = model_->row(control);
     QString tip = desktop::shown(row.meaning.in(view_.languageIsEnglish));
     for (const host::ShortcutRow& shortcut : model_->spec().shortcuts)
-        if (shortcut.control == control && !tip.isEmpty()
-            && (shortcut.action == host::KeyAction::click || shortcut.action == host::KeyAction::dragTo))
+        if (shortcut.control == control && !tip.isEmpty() &&
+            (shortcut.action == host::KeyAction::click || shortcut.action == host::KeyAction::dragTo))
             tip += QStringLiteral("  (%1)").arg(desktop::shown(shortcut.keys));
     return tip;
 }
@@ -271,8 +297,8 @@ void Canvas::label(Handle control, QWidget& widget)
 {
     const host::ControlRow& row = model_->row(control);
     QStringList parts;
-    for (const std::string& part : {plainSymbol(row.symbol), std::string(row.meaning.in(view_.languageIsEnglish)),
-                                    std::string(row.unit)})
+    for (const std::string& part :
+         {plainSymbol(row.symbol), std::string(row.meaning.in(view_.languageIsEnglish)), std::string(row.unit)})
         if (!part.empty())
             parts.append(desktop::shown(part));
     const bool editable = row.kind == Kind::field || row.kind == Kind::page || row.kind == Kind::editor;

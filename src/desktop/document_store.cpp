@@ -13,6 +13,8 @@ namespace velmor::desktop {
 
 namespace document_store_detail {
 
+constexpr double margin = 12.0; ///< logical pixels around the text
+
 QString lineFeeds(QString text)
 {
     return text.replace(QChar::ParagraphSeparator, QLatin1Char('\n')).replace(QChar::LineSeparator, QLatin1Char('\n'));
@@ -21,7 +23,9 @@ QString lineFeeds(QString text)
 // A carriage return or a foreign line break inside a text becomes one line break of the document.
 QString oneKindOfBreak(std::string_view text)
 {
-    return shown(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    return shown(text)
+        .replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
 } // namespace document_store_detail
@@ -29,6 +33,7 @@ QString oneKindOfBreak(std::string_view text)
 DocumentStore::DocumentStore() : cursor_(&document_)
 {
     document_.setDocumentLayout(new QPlainTextDocumentLayout(&document_));
+    document_.setDocumentMargin(document_store_detail::margin);
 }
 
 DocumentStore::~DocumentStore()
