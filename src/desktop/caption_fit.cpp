@@ -122,6 +122,12 @@ QFont fontOf(const Manner& manner, double pixels)
     return font;
 }
 
+/// Many lines are read from the top; a few stand in the middle of their panel.
+bool isPage(const Manner& manner, const QString& text)
+{
+    return (manner.alignment & Qt::AlignLeft) != 0 && text.count(QLatin1Char('\n')) >= 8;
+}
+
 struct Measure {
     QRectF box;
     bool fits = false;
@@ -210,6 +216,8 @@ CaptionSetting setCaption(const host::Window& window, host::Handle control, cons
     const QRectF box = boxOf(window, control, view);
     setting.room = roomIn(box, manner.padding, view.pixelsPerUnit());
     setting.flags = manner.alignment | Qt::TextWordWrap;
+    if (isPage(manner, setting.text))
+        setting.flags = (setting.flags & ~static_cast<int>(Qt::AlignVCenter)) | Qt::AlignTop;
     const double wanted = wantedPixels(window, control, manner, view);
     setting.font = fontOf(manner, sizeFor(setting.text, manner, setting.room, setting.flags, wanted));
     const Measure measured = measure(setting.text, setting.font, setting.room, setting.flags);
@@ -252,13 +260,43 @@ QString withoutColumns(const QString& line)
     return shown;
 }
 
+constexpr int linesOfAPage = 4;
+constexpr qsizetype deepest = 4;
+
+qsizetype indent(const QString& line)
+{
+    qsizetype blanks = 0;
+    while (blanks < line.size() && line[blanks].isSpace())
+        ++blanks;
+    return blanks;
+}
+
+/// How far a page's lines stand in together; -1 for a text too short to be laid out by its indents.
+qsizetype commonIndent(const QStringList& lines)
+{
+    qsizetype least = -1;
+    int written = 0;
+    for (const QString& line : lines) {
+        if (line.trimmed().isEmpty())
+            continue;
+        ++written;
+        least = least < 0 ? indent(line) : std::min(least, indent(line));
+    }
+    return written < linesOfAPage ? -1 : least;
+}
+
 } // namespace columns
 
 QString displayText(std::string_view text)
 {
     QStringList lines = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).split(QLatin1Char('\n'));
-    for (QString& line : lines)
-        line = columns::withoutColumns(line);
+    const qsizetype common = columns::commonIndent(lines);
+    for (QString& line : lines) {
+        const QString written = columns::withoutColumns(line);
+        const qsizetype deeper =
+            common < 0 || written.isEmpty() ? 0 : std::min(columns::indent(line) - common, columns::deepest);
+        line = QString(deeper, QLatin1Char(' ')) + written;
+    }
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -170,6 +170,8 @@ TEST_F(PaintedControls, BlanksThatLinedTextsUpAreOnlyShownAsOneGap)
               "Especificacion circuital...   Esc...valor predeterminado");
     EXPECT_EQ(displayText("uno  dos").toStdString(), "uno dos");
     EXPECT_EQ(displayText("a\n\n   b ").toStdString(), "a\n\nb");
+    EXPECT_EQ(displayText("  title\n    1) one\n       more\n\n  2) two").toStdString(),
+              "title\n  1) one\n    more\n\n2) two");
     EXPECT_EQ(displayText("").toStdString(), "");
     EXPECT_EQ(displayText("Rin\tx").toStdString(), "Rin x");
     stage.setText(test::PlainLabel, "   a     b");
