@@ -17,8 +17,10 @@ namespace pages_detail {
 
 constexpr BiText generalPaletteCaption{.es = " Todos...", .en = " All circuits..."};
 constexpr std::string_view generalMainCaption = "   Velmor";
-constexpr BiText simpleTitle{.es = "  Circuito Realimentado por Tensión Simple", .en = "  Feedback  Voltage Circuits Simple"};
-constexpr BiText stableTitle{.es = "  Circuito Realimentado por Tensión Estable", .en = "  Feedback  Voltage Circuits Stable"};
+constexpr BiText simpleTitle{.es = "  Circuito Realimentado por Tensión Simple",
+                             .en = "  Feedback  Voltage Circuits Simple"};
+constexpr BiText stableTitle{.es = "  Circuito Realimentado por Tensión Estable",
+                             .en = "  Feedback  Voltage Circuits Stable"};
 constexpr std::size_t chooser = 11;
 constexpr std::size_t poemPicture = 12;
 constexpr int pageTop = 20;

@@ -17,8 +17,14 @@ using host::slot;
 namespace form16_table {
 
 constexpr int pitch = 1100;
-constexpr host::Place buttonPlace(int index) { return {120 + index * pitch, 120, 1040, 1080}; }
-constexpr host::Place shapePlace(int index) { return {95 + index * pitch, 95, 1090, 1130}; }
+constexpr host::Place buttonPlace(int index)
+{
+    return {120 + index * pitch, 120, 1040, 1080};
+}
+constexpr host::Place shapePlace(int index)
+{
+    return {95 + index * pitch, 95, 1090, 1130};
+}
 
 // clang-format off
 constexpr host::ControlRow controls[] = {
@@ -85,34 +91,34 @@ constexpr auto makeSlots()
 }
 constexpr auto slots = makeSlots();
 
-// Each function key talks about its button, with Shift it opens the design.
+// The same keys as on the main window: with Ctrl a button talks, with Alt it opens its design.
 constexpr host::ShortcutRow shortcuts[] = {
-    {.keys = "F1",       .control = imgButton0, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "F2",       .control = imgButton1, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "F3",       .control = imgButton2, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "F4",       .control = imgButton3, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "F5",       .control = imgButton4, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "F6",       .control = imgButton5, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "F7",       .control = imgButton6, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "F8",       .control = imgButton7, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "F9",       .control = imgButton8, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "F10",       .control = imgButton9, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "F11",       .control = imgButton10, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "F12",       .control = imgButton11, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
-    {.keys = "Shift+F1", .control = imgButton0, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Shift+F2", .control = imgButton1, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Shift+F3", .control = imgButton2, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Shift+F4", .control = imgButton3, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Shift+F5", .control = imgButton4, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Shift+F6", .control = imgButton5, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Shift+F7", .control = imgButton6, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Shift+F8", .control = imgButton7, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Shift+F9", .control = imgButton8, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Shift+F10", .control = imgButton9, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Shift+F11", .control = imgButton10, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Shift+F12", .control = imgButton11, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
-    {.keys = "Home", .control = lblButton, .action = KeyAction::hover, .meaning = {.es = "Página general", .en = "General page"}},
-    {.keys = "End",  .control = lblButton, .action = KeyAction::click, .meaning = {.es = "Despejar la ventana", .en = "Clear the window"}},
+    {.keys = "Ctrl+Shift+F1", .control = imgButton0, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F2", .control = imgButton1, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F3", .control = imgButton2, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F4", .control = imgButton3, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F5", .control = imgButton4, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F6", .control = imgButton5, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F7", .control = imgButton6, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F8", .control = imgButton7, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F9", .control = imgButton8, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F10", .control = imgButton9, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F11", .control = imgButton10, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Ctrl+Shift+F12", .control = imgButton11, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
+    {.keys = "Alt+Shift+F1",  .control = imgButton0, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F2",  .control = imgButton1, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F3",  .control = imgButton2, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F4",  .control = imgButton3, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F5",  .control = imgButton4, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F6",  .control = imgButton5, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F7",  .control = imgButton6, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F8",  .control = imgButton7, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F9",  .control = imgButton8, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F10",  .control = imgButton9, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F11",  .control = imgButton10, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+F12",  .control = imgButton11, .action = KeyAction::click, .meaning = {.es = "Abrir el diseño", .en = "Open the design"}},
+    {.keys = "Alt+Shift+Home", .control = lblButton, .action = KeyAction::hover, .meaning = {.es = "Página general", .en = "General page"}},
+    {.keys = "Alt+Shift+End",  .control = lblButton, .action = KeyAction::click, .meaning = {.es = "Despejar la ventana", .en = "Clear the window"}},
 };
 // clang-format on
 

@@ -9,6 +9,7 @@
 
 namespace velmor::palette {
 
+// clang-format off
 enum Control : host::Handle {
     Shape1_0, Shape1_1, Shape1_2, Shape1_3, Shape1_4, Shape1_5, Shape1_6, Shape1_7, Shape1_8, Shape1_9, Shape1_10,
     Shape1_11, Shape1_12,
@@ -17,6 +18,7 @@ enum Control : host::Handle {
     lblButton,
     controlCount
 };
+// clang-format on
 
 extern const host::WindowSpec spec;
 std::unique_ptr<host::Window> create(host::SheetHost& host);

@@ -144,7 +144,8 @@ void MDIForm1::pressBackground(host::EventArgs& args)
 
 void MDIForm1::askExit(host::EventArgs& args)
 {
-    args.cancel = host().MsgBox(host().pick(main_texts::exitQuestion), main_texts::exitFlags, caption()) != main_texts::answerYes;
+    args.cancel =
+        host().MsgBox(host().pick(main_texts::exitQuestion), main_texts::exitFlags, caption()) != main_texts::answerYes;
 }
 
 // The comma is left behind as decimal separator, whatever stood there before the start.

@@ -24,7 +24,8 @@ constexpr int windowHeight = 10125;
 constexpr int barWidth = circuitBar.width;
 constexpr host::Place pagePlace{0, headPictureHeight, windowWidth - 2 * barWidth, 7000};
 
-constexpr host::Mark guideDrawing[] = {{.symbol = host::Symbol::book, .from = {16, 18}, .to = {52, 54}, .ink = host::Ink::accent}};
+constexpr host::Mark guideDrawing[] = {
+    {.symbol = host::Symbol::book, .from = {16, 18}, .to = {52, 54}, .ink = host::Ink::accent}};
 
 // clang-format off
 // The item `onceB` does what `mnuEmisor` does, and `mnuContexto` pops up over the circuit bar: neither is seen in the
@@ -284,7 +285,8 @@ constexpr auto releaseSlots = bound(barButtons, slot<&MDIForm1::releaseBarButton
 constexpr auto clickSlots = bound(barButtons, slot<&MDIForm1::clickBarButton>);
 constexpr auto arrangementSlots = bound(arrangements, slot<&MDIForm1::clickArrangement>);
 
-template <std::size_t... Counts> constexpr auto joined(const std::array<host::SlotRow, Counts>&... parts)
+template <std::size_t... Counts>
+constexpr auto joined(const std::array<host::SlotRow, Counts>&... parts)
 {
     std::array<host::SlotRow, (Counts + ...)> all{};
     std::size_t at = 0;
@@ -295,7 +297,8 @@ template <std::size_t... Counts> constexpr auto joined(const std::array<host::Sl
     (add(parts), ...);
     return all;
 }
-constexpr auto slots = joined(ownSlots, newSlots, openSlots, arrangementSlots, hoverSlots, pressSlots, releaseSlots, clickSlots);
+constexpr auto slots =
+    joined(ownSlots, newSlots, openSlots, arrangementSlots, hoverSlots, pressSlots, releaseSlots, clickSlots);
 
 } // namespace controls_table
 

@@ -10,6 +10,7 @@
 
 namespace velmor::main_window {
 
+// clang-format off
 /// Elements of an array bear their index without brackets: `mnuFile2` is `mnuFile(2)`.
 enum Control : host::Handle {
     // menus
@@ -50,6 +51,7 @@ enum Control : host::Handle {
     lblButton, Image29,
     controlCount
 };
+// clang-format on
 
 inline constexpr int buttonCount = 13;
 inline constexpr int pagePictureCount = 13;

@@ -3,6 +3,7 @@
 // and help.
 #include <exception>
 
+#include "frame/design_pages.h"
 #include "frame/mdi_form1.h"
 #include "frame/mdi_form1_menus.h"
 #include "sheets/design_sheet.h"
@@ -194,6 +195,7 @@ void MDIForm1::switchLanguage(std::int16_t languageIsEnglish)
     setChecked(mnuIng, english());
     setChecked(mnuEsp, !english());
     writeCaptions();
+    host().setText("Form16", "lblButton", host().pick(palette::allDesigns));
 }
 
 void MDIForm1::switchToEnglish()

@@ -35,8 +35,8 @@ constexpr host::Place all{firstButton.left, firstButton.top + 7 * rowStep, 2160,
 
 host::Place buttonPlace(int index)
 {
-    return {firstButton.left + index % columns * columnStep, firstButton.top + index / columns * rowStep, firstButton.width,
-            firstButton.height};
+    return {firstButton.left + index % columns * columnStep, firstButton.top + index / columns * rowStep,
+            firstButton.width, firstButton.height};
 }
 
 host::Place shapePlace(int index)

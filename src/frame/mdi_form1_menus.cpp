@@ -112,9 +112,8 @@ const DesignItem* designOfOpenItem(host::Handle item)
 
 const DesignItem* designOfSheet(std::string_view sheet)
 {
-    const auto found = std::find_if(designItems.begin(), designItems.end(), [sheet](const DesignItem& design) {
-        return host::sameName(design.sheet, sheet);
-    });
+    const auto found = std::find_if(designItems.begin(), designItems.end(),
+                                    [sheet](const DesignItem& design) { return host::sameName(design.sheet, sheet); });
     return found == designItems.end() ? nullptr : &*found;
 }
 

@@ -24,7 +24,8 @@ constexpr Mark wire(int fromX, int fromY, int toX, int toY)
 {
     return {.symbol = Symbol::wire, .from = point(fromX, fromY), .to = point(toX, toY)};
 }
-constexpr Mark part(Symbol symbol, int fromX, int fromY, int toX, int toY, std::string_view name = {}, Side side = Side::none)
+constexpr Mark part(Symbol symbol, int fromX, int fromY, int toX, int toY, std::string_view name = {},
+                    Side side = Side::none)
 {
     return {.symbol = symbol, .from = point(fromX, fromY), .to = point(toX, toY), .name = name, .side = side};
 }
@@ -40,8 +41,14 @@ constexpr Mark put(Symbol symbol, int x, int y, std::string_view name = {}, Side
 {
     return {.symbol = symbol, .from = point(x, y), .name = name, .side = side};
 }
-constexpr Mark node(int x, int y) { return put(Symbol::node, x, y); }
-constexpr Mark ground(int x, int y) { return put(Symbol::ground, x, y); }
+constexpr Mark node(int x, int y)
+{
+    return put(Symbol::node, x, y);
+}
+constexpr Mark ground(int x, int y)
+{
+    return put(Symbol::ground, x, y);
+}
 constexpr Mark terminal(int x, int y, std::string_view name = {}, Side side = Side::none)
 {
     return put(Symbol::terminal, x, y, name, side);
@@ -50,7 +57,10 @@ constexpr Mark signal(Symbol symbol, int fromX, int fromY, int toX, int toY)
 {
     return {.symbol = symbol, .from = point(fromX, fromY), .to = point(toX, toY), .ink = Ink::accent};
 }
-constexpr Mark name(int x, int y, std::string_view text) { return put(Symbol::label, x, y, text); }
+constexpr Mark name(int x, int y, std::string_view text)
+{
+    return put(Symbol::label, x, y, text);
+}
 
 // clang-format off
 inline constexpr Mark longTailedPair[] = {

@@ -71,15 +71,14 @@ std::vector<std::size_t> looseWires(std::span<const host::Mark> marks)
         case host::Symbol::pnp:
         case host::Symbol::npnLeft:
         case host::Symbol::pnpLeft:
-            return same(p, mark.from) || same(p, host::upperEnd(mark.symbol, mark.from))
-                   || same(p, host::lowerEnd(mark.symbol, mark.from));
+            return same(p, mark.from) || same(p, host::upperEnd(mark.symbol, mark.from)) ||
+                   same(p, host::lowerEnd(mark.symbol, mark.from));
         case host::Symbol::terminal:
             return std::abs(p.x - mark.from.x) + std::abs(p.y - mark.from.y) <= 3;
         case host::Symbol::polyline:
-            return std::any_of(mark.points.begin(), mark.points.end(), [&](GridPoint at) { return same(p, at); })
-                   || std::any_of(mark.points.begin() + 1, mark.points.end(), [&](const GridPoint& at) {
-                          return onWire(p, {.from = *(&at - 1), .to = at});
-                      });
+            return std::any_of(mark.points.begin(), mark.points.end(), [&](GridPoint at) { return same(p, at); }) ||
+                   std::any_of(mark.points.begin() + 1, mark.points.end(),
+                               [&](const GridPoint& at) { return onWire(p, {.from = *(&at - 1), .to = at}); });
         case host::Symbol::text:
         case host::Symbol::label:
         case host::Symbol::node:
@@ -237,8 +236,8 @@ TEST(FrameTables, NoWireOfAPageEndsInTheAir)
 TEST(FrameTables, NothingOnTheShownPageOverlaps)
 {
     const auto apart = [](const host::Place& a, const host::Place& b) {
-        return a.left + a.width <= b.left || b.left + b.width <= a.left || a.top + a.height <= b.top
-               || b.top + b.height <= a.top;
+        return a.left + a.width <= b.left || b.left + b.width <= a.left || a.top + a.height <= b.top ||
+               b.top + b.height <= a.top;
     };
     main_window_test::Program program;
     host::Window& window = program.main();

@@ -26,37 +26,48 @@ constexpr host::ControlRow noteControls[] = {
 constexpr auto sheetSlots = sheets::withSheetFrame(std::array<host::SlotRow, 0>{});
 const sheets::SheetSpec sheetSpec{.filter = {.es = "Hoja|*.HOJ", .en = "Sheet|*.SHT"}};
 
-constexpr std::array<std::string_view, 15> sheetNames{"Form2", "desaco", "ParcDesac", "Form8",  "Form18",
-                                                      "Form4", "Form17", "Form9",     "Form3",  "Form13",
-                                                      "Form12", "Form15", "form20",   "Form10", "Form11"};
+constexpr std::array<std::string_view, 15> sheetNames{"Form2",  "desaco", "ParcDesac", "Form8",  "Form18",
+                                                      "Form4",  "Form17", "Form9",     "Form3",  "Form13",
+                                                      "Form12", "Form15", "form20",    "Form10", "Form11"};
 constexpr std::array<std::string_view, 2> editorNames{"frmEdito1", "frmEdito3"};
-constexpr std::array<std::string_view, 7> toolNames{"Form7", "Form14", "Form19", "Form21", "frmAbout", "infoform", "frmDrag"};
+constexpr std::array<std::string_view, 7> toolNames{"Form7",    "Form14",   "Form19", "Form21",
+                                                    "frmAbout", "infoform", "frmDrag"};
 
 host::WindowSpec& specAt(std::size_t index)
 {
     static std::array<host::WindowSpec, 15 + 2 + 7> specs;
     return specs[index];
 }
-template <std::size_t Index> std::unique_ptr<host::Window> createSheet(host::SheetHost& host)
+template <std::size_t Index>
+std::unique_ptr<host::Window> createSheet(host::SheetHost& host)
 {
     return std::make_unique<StandInSheet>(host, specAt(Index));
 }
-template <std::size_t Index> std::unique_ptr<host::Window> createOther(host::SheetHost& host)
+template <std::size_t Index>
+std::unique_ptr<host::Window> createOther(host::SheetHost& host)
 {
     return std::make_unique<host::Window>(host, specAt(Index));
 }
 
-template <std::size_t... Index> void fillSheets(std::index_sequence<Index...>)
+template <std::size_t... Index>
+void fillSheets(std::index_sequence<Index...>)
 {
-    ((specAt(Index) = {.name = sheetNames[Index], .role = Role::sheet, .caption = "stored", .controls = sheetControls,
-                       .slots = sheetSlots, .create = createSheet<Index>}),
+    ((specAt(Index) = {.name = sheetNames[Index],
+                       .role = Role::sheet,
+                       .caption = "stored",
+                       .controls = sheetControls,
+                       .slots = sheetSlots,
+                       .create = createSheet<Index>}),
      ...);
 }
-template <std::size_t... Index> void fillOthers(std::index_sequence<Index...>)
+template <std::size_t... Index>
+void fillOthers(std::index_sequence<Index...>)
 {
     ((specAt(15 + Index) = {.name = Index < 2 ? editorNames[Index % 2] : toolNames[(Index - 2) % 7],
-                            .role = Index < 2 ? Role::editor : Role::tool, .caption = "stored",
-                            .controls = noteControls, .create = createOther<15 + Index>}),
+                            .role = Index < 2 ? Role::editor : Role::tool,
+                            .caption = "stored",
+                            .controls = noteControls,
+                            .create = createOther<15 + Index>}),
      ...);
 }
 
@@ -77,8 +88,7 @@ std::vector<const host::WindowSpec*> catalogueWithout(const std::vector<std::str
 
 StandInSheet::StandInSheet(host::SheetHost& host, const host::WindowSpec& spec)
     : sheets::DesignSheet(host, spec, stand_ins::sheetSpec)
-{
-}
+{}
 
 void StandInSheet::deed(std::string_view what)
 {
@@ -119,8 +129,8 @@ void Program::show()
 int Program::count(std::string_view name)
 {
     const auto open = engine.windows();
-    return static_cast<int>(
-        std::count_if(open.begin(), open.end(), [name](const host::Window* w) { return host::sameName(w->name(), name); }));
+    return static_cast<int>(std::count_if(open.begin(), open.end(),
+                                          [name](const host::Window* w) { return host::sameName(w->name(), name); }));
 }
 
 } // namespace velmor::main_window_test
