@@ -30,9 +30,12 @@ struct Desk {
     bool idle() const { return !closing && engine->idle() && !engine->ended(); }
     int pixels(int twips) const { return static_cast<int>(twips * scale / 15.0 + (twips < 0 ? -0.5 : 0.5)); }
     int twips(int pixels) const { return static_cast<int>(pixels * 15.0 / scale + (pixels < 0 ? -0.5 : 0.5)); }
+    // Edges are rounded, not sizes: what ends with the area in twips ends with it in pixels.
     QRect pixelsOf(const host::Place& place) const
     {
-        return {pixels(place.left), pixels(place.top), pixels(place.width), pixels(place.height)};
+        const int left = pixels(place.left);
+        const int top = pixels(place.top);
+        return {left, top, pixels(place.left + place.width) - left, pixels(place.top + place.height) - top};
     }
     host::Place twipsOf(const QRect& box) const
     {
