@@ -80,7 +80,7 @@ struct ControlRow {
     std::string_view tag = "0";
     bool checked = false;
     bool overlay = false;               ///< lies above the fields (help boxes, grown panels)
-    bool clickableWhenDisabled = false; ///< a click on it counts even when it is disabled
+    bool clickableWhenDisabled = false; ///< the mouse counts on it even when it is disabled
     std::int16_t fontSize = 8;          ///< points
     std::int32_t interval = 0;          ///< of a timer: milliseconds between two firings
     std::int32_t backColor = -1;        ///< 0xRRGGBB, -1 the look's own

@@ -93,7 +93,8 @@ bool Engine::mouseAllowed(const Window& window, Handle control) const
 {
     if (control == noControl)
         return true;
-    return window.visible(control) && (window.enabled(control) || window.row(control).kind == Kind::field);
+    const ControlRow& row = window.row(control);
+    return window.visible(control) && (window.enabled(control) || row.kind == Kind::field || row.clickableWhenDisabled);
 }
 
 // False when the click ends with the focus move: the old field's lost-focus slot sent the focus elsewhere.
@@ -132,8 +133,8 @@ void Engine::userClick(Window& window, Handle control, int shift)
     outermost([this, &window, control, shift] {
         if (!isLoaded(&window))
             return;
-        if (control != noControl
-            && (!window.visible(control) || (!window.enabled(control) && !window.row(control).clickableWhenDisabled)))
+        if (control != noControl &&
+            (!window.visible(control) || (!window.enabled(control) && !window.row(control).clickableWhenDisabled)))
             return;
         if (pressMovesFocus(window, control))
             mouseSlots(window, control, shift);
@@ -307,7 +308,7 @@ void Engine::userShortcut(Window& window, std::size_t row)
     switch (bound.action) {
     case KeyAction::click:
         return control != noControl && window.row(control).kind == Kind::menu ? userMenu(window, control)
-                                                                               : userClick(window, control);
+                                                                              : userClick(window, control);
     case KeyAction::doubleClick:
         return userDoubleClick(window, control);
     case KeyAction::rightPress:

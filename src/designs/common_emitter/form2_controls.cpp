@@ -331,7 +331,7 @@ constexpr host::ControlRow rows[] = {
     {.id = Text19, .name = "Text19", .kind = Kind::field, .place = at(448, 162, 122, 22), .enabled = false, .symbol = "R_b1", .unit = "kΩ", .meaning = {"Preset, resistor superior de base", "Preset, upper base resistor"}, .symbolSide = SymbolSide::above},
     {.id = Text20, .name = "Text20", .kind = Kind::field, .place = at(820, 459, 72, 22), .visible = false, .enabled = false, .symbol = "C_bp", .meaning = {"Capacitor de desacople de emisor", "Emitter bypass capacitor"}, .symbolSide = SymbolSide::above},
     {.id = Text21, .name = "Text21", .kind = Kind::field, .place = at(640, 545, 100, 22), .text = "  - Es = 20 V", .visible = false, .enabled = false, .symbol = "-E_s", .meaning = {"Fuente negativa de emisor", "Negative emitter supply"}, .symbolSide = SymbolSide::above},
-    {.id = Voltaje, .name = "Voltaje", .kind = Kind::label, .place = at(94, 202, 66, 22), .enabled = false, .meaning = {"Tensión de estabilidad ERes", "Voltage of stability ERes"}, .look = Look::result, .drawing = emitterVoltageFrame},
+    {.id = Voltaje, .name = "Voltaje", .kind = Kind::label, .place = at(94, 202, 66, 22), .enabled = false, .meaning = {"Tensión de estabilidad ERes", "Voltage of stability ERes"}, .look = Look::result, .drawing = emitterVoltageFrame, .clickableWhenDisabled = true},
     {.id = VRes, .name = "VRes", .kind = Kind::label, .place = at(680, 420, 104, 18), .look = Look::result},
     {.id = ER, .name = "ER", .kind = Kind::label, .place = at(830, 162, 110, 20), .visible = false, .look = Look::result},
     {.id = res, .name = "res", .kind = Kind::label, .place = at(640, 484, 140, 18), .visible = false, .look = Look::result},
