@@ -49,7 +49,17 @@ namespace search {
 
 char32_t upper(char32_t letter)
 {
-    const bool small = (letter >= U'a' && letter <= U'z') || (letter >= 0xE0 && letter <= 0xFE && letter != 0xF7);
+    switch (letter) {
+    case U'š':
+    case U'œ':
+    case U'ž':
+        return letter - 1;
+    case U'ÿ':
+        return U'Ÿ';
+    default:
+        break;
+    }
+    const bool small = (letter >= U'a' && letter <= U'z') || (letter >= U'à' && letter <= U'þ' && letter != U'÷');
     return small ? letter - 32 : letter;
 }
 
@@ -112,17 +122,25 @@ void SearchDialog::find()
         runFind(*searched);
 }
 
+/// Whether the selection is what the dialog looks for.
+bool SearchDialog::hitStands(host::Window& editor)
+{
+    const host::TextStore& store = editor.store(editors::txtEdit);
+    const std::u32string wanted = host::toCodePoints(text(txtFind));
+    if (store.selectionLength() != wanted.size())
+        return false;
+    const std::u32string selected = host::toCodePoints(store.slice(store.selectionStart(), store.selectionLength()));
+    return findIn(selected, wanted, 0, checked(chkIgnoreCase)).has_value();
+}
+
 // A search goes on behind a hit that still stands, else from the caret; there is no wrapping.
 void SearchDialog::runFind(host::Window& editor)
 {
     host::TextStore& store = editor.store(editors::txtEdit);
     const std::u32string wanted = host::toCodePoints(text(txtFind));
     const std::u32string whole = host::toCodePoints(store.all());
-    const bool upperCased = checked(chkIgnoreCase);
-    std::size_t start = store.selectionStart();
-    if (store.selectionLength() == wanted.size() && findIn(whole, wanted, start, upperCased) == start)
-        start += wanted.size();
-    if (const auto hit = findIn(whole, wanted, start, upperCased)) {
+    const std::size_t start = store.selectionStart() + (hitStands(editor) ? wanted.size() : 0);
+    if (const auto hit = findIn(whole, wanted, start, checked(chkIgnoreCase))) {
         store.select(*hit, wanted.size());
         return;
     }
@@ -136,13 +154,15 @@ void SearchDialog::sayNotFound()
     host().MsgBox(std::string(words) + text(txtFind), texts::notFoundFlags, texts::boxTitle);
 }
 
+// A hit that the student sees selected is the one to be replaced; otherwise the next one is looked for.
 void SearchDialog::replace()
 {
     host().Hide(*this);
     host::Window* searched = editor();
     if (searched == nullptr || text(txtFind).empty())
         return;
-    runFind(*searched);
+    if (!hitStands(*searched))
+        runFind(*searched);
     host::TextStore& store = searched->store(editors::txtEdit);
     if (store.selectionLength() == 0) {
         host().MsgBox(std::string(texts::nothingReplaced) + text(txtFind), 0, texts::applicationTitle);

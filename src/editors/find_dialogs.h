@@ -30,6 +30,7 @@ public:
 
 private:
     host::Window* editor() const;
+    bool hitStands(host::Window& editor);
     void runFind(host::Window& editor);
     void sayNotFound();
     bool replaces() const;

@@ -28,7 +28,9 @@ TEST(FindIn, TakesTheTextToCapitalsButNotTheSearchText)
     EXPECT_EQ(findIn(U"la señal", U"SEÑAL", 0, true), 3U);
     EXPECT_EQ(findIn(U"la señal", U"señal", 0, true), std::nullopt);
     EXPECT_EQ(findIn(U"la SEÑAL", U"señal", 0, true), std::nullopt);
-    EXPECT_EQ(findIn(U"zürich ÷ ÿ", U"ZÜRICH ÷", 0, true), 0U);
+    EXPECT_EQ(findIn(U"zürich ÷ ÿ", U"ZÜRICH ÷ Ÿ", 0, true), 0U);
+    EXPECT_EQ(findIn(U"cœur, šok, žena", U"CŒUR, ŠOK, ŽENA", 0, true), 0U);
+    EXPECT_EQ(findIn(U"×", U"×", 0, true), 0U);
 }
 
 host::TextStore& editorWith(ProgramDesk& desk, std::string_view text)
