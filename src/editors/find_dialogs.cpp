@@ -180,8 +180,8 @@ constexpr host::ControlRow findRows[] = {
      .meaning = {.es = "Texto que se busca", .en = "Text to look for"}},
     {.id = chkIgnoreCase, .name = "chkIgnoreCase", .kind = Kind::check, .place = {300, 870, 5400, 390},
      .text = "Ignorar Mayúsculas/Minúsculas"},
-    {.id = cmdFind, .name = "cmdFind", .kind = Kind::button, .place = {300, 1470, 1800, 480}, .text = "Buscar"},
-    {.id = cmdCancel, .name = "cmdCancel", .kind = Kind::button, .place = {2250, 1470, 1800, 480}, .text = "Cancelar"},
+    {.id = cmdFind, .name = "cmdFind", .kind = Kind::button, .place = {2100, 1470, 1725, 480}, .text = "Buscar"},
+    {.id = cmdCancel, .name = "cmdCancel", .kind = Kind::button, .place = {3975, 1470, 1725, 480}, .text = "Cancelar"},
 };
 constexpr host::ControlRow replaceRows[] = {
     {.id = txtFind, .name = "txtFind", .kind = Kind::field, .place = {2250, 300, 3900, 420},

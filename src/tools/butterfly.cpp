@@ -6,7 +6,6 @@
 
 namespace velmor::butterfly {
 
-
 void fly(host::Window& window, const Images& images, bool& wingsOpen)
 {
     wingsOpen = !wingsOpen;

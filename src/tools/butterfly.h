@@ -23,12 +23,12 @@ void fly(host::Window& window, const Images& images, bool& wingsOpen);
 namespace drawings {
 
 // clang-format off
-inline constexpr host::GridPoint upperLeft[]  = {{28, 24}, {20, 8}, {8, 2}, {2, 8}, {6, 20}, {28, 26}};
-inline constexpr host::GridPoint upperRight[] = {{32, 24}, {40, 8}, {52, 2}, {58, 8}, {54, 20}, {32, 26}};
-inline constexpr host::GridPoint lowerLeft[]  = {{28, 28}, {14, 26}, {8, 36}, {14, 46}, {24, 40}, {29, 30}};
-inline constexpr host::GridPoint lowerRight[] = {{32, 28}, {46, 26}, {52, 36}, {46, 46}, {36, 40}, {31, 30}};
-inline constexpr host::GridPoint foldedUp[]   = {{30, 26}, {34, 8}, {44, 2}, {46, 14}, {32, 28}};
-inline constexpr host::GridPoint foldedLow[]  = {{30, 28}, {42, 28}, {44, 40}, {34, 44}, {30, 32}};
+inline constexpr host::GridPoint upperLeft[] = {{29, 25}, {27, 19}, {24, 13}, {20, 9}, {15, 5}, {10, 3}, {5, 3}, {3, 5}, {2, 8}, {3, 12}, {4, 17}, {7, 21}, {10, 24}, {13, 25}, {16, 26}, {20, 27}, {23, 27}, {26, 27}, {29, 27}};
+inline constexpr host::GridPoint upperRight[] = {{31, 25}, {33, 19}, {36, 13}, {40, 9}, {45, 5}, {50, 3}, {55, 3}, {57, 5}, {58, 8}, {57, 12}, {56, 17}, {53, 21}, {50, 24}, {47, 25}, {44, 26}, {40, 27}, {37, 27}, {34, 27}, {31, 27}};
+inline constexpr host::GridPoint lowerLeft[] = {{29, 28}, {25, 28}, {21, 28}, {17, 28}, {14, 28}, {10, 29}, {8, 31}, {7, 34}, {7, 38}, {9, 42}, {12, 44}, {15, 46}, {18, 46}, {20, 45}, {23, 43}, {25, 40}, {26, 38}, {28, 34}, {29, 31}};
+inline constexpr host::GridPoint lowerRight[] = {{31, 28}, {35, 28}, {39, 28}, {43, 28}, {46, 28}, {50, 29}, {52, 31}, {53, 34}, {53, 38}, {51, 42}, {48, 44}, {45, 46}, {42, 46}, {40, 45}, {37, 43}, {35, 40}, {34, 38}, {32, 34}, {31, 31}};
+inline constexpr host::GridPoint foldedUp[] = {{30, 26}, {31, 20}, {32, 15}, {34, 10}, {37, 6}, {41, 3}, {45, 2}, {46, 3}, {47, 6}, {46, 11}, {45, 16}, {43, 20}, {40, 24}, {38, 25}, {37, 26}, {35, 27}, {33, 28}, {32, 28}, {30, 28}};
+inline constexpr host::GridPoint foldedLow[] = {{30, 28}, {33, 28}, {36, 28}, {38, 28}, {41, 29}, {43, 30}, {44, 32}, {44, 35}, {44, 38}, {43, 41}, {41, 43}, {39, 44}, {37, 44}, {35, 43}, {34, 41}, {32, 39}, {31, 37}, {31, 34}, {30, 31}};
 inline constexpr host::GridPoint leftFeeler[]  = {{29, 18}, {26, 10}, {22, 6}};
 inline constexpr host::GridPoint rightFeeler[] = {{31, 18}, {34, 10}, {38, 6}};
 

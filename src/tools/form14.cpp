@@ -19,9 +19,9 @@ constexpr std::string_view values = " 20, 10  \n y  5 %  \n1\n1.5\n2.2\n3.3\n4.7
 
 // clang-format off
 constexpr host::ControlRow controls[] = {
-    {.id = Frame1, .name = "Frame1", .kind = Kind::panel, .place = {150, 150, 1950, 6000}, .text = "Normalizado",
+    {.id = Frame1, .name = "Frame1", .kind = Kind::panel, .place = {150, 150, 2400, 8250}, .text = "Normalizado",
      .look = Look::group},
-    {.id = Text1, .name = "Text1", .kind = Kind::page, .place = {300, 600, 1650, 5400}, .text = values,
+    {.id = Text1, .name = "Text1", .kind = Kind::page, .place = {300, 600, 2100, 7650}, .text = values,
      .meaning = {.es = "Valores normalizados de resistores", .en = "Standard resistor values"}, .parent = Frame1},
 };
 static_assert(host::rowsInOrder(controls));
@@ -47,7 +47,7 @@ const host::WindowSpec spec{
     .name = "Form14",
     .role = host::Role::tool,
     .caption = "  Resistores",
-    .place = {0, 0, 2250, 6300},
+    .place = {0, 0, 2700, 8550},
     .controls = table::controls,
     .slots = table::slots,
     .create = create,

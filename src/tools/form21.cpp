@@ -38,6 +38,16 @@ constexpr host::SlotRow slots[] = {
 };
 // clang-format on
 
+// The page takes the room that heading and buttons leave.
+host::Place shownPlaceOf(const host::Window& window, host::Handle control)
+{
+    if (control != Text22 && control != Text23)
+        return window.placeOf(control);
+    const bool buttons = window.visible(SSCommand1) || window.visible(SSCommand2);
+    const int top = window.visible(Label1) ? 600 : 150;
+    return {150, top, 6300, (buttons ? 5670 : 6300) - top};
+}
+
 } // namespace table
 
 Form21::Form21(host::SheetHost& host) : host::Window(host, form21::spec) {}
@@ -92,6 +102,7 @@ const host::WindowSpec spec{
     .controls = table::controls,
     .slots = table::slots,
     .create = create,
+    .shownPlace = table::shownPlaceOf,
 };
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)

@@ -43,13 +43,13 @@ constexpr Mark trafficLight[] = {
     {.symbol = Symbol::circle, .from = {31, 55}, .to = {49, 73}, .ink = Ink::accent},
 };
 
-constexpr host::Place picturePlace{300, 900, 1200, 1200};
+constexpr host::Place picturePlace{300, 960, 1200, 1200};
 constexpr host::ControlRow controls[] = {
-    {.id = sspanel1, .name = "sspanel1", .kind = Kind::panel, .place = {150, 150, 6300, 480}, .text = "Hoja de Análisis",
+    {.id = sspanel1, .name = "sspanel1", .kind = Kind::panel, .place = {300, 240, 6000, 480}, .text = "Hoja de Análisis",
      .look = Look::heading},
-    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {1800, 900, 4500, 1800},
+    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {1800, 900, 4650, 2700},
      .text = "                Sin datos...", .look = Look::prompt},
-    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {300, 2850, 6000, 1200}, .look = Look::note},
+    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {300, 3750, 6150, 900}, .look = Look::note},
     {.id = Image2, .name = "Image2", .kind = Kind::image, .place = picturePlace, .visible = false,
      .meaning = {.es = "Aprobado", .en = "Approved"}, .drawing = approved},
     {.id = Image3, .name = "Image3", .kind = Kind::image, .place = picturePlace, .visible = false,
@@ -79,7 +79,7 @@ const host::WindowSpec spec{
     .name = "Form6",
     .role = host::Role::tool,
     .caption = "Velmor",
-    .place = {0, 0, 6600, 4200},
+    .place = {0, 0, 6750, 4800},
     .controls = table::controls,
     .slots = table::slots,
     .create = create,

@@ -55,28 +55,29 @@ constexpr Mark stableCircuit[] = {
     {.symbol = Symbol::terminal, .from = {280, 110}},
 };
 
-constexpr host::Place wings{600, 7500, 900, 750};
+constexpr host::Place wings{600, 6960, 900, 750};
 constexpr host::ControlRow controls[] = {
-    {.id = Picture1, .name = "Picture1", .kind = Kind::picture, .place = {600, 1200, 5100, 4200},
-     .meaning = {.es = "Circuito simple", .en = "Simple circuit"}, .drawing = simpleCircuit},
-    {.id = Picture2, .name = "Picture2", .kind = Kind::picture, .place = {6300, 1200, 5100, 4200},
-     .meaning = {.es = "Circuito estable", .en = "Stable circuit"}, .drawing = stableCircuit},
-    {.id = Command1, .name = "Command1", .kind = Kind::button, .place = {3300, 7800, 2100, 600}, .text = "Empezar", .visible = false},
-    {.id = Command2, .name = "Command2", .kind = Kind::button, .place = {2100, 5700, 2100, 600}, .text = "Simple"},
-    {.id = Command3, .name = "Command3", .kind = Kind::button, .place = {7800, 5700, 2100, 600}, .text = "Estable"},
-    {.id = Command4, .name = "Command4", .kind = Kind::button, .place = {3300, 7800, 2100, 600}, .text = "Empezar", .visible = false},
-    {.id = Command5, .name = "Command5", .kind = Kind::button, .place = {900, 7800, 2100, 600}, .text = "Formulas", .visible = false},
-    {.id = SSCommand1, .name = "SSCommand1", .kind = Kind::button, .place = {5700, 7800, 2100, 600}, .text = " 'Salir..."},
-    {.id = SSCommand2, .name = "SSCommand2", .kind = Kind::button, .place = {8100, 7800, 2100, 600}, .text = "Volver", .visible = false},
-    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {600, 600, 5100, 480}, .look = Look::heading},
-    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {6300, 600, 5100, 480}, .look = Look::heading},
-    {.id = Label3, .name = "Label3", .kind = Kind::label, .place = {600, 300, 10800, 7200}, .visible = false, .look = Look::prompt},
-    {.id = Label4, .name = "Label4", .kind = Kind::label, .place = {300, 150, 7500, 7500}, .visible = false, .look = Look::prompt},
-    {.id = Label5, .name = "Label5", .kind = Kind::label, .place = {7950, 150, 3760, 8175}, .visible = false, .look = Look::prompt},
-    {.id = Timer1, .name = "Timer1", .kind = Kind::timer, .interval = butterfly::interval},
+    // The butterfly flies behind everything else.
     {.id = Main, .name = "Main", .kind = Kind::image, .place = wings},
     {.id = OpenWings, .name = "OpenWings", .kind = Kind::image, .place = wings, .visible = false, .drawing = butterfly::openWings},
     {.id = CloseWings, .name = "CloseWings", .kind = Kind::image, .place = wings, .visible = false, .drawing = butterfly::closedWings},
+    {.id = Picture1, .name = "Picture1", .kind = Kind::picture, .place = {600, 960, 5100, 4320},
+     .meaning = {.es = "Circuito simple", .en = "Simple circuit"}, .look = Look::paper, .drawing = simpleCircuit},
+    {.id = Picture2, .name = "Picture2", .kind = Kind::picture, .place = {6300, 960, 5100, 4320},
+     .meaning = {.es = "Circuito estable", .en = "Stable circuit"}, .look = Look::paper, .drawing = stableCircuit},
+    {.id = Command1, .name = "Command1", .kind = Kind::button, .place = {2850, 7830, 2100, 540}, .text = "Empezar", .visible = false},
+    {.id = Command2, .name = "Command2", .kind = Kind::button, .place = {2100, 5640, 2100, 540}, .text = "Simple"},
+    {.id = Command3, .name = "Command3", .kind = Kind::button, .place = {7800, 5640, 2100, 540}, .text = "Estable"},
+    {.id = Command4, .name = "Command4", .kind = Kind::button, .place = {2850, 7830, 2100, 540}, .text = "Empezar", .visible = false},
+    {.id = Command5, .name = "Command5", .kind = Kind::button, .place = {600, 7830, 2100, 540}, .text = "Formulas", .visible = false},
+    {.id = SSCommand1, .name = "SSCommand1", .kind = Kind::button, .place = {9300, 7830, 2100, 540}, .text = " 'Salir..."},
+    {.id = SSCommand2, .name = "SSCommand2", .kind = Kind::button, .place = {7050, 7830, 2100, 540}, .text = "Volver", .visible = false},
+    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {600, 420, 5100, 420}, .look = Look::heading},
+    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {6300, 420, 5100, 420}, .look = Look::heading},
+    {.id = Label3, .name = "Label3", .kind = Kind::label, .place = {600, 420, 10800, 7050}, .visible = false, .look = Look::prompt, .fontSize = 11},
+    {.id = Label4, .name = "Label4", .kind = Kind::label, .place = {600, 420, 6900, 7050}, .visible = false, .look = Look::prompt},
+    {.id = Label5, .name = "Label5", .kind = Kind::label, .place = {7950, 150, 3760, 8175}, .visible = false, .look = Look::prompt},
+    {.id = Timer1, .name = "Timer1", .kind = Kind::timer, .interval = butterfly::interval},
 };
 static_assert(host::rowsInOrder(controls));
 
@@ -95,6 +96,12 @@ constexpr host::SlotRow slots[] = {
 constexpr host::Handle order[] = {Command2, Command3, Command4, Command1, Command5, SSCommand1, SSCommand2};
 // clang-format on
 
+// The page on the base resistor is told to be longer than its text, and would lie over the exit.
+host::Place shownPlaceOf(const host::Window& window, host::Handle control)
+{
+    return control == Label5 ? host::Place{7650, 420, 3750, 7050} : window.placeOf(control);
+}
+
 } // namespace table
 
 const host::WindowSpec spec{
@@ -106,6 +113,7 @@ const host::WindowSpec spec{
     .slots = table::slots,
     .tabOrder = table::order,
     .create = create,
+    .shownPlace = table::shownPlaceOf,
 };
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)

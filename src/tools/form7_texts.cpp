@@ -131,10 +131,8 @@ constexpr host::BiText baseResistors{
           "                          IRb2 = IRb1 - Ib\n"
           "                          Rb2 = Vj / IRb2\n"
           "\n"
-          "   Rb1 va del colector a la base: si la corriente\n"
-          "   crece, baja la tensión de colector, y con ella\n"
-          "   la corriente de base. Rb2 deriva a masa lo que\n"
-          "   la base no necesita y fija así el punto Q.",
+          "   Rb1 va del colector a la base: si la corriente crece, baja la tensión de colector, y con ella la "
+          "corriente de base. Rb2 deriva a masa lo que la base no necesita y fija así el punto Q.",
     .en = "   Calculation of the Base resistor of the Stabilised Circuit : \n"
           "\n"
           "                          Rb1 = S x RL\n"
@@ -144,10 +142,8 @@ constexpr host::BiText baseResistors{
           "                          IRb2 = IRb1 - Ib\n"
           "                          Rb2 = Vj / IRb2\n"
           "\n"
-          "   Rb1 goes from the collector to the base: if the\n"
-          "   current grows, the collector voltage falls, and\n"
-          "   with it the base current. Rb2 takes to ground\n"
-          "   what the base does not need, and so fixes Q."};
+          "   Rb1 goes from the collector to the base: if the current grows, the collector voltage falls, and with "
+          "it the base current. Rb2 takes to ground what the base does not need, and so fixes Q."};
 // clang-format on
 
 } // namespace velmor::form7

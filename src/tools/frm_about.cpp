@@ -58,32 +58,37 @@ using host::Ink;
 using host::Mark;
 using host::Symbol;
 constexpr Mark emblem[] = {
-    {.symbol = Symbol::sine, .from = {10, 60}, .to = {70, 120}, .ink = Ink::accent},
-    {.symbol = Symbol::wire, .from = {75, 90}, .to = {110, 90}},
-    {.symbol = Symbol::npn, .from = {110, 90}},
-    {.symbol = Symbol::wire, .from = {140, 60}, .to = {140, 40}},
-    {.symbol = Symbol::wire, .from = {140, 120}, .to = {140, 140}},
-    {.symbol = Symbol::ground, .from = {140, 140}},
-    {.symbol = Symbol::terminal, .from = {140, 40}},
-    {.symbol = Symbol::sineInverted, .from = {180, 30}, .to = {250, 150}, .ink = Ink::accent},
+    {.symbol = Symbol::sine, .from = {24, 85}, .to = {72, 121}, .ink = Ink::accent},
+    {.symbol = Symbol::terminal, .from = {92, 103}},
+    {.symbol = Symbol::capacitor, .from = {92, 103}, .to = {142, 103}},
+    {.symbol = Symbol::wire, .from = {142, 103}, .to = {160, 103}},
+    {.symbol = Symbol::npn, .from = {160, 103}},
+    {.symbol = Symbol::supplyUp, .from = {190, 9}},
+    {.symbol = Symbol::resistor, .from = {190, 19}, .to = {190, 73}},
+    {.symbol = Symbol::node, .from = {190, 73}},
+    {.symbol = Symbol::capacitor, .from = {190, 73}, .to = {250, 73}},
+    {.symbol = Symbol::terminal, .from = {250, 73}},
+    {.symbol = Symbol::ground, .from = {190, 133}},
+    {.symbol = Symbol::sineInverted, .from = {270, 23}, .to = {350, 123}, .ink = Ink::accent},
 };
 
-constexpr host::Place wings{450, 3900, 900, 750};
+constexpr host::Place wings{450, 4350, 900, 750};
 constexpr host::ControlRow controls[] = {
-    {.id = Timer1, .name = "Timer1", .kind = Kind::timer, .interval = butterfly::interval},
-    {.id = Command1, .name = "Command1", .kind = Kind::button, .place = {2550, 4050, 1500, 480}, .text = "Click",
-     .meaning = {.es = "Ver los agradecimientos", .en = "See the credits"}},
-    {.id = Command2, .name = "Command2", .kind = Kind::button, .place = {2550, 4050, 1500, 480}, .text = "OK", .visible = false},
+    // The butterfly flies behind everything else.
     {.id = Main, .name = "Main", .kind = Kind::image, .place = wings},
     {.id = OpenWings, .name = "OpenWings", .kind = Kind::image, .place = wings, .visible = false, .drawing = butterfly::openWings},
     {.id = CloseWings, .name = "CloseWings", .kind = Kind::image, .place = wings, .visible = false, .drawing = butterfly::closedWings},
-    {.id = Image1, .name = "Image1", .kind = Kind::image, .place = {1350, 750, 3900, 2550}, .drawing = emblem},
-    {.id = Label1_0, .name = "Label1(0)", .kind = Kind::label, .place = {450, 450, 5700, 840}, .visible = false},
-    {.id = Label1_1, .name = "Label1(1)", .kind = Kind::label, .place = {450, 1350, 5700, 840}, .visible = false},
-    {.id = Label1_2, .name = "Label1(2)", .kind = Kind::label, .place = {450, 2250, 5700, 840}, .visible = false},
-    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {450, 3150, 5700, 750}, .visible = false},
-    {.id = Label3, .name = "Label3", .kind = Kind::label, .place = {450, 150, 5700, 510}, .look = Look::title},
-    {.id = Label4, .name = "Label4", .kind = Kind::label, .place = {450, 3300, 5700, 600}},
+    {.id = Timer1, .name = "Timer1", .kind = Kind::timer, .interval = butterfly::interval},
+    {.id = Command1, .name = "Command1", .kind = Kind::button, .place = {4650, 4530, 1500, 480}, .text = "Click",
+     .meaning = {.es = "Ver los agradecimientos", .en = "See the credits"}},
+    {.id = Command2, .name = "Command2", .kind = Kind::button, .place = {4650, 4530, 1500, 480}, .text = "OK", .visible = false},
+    {.id = Image1, .name = "Image1", .kind = Kind::image, .place = {450, 960, 5700, 2490}, .look = Look::paper, .drawing = emblem},
+    {.id = Label1_0, .name = "Label1(0)", .kind = Kind::label, .place = {450, 450, 5700, 540}, .visible = false, .look = Look::title},
+    {.id = Label1_1, .name = "Label1(1)", .kind = Kind::label, .place = {450, 1200, 5700, 600}, .visible = false, .fontSize = 9},
+    {.id = Label1_2, .name = "Label1(2)", .kind = Kind::label, .place = {450, 1950, 5700, 780}, .visible = false, .fontSize = 9},
+    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {450, 2880, 5700, 780}, .visible = false, .look = Look::note, .fontSize = 9},
+    {.id = Label3, .name = "Label3", .kind = Kind::label, .place = {450, 300, 5700, 540}, .look = Look::title},
+    {.id = Label4, .name = "Label4", .kind = Kind::label, .place = {450, 3600, 5700, 600}, .fontSize = 9},
 };
 static_assert(host::rowsInOrder(controls));
 
@@ -102,7 +107,7 @@ const host::WindowSpec spec{
     .name = "frmAbout",
     .role = host::Role::tool,
     .caption = " gracias...",
-    .place = {0, 0, 6600, 4800},
+    .place = {0, 0, 6600, 5250},
     .controls = table::controls,
     .slots = table::slots,
     .create = create,

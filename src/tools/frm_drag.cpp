@@ -174,26 +174,26 @@ namespace table {
 using host::GridPoint;
 using host::Mark;
 using host::Symbol;
-constexpr GridPoint stand[] = {{78, 74}, {70, 88}, {114, 88}, {106, 74}};
+constexpr GridPoint stand[] = {{88, 74}, {80, 88}, {124, 88}, {116, 74}};
 constexpr Mark computer[] = {
-    {.symbol = Symbol::roundFrame, .from = {42, 10}, .to = {142, 74}},
-    {.symbol = Symbol::frame, .from = {50, 17}, .to = {134, 67}},
+    {.symbol = Symbol::roundFrame, .from = {52, 10}, .to = {152, 74}},
+    {.symbol = Symbol::frame, .from = {60, 17}, .to = {144, 67}},
     {.symbol = Symbol::polyline, .points = stand},
-    {.symbol = Symbol::roundFrame, .from = {32, 94}, .to = {152, 106}},
+    {.symbol = Symbol::roundFrame, .from = {42, 94}, .to = {162, 106}},
 };
 
 constexpr host::ControlRow controls[] = {
-    {.id = Drive1, .name = "Drive1", .kind = Kind::list, .place = {150, 150, 3225, 360},
+    {.id = Drive1, .name = "Drive1", .kind = Kind::list, .place = {150, 1065, 3225, 390},
      .meaning = {.es = "Unidad", .en = "Drive"}},
-    {.id = Dir1, .name = "Dir1", .kind = Kind::list, .place = {150, 600, 3225, 1500},
+    {.id = Dir1, .name = "Dir1", .kind = Kind::list, .place = {150, 1545, 3225, 1500},
      .meaning = {.es = "Carpeta", .en = "Folder"}},
-    {.id = File1, .name = "File1", .kind = Kind::list, .place = {150, 2190, 3225, 1650},
+    {.id = File1, .name = "File1", .kind = Kind::list, .place = {150, 3135, 3225, 1620},
      .meaning = {.es = "Filas para arrastrar", .en = "Files to drag"}, .tag = "Drive1"},
-    {.id = Picture1, .name = "Picture1", .kind = Kind::panel, .place = {150, 3930, 3225, 1900}, .look = Look::group},
-    {.id = Image1, .name = "Image1", .kind = Kind::image, .place = {225, 4005, 3075, 1750},
+    {.id = Picture1, .name = "Picture1", .kind = Kind::panel, .place = {150, 4845, 3225, 1900}, .look = Look::group},
+    {.id = Image1, .name = "Image1", .kind = Kind::image, .place = {225, 4920, 3075, 1750},
      .meaning = {.es = "Computadora: suelte la fila aquí", .en = "Computer: drop the file here"}, .drawing = computer,
      .parent = Picture1},
-    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {150, 5925, 3225, 825}, .look = Look::hint},
+    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {150, 150, 3225, 825}, .look = Look::hint},
 };
 static_assert(host::rowsInOrder(controls));
 
