@@ -89,7 +89,8 @@ public:
 
     // the state of the program
     bool ended() const { return ended_; }
-    bool idle() const { return depth_ == 0; }
+    /// No event is under way and none waits.
+    bool idle() const { return depth_ == 0 && pending_.empty(); }
     Window& mainWindow();
     Window* current() const { return current_; }
     Window* activeChild() const { return activeChild_; }

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+// The checks that follow every step of a play.
+#include "player/consistency.h"
+
+#include <algorithm>
+#include <cctype>
+#include <set>
+
+#include "sheets/design_sheet.h"
+
+namespace velmor::player {
+
+namespace consistency_detail {
+
+using host::noControl;
+using host::Window;
+
+bool sixteenBitBoolean(std::int16_t value)
+{
+    return value == 0 || value == host::trueValue;
+}
+
+std::string faultOf(const Window& window)
+{
+    const host::Handle held = window.focus();
+    if (held != noControl && held >= window.controlCount())
+        return "the focus is on a control that is none";
+    if (held != noControl && !window.canTakeFocus(held))
+        return "the focus is on " + std::string(window.row(held).name) + ", which cannot hold it";
+    if (window.windowState() < 0 || window.windowState() > 2)
+        return "the window is neither normal, minimised nor maximised";
+    const auto* sheet = dynamic_cast<const sheets::DesignSheet*>(&window);
+    if (sheet != nullptr && !(sixteenBitBoolean(sheet->OperCancelo()) && sixteenBitBoolean(sheet->modificado())))
+        return "a boolean of the sheet is neither -1 nor 0";
+    return {};
+}
+
+std::string faultOfCurrent(const host::Engine& engine)
+{
+    const Window* current = engine.current();
+    if (current != nullptr && !engine.isLoaded(current))
+        return "the current window is not loaded";
+    if (current != nullptr && !current->shown() && current->role() != host::Role::mainWindow)
+        return "the current window " + std::string(current->name()) + " is hidden";
+    const Window* child = engine.activeChild();
+    if (child != nullptr && !engine.isLoaded(child))
+        return "the active child is not loaded";
+    if (child != nullptr && (!child->shown() || !child->isChild()))
+        return "the active child " + std::string(child->name()) + " is hidden, or no child";
+    return {};
+}
+
+std::string faultOfValues(const host::ProgramValues& values)
+{
+    if (!sixteenBitBoolean(values.LanguageIsEnglish))
+        return "the language is neither -1 nor 0";
+    if (values.DecimalSeparator != "." && values.DecimalSeparator != ",")
+        return "the decimal separator is \"" + values.DecimalSeparator + "\"";
+    return {};
+}
+
+std::string shortened(const std::string& text)
+{
+    return text.size() <= 80 ? text : text.substr(0, 80) + "...";
+}
+
+} // namespace consistency_detail
+
+std::string engineFault(host::Engine& engine)
+{
+    using namespace consistency_detail;
+    if (!engine.idle())
+        return "an event is still under way or waiting";
+    if (std::string fault = faultOfCurrent(engine); !fault.empty())
+        return fault;
+    if (std::string fault = faultOfValues(engine.values()); !fault.empty())
+        return fault;
+    std::set<std::string_view> defaults;
+    for (const Window* window : engine.windows()) {
+        if (window->isDefaultInstance() && !defaults.insert(window->name()).second)
+            return "two default instances of " + std::string(window->name());
+        if (std::string fault = faultOf(*window); !fault.empty())
+            return std::string(window->name()) + ": " + fault;
+    }
+    return {};
+}
+
+std::string textFault(host::Engine& engine)
+{
+    using namespace consistency_detail;
+    for (Window* window : engine.windows())
+        for (const host::Handle control : window->takeChanges()) {
+            const std::string& text = window->text(control);
+            const char* fault = !isUtf8(text)                        ? "is no UTF-8"
+                                : namesNoNumber(text)                ? "shows a number that is none"
+                                : text.size() > std::size_t{100'000} ? "grows without end"
+                                                                     : nullptr;
+            if (fault != nullptr)
+                return std::string(window->name()) + "." + std::string(window->row(control).name) + " " + fault + ": " +
+                       shortened(text);
+        }
+    return {};
+}
+
+bool namesNoNumber(std::string_view text)
+{
+    const auto letter = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || (c & 0x80) != 0; };
+    for (std::size_t at = 0; at + 3 <= text.size(); ++at) {
+        std::string word(text.substr(at, 3));
+        std::transform(word.begin(), word.end(), word.begin(), [](char c) { return static_cast<char>(c | 0x20); });
+        const bool alone = (at == 0 || !letter(text[at - 1])) && (at + 3 == text.size() || !letter(text[at + 3]));
+        if (alone && (word == "inf" || word == "nan"))
+            return true;
+    }
+    return false;
+}
+
+bool isUtf8(std::string_view text)
+{
+    std::size_t at = 0;
+    while (at < text.size()) {
+        const auto first = static_cast<unsigned char>(text[at]);
+        const std::size_t length = first < 0x80 ? 1 : first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : first >= 0xC2 ? 2 : 0;
+        if (length == 0 || first > 0xF4 || at + length > text.size())
+            return false;
+        for (std::size_t i = 1; i < length; ++i)
+            if ((static_cast<unsigned char>(text[at + i]) & 0xC0) != 0x80)
+                return false;
+        at += length;
+    }
+    return true;
+}
+
+} // namespace velmor::player

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// What must hold of a program whenever no event is under way, whatever happened before.
+#pragma once
+
+#include <string>
+
+#include "host/engine.h"
+
+namespace velmor::player {
+
+/// What is wrong with the state of the engine and its windows; empty when nothing is.
+std::string engineFault(host::Engine& engine);
+
+/// What is wrong with the texts that changed since the last call; empty when nothing is. Takes the changes away.
+std::string textFault(host::Engine& engine);
+
+/// A number that is none, as a word of its own: "inf", "-nan".
+bool namesNoNumber(std::string_view text);
+bool isUtf8(std::string_view text);
+
+} // namespace velmor::player

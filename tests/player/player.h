@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+// Plays a program by chance: designs with plausible numbers, and every event of every window. After each event the state of
+// the program is checked; the same seed plays the same game again.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "console/walk.h"
+#include "host/settings_store.h"
+#include "player/chance.h"
+#include "player/coverage.h"
+#include "player/player_screen.h"
+
+namespace velmor::player {
+
+/// What a person does in one event.
+enum class Act : std::uint8_t {
+    focus,
+    tab,
+    tabBack,
+    click,
+    doubleClick,
+    press,
+    hover,
+    key,
+    text,
+    edit,
+    selectText,
+    menu,
+    menuOpens,
+    choose,
+    drag,
+    dragEnter,
+    dragLeave,
+    timer,
+    shortcut,
+    activate,
+    close,
+    state,
+    resize,
+    mainArea,
+    newSheet,
+    show,
+    operation,
+    count
+};
+
+struct Deed {
+    Act act = Act::click;
+    host::Window* window = nullptr;
+    host::Handle control = host::noControl;
+    int detail = 0; ///< key, button, shift, state, list entry, row
+    host::Handle target = host::noControl;
+    std::string text{};
+};
+
+struct Game {
+    std::uint64_t seed = 1;
+    std::string onlyWindow{};   ///< most events go to this window; empty for the whole program
+    std::size_t windowCap = 10; ///< more open windows are closed
+};
+
+class Player {
+public:
+    Player(const console::WalkedProgram& program, Game game);
+    ~Player();
+    Player(const Player&) = delete;
+    Player& operator=(const Player&) = delete;
+
+    /// Plays so many events. False when something is wrong; `fault` says what, and nothing more can be played.
+    bool play(std::uint64_t events);
+    /// What is wrong, with seed, event number and the last events before it.
+    const std::string& fault() const { return fault_; }
+    const Coverage& coverage() const { return coverage_; }
+    std::uint64_t events() const { return events_; }
+    host::Engine& engine() { return *engine_; }
+    /// Carries out one event and checks what must hold after it.
+    void perform(const Deed& deed);
+
+private:
+    enum class Mood : std::uint8_t { design, defaults, roam };
+
+    void startProgram();
+    void endProgram();
+    void move();
+    void changeMood();
+    void keepWindowsFew();
+
+    void designStep();
+    void typeNumber(host::Window& sheet);
+    void pressKey(host::Window& window, std::int16_t key, const std::string& character);
+    void typeText(host::Window& window, const std::string& text);
+    void roamStep();
+    void playSlot(host::Window& window);
+    void playSlot(host::Window& window, host::Handle control, host::Event event);
+    void oddStep(host::Window& window);
+    void editStep(host::Window& window, host::Handle editor);
+    void useList(host::Window& window, host::Handle list);
+    void openSomething();
+    void openTarget();
+    void usePopup();
+    void meanwhile();
+
+    host::Window* sheetInHand();
+    host::Window& windowToPlay();
+    host::Handle anyControl(const host::Window& window);
+    std::vector<host::Window*> shownWindows() const;
+    host::Window* modalWindow() const;
+
+    void carryOut(const Deed& deed);
+    void carryOutWindow(const Deed& deed);
+    void runOperation(host::Window& window, int operation, const std::string& path);
+    void check();
+    void report(const std::string& what);
+    std::string lastEvents() const;
+
+    const console::WalkedProgram& program_;
+    Game game_;
+    Chance chance_;
+    Playground ground_;
+    Coverage coverage_;
+    host::MemorySettings settings_;
+    std::unique_ptr<PlayerScreen> screen_;
+    std::unique_ptr<host::Engine> engine_;
+    Mood mood_ = Mood::roam;
+    int moodLeft_ = 0;
+    std::uint64_t events_ = 0;
+    int slotsInEvent_ = 0;
+    unsigned newestWindow_ = 0;
+    std::string failureKind_;
+    std::string fault_;
+    std::deque<std::string> history_;
+};
+
+/// One event in words, for reports.
+std::string inWords(const Deed& deed);
+
+} // namespace velmor::player

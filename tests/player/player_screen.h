@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+// A screen without a person: every question is answered by chance, and sometimes something else happens while it stands.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/screen.h"
+#include "player/chance.h"
+
+namespace velmor::player {
+
+/// A folder of the program's own with guides, circuit files good and bad, and places where nothing can be written.
+class Playground {
+public:
+    Playground();
+    ~Playground();
+    Playground(const Playground&) = delete;
+    Playground& operator=(const Playground&) = delete;
+
+    const std::filesystem::path& path() const { return path_; }
+    /// Paths that a file dialog may return.
+    const std::vector<std::string>& files() const { return files_; }
+
+private:
+    std::filesystem::path path_;
+    std::vector<std::string> files_;
+};
+
+class PlayerScreen final : public host::Screen {
+public:
+    PlayerScreen(Chance& chance, const Playground& ground) : chance_(chance), ground_(ground) {}
+
+    /// Something that happens while a question stands.
+    std::function<void()> meanwhile;
+    /// A pop-up menu stands open: its owner and handle.
+    host::Window* popupOwner = nullptr;
+    host::Handle popup = host::noControl;
+    std::string failure; ///< the text with which the program ended
+    int questions = 0;
+
+    host::Answer messageBox(const host::MessageBox& box) override;
+    std::optional<std::string> fileDialog(const host::FileDialog& dialog) override;
+    std::optional<std::string> inputBox(const host::InputBox& box) override;
+    std::optional<std::int32_t> colourDialog(std::int32_t initial) override;
+    std::optional<host::Font> fontDialog(const host::Font& initial) override;
+    std::string now() override { return "01/02/2026 10:20"; }
+    std::string date() override { return "01/02/2026"; }
+    std::string time() override { return "10:20"; }
+    std::string clipboardText() override { return clipboard_; }
+    int printedWidth(const host::Font& font, std::string_view text) override;
+    std::string programFolder() override { return ground_.path().string(); }
+    std::string executableName() override { return "velmor"; }
+    bool otherInstanceRunning() override { return false; }
+    void beep() override {}
+    void setClipboardText(std::string_view text) override;
+    void print(const host::PrintJob&) override {}
+    bool run(const std::string&, const std::string&) override { return chance_.in(50); }
+    void popupMenu(host::Window& owner, host::Handle menu) override;
+    void programFailed(std::string_view text) override { failure = text; }
+    void windowGone(host::Window& window) override;
+
+private:
+    void something();
+
+    Chance& chance_;
+    const Playground& ground_;
+    std::string clipboard_ = "12,5";
+};
+
+/// A text as a student may type it into a field: mostly a plausible number.
+std::string plausibleNumber(Chance& chance);
+
+} // namespace velmor::player
