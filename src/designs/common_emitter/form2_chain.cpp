@@ -229,7 +229,8 @@ void Form2::keyText15(host::EventArgs& args)
     if (sheets::pressed(*this, args, emptyField) != Press::enter)
         return;
     correctFrom(*this, Text15, 0.01, 0.01);
-    if (visible(Text21))
+    // What `Text21` shows after a finished design, or out of a file, is no supply to divide.
+    if (visible(Text21) && at(Text21) > 0)
         takeResistorOfSupply();
     else
         takeStandardResistor();

@@ -158,7 +158,6 @@ void Form2::lostText18()
         write(statu24, noUpperResistor);
     } else {
         workOutDivider(BRes);
-        writeInput();
     }
     writeCapacitors();
     if (Rb2() < Res() / 1000.0)
@@ -179,8 +178,12 @@ void Form2::workOutDivider(Real BRes)
     Rb1Computed_ = upperBaseResistor(ERb1, Rin_, Res(), QIc(), at(Text7));
     setText(statu24, " Preset  Rb1= " + fourDecimals(Rb1Computed_) + " K" + std::string(pick(presetAdvice)));
     setText(statu30, digits(ERb1) + " Volts");
+    // A student who comes here before there is a supply has no divider yet: its resistances would cancel each other.
+    if (ERb1 <= 0)
+        return;
     Zin_ = visible(Picture1) ? inputImpedanceBypassed(Rb2(), Rb1Computed_, BRes) : inputImpedance(Rin_, Rb1Computed_);
     ZinBoot_ = inputImpedanceBootstrapped(Beta(), Res(), Rb2(), Rb1Computed_);
+    writeInput();
 }
 
 void Form2::writeInput()
