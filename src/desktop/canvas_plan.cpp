@@ -92,6 +92,8 @@ std::string plainSymbol(std::string_view symbol)
 {
     std::string result(symbol);
     result.erase(std::remove(result.begin(), result.end(), '_'), result.end());
+    if (result.starts_with("/\\"))
+        result.replace(0, 2, "Δ");
     return result;
 }
 

@@ -30,7 +30,7 @@ bool isShown(const host::Window& window, host::Handle control);
 /// The control itself or one that lies in it.
 bool liesIn(const host::WindowSpec& spec, host::Handle control, host::Handle panel);
 
-/// "Rb1" of the drawing's "R_b1".
+/// "Rb1" of the drawing's "R_b1", "ΔQIc" of "/\\Q_Ic".
 std::string plainSymbol(std::string_view symbol);
 
 } // namespace velmor::desktop

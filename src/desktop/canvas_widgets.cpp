@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The widgets over a canvas: which control has one, how it follows the model, what it is called.
-#include <QFontDatabase>
+#include <QAccessible>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -83,10 +83,13 @@ void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen)
         editor.setFont(font);
 }
 
+// Painted texts and pictures that cannot hold the keyboard are widgets only for whoever reads the screen by its tree.
 bool hasPane(const host::ControlRow& row)
 {
-    return row.overlay || row.kind == Kind::button || row.kind == Kind::picture || row.kind == Kind::option ||
-           row.kind == Kind::check;
+    if (row.overlay || host::takesFocus(row.kind))
+        return true;
+    const bool tells = row.kind == Kind::label || row.kind == Kind::panel || (row.kind == Kind::image && !row.meaning.es.empty());
+    return tells && QAccessible::isActive();
 }
 
 void fillList(QListWidget& list, const host::ListState& state)
@@ -305,7 +308,7 @@ void Canvas::label(Handle control, QWidget& widget)
     const QString caption = editable ? QString() : desktop::shown(model_->text(control)).simplified();
     if (!caption.isEmpty() && !parts.contains(caption))
         parts.prepend(caption);
-    if (parts.isEmpty())
+    if (parts.isEmpty() && host::takesFocus(row.kind))
         parts.append(desktop::shown(row.name));
     if (const QString name = parts.join(QStringLiteral(", ")); name != widget.accessibleName())
         widget.setAccessibleName(name);

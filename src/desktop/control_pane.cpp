@@ -12,14 +12,14 @@ namespace velmor::desktop {
 
 namespace control_pane_detail {
 
-QAccessible::Role roleOf(host::Kind kind)
+QAccessible::Role roleOf(host::Kind kind, bool clickable)
 {
     switch (kind) {
     case host::Kind::button:
     case host::Kind::picture:
         return QAccessible::PushButton;
     case host::Kind::image:
-        return QAccessible::Graphic;
+        return clickable ? QAccessible::PushButton : QAccessible::Graphic;
     case host::Kind::option:
         return QAccessible::RadioButton;
     case host::Kind::check:
@@ -35,7 +35,8 @@ public:
     explicit AccessiblePane(ControlPane* pane)
         : QAccessibleWidget(pane, pane->canvas().model() == nullptr
                                       ? QAccessible::StaticText
-                                      : roleOf(pane->canvas().model()->row(pane->control()).kind)),
+                                      : roleOf(pane->canvas().model()->row(pane->control()).kind,
+                                               pane->canvas().planOf(pane->control()).clickable)),
           pane_(pane)
     {
     }

@@ -29,12 +29,23 @@ WindowKeeper::WindowKeeper(Desk& desk) : desk_(desk)
         if (main_)
             main_->hovered(window, control);
     };
+    QAccessible::installActivationObserver(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focusMoved(now); });
 }
 
 WindowKeeper::~WindowKeeper()
 {
+    QAccessible::removeActivationObserver(this);
     shutDown();
+}
+
+// Somebody has begun to read the screen: the painted texts get their places in the tree.
+void WindowKeeper::accessibilityActiveChanged(bool active)
+{
+    if (!active || desk_.closing)
+        return;
+    for (const auto& [window, frame] : frames_)
+        frame->recolor();
 }
 
 void WindowKeeper::created(host::Window& window)

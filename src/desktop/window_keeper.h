@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include <QAccessible>
 #include <QObject>
 #include <QPointer>
 
@@ -19,7 +20,7 @@ class QMdiSubWindow;
 namespace velmor::desktop {
 
 
-class WindowKeeper final : public QObject {
+class WindowKeeper final : public QObject, private QAccessible::ActivationObserver {
 public:
     explicit WindowKeeper(Desk& desk);
     ~WindowKeeper() override;
@@ -47,6 +48,7 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void accessibilityActiveChanged(bool active) override;
     WindowFrame* make(host::Window& window);
     void followAll();
     void followLanguage();

@@ -1,0 +1,235 @@
+# SPDX-License-Identifier: MIT
+"""Journeys of a student: from the start to a finished design, boxes, several sheets, languages, a saved and printed text,
+and the end. Expected values are worked by hand from the course's formulas."""
+import os
+import subprocess
+import unittest
+
+from journey import Atspi, Program, Screen, until
+
+
+class Journey(unittest.TestCase):
+    size = "1366x768"
+    more = {}
+
+    def setUp(self):
+        self.screen = Screen(self.size)
+        self.addCleanup(self.screen.close)
+        self.program = Program(self.screen, **self.more)
+        self.addCleanup(self.program.close)
+
+    def answer(self, text, *keys):
+        box = self.program.box(text)
+        self.program.key(*keys)
+        until(lambda: box.get_state_set().contains(Atspi.StateType.DEFUNCT) or self.program.named(text, "label") is None,
+              "the end of the box " + text)
+
+    def sheets(self):
+        return [node for node in self.program.all()
+                if node.get_role_name() == "frame" and node.get_parent().get_role_name() != "application"]
+
+    def leave(self, question, sheets):
+        """Closes the main window: yes, end; no, keep none of the sheets."""
+        self.program.key("alt+F4")
+        self.answer(question, "Return")
+        for _ in range(sheets):
+            self.answer("archivo ha cambiado|file has changed", "n")
+        self.assertEqual(self.program.ended(), 0)
+
+    def settings(self):
+        with open(self.program.home + "/config/Velmor/Velmor.ini", encoding="utf-8") as file:
+            return file.read()
+
+
+class Design(Journey):
+    def test_a_student_designs_a_stage_with_the_keyboard_alone(self):
+        velmor = self.program
+        velmor.fill("ΔQIc", "10", "T")
+        velmor.key("Return")
+        velmor.focused("ΔVbe")
+        velmor.key("Return")
+        velmor.see(r"^1\.375, ")  # (75 - 20) x 0.0025 x 100 / 10 volts, with a point under a comma locale
+        velmor.fill("QIc", "1", "Res")
+        velmor.wait_value("Res", "1375")  # 1.375 V / 1 mA
+        velmor.key("Return")
+        velmor.fill("RLw", "10", "S")
+        velmor.key("Return")
+        velmor.fill("Vg", "5", "RL")
+        velmor.wait_value("RL", "22")  # 10 x 6.875 / (10 - 6.875), with 5 x 1375 ohms in parallel
+        velmor.key("Return")
+        velmor.focused("fo")
+        velmor.see(r"Rlac = 6\.875 K")
+        velmor.key("Return")
+        velmor.focused("Eopp")
+        velmor.key("Return")
+        velmor.focused("Es")
+        # The supply that just suffices leaves too little for the transistor: two warnings, and back to Eopp.
+        velmor.key("Return")
+        self.answer("Aumentar", "Return")
+        self.answer("Disminuya Eopp", "space")
+        velmor.focused("Eopp")
+        velmor.key("Return")
+        velmor.fill("Es", "30", "β")
+        velmor.see(r"Eq= 6\.625")  # 30 - 22 - 1.375
+        velmor.key("Return")
+        velmor.focused("Ic(max)")
+        velmor.key("Return")
+        velmor.focused("Vj")
+        velmor.key("Return")
+        velmor.focused("Rb2")
+        velmor.see(r"Rb2= 13\.75 K")  # S x Res = 10 x 1375 ohms
+        velmor.key("Return")
+        self.answer("Debe colocar una cifra", "Escape")
+        velmor.fill("Rb2", "13", "Rb1")
+        velmor.type("170")
+        velmor.wait_value("Rb1", "170")
+        velmor.key("Return")
+        velmor.see(r"Zin= ")
+        self.leave("Desea abandonar", 1)
+        self.assertIn("fCastIng=0", self.settings())
+
+    def test_letters_signs_and_pasted_nonsense_do_no_harm(self):
+        velmor = self.program
+        velmor.focused("ΔQIc")
+        velmor.type("a-7/b,5+")
+        velmor.wait_value("ΔQIc", "7.5")
+        velmor.key("ctrl+a", "ctrl+c", "End", "ctrl+v")
+        velmor.wait_value("ΔQIc", "7.57.5")
+        velmor.key("Return")
+        velmor.focused("T")
+        velmor.wait_value("ΔQIc", "7.57")
+
+    def test_the_mouse_opens_sheets_and_the_menu_tiles_them(self):
+        velmor = self.program
+        velmor.focused("ΔQIc")
+        velmor.press(velmor.see("^Nuevo circuito", "push button"))
+        until(lambda: len(self.sheets()) == 2, "a second sheet")
+        velmor.press(velmor.see("^Emisor Común Realimentado por Corriente$", "push button"))
+        until(lambda: len(self.sheets()) == 3, "a third sheet from the palette")
+        velmor.key("alt+v")
+        velmor.see("^Horizontal$", "menu item")
+        velmor.key("v")
+        boxes = until(lambda: self.apart(3), "three sheets side by side")
+        self.assertLess(max(y for _, y, _, _ in boxes) - min(y for _, y, _, _ in boxes), 3)
+
+    def apart(self, count):
+        boxes = sorted(self.program.place(sheet) for sheet in self.sheets())
+        side_by_side = all(a[0] + a[2] <= b[0] + 2 for a, b in zip(boxes, boxes[1:]))
+        return boxes if len(boxes) == count and side_by_side else None
+
+    def test_the_language_switches_at_run_time_and_for_the_next_start(self):
+        velmor = self.program
+        velmor.focused("ΔQIc")
+        velmor.key("ctrl+shift+i")
+        velmor.see("^Archive$", "menu item")
+        velmor.key("Return")
+        velmor.focused("T")
+        velmor.see(r"^T, .*[Tt]emperature")
+        velmor.key("Escape")
+        velmor.focused("ΔVbe")
+        velmor.key("ctrl+shift+e")
+        velmor.see("^Archivo$", "menu item")
+        self.leave("Desea abandonar", 1)
+
+    def test_help_by_key_and_back(self):
+        velmor = self.program
+        velmor.focused("ΔQIc")
+        velmor.key("Menu")
+        velmor.see("^Ayuda$|^ *Ayuda")
+        velmor.key("Escape")
+        velmor.focused("ΔQIc")
+        velmor.key("5")
+        velmor.wait_value("ΔQIc", "5")
+
+
+class Text(Journey):
+    def test_a_guide_is_changed_saved_and_printed(self):
+        velmor = self.program
+        velmor.focused("ΔQIc")
+        velmor.press(velmor.see("^Guía", "push button"))
+        editor = velmor.see("^Texto$", "text")
+        until(lambda: "GUÍA" in velmor.text(editor).upper(), "the guide's text")
+        until(lambda: editor.get_state_set().contains(Atspi.StateType.FOCUSED), "the keyboard in the editor")
+        velmor.key("ctrl+Home")
+        velmor.type("Mi trabajo")
+        velmor.key("Return")
+        until(lambda: velmor.text(editor).startswith("Mi trabajo\n"), "the typed line")
+        path = velmor.home + "/informe.txt"
+        velmor.key("ctrl+s")
+        name = velmor.see(".*", "dialog") and until(self.name_field, "the name of the file")
+        self.assertIsNotNone(name)
+        velmor.type(path)
+        velmor.key("Return")
+        until(lambda: os.path.exists(path), "the saved file")
+        with open(path, "rb") as file:
+            self.assertTrue(file.read().decode("cp1252").startswith("Mi trabajo"))
+        velmor.key("ctrl+p")
+        until(lambda: any(node.get_role_name() == "push button" and node.get_state_set().contains(Atspi.StateType.FOCUSED)
+                          for node in velmor.all()), "the dialog for printing")
+        velmor.key("Return")
+        pdf = until(self.printed, "the printed file")
+        text = until(lambda: subprocess.run(["pdftotext", "-layout", pdf, "-"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+                                            check=False).stdout.decode(), "the text of the print-out")
+        self.assertIn("Mi trabajo", text)
+
+    def printed(self):
+        for folder, _, names in os.walk(self.program.home):
+            for name in names:
+                if name.endswith(".pdf"):
+                    return os.path.join(folder, name)
+        return None
+
+    def name_field(self):
+        for node in self.program.all():
+            if node.get_role_name() == "text" and node.get_state_set().contains(Atspi.StateType.FOCUSED) \
+                    and not (node.get_name() or "").startswith("Texto"):
+                return node
+        return None
+
+
+class Enlarged(Journey):
+    size = "2560x1440"
+    more = {"QT_SCALE_FACTOR": "2"}
+
+    def test_at_200_per_cent_keys_and_clicks_still_land(self):
+        velmor = self.program
+        velmor.fill("ΔQIc", "5", "T")
+        velmor.key("Return")
+        velmor.focused("ΔVbe")
+        velmor.key("Return")
+        velmor.focused("QIc")
+        velmor.see(r"^2\.75, ")  # (75 - 20) x 0.0025 x 100 / 5 volts
+        self.leave("Desea abandonar", 1)
+
+
+class PoorFonts(Journey):
+    def setUp(self):
+        folder = subprocess.run(["fc-match", "-f", "%{file}", "DejaVu Sans"], stdout=subprocess.PIPE, check=True).stdout.decode()
+        self.config = "/tmp/velmor-fonts-%d.conf" % os.getpid()
+        with open(self.config, "w", encoding="utf-8") as file:
+            file.write("<?xml version='1.0'?><!DOCTYPE fontconfig SYSTEM 'fonts.dtd'><fontconfig><dir>%s</dir>"
+                       "<selectfont><rejectfont><glob>*</glob></rejectfont><acceptfont><glob>*DejaVuSans.ttf</glob>"
+                       "</acceptfont></selectfont></fontconfig>" % os.path.dirname(folder))
+        self.addCleanup(os.remove, self.config)
+        self.more = {"FONTCONFIG_FILE": self.config}
+        super().setUp()
+
+    def test_with_one_typeface_on_the_machine_a_design_still_goes_on(self):
+        self.program.fill("ΔQIc", "5", "T")
+        self.program.key("Return")
+        self.program.focused("ΔVbe")
+
+
+class SecondProgram(Journey):
+    def test_a_second_program_warns_and_goes_on(self):
+        self.program.focused("ΔQIc")
+        home = self.program.home
+        again = Program(self.screen, XDG_RUNTIME_DIR=home)
+        self.addCleanup(again.close)
+        again.box("ya se esta ejecutando")
+        again.key("Return")
+        again.focused("ΔQIc")
+
+
+if __name__ == "__main__":
+    unittest.main()
