@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Slots and table of the help page. The deeper pages exist in Spanish alone, and so do the two buttons.
+// Slots and table of the help page. The deeper pages exist in Spanish alone, and so do the two buttons; where they would
+// stand, English says that there is nothing deeper.
 #include "tools/form21.h"
 
 #include <algorithm>
@@ -16,10 +17,10 @@ using host::slot;
 namespace table {
 
 // clang-format off
-constexpr host::Place pagePlace{150, 600, 6300, 5100};
+constexpr host::Place pagePlace{150, 150, 6300, 5550};
 constexpr host::ControlRow controls[] = {
-    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {150, 120, 6300, 390}, .text = "Not available",
-     .visible = false, .look = Look::heading},
+    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {150, 5865, 6300, 390}, .text = "Not available",
+     .visible = false, .look = Look::note},
     {.id = Text22, .name = "Text22", .kind = Kind::page, .place = pagePlace,
      .meaning = {.es = "Página de ayuda", .en = "Help page"}},
     {.id = Text23, .name = "Text23", .kind = Kind::page, .place = pagePlace, .visible = false,

@@ -331,10 +331,8 @@ void Form2::MostrarAyuda()
             continue;
         host().setText("Form21", "SSCommand1", page.shortName);
         host().setText("Form21", "Text22", pick(page.page));
-        if (inEnglish) {
-            host().setText("Form21", "Label1", page.shortName);
+        if (inEnglish)
             host().setText("Form21", "Text23", page.page.en);
-        }
         break;
     }
     host().setVisible("Form21", "Text23", inEnglish);
