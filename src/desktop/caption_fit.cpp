@@ -50,6 +50,8 @@ Manner mannerOfLook(Look look)
         return {.padding = {14.0, 5.0, 9.0, 5.0}, .points = 9.5};
     case Look::hint:
         return {.padding = {8.0, 3.0, 6.0, 3.0}, .points = 8.5, .oneLine = true};
+    case Look::lesson:
+        return {.padding = {12.0, 10.0, 10.0, 8.0}, .points = 9.0, .alignment = Qt::AlignLeft | Qt::AlignTop};
     case Look::balloon:
         return {.padding = {7.0, 2.0, 7.0, 2.0}, .points = 8.0, .alignment = Qt::AlignCenter, .oneLine = true};
     case Look::note:

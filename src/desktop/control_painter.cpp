@@ -32,9 +32,12 @@ struct Scene {
     QRectF box;
 
     const host::ControlRow& row() const { return window.row(control); }
+    std::span<const host::Mark> drawing() const { return window.drawing(control); }
     const host::Control& state() const { return window.control(control); }
     const Inks& inks() const { return *view.inks; }
     double unit() const { return view.pixelsPerUnit(); }
+    /// Blanks alone are nothing to frame.
+    bool speaks() const { return state().text.find_first_not_of(" \n") != std::string::npos; }
     bool enabled() const { return state().enabled; }
     bool focused() const { return !view.forPrint && window.focus() == control && takesFocus(row().kind); }
     bool hovered() const { return !view.forPrint && enabled() && view.hovered == control; }
@@ -118,7 +121,7 @@ void writeCaption(const Scene& scene, const QColor& ink, const QColor& ground)
 
 void paintDrawing(const Scene& scene)
 {
-    const auto drawing = scene.window.drawing(scene.control);
+    const auto drawing = scene.drawing();
     if (drawing.empty())
         return;
     const bool faded = !scene.enabled() && scene.row().look == Look::toolButton;
@@ -129,7 +132,7 @@ void paintDrawing(const Scene& scene)
 
 void paintPrompt(const Scene& scene)
 {
-    if (scene.state().text.empty())
+    if (!scene.speaks())
         return;
     const QColor ground = groundOr(scene, scene.inks().voice);
     plate(scene, ground, QColor(), 5.0, 0.0);
@@ -146,7 +149,7 @@ void paintPrompt(const Scene& scene)
 
 void paintHint(const Scene& scene)
 {
-    if (scene.state().text.empty())
+    if (!scene.speaks())
         return;
     const QColor ground = groundOr(scene, scene.inks().hint);
     plate(scene, ground, QColor(), 4.0, 0.0);
@@ -155,7 +158,7 @@ void paintHint(const Scene& scene)
 
 void paintBalloon(const Scene& scene)
 {
-    if (scene.state().text.empty())
+    if (!scene.speaks())
         return;
     const QColor ground = groundOr(scene, scene.inks().balloon);
     plate(scene, ground, QColor(), 5.0, 0.0);
@@ -182,7 +185,7 @@ void warningSign(const Scene& scene)
 
 void paintWarning(const Scene& scene)
 {
-    if (scene.state().text.empty())
+    if (!scene.speaks())
         return;
     const QColor ground = groundOr(scene, scene.inks().warningTint);
     plate(scene, ground, scene.inks().warning, 4.0, hairline(scene));
@@ -305,7 +308,7 @@ void paintChoice(const Scene& scene)
 void paintLine(const Scene& scene)
 {
     scene.painter.setPen(QPen(scene.inks().rule, hairline(scene) * 1.3));
-    if (scene.row().drawing.empty())
+    if (scene.drawing().empty())
         scene.painter.drawLine(scene.box.topLeft(), scene.box.bottomRight());
     paintDrawing(scene);
 }
@@ -313,7 +316,7 @@ void paintLine(const Scene& scene)
 void paintShape(const Scene& scene)
 {
     const bool marked = scene.state().backColor >= 0;
-    if (scene.row().drawing.empty())
+    if (scene.drawing().empty())
         plate(scene, marked ? colorOf(scene.state().backColor) : QColor(),
               marked ? scene.inks().accent : scene.inks().rule, 4.0, hairline(scene) * (marked ? 2.0 : 1.0));
     paintDrawing(scene);
@@ -357,6 +360,7 @@ void paintByLook(const Scene& scene)
     case Look::prompt:
         return paintPrompt(scene);
     case Look::hint:
+    case Look::lesson:
         return paintHint(scene);
     case Look::balloon:
         return paintBalloon(scene);

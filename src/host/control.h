@@ -38,6 +38,7 @@ enum class Look : std::uint8_t {
     heading, ///< heading of a group
     prompt,  ///< the teacher's voice
     hint,    ///< what the next step wants
+    lesson,  ///< a short page of the teacher, which begins at the top
     balloon, ///< name of the thing under the pointer
     note,    ///< small note about a field
     result,  ///< computed value on the drawing

@@ -63,6 +63,19 @@ std::string_view Form3::statusOf(Handle field) const
     return {};
 }
 
+// The page belongs to the bench while that is on.
+void Form3::tellAbout(Handle field)
+{
+    setText(StatusBar1, statusOf(field));
+    if (visible(Image3))
+        return;
+    for (const texts::StatusRow& row : texts::lessonRows())
+        if (row.field == field) {
+            setText(SSPanel4, pick(row.line));
+            show(SSPanel4);
+        }
+}
+
 void Form3::endPointing()
 {
     for (const texts::PointingRow& row : texts::pointingRows())

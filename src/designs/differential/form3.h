@@ -100,6 +100,7 @@ private:
     void beginField(host::Handle field);
     void settleField(host::Handle field);
     void leaveTo(host::Handle field);
+    void ink(const GrowingPart& part);
     void fillEin();
     bool sayEmpty(host::Handle field);
     bool tooMuchQIc() const;
@@ -118,6 +119,7 @@ private:
     // help
     void endPointing();
     std::string_view statusOf(host::Handle field) const;
+    void tellAbout(host::Handle field);
 
     // the bench
     bool finished() const { return visible(image2); }

@@ -52,14 +52,16 @@ void Form3::showFields(bool shown)
 {
     for (Handle field = Text1; field <= Text15; ++field)
         setVisible(field, shown);
-    for (const Handle ground : {Frame1, Frame2, Label6, Label11})
+    for (const Handle ground : {Label6, Label11})
         setVisible(ground, shown);
     placePage();
 }
 
 void Form3::placePage()
 {
-    setPlaceOf(SSPanel4, visible(Text1) ? pageBesidePicture : pageInsteadOfFields);
+    setPlaceOf(SSPanel4, !visible(Text1)    ? pageInsteadOfFields
+                         : visible(Image3) ? pageUnderInstrument
+                                           : pageBesidePicture);
 }
 
 void Form3::HideBench()
@@ -94,6 +96,7 @@ void Form3::showMeter()
     hide(Image24);
     borrowDrawing(Image3, Shape5);
     show(Image3, c1, c4, c5, C3, SSPanel2, Option1, Option2);
+    placePage();
 }
 
 void Form3::showGenerator()

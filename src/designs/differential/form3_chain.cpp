@@ -19,7 +19,7 @@ void Form3::beginField(Handle field)
     const texts::FieldRow* row = texts::fieldRow(field);
     if (row != nullptr && isEmpty(*this, field))
         writeNumber(*this, field, row->whenEmpty);
-    setText(StatusBar1, statusOf(field));
+    tellAbout(field);
     if (field == Text1)
         setText(SSPanel1, pick(texts::enterPrompt));
 }
@@ -137,7 +137,7 @@ void Form3::fillEin()
 void Form3::focusEin()
 {
     fillEin();
-    setText(StatusBar1, statusOf(Text15));
+    tellAbout(Text15);
 }
 
 void Form3::clickEin()

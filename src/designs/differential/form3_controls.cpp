@@ -42,20 +42,22 @@ constexpr Place field(int row) { return at(112, 96 + 31 * row, 84, 22); }
 constexpr Place transistorField(int row) { return at(112, 446 + 33 * row, 84, 22); }
 
 constexpr Place picture = in(0, 0, 678, 514);
-constexpr Place instrument = at(968, 118, 222, 186);
+constexpr Place instrument = at(962, 114, 228, 186);
 constexpr Place formula = at(646, 7, 308, 52);
 constexpr Place tool(int index) { return at(962 + 46 * index, 12, 42, 38); }
 constexpr Place page = at(951, 50, 249, 427);
+constexpr Place pageAlone = at(962, 114, 228, 466);
 
 // clang-format off
 constexpr ControlRow controls[] = {
-    {.id = Frame1,  .name = "Frame1",  .kind = Kind::panel, .place = at(10, 66, 252, 344),  .look = Look::group},
-    {.id = Frame2,  .name = "Frame2",  .kind = Kind::panel, .place = at(10, 416, 252, 164), .look = Look::group},
-    {.id = Frame3,  .name = "Frame3",  .kind = Kind::panel, .place = at(960, 66, 230, 514), .look = Look::group},
-    {.id = Label11, .name = "Label11", .place = at(22, 70, 230, 22),  .look = Look::heading},
-    {.id = Label6,  .name = "Label6",  .place = at(22, 420, 230, 22), .look = Look::heading},
+    {.id = Label11, .name = "Label11", .place = at(10, 66, 252, 344),  .look = Look::group},
+    {.id = Label6,  .name = "Label6",  .place = at(10, 416, 252, 164), .look = Look::group},
     {.id = Image1,  .name = "Image1",  .kind = Kind::image, .place = picture, .drawing = drawings::didactic},
     {.id = image2,  .name = "image2",  .kind = Kind::image, .place = picture, .visible = false, .drawing = drawings::finished},
+    {.id = Line1,   .name = "Line1",   .kind = Kind::line, .place = picture, .drawing = drawings::paleNegativeSupply},
+    {.id = Line2,   .name = "Line2",   .kind = Kind::line, .place = picture, .drawing = drawings::paleTail},
+    {.id = Line3,   .name = "Line3",   .kind = Kind::line, .place = picture, .drawing = drawings::paleCollectorResistors},
+    {.id = Line4,   .name = "Line4",   .kind = Kind::line, .place = picture, .drawing = drawings::palePositiveSupply},
     {.id = Shape1,  .name = "Shape1",  .kind = Kind::shape, .place = picture, .visible = false, .drawing = drawings::negativeSupply},
     {.id = Shape2,  .name = "Shape2",  .kind = Kind::shape, .place = picture, .visible = false, .drawing = drawings::tail},
     {.id = Shape3,  .name = "Shape3",  .kind = Kind::shape, .place = picture, .visible = false, .drawing = drawings::collectorResistors},
@@ -66,8 +68,8 @@ constexpr ControlRow controls[] = {
 
     {.id = Label22, .name = "Label22", .place = in(288, 276, 104, 24), .look = Look::result},
     {.id = Label28, .name = "Label28", .place = in(206, 332, 122, 52), .look = Look::result},
-    {.id = Label29, .name = "Label29", .place = in(254, 78, 84, 62),   .look = Look::result},
-    {.id = Label30, .name = "Label30", .place = in(342, 78, 88, 62),   .look = Look::result},
+    {.id = Label29, .name = "Label29", .place = in(252, 78, 88, 62),   .look = Look::result},
+    {.id = Label30, .name = "Label30", .place = in(344, 78, 88, 62),   .look = Look::result},
     {.id = Label31, .name = "Label31", .place = in(486, 24, 184, 24),  .look = Look::result},
     {.id = Label32, .name = "Label32", .place = in(254, 198, 84, 24),  .look = Look::result},
     {.id = Label33, .name = "Label33", .place = in(114, 298, 58, 44),  .look = Look::result},
@@ -75,8 +77,8 @@ constexpr ControlRow controls[] = {
     {.id = Label38, .name = "Label38", .place = in(62, 216, 130, 20),  .look = Look::result},
     {.id = Label39, .name = "Label39", .place = in(112, 146, 120, 20), .look = Look::result},
     {.id = Label40, .name = "Label40", .place = in(506, 216, 130, 20), .look = Look::result},
-    {.id = Label42, .name = "Label42", .place = in(552, 272, 40, 18),  .text = "Ent 2"},
-    {.id = Label43, .name = "Label43", .place = in(512, 150, 40, 18),  .text = "Out 2"},
+    {.id = Label42, .name = "Label42", .place = in(550, 274, 44, 18),  .text = "Ent 2", .look = Look::result},
+    {.id = Label43, .name = "Label43", .place = in(510, 148, 44, 18),  .text = "Out 2", .look = Look::result},
     {.id = Label44, .name = "Label44", .place = in(60, 124, 140, 20),  .visible = false, .look = Look::note},
 
     {.id = Text1,  .name = "Text1",  .kind = Kind::field, .place = field(0), .text = "1",    .symbol = "%ΔQ_ic", .unit = "%",
@@ -130,19 +132,19 @@ constexpr ControlRow controls[] = {
     {.id = Image26, .name = "Image26", .kind = Kind::image, .place = spot(530, 180), .drawing = drawings::point},
 
     {.id = Image16, .name = "Image16", .kind = Kind::image, .place = in(46, 230, 40, 56),  .visible = false, .drawing = drawings::markA},
-    {.id = Image17, .name = "Image17", .kind = Kind::image, .place = in(588, 230, 40, 56), .visible = false, .drawing = drawings::markGround},
+    {.id = Image17, .name = "Image17", .kind = Kind::image, .place = in(573, 230, 40, 56), .visible = false, .drawing = drawings::markGround},
     {.id = Image18, .name = "Image18", .kind = Kind::image, .place = in(594, 230, 40, 56), .visible = false, .drawing = drawings::markA},
-    {.id = Image19, .name = "Image19", .kind = Kind::image, .place = in(52, 230, 40, 56),  .visible = false, .drawing = drawings::groundLeft},
+    {.id = Image19, .name = "Image19", .kind = Kind::image, .place = in(67, 230, 40, 56),  .visible = false, .drawing = drawings::groundLeft},
     {.id = Image20, .name = "Image20", .kind = Kind::image, .place = in(46, 230, 40, 56),  .visible = false, .drawing = drawings::markB},
     {.id = Image21, .name = "Image21", .kind = Kind::image, .place = in(594, 230, 40, 56), .visible = false, .drawing = drawings::markB},
     {.id = Image23, .name = "Image23", .kind = Kind::image, .place = in(84, 160, 50, 40),  .drawing = drawings::waveB},
     {.id = Image25, .name = "Image25", .kind = Kind::image, .place = in(546, 160, 50, 40), .drawing = drawings::waveA},
-    {.id = Image14, .name = "Image14", .kind = Kind::image, .place = at(980, 150, 94, 80),  .visible = false,
+    {.id = Image14, .name = "Image14", .kind = Kind::image, .place = at(974, 148, 94, 80),  .visible = false,
      .meaning = {.es = "senoide A", .en = "sinusoid A"}, .drawing = drawings::screenA},
-    {.id = Image15, .name = "Image15", .kind = Kind::image, .place = at(1084, 150, 94, 80), .visible = false,
+    {.id = Image15, .name = "Image15", .kind = Kind::image, .place = at(1084, 148, 94, 80), .visible = false,
      .meaning = {.es = "senoide B", .en = "sinusoid B"}, .drawing = drawings::screenB},
 
-    {.id = SSPanel2, .name = "SSPanel2", .kind = Kind::panel,  .place = at(984, 142, 190, 44), .visible = false, .fontSize = 17},
+    {.id = SSPanel2, .name = "SSPanel2", .kind = Kind::panel,  .place = at(978, 140, 196, 46), .visible = false, .fontSize = 17},
     {.id = c1,       .name = "c1",       .kind = Kind::button, .place = at(984, 220, 43, 30),  .text = "V", .visible = false,
      .meaning = {.es = "tensión", .en = "voltage"}, .fontSize = 11},
     {.id = c4,       .name = "c4",       .kind = Kind::button, .place = at(1033, 220, 43, 30), .text = "A", .visible = false,
@@ -160,14 +162,14 @@ constexpr ControlRow controls[] = {
      .meaning = {.es = "señal de modo común", .en = "signal of common mode"}},
     {.id = c7,       .name = "c7",       .kind = Kind::button, .place = at(1082, 262, 92, 30), .text = "CMRR", .visible = false,
      .meaning = {.es = "rechazo de modo común", .en = "common mode rejection"}},
-    {.id = Image30,  .name = "Image30",  .kind = Kind::image, .place = at(968, 70, 222, 44),
+    {.id = Image30,  .name = "Image30",  .kind = Kind::image, .place = at(962, 66, 228, 40),
      .meaning = {.es = "generador: encender", .en = "generator: switch on"}, .look = Look::toolButton, .drawing = drawings::generatorButton},
-    {.id = Image33,  .name = "Image33",  .kind = Kind::image, .place = at(968, 70, 222, 44), .visible = false,
+    {.id = Image33,  .name = "Image33",  .kind = Kind::image, .place = at(962, 66, 228, 40), .visible = false,
      .meaning = {.es = "multímetro: encender", .en = "multimeter: switch on"}, .look = Look::toolButton, .drawing = drawings::meterButton},
 
     {.id = SSPanel1,   .name = "SSPanel1",   .kind = Kind::panel, .place = at(10, 8, 626, 50),    .look = Look::prompt},
-    {.id = SSPanel3,   .name = "SSPanel3",   .kind = Kind::panel, .place = at(968, 308, 214, 26), .visible = false, .look = Look::hint},
-    {.id = SSPanel4,   .name = "SSPanel4",   .kind = Kind::panel, .place = at(968, 340, 214, 236), .look = Look::hint},
+    {.id = SSPanel3,   .name = "SSPanel3",   .kind = Kind::panel, .place = at(962, 306, 228, 28), .visible = false, .look = Look::balloon},
+    {.id = SSPanel4,   .name = "SSPanel4",   .kind = Kind::panel, .place = pageAlone, .look = Look::lesson, .fontSize = 11},
     {.id = StatusBar1, .name = "StatusBar1", .kind = Kind::label, .place = at(10, 588, 940, 24),  .look = Look::hint},
     {.id = Label36,    .name = "Label36",    .kind = Kind::label, .place = at(960, 588, 230, 24), .visible = false, .look = Look::balloon},
 
@@ -422,7 +424,7 @@ Place shown(const host::Window& window, host::Handle control)
     if (control == Text21)
         return at(960, 66, 230, 514);
     if (control == Label43 && window.placeOf(Label43).left == finishedLeftOfLabel43)
-        return in(620, 150, 46, 18);
+        return in(622, 148, 46, 18);
     return window.placeOf(control);
 }
 
@@ -431,6 +433,7 @@ Place shown(const host::Window& window, host::Handle control)
 static_assert(table::shortcuts[powerKey].action == KeyAction::run && table::shortcuts[backKey].action == KeyAction::run);
 
 const std::span<const PointPlaces> pointPlaces = table::points;
+const std::array<GrowingPart, 4> growingParts{{{Line1, Shape1}, {Line2, Shape2}, {Line3, Shape3}, {Line4, Shape4}}};
 const std::array<host::Handle, 5> meterPoints{Image5, Image6, Image7, Image9, Image10};
 const std::array<WavePlaces, 3> wavePlaces{{
     {table::in(84, 160, 50, 40), table::in(60, 138, 50, 40)},
@@ -438,7 +441,8 @@ const std::array<WavePlaces, 3> wavePlaces{{
     {table::in(315, 226, 50, 40), table::in(315, 226, 50, 40)},
 }};
 const host::Place pageInsteadOfFields = table::at(10, 66, 252, 514);
-const host::Place pageBesidePicture = table::at(968, 340, 214, 236);
+const host::Place pageUnderInstrument = table::at(962, 340, 228, 240);
+const host::Place pageBesidePicture = table::pageAlone;
 
 namespace file {
 

@@ -13,9 +13,9 @@ namespace velmor::form3 {
 // clang-format off
 enum Control : host::Handle {
     // grounds, headings and pictures
-    Frame1, Frame2, Frame3, Label11, Label6, Image1, image2,
-    // parts of the picture, as the chain reaches them: -Ebias, Res, both RL, Es
-    Shape1, Shape2, Shape3, Shape4,
+    Label11, Label6, Image1, image2,
+    // parts of the picture, pale and as the chain reaches them: -Ebias, Res, both RL, Es
+    Line1, Line2, Line3, Line4, Shape1, Shape2, Shape3, Shape4,
     // faces that `Image3` borrows, and the mark that the meter's points borrow
     Shape5, Shape6, Image3,
     // results beside their parts
@@ -53,6 +53,13 @@ struct PointPlaces {
 };
 extern const std::span<const PointPlaces> pointPlaces;
 
+/// A part of the didactic picture: pale at first, in ink once the chain has reached it.
+struct GrowingPart {
+    host::Handle pale = host::noControl;
+    host::Handle inked = host::noControl;
+};
+extern const std::array<GrowingPart, 4> growingParts;
+
 /// Points that only the meter touches: they are marked once the design is finished.
 extern const std::array<host::Handle, 5> meterPoints;
 
@@ -63,8 +70,10 @@ struct WavePlaces {
 };
 extern const std::array<WavePlaces, 3> wavePlaces;
 
-/// The page of the bench: in the place of the fields while they are hidden, else beside the picture.
+/// The page `SSPanel4`: in the place of the fields while they are hidden, else beside the picture, under the instrument
+/// while it is on.
 extern const host::Place pageInsteadOfFields;
+extern const host::Place pageUnderInstrument;
 extern const host::Place pageBesidePicture;
 
 /// Where `Label43` goes when the design is finished.

@@ -19,22 +19,32 @@ using host::Symbol;
 
 // Both pictures stand on the same grid: the supply rail at 60, collectors at 240 and 440, bases at 250, the tail at 340.
 
-constexpr Mark didactic[] = {
-    // what is still to be designed steps back
+// What is still to be designed stands there pale and gives way to the part as the chain reaches it.
+
+constexpr Mark paleNegativeSupply[] = {
+    {.symbol = Symbol::wire, .from = {340, 390}, .to = {340, 440}, .ink = Ink::quiet},
+    {.symbol = Symbol::terminal, .from = {340, 440}, .name = "-E_bias", .side = Side::right, .ink = Ink::quiet},
+};
+constexpr Mark paleTail[] = {
+    {.symbol = Symbol::wire, .from = {340, 310}, .to = {340, 330}, .ink = Ink::quiet},
+    {.symbol = Symbol::resistor, .from = {340, 330}, .to = {340, 390}, .name = "R_es", .side = Side::right, .ink = Ink::quiet},
+};
+constexpr Mark paleCollectorResistors[] = {
+    {.symbol = Symbol::resistor, .from = {240, 80}, .to = {240, 140}, .name = "R_L", .side = Side::left, .ink = Ink::quiet},
+    {.symbol = Symbol::wire, .from = {240, 140}, .to = {240, 180}, .ink = Ink::quiet},
+    {.symbol = Symbol::resistor, .from = {440, 80}, .to = {440, 140}, .name = "R_L", .side = Side::right, .ink = Ink::quiet},
+    {.symbol = Symbol::wire, .from = {440, 140}, .to = {440, 180}, .ink = Ink::quiet},
+};
+constexpr Mark palePositiveSupply[] = {
     {.symbol = Symbol::wire, .from = {240, 60}, .to = {440, 60}, .ink = Ink::quiet},
+    {.symbol = Symbol::wire, .from = {240, 60}, .to = {240, 80}, .ink = Ink::quiet},
+    {.symbol = Symbol::wire, .from = {440, 60}, .to = {440, 80}, .ink = Ink::quiet},
     {.symbol = Symbol::wire, .from = {340, 36}, .to = {340, 60}, .ink = Ink::quiet},
     {.symbol = Symbol::node, .from = {340, 60}, .ink = Ink::quiet},
     {.symbol = Symbol::terminal, .from = {340, 36}, .name = "+E_s", .side = Side::right, .ink = Ink::quiet},
-    {.symbol = Symbol::wire, .from = {240, 60}, .to = {240, 80}, .ink = Ink::quiet},
-    {.symbol = Symbol::resistor, .from = {240, 80}, .to = {240, 140}, .name = "R_L", .side = Side::left, .ink = Ink::quiet},
-    {.symbol = Symbol::wire, .from = {240, 140}, .to = {240, 180}, .ink = Ink::quiet},
-    {.symbol = Symbol::wire, .from = {440, 60}, .to = {440, 80}, .ink = Ink::quiet},
-    {.symbol = Symbol::resistor, .from = {440, 80}, .to = {440, 140}, .name = "R_L", .side = Side::right, .ink = Ink::quiet},
-    {.symbol = Symbol::wire, .from = {440, 140}, .to = {440, 180}, .ink = Ink::quiet},
-    {.symbol = Symbol::wire, .from = {340, 310}, .to = {340, 330}, .ink = Ink::quiet},
-    {.symbol = Symbol::resistor, .from = {340, 330}, .to = {340, 390}, .name = "R_es", .side = Side::right, .ink = Ink::quiet},
-    {.symbol = Symbol::wire, .from = {340, 390}, .to = {340, 440}, .ink = Ink::quiet},
-    {.symbol = Symbol::terminal, .from = {340, 440}, .name = "-E_bias", .side = Side::right, .ink = Ink::quiet},
+};
+
+constexpr Mark didactic[] = {
     // the pair
     {.symbol = Symbol::npn, .from = {210, 250}, .name = "Q_1", .field = Text5},
     {.symbol = Symbol::npnLeft, .from = {470, 250}, .name = "Q_2", .field = Text5},
@@ -67,7 +77,7 @@ constexpr Mark didactic[] = {
      .ink = Ink::quiet},
 };
 
-// The parts as the chain reaches them, over the pale ones.
+// The parts as the chain reaches them.
 
 constexpr Mark negativeSupply[] = {
     {.symbol = Symbol::wire, .from = {340, 390}, .to = {340, 440}},
@@ -185,63 +195,63 @@ constexpr Mark screenB[] = {{.symbol = Symbol::roundFrame, .from = {0, 0}, .to =
                             {.symbol = Symbol::sineInverted, .from = {14, 18}, .to = {78, 66}}};
 
 constexpr Mark generatorFace[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {222, 186}},
-    {.symbol = Symbol::text, .from = {111, 18}, .note = {.es = "GENERADOR", .en = "GENERATOR"}, .side = Side::above, .ink = Ink::quiet},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {228, 186}},
+    {.symbol = Symbol::text, .from = {114, 20}, .note = {.es = "GENERADOR", .en = "GENERATOR"}, .side = Side::above, .ink = Ink::quiet},
     {.symbol = Symbol::circle, .from = {10, 8}, .to = {18, 16}, .ink = Ink::accent},
-    {.symbol = Symbol::terminal, .from = {61, 116}}, {.symbol = Symbol::terminal, .from = {161, 116}},
+    {.symbol = Symbol::terminal, .from = {59, 128}}, {.symbol = Symbol::terminal, .from = {169, 128}},
 };
 constexpr Mark meterFace[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {222, 186}},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {228, 186}},
     {.symbol = Symbol::circle, .from = {10, 8}, .to = {18, 16}, .ink = Ink::accent},
-    {.symbol = Symbol::text, .from = {111, 18}, .note = {.es = "MULTÍMETRO", .en = "MULTIMETER"}, .side = Side::above, .ink = Ink::quiet},
+    {.symbol = Symbol::text, .from = {114, 20}, .note = {.es = "MULTÍMETRO", .en = "MULTIMETER"}, .side = Side::above, .ink = Ink::quiet},
     {.symbol = Symbol::terminal, .from = {180, 172}, .name = "-", .side = Side::left},
     {.symbol = Symbol::terminal, .from = {204, 172}, .ink = Ink::accent},
 };
 constexpr Mark generatorButton[] = {
-    {.symbol = Symbol::oscilloscope, .from = {12, 7}, .to = {42, 37}},
-    {.symbol = Symbol::text, .from = {54, 22}, .note = {.es = "Generador de señales", .en = "Signal generator"}},
+    {.symbol = Symbol::oscilloscope, .from = {12, 6}, .to = {40, 34}},
+    {.symbol = Symbol::text, .from = {52, 20}, .note = {.es = "Generador de señales", .en = "Signal generator"}},
 };
 constexpr Mark meterButton[] = {
-    {.symbol = Symbol::multimeter, .from = {12, 7}, .to = {42, 37}},
-    {.symbol = Symbol::text, .from = {54, 22}, .note = {.es = "Multímetro", .en = "Multimeter"}},
+    {.symbol = Symbol::multimeter, .from = {12, 6}, .to = {40, 34}},
+    {.symbol = Symbol::text, .from = {52, 20}, .note = {.es = "Multímetro", .en = "Multimeter"}},
 };
 
-// Fractions as they stand on the blackboard, in the colours of a note.
+// Fractions as they stand on the blackboard.
 
 constexpr Mark formulaERes[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}, .ink = Ink::quiet},
     {.symbol = Symbol::label, .from = {12, 26}, .name = "E_Res  ="},
-    {.symbol = Symbol::label, .from = {176, 14}, .name = "(Tamb. - 25°) x (dVbe) x 100", .side = Side::below, .size = 88},
-    {.symbol = Symbol::wire, .from = {68, 26}, .to = {284, 26}},
-    {.symbol = Symbol::label, .from = {176, 46}, .name = "(dQic)", .side = Side::above, .size = 88},
+    {.symbol = Symbol::text, .from = {180, 16}, .name = "(Tamb. - 25°) x (dVbe) x 100", .side = Side::above, .size = 118},
+    {.symbol = Symbol::wire, .from = {66, 26}, .to = {294, 26}},
+    {.symbol = Symbol::text, .from = {180, 33}, .name = "(dQic)", .side = Side::below, .size = 118},
 };
 constexpr Mark formulaRes[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}, .ink = Ink::quiet},
     {.symbol = Symbol::label, .from = {12, 26}, .name = "R_es  ="},
-    {.symbol = Symbol::label, .from = {90, 8}, .name = "E_bias", .side = Side::below, .size = 88},
-    {.symbol = Symbol::wire, .from = {58, 26}, .to = {122, 26}},
-    {.symbol = Symbol::label, .from = {90, 46}, .name = "2 x Q_ic", .side = Side::above, .size = 88},
-    {.symbol = Symbol::label, .from = {160, 26}, .name = "E_bias = E_res + 1"},
+    {.symbol = Symbol::text, .from = {92, 16}, .name = "Ebias", .side = Side::above, .size = 118},
+    {.symbol = Symbol::wire, .from = {60, 26}, .to = {124, 26}},
+    {.symbol = Symbol::text, .from = {92, 33}, .name = "2 x Qic", .side = Side::below, .size = 118},
+    {.symbol = Symbol::text, .from = {166, 26}, .name = "Ebias = Eres + 1", .size = 118},
 };
 constexpr Mark formulaRL[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}},
-    {.symbol = Symbol::label, .from = {10, 26}, .name = "RLac = Vg x 2.5 x r'e", .size = 85},
-    {.symbol = Symbol::label, .from = {160, 26}, .name = "Rl  =", .size = 85},
-    {.symbol = Symbol::label, .from = {246, 8}, .name = "RLw x RLac", .side = Side::below, .size = 85},
-    {.symbol = Symbol::wire, .from = {196, 26}, .to = {296, 26}},
-    {.symbol = Symbol::label, .from = {246, 46}, .name = "(RLw - RLac)", .side = Side::above, .size = 85},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}, .ink = Ink::quiet},
+    {.symbol = Symbol::text, .from = {10, 26}, .name = "RLac = Vg x 2.5 x r'e", .size = 108},
+    {.symbol = Symbol::text, .from = {168, 26}, .name = "Rl  =", .size = 108},
+    {.symbol = Symbol::text, .from = {250, 16}, .name = "RLw x RLac", .side = Side::above, .size = 108},
+    {.symbol = Symbol::wire, .from = {202, 26}, .to = {298, 26}},
+    {.symbol = Symbol::text, .from = {250, 33}, .name = "(RLw - RLac)", .side = Side::below, .size = 108},
 };
 constexpr Mark formulaEs[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}},
-    {.symbol = Symbol::label, .from = {14, 16}, .name = "EQ(min) = 1 + Eopp", .size = 95},
-    {.symbol = Symbol::label, .from = {14, 37}, .name = "Es(min) = EQ(min) + ERl", .size = 95},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}, .ink = Ink::quiet},
+    {.symbol = Symbol::text, .from = {20, 16}, .name = "EQ(min) = 1 + Eopp", .size = 118},
+    {.symbol = Symbol::text, .from = {20, 37}, .name = "Es(min) = EQ(min) + ERl", .size = 118},
 };
 constexpr Mark formulaRe[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}, .ink = Ink::quiet},
     {.symbol = Symbol::label, .from = {12, 26}, .name = "r'_e  ="},
-    {.symbol = Symbol::label, .from = {90, 8}, .name = "25 mV", .side = Side::below, .size = 88},
-    {.symbol = Symbol::wire, .from = {58, 26}, .to = {122, 26}},
-    {.symbol = Symbol::label, .from = {90, 46}, .name = "Q_ic", .side = Side::above, .size = 88},
+    {.symbol = Symbol::text, .from = {92, 16}, .name = "25 mV", .side = Side::above, .size = 118},
+    {.symbol = Symbol::wire, .from = {60, 26}, .to = {124, 26}},
+    {.symbol = Symbol::text, .from = {92, 33}, .name = "Qic", .side = Side::below, .size = 118},
 };
 
 constexpr Mark calculatorMark[] = {{.symbol = Symbol::calculator, .from = {9, 7}, .to = {33, 31}}};

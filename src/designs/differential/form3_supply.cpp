@@ -47,6 +47,14 @@ void Form3::keyResult(host::EventArgs& args)
     leaveTo(args.control);
 }
 
+void Form3::ink(const GrowingPart& part)
+{
+    if (finished())
+        return;
+    hide(part.pale);
+    show(part.inked);
+}
+
 // Text4 left: the least negative supply, and 1 V more as the proposal.
 void Form3::proposeEbias()
 {
@@ -57,8 +65,7 @@ void Form3::proposeEbias()
     q_.EResMin = leastERes(q_.T, q_.dVbe, q_.dQic);
     const std::string proposal = sheets::shown(*this, q_.EResMin + 1.0);
     show(Text8);
-    if (!finished())
-        show(Shape1);
+    ink(growingParts[0]);
     setText(Text8, proposal);
     focusEbias();
     enable(Text8);
@@ -104,8 +111,7 @@ void Form3::proposeRes()
     const std::string proposal = sheets::shown(*this, q_.ResCalc);
     setText(Label28, std::string(pick(texts::resValue)) + proposal + std::string(pick(texts::resValueEnd)));
     setText(SSPanel1, pick(texts::pointAtResults));
-    if (!finished())
-        show(Shape2);
+    ink(growingParts[1]);
     show(Text16);
     setText(Text16, proposal);
     sheets::goTo(*this, Text16);
@@ -143,8 +149,7 @@ void Form3::leaveRes()
     setText(Label29, "Rlac = " + digits(*this, rules::TruncToInteger(q_.RLac)) + " ohms");
     const std::string proposal = sheets::shown(*this, q_.RLcalc / perKilo);
     setText(Label30, "RL=" + proposal + " K \n" + std::string(pick(texts::commercialRL)));
-    if (!finished())
-        show(Shape3);
+    ink(growingParts[2]);
     show(Text17);
     enable(Text17);
     setText(Text17, proposal);
@@ -250,8 +255,7 @@ void Form3::computeSource()
 
 void Form3::offerEs()
 {
-    if (!finished())
-        show(Shape4);
+    ink(growingParts[3]);
     show(Text18);
     enable(Text18);
     setText(Text18, sheets::shown(*this, q_.EsMin));
@@ -261,7 +265,7 @@ void Form3::offerEs()
 void Form3::focusEs()
 {
     hide(Text21);
-    setText(StatusBar1, statusOf(Text18));
+    tellAbout(Text18);
     writeRlLabel();
 }
 
@@ -348,7 +352,9 @@ void Form3::finishDesign()
 
 void Form3::showFinishedPicture()
 {
-    hide(Image1, Shape1, Shape2, Shape3, Shape4);
+    hide(Image1);
+    for (const GrowingPart& part : growingParts)
+        hide(part.pale, part.inked);
     show(image2);
     for (const PointPlaces& row : pointPlaces)
         setPlaceOf(row.point, row.finished);

@@ -36,8 +36,8 @@ constexpr FieldRow fields[] = {
 };
 
 constexpr StatusRow status[] = {
-    {Text1,  {.es = "% /\\Qic: variación admisible de la corriente de reposo con la temperatura, de 1 a 10 %.",
-              .en = "% /\\Qic: allowed change of the quiescent current with the temperature, from 1 to 10 %."}},
+    {Text1,  {.es = "% ΔQic: variación admisible de la corriente de reposo con la temperatura, de 1 a 10 %.",
+              .en = "% ΔQic: allowed change of the quiescent current with the temperature, from 1 to 10 %."}},
     {Text6,  {.es = "Temperatura ambiente de trabajo, de 20 a 200 ºC. Botón derecho: conversión desde Fahrenheit y Kelvin.",
               .en = "Ambient temperature of work, from 20 to 200 ºC. Right button: conversion from Fahrenheit and Kelvin."}},
     {Text7,  {.es = "Para  Ic=1 mA, corresponde 2.5 mV por °C.",

@@ -31,12 +31,15 @@ struct FieldRow {
 /// Null for the fields that are told step by step.
 const FieldRow* fieldRow(host::Handle field);
 
-/// What `StatusBar1` says about a field, when it gets the focus and when the pointer is over it.
+/// What is said about a field: in `StatusBar1` when it gets the focus and when the pointer is over it.
 struct StatusRow {
     host::Handle field = host::noControl;
     BiText line{};
 };
 std::span<const StatusRow> statusRows();
+
+/// The short page of `SSPanel4` about the field in hand, while the bench is off.
+std::span<const StatusRow> lessonRows();
 
 /// Help on pointing: the text of `Label34` and the control that holds its drawing.
 struct PointingRow {
