@@ -94,6 +94,8 @@ void Form3::powerOn(host::EventArgs& args)
 void Form3::showMeter()
 {
     hide(Image24);
+    for (const GeneratorPart& row : generatorParts)
+        setPlaceOf(row.part, row.underMeter);
     borrowDrawing(Image3, Shape5);
     show(Image3, c1, c4, c5, C3, SSPanel2, Option1, Option2);
     placePage();
@@ -101,6 +103,8 @@ void Form3::showMeter()
 
 void Form3::showGenerator()
 {
+    for (const GeneratorPart& row : generatorParts)
+        setPlaceOf(row.part, row.onFace);
     setText(SSPanel3, "");
     show(Image24, SSPanel3, Image3, Image14, Image15, c6, c7);
     showFields(false);

@@ -214,6 +214,16 @@ constexpr PointPlaces points[] = {
     {Image26, spot(530, 180), spot(644, 180)},
 };
 
+constexpr Place screenA = at(974, 148, 94, 80);
+constexpr Place screenB = at(1084, 148, 94, 80);
+constexpr Place smc     = at(984, 262, 92, 30);
+constexpr Place cmrr    = at(1082, 262, 92, 30);
+constexpr int lower     = 224 * unit;
+constexpr Place below(const Place& place) { return {place.left, place.top + lower, place.width, place.height}; }
+constexpr GeneratorPart generator[] = {
+    {Image14, screenA, below(screenA)}, {Image15, screenB, below(screenB)}, {c6, smc, below(smc)}, {c7, cmrr, below(cmrr)},
+};
+
 constexpr host::Handle tabOrder[] = {
     Text1, Text6, Text7, Text9, Text10, Text11, Text12, Text13, Text14, Text15, Text5, Text2, Text3, Text4, Text8, Text16,
     Text17, Text18, c1, c4, c5, C3, Option1, Option2, c6, c7, Text19, Text20, Text21,
@@ -433,6 +443,7 @@ Place shown(const host::Window& window, host::Handle control)
 static_assert(table::shortcuts[powerKey].action == KeyAction::run && table::shortcuts[backKey].action == KeyAction::run);
 
 const std::span<const PointPlaces> pointPlaces = table::points;
+const std::span<const GeneratorPart> generatorParts = table::generator;
 const std::array<GrowingPart, 4> growingParts{{{Line1, Shape1}, {Line2, Shape2}, {Line3, Shape3}, {Line4, Shape4}}};
 const std::array<host::Handle, 5> meterPoints{Image5, Image6, Image7, Image9, Image10};
 const std::array<WavePlaces, 3> wavePlaces{{

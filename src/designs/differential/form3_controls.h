@@ -70,6 +70,14 @@ struct WavePlaces {
 };
 extern const std::array<WavePlaces, 3> wavePlaces;
 
+/// The sinusoids and buttons of the generator: on its face, or under the meter when both are on.
+struct GeneratorPart {
+    host::Handle part = host::noControl;
+    host::Place onFace{};
+    host::Place underMeter{};
+};
+extern const std::span<const GeneratorPart> generatorParts;
+
 /// The page `SSPanel4`: in the place of the fields while they are hidden, else beside the picture, under the instrument
 /// while it is on.
 extern const host::Place pageInsteadOfFields;
