@@ -62,8 +62,7 @@ using namespace editor_detail;
 
 Editor::Editor(host::SheetHost& host, const host::WindowSpec& window, const EditorSpec& editor)
     : host::Window(host, window), editor_(editor)
-{
-}
+{}
 
 void Editor::load()
 {
@@ -99,7 +98,8 @@ void Editor::resize()
 std::string Editor::fileOfGuide(bool bareName, const std::string& guide) const
 {
     const std::string folder = host().programFolder();
-    const auto within = bareName ? std::optional<std::filesystem::path>(folder) : rules::findFolder(folder, guideFolder);
+    const auto within =
+        bareName ? std::optional<std::filesystem::path>(folder) : rules::findFolder(folder, guideFolder);
     if (!within || guide.empty())
         return pathOfGuide(folder, guide);
     return rules::findFile(*within, guide).value_or(*within / guide).string();

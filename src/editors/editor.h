@@ -14,12 +14,32 @@ namespace velmor::editors {
 /// The controls that every editor has, first in its table and in this order.
 enum Control : host::Handle {
     txtEdit,
-    mnuFile, mnuFilenew, mnuFileOpen, mnuGuardar, mnuFileSaveAs, mnuImprimir, mnuFileItem, mnuFileexit,
-    mnuEdit, mnuEditItem0, mnuEditItem1, mnuEditItem2,
-    mnuSearch, mnuBuscar, mnuBr,
-    mnuWindow, mnuCas, mnuHoriz, mnuVert, mnuCircuit,
-    mnuSettings, mnuBackColorItem, mnuForeColorItem, mnuFontSizesItem,
-    mnuHelp, mnuAbout,
+    mnuFile,
+    mnuFilenew,
+    mnuFileOpen,
+    mnuGuardar,
+    mnuFileSaveAs,
+    mnuImprimir,
+    mnuFileItem,
+    mnuFileexit,
+    mnuEdit,
+    mnuEditItem0,
+    mnuEditItem1,
+    mnuEditItem2,
+    mnuSearch,
+    mnuBuscar,
+    mnuBr,
+    mnuWindow,
+    mnuCas,
+    mnuHoriz,
+    mnuVert,
+    mnuCircuit,
+    mnuSettings,
+    mnuBackColorItem,
+    mnuForeColorItem,
+    mnuFontSizesItem,
+    mnuHelp,
+    mnuAbout,
     controlCount
 };
 
@@ -32,10 +52,10 @@ struct Question {
 
 /// Where a window looks for the guide that it opens with.
 enum class GuidePlace : std::uint8_t {
-    archivos,        ///< the subfolder "Archivos" of the program's folder
-    archivosByName,  ///< the path of "Archivos" is kept as the name, but the bare name is opened in the program's folder
-    programFolder,   ///< the bare name, in the program's folder
-    none,            ///< no guide: the open dialog runs at once
+    archivos,       ///< the subfolder "Archivos" of the program's folder
+    archivosByName, ///< the path of "Archivos" is kept as the name, but the bare name is opened in the program's folder
+    programFolder,  ///< the bare name, in the program's folder
+    none,           ///< no guide: the open dialog runs at once
 };
 
 /// What distinguishes one editor from another.
@@ -48,13 +68,13 @@ struct EditorSpec {
     Question keep{};                   ///< ask-to-save
     Question keepAtExit{};
     Question replaceFile{};
-    Question confirmExit{};            ///< flags 0: no confirmation
-    Question closeByButton{};          ///< flags 0: no question
-    bool newDocumentByItem = false;    ///< `mnuFileItem` makes a new document here instead of a new window
-    host::BiText newWindow{};          ///< the editor that `mnuFileItem` opens
+    Question confirmExit{};              ///< flags 0: no confirmation
+    Question closeByButton{};            ///< flags 0: no question
+    bool newDocumentByItem = false;      ///< `mnuFileItem` makes a new document here instead of a new window
+    host::BiText newWindow{};            ///< the editor that `mnuFileItem` opens
     std::string_view guideOfNewWindow{}; ///< `ArchivoGuia` set around it; empty leaves it alone
     bool printsFontSize = true;
-    int lessWidthAtStart = 0;          ///< how much smaller than the window the text is until the first resize, twips
+    int lessWidthAtStart = 0; ///< how much smaller than the window the text is until the first resize, twips
     int lessHeightAtStart = 0;
 };
 
@@ -114,7 +134,8 @@ private:
 
     const EditorSpec& editor_;
     std::string nombreDocumento_;
-    std::string archivo_; ///< the file that `NombreDocumento` means: whole path, with the capitals that it has on the disk
+    std::string
+        archivo_; ///< the file that `NombreDocumento` means: whole path, with the capitals that it has on the disk
     bool documentoNuevo_ = true;
     bool documentoCambiado_ = false;
     bool accionCancelada_ = false;

@@ -154,7 +154,8 @@ void Editor::print()
     const auto widthOf = [&](char32_t character) {
         return host().screen().printedWidth(measured, host::toUtf8(std::u32string_view(&character, 1)));
     };
-    host().screen().print({.text = breakForPrinter(text, widthOf), .font = face, .fontSizeGiven = editor_.printsFontSize});
+    host().screen().print(
+        {.text = breakForPrinter(text, widthOf), .font = face, .fontSizeGiven = editor_.printsFontSize});
 }
 
 } // namespace velmor::editors

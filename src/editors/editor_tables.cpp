@@ -186,19 +186,37 @@ constexpr host::Place window{0, 0, 9600, 6600};
 const std::span<const SlotRow> editorSlots = tables::slots;
 const std::span<const host::ShortcutRow> editorShortcuts = tables::shortcuts;
 
-const host::WindowSpec frmEditor{.name = "frmEditor", .role = host::Role::editor,
-                                 .caption = "Editor de textos Velmor ...doble click ", .place = tables::window,
-                                 .controls = tables::editorRows, .slots = tables::slots, .shortcuts = tables::shortcuts,
+const host::WindowSpec frmEditor{.name = "frmEditor",
+                                 .role = host::Role::editor,
+                                 .caption = "Editor de textos Velmor ...doble click ",
+                                 .place = tables::window,
+                                 .controls = tables::editorRows,
+                                 .slots = tables::slots,
+                                 .shortcuts = tables::shortcuts,
                                  .create = tables::create<tables::editorSpec, frmEditor>};
-const host::WindowSpec frmEdito1{.name = "frmEdito1", .role = host::Role::editor,
-                                 .caption = "Editor de textos Velmor ...doble click ", .place = tables::window,
-                                 .controls = tables::edito1Rows, .slots = tables::slots, .shortcuts = tables::shortcuts,
+const host::WindowSpec frmEdito1{.name = "frmEdito1",
+                                 .role = host::Role::editor,
+                                 .caption = "Editor de textos Velmor ...doble click ",
+                                 .place = tables::window,
+                                 .controls = tables::edito1Rows,
+                                 .slots = tables::slots,
+                                 .shortcuts = tables::shortcuts,
                                  .create = tables::create<tables::edito1Spec, frmEdito1>};
-const host::WindowSpec frmEdito2{.name = "frmEdito2", .role = host::Role::editor, .caption = "Editor de Informes Velmor ...",
-                                 .place = tables::window, .controls = tables::reportRows, .slots = tables::slots,
-                                 .shortcuts = tables::shortcuts, .create = tables::create<tables::edito2Spec, frmEdito2>};
-const host::WindowSpec frmEdito3{.name = "frmEdito3", .role = host::Role::editor, .caption = "Report Editor Velmor ...",
-                                 .place = tables::window, .controls = tables::reportRows, .slots = tables::slots,
-                                 .shortcuts = tables::shortcuts, .create = tables::create<tables::edito3Spec, frmEdito3>};
+const host::WindowSpec frmEdito2{.name = "frmEdito2",
+                                 .role = host::Role::editor,
+                                 .caption = "Editor de Informes Velmor ...",
+                                 .place = tables::window,
+                                 .controls = tables::reportRows,
+                                 .slots = tables::slots,
+                                 .shortcuts = tables::shortcuts,
+                                 .create = tables::create<tables::edito2Spec, frmEdito2>};
+const host::WindowSpec frmEdito3{.name = "frmEdito3",
+                                 .role = host::Role::editor,
+                                 .caption = "Report Editor Velmor ...",
+                                 .place = tables::window,
+                                 .controls = tables::reportRows,
+                                 .slots = tables::slots,
+                                 .shortcuts = tables::shortcuts,
+                                 .create = tables::create<tables::edito3Spec, frmEdito3>};
 
 } // namespace velmor::editors

@@ -40,7 +40,7 @@ constexpr BiText notFoundForReplace{.es = "No se ha encontrado ", .en = "No Foun
 constexpr std::string_view nothingReplaced = "No found ";
 constexpr int notFoundFlags = 64;
 constexpr std::string_view applicationTitle = "Velmor";
-constexpr int findTop = 48;     // pixels
+constexpr int findTop = 48; // pixels
 constexpr int findWidth = 200;
 
 } // namespace texts
@@ -65,7 +65,8 @@ char32_t upper(char32_t letter)
 
 } // namespace search
 
-std::optional<std::size_t> findIn(const std::u32string& text, const std::u32string& wanted, std::size_t start, bool upperCased)
+std::optional<std::size_t> findIn(const std::u32string& text, const std::u32string& wanted, std::size_t start,
+                                  bool upperCased)
 {
     const auto same = [upperCased](char32_t inText, char32_t inWanted) {
         return (upperCased ? search::upper(inText) : inText) == inWanted;
@@ -215,19 +216,29 @@ constexpr host::Handle findOrder[] = {txtFind, chkIgnoreCase, cmdFind, cmdCancel
 constexpr host::Handle replaceOrder[] = {txtFind, txtReplace, chkIgnoreCase, cmdFind, cmdReplace, cmdCancel};
 // clang-format on
 
-template <const host::WindowSpec& Spec> std::unique_ptr<host::Window> create(host::SheetHost& host)
+template <const host::WindowSpec& Spec>
+std::unique_ptr<host::Window> create(host::SheetHost& host)
 {
     return std::make_unique<SearchDialog>(host, Spec);
 }
 
 } // namespace tables
 
-const host::WindowSpec frmFind{.name = "frmFind", .role = host::Role::tool, .caption = "Buscando a alguien...",
-                               .place = {0, 0, 6000, 2250}, .controls = tables::findRows, .slots = tables::findSlots,
-                               .tabOrder = tables::findOrder, .create = tables::create<frmFind>};
-const host::WindowSpec frmReplace{.name = "frmReplace", .role = host::Role::tool, .caption = "Reemplazar",
-                                  .place = {0, 0, 6450, 2850}, .controls = tables::replaceRows,
-                                  .slots = tables::replaceSlots, .tabOrder = tables::replaceOrder,
+const host::WindowSpec frmFind{.name = "frmFind",
+                               .role = host::Role::tool,
+                               .caption = "Buscando a alguien...",
+                               .place = {0, 0, 6000, 2250},
+                               .controls = tables::findRows,
+                               .slots = tables::findSlots,
+                               .tabOrder = tables::findOrder,
+                               .create = tables::create<frmFind>};
+const host::WindowSpec frmReplace{.name = "frmReplace",
+                                  .role = host::Role::tool,
+                                  .caption = "Reemplazar",
+                                  .place = {0, 0, 6450, 2850},
+                                  .controls = tables::replaceRows,
+                                  .slots = tables::replaceSlots,
+                                  .tabOrder = tables::replaceOrder,
                                   .create = tables::create<frmReplace>};
 
 } // namespace velmor::find_dialogs

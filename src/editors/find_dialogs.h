@@ -12,8 +12,17 @@
 namespace velmor::find_dialogs {
 
 /// Controls of `frmReplace`; `frmFind` has those up to `cmdCancel`.
-enum Control : host::Handle { txtFind, chkIgnoreCase, cmdFind, cmdCancel, findControls, txtReplace = findControls, cmdReplace,
-                              Label1, Label2 };
+enum Control : host::Handle {
+    txtFind,
+    chkIgnoreCase,
+    cmdFind,
+    cmdCancel,
+    findControls,
+    txtReplace = findControls,
+    cmdReplace,
+    Label1,
+    Label2
+};
 
 extern const host::WindowSpec frmFind;
 extern const host::WindowSpec frmReplace;
@@ -38,6 +47,7 @@ private:
 
 /// Where `wanted` stands in `text` from `start` on. With `upperCased` the text, and not the search text, is taken to upper
 /// case: a search text with small letters is then never found, and it is to stay so.
-std::optional<std::size_t> findIn(const std::u32string& text, const std::u32string& wanted, std::size_t start, bool upperCased);
+std::optional<std::size_t> findIn(const std::u32string& text, const std::u32string& wanted, std::size_t start,
+                                  bool upperCased);
 
 } // namespace velmor::find_dialogs

@@ -214,8 +214,8 @@ void Calculator::showVoltageGain()
 {
     ei_ = entered(Text2);
     const double gain = formulas::wholeDecibels(20.0 * formulas::log10(eo_ / ei_));
-    setText(Text2, std::string(pick(texts::voltageGain))
-                       + rules::NumberText(gain, host().values().DecimalSeparator).append(texts::decibels));
+    setText(Text2, std::string(pick(texts::voltageGain)) +
+                       rules::NumberText(gain, host().values().DecimalSeparator).append(texts::decibels));
     setText(Label2, pick(texts::equalImpedances));
 }
 
@@ -225,8 +225,8 @@ void Calculator::showPowerGain()
     const Real zi = zo_;
     const Real ratio = (eo_ * eo_ / zo_) / (ei_ * ei_ / zi);
     const double gain = formulas::wholeDecibels(10.0 * formulas::log10(ratio));
-    setText(Text6, std::string(pick(texts::powerGain))
-                       + rules::NumberText(gain, host().values().DecimalSeparator).append(texts::decibels));
+    setText(Text6, std::string(pick(texts::powerGain)) +
+                       rules::NumberText(gain, host().values().DecimalSeparator).append(texts::decibels));
 }
 
 } // namespace velmor::calculator

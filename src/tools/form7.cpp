@@ -12,8 +12,10 @@ using host::BiText;
 namespace texts {
 
 constexpr BiText title{.es = "Circuitos Realimentados por Tensión", .en = "Feedback Voltage Circuits"};
-constexpr BiText simpleTitle{.es = "  Circuito Realimentado por Tensión Simple", .en = "  Feedback  Voltage Circuits Simple"};
-constexpr BiText stableTitle{.es = "  Circuito Realimentado por Tensión Estable", .en = "  Feedback  Voltage Circuits Stable"};
+constexpr BiText simpleTitle{.es = "  Circuito Realimentado por Tensión Simple",
+                             .en = "  Feedback  Voltage Circuits Simple"};
+constexpr BiText stableTitle{.es = "  Circuito Realimentado por Tensión Estable",
+                             .en = "  Feedback  Voltage Circuits Stable"};
 constexpr BiText stable{.es = "Estable", .en = "Stable"};
 constexpr BiText simpleLabel{.es = "    Circuito Simple", .en = "    Simple Circuit"};
 constexpr BiText stableLabel{.es = "    Fijando el punto ' Q '", .en = "    Stick the point ' Q '"};
@@ -104,7 +106,8 @@ void Form7::startStable()
 void Form7::showFormulas()
 {
     const host::Handle begin = stable_ ? Command1 : Command4;
-    hide(Picture1, Picture2, Command1, Command2, Command3, Command4, Command5, SSCommand2, Label1, Label2, Label3, Main);
+    hide(Picture1, Picture2, Command1, Command2, Command3, Command4, Command5, SSCommand2, Label1, Label2, Label3,
+         Main);
     show(begin, Label4, Label5, SSCommand1);
     setText(begin, pick(texts::beginOnFormulas));
     setText(SSCommand1, pick(texts::exit));

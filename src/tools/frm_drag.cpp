@@ -124,7 +124,8 @@ void FrmDrag::folderChanged()
         return;
     const std::filesystem::path entry = folders.items[static_cast<std::size_t>(folders.selected)];
     std::error_code error;
-    const std::filesystem::path wanted = std::filesystem::weakly_canonical(std::filesystem::path(folders.folder) / entry, error);
+    const std::filesystem::path wanted =
+        std::filesystem::weakly_canonical(std::filesystem::path(folders.folder) / entry, error);
     if (!error && std::filesystem::is_directory(wanted, error))
         openFolder(wanted.string());
 }

@@ -74,9 +74,9 @@ TEST(OlderTextEditor, HasSaveButNoPrintSearchWindowOrPaletteMenu)
 {
     ProgramDesk desk;
     Editor& editor = shown(desk, "frmEditor");
-    for (const auto item : {"mnuFilenew", "mnuFileOpen", "mnuFileSaveAs", "mnuFileexit", "mnuGuardar", "mnuFileItem", "mnuEdit",
-                            "mnuEditItem(0)", "mnuEditItem(1)", "mnuEditItem(2)", "mnuBackColorItem", "mnuForeColorItem",
-                            "mnuFontSizesItem", "mnuAbout"})
+    for (const auto item : {"mnuFilenew", "mnuFileOpen", "mnuFileSaveAs", "mnuFileexit", "mnuGuardar", "mnuFileItem",
+                            "mnuEdit", "mnuEditItem(0)", "mnuEditItem(1)", "mnuEditItem(2)", "mnuBackColorItem",
+                            "mnuForeColorItem", "mnuFontSizesItem", "mnuAbout"})
         EXPECT_TRUE(desk.visible(editor, item)) << item;
     for (const auto item : {"mnuImprimir", "mnuBuscar", "mnuBr", "mnuCas", "mnuHoriz", "mnuVert", "mnuCircuit"})
         EXPECT_FALSE(desk.visible(editor, item)) << item;
@@ -316,9 +316,8 @@ TEST(Editors, CharactersOfAnyScriptSurviveASaveAndAnOpen)
 {
     ProgramDesk desk;
     Editor& editor = shown(desk, "frmEdito1");
-    for (const std::string_view text :
-         {"Zin = 4.7 KΩ, µF, “¿Señal?”", "Ω πλάτος", "Ток покоя", "電流とトランジスタ", "مقاومة", "e\u0301 \U0001F98B",
-          "plain ASCII", "Ã± stands for ñ"}) {
+    for (const std::string_view text : {"Zin = 4.7 KΩ, µF, “¿Señal?”", "Ω πλάτος", "Ток покоя", "電流とトランジスタ",
+                                        "مقاومة", "e\u0301 \U0001F98B", "plain ASCII", "Ã± stands for ñ"}) {
         desk.write(editor, "txtEdit", text);
         desk.screen.answers.assign(1, Answer::ok);
         desk.screen.nextFile = (desk.screen.folder / "texto.txt").string();
@@ -352,8 +351,15 @@ TEST(Editors, ReadLinesHoweverTheyEnd)
 {
     ProgramDesk desk;
     Editor& editor = shown(desk, "frmEdito1");
-    const std::pair<std::string_view, std::string_view> files[] = {
-        {"", ""}, {"a", "a\n"}, {"a\r\n", "a\n"}, {"a\nb", "a\nb\n"}, {"a\rb\r", "a\nb\n"}, {"\r\n\r\n", "\n\n"}, {"\xEF\xBB\xBF" "ñ", "ñ\n"}};
+    const std::pair<std::string_view, std::string_view> files[] = {{"", ""},
+                                                                   {"a", "a\n"},
+                                                                   {"a\r\n", "a\n"},
+                                                                   {"a\nb", "a\nb\n"},
+                                                                   {"a\rb\r", "a\nb\n"},
+                                                                   {"\r\n\r\n", "\n\n"},
+                                                                   {"\xEF\xBB\xBF"
+                                                                    "ñ",
+                                                                    "ñ\n"}};
     for (const auto& [bytes, text] : files) {
         desk.screen.nextFile = desk.screen.put("a.txt", bytes);
         desk.click(editor, "mnuFileOpen");
@@ -363,7 +369,12 @@ TEST(Editors, ReadLinesHoweverTheyEnd)
 
 TEST(Editors, PrintInTheChosenFontAndTheTextEditorWithoutItsSize)
 {
-    host::Font chosen{.name = "DejaVu Serif", .size = 18, .bold = true, .italic = true, .underline = true, .strikeout = true,
+    host::Font chosen{.name = "DejaVu Serif",
+                      .size = 18,
+                      .bold = true,
+                      .italic = true,
+                      .underline = true,
+                      .strikeout = true,
                       .color = 0x204060};
     for (const auto name : {"frmEdito1", "frmEdito2", "frmEdito3"}) {
         ProgramDesk desk;

@@ -28,7 +28,8 @@ struct Bench : ProgramDesk {
         enter("Text2", input);
         return text(window, "Text2");
     }
-    std::string powerGain(const std::string& output, const std::string& input, const std::string& load, const std::string& entrance)
+    std::string powerGain(const std::string& output, const std::string& input, const std::string& load,
+                          const std::string& entrance)
     {
         click(window, "Command4");
         enter("Text3", output);
@@ -52,7 +53,8 @@ TEST(Calculator, EveryPowerOfTenIsTwentyDecibelsToTheLetter)
         for (int input = -8; input <= 8; ++input) {
             const std::string decibels = std::to_string(20 * (output - input)) + " db";
             EXPECT_EQ(bench.voltageGain(powerOfTen(output), powerOfTen(input)), "Ganancia: " + decibels);
-            EXPECT_EQ(bench.powerGain(powerOfTen(output), powerOfTen(input), "8", "8"), "Ganancia en Potencia: " + decibels);
+            EXPECT_EQ(bench.powerGain(powerOfTen(output), powerOfTen(input), "8", "8"),
+                      "Ganancia en Potencia: " + decibels);
         }
 }
 

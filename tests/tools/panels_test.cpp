@@ -139,8 +139,10 @@ TEST(Chooser, StartsTheCircuitChosenOnceItsSheetExists)
         const char* es;
         const char* en;
     } rows[] = {
-        {"Command2", "Command4", "Form8", "  Circuito Realimentado por Tensión Simple", "  Feedback  Voltage Circuits Simple"},
-        {"Command3", "Command1", "Form18", "  Circuito Realimentado por Tensión Estable", "  Feedback  Voltage Circuits Stable"},
+        {"Command2", "Command4", "Form8", "  Circuito Realimentado por Tensión Simple",
+         "  Feedback  Voltage Circuits Simple"},
+        {"Command3", "Command1", "Form18", "  Circuito Realimentado por Tensión Estable",
+         "  Feedback  Voltage Circuits Stable"},
     };
     for (const bool english : {false, true})
         for (const bool formulas : {false, true})
