@@ -71,7 +71,7 @@ consteval Part<Count> part(const Mark (&marks)[Count])
 }
 
 // clang-format off
-// The schematic. Columns: generator 276, base divider 430, transistor 620, bypass 798, load 905.
+// The schematic. Columns: generator 276, base divider 430, transistor 620, bypass 806, load 905.
 // Rows: supply 130, collector 280, base 340, emitter 410, ground 520.
 constexpr auto emitterLead = part({
     {.symbol = Symbol::wire, .from = {620, 370}, .to = {620, 430}},
@@ -194,11 +194,11 @@ constexpr auto supplyTerminal = part({
     {.symbol = Symbol::terminal, .from = {693, 130}, .field = Text16},
 });
 constexpr auto bypassCapacitor = part({
-    {.symbol = Symbol::wire, .from = {620, 410}, .to = {798, 410}},
-    {.symbol = Symbol::wire, .from = {798, 410}, .to = {798, 440}},
-    {.symbol = Symbol::capacitor, .from = {798, 440}, .to = {798, 490}},
-    {.symbol = Symbol::wire, .from = {798, 490}, .to = {798, 520}},
-    {.symbol = Symbol::ground, .from = {798, 520}},
+    {.symbol = Symbol::wire, .from = {620, 410}, .to = {806, 410}},
+    {.symbol = Symbol::wire, .from = {806, 410}, .to = {806, 440}},
+    {.symbol = Symbol::capacitor, .from = {806, 440}, .to = {806, 490}},
+    {.symbol = Symbol::wire, .from = {806, 490}, .to = {806, 520}},
+    {.symbol = Symbol::ground, .from = {806, 520}},
 });
 
 // Counted from the corner of their own control.
@@ -324,16 +324,16 @@ constexpr host::ControlRow rows[] = {
     {.id = Text12, .name = "Text12", .kind = Kind::field, .place = at(90, 314, 73, 22), .text = "20", .enabled = false, .symbol = "f_o", .unit = "Hz", .meaning = {"Menor frecuencia de interés", "Lowest frequency of interest"}},
     {.id = Text13, .name = "Text13", .kind = Kind::field, .place = at(915, 238, 73, 22), .text = "1", .enabled = false, .symbol = "E_opp", .unit = "Vpp", .meaning = {"Tensión de salida, pico a pico", "Output voltage, peak to peak"}, .symbolSide = SymbolSide::above},
     {.id = Text14, .name = "Text14", .kind = Kind::field, .place = at(296, 414, 73, 22), .text = "0.35", .enabled = false, .symbol = "E_in", .unit = "V r.m.s.", .meaning = {"Tensión eficaz de entrada", "Input voltage, r.m.s."}, .symbolSide = SymbolSide::above},
-    {.id = Text15, .name = "Text15", .kind = Kind::field, .place = at(640, 459, 122, 22), .visible = false, .enabled = false, .symbol = "R_es", .unit = "Ω", .meaning = {"Resistor de emisor", "Emitter resistor"}, .symbolSide = SymbolSide::above},
+    {.id = Text15, .name = "Text15", .kind = Kind::field, .place = at(640, 459, 130, 22), .visible = false, .enabled = false, .symbol = "R_es", .unit = "Ω", .meaning = {"Resistor de emisor", "Emitter resistor"}, .symbolSide = SymbolSide::above},
     {.id = Text16, .name = "Text16", .kind = Kind::field, .place = at(735, 119, 122, 22), .enabled = false, .symbol = "E_s", .unit = "V", .meaning = {"Tensión de la fuente de alimentación", "Supply voltage"}},
-    {.id = Text17, .name = "Text17", .kind = Kind::field, .place = at(640, 162, 122, 22), .enabled = false, .symbol = "R_L", .unit = "kΩ", .meaning = {"Resistor de colector", "Collector resistor"}, .symbolSide = SymbolSide::above},
+    {.id = Text17, .name = "Text17", .kind = Kind::field, .place = at(640, 162, 130, 22), .enabled = false, .symbol = "R_L", .unit = "kΩ", .meaning = {"Resistor de colector", "Collector resistor"}, .symbolSide = SymbolSide::above},
     {.id = Text18, .name = "Text18", .kind = Kind::field, .place = at(448, 459, 122, 22), .visible = false, .enabled = false, .symbol = "R_b2", .unit = "kΩ", .meaning = {"Resistor inferior de base", "Lower base resistor"}, .symbolSide = SymbolSide::above},
     {.id = Text19, .name = "Text19", .kind = Kind::field, .place = at(448, 162, 122, 22), .enabled = false, .symbol = "R_b1", .unit = "kΩ", .meaning = {"Preset, resistor superior de base", "Preset, upper base resistor"}, .symbolSide = SymbolSide::above},
-    {.id = Text20, .name = "Text20", .kind = Kind::field, .place = at(820, 459, 72, 22), .visible = false, .enabled = false, .symbol = "C_bp", .meaning = {"Capacitor de desacople de emisor", "Emitter bypass capacitor"}, .symbolSide = SymbolSide::above},
+    {.id = Text20, .name = "Text20", .kind = Kind::field, .place = at(815, 400, 82, 22), .visible = false, .enabled = false, .symbol = "C_bp", .meaning = {"Capacitor de desacople de emisor", "Emitter bypass capacitor"}, .symbolSide = SymbolSide::above},
     {.id = Text21, .name = "Text21", .kind = Kind::field, .place = at(640, 545, 100, 22), .text = "  - Es = 20 V", .visible = false, .enabled = false, .symbol = "-E_s", .meaning = {"Fuente negativa de emisor", "Negative emitter supply"}, .symbolSide = SymbolSide::above},
     {.id = Voltaje, .name = "Voltaje", .kind = Kind::label, .place = at(94, 202, 66, 22), .enabled = false, .meaning = {"Tensión de estabilidad ERes", "Voltage of stability ERes"}, .look = Look::result, .drawing = emitterVoltageFrame, .clickableWhenDisabled = true},
     {.id = VRes, .name = "VRes", .kind = Kind::label, .place = at(680, 420, 104, 18), .look = Look::result},
-    {.id = ER, .name = "ER", .kind = Kind::label, .place = at(830, 162, 110, 20), .visible = false, .look = Look::result},
+    {.id = ER, .name = "ER", .kind = Kind::label, .place = at(838, 162, 110, 20), .visible = false, .look = Look::result},
     {.id = res, .name = "res", .kind = Kind::label, .place = at(640, 484, 140, 18), .visible = false, .look = Look::result},
     {.id = Label24, .name = "Label24", .kind = Kind::label, .place = at(756, 314, 110, 18), .visible = false, .look = Look::result, .drawing = obtainedCurrent},
     {.id = Label19, .name = "Label19", .kind = Kind::label, .place = at(776, 545, 238, 20), .visible = false, .look = Look::note},
@@ -357,7 +357,7 @@ constexpr host::ControlRow rows[] = {
     {.id = statu71, .name = "statu71", .kind = Kind::label, .place = at(446, 388, 108, 18), .visible = false, .look = Look::result},
     {.id = statu72, .name = "statu72", .kind = Kind::label, .place = at(446, 242, 106, 36), .visible = false, .look = Look::result},
     {.id = sta1, .name = "sta1", .kind = Kind::label, .place = at(640, 420, 40, 18), .text = "ERes =", .visible = false, .look = Look::result},
-    {.id = sta2, .name = "sta2", .kind = Kind::label, .place = at(790, 162, 36, 20), .text = "ERL =", .visible = false, .look = Look::result},
+    {.id = sta2, .name = "sta2", .kind = Kind::label, .place = at(798, 162, 36, 20), .text = "ERL =", .visible = false, .look = Look::result},
     {.id = sta3, .name = "sta3", .kind = Kind::label, .place = at(244, 206, 46, 18), .text = "ERb1 =", .visible = false, .look = Look::result},
     {.id = sta4, .name = "sta4", .kind = Kind::label, .place = at(640, 588, 220, 18), .visible = false, .look = Look::note},
     {.id = status1, .name = "status1", .kind = Kind::label, .place = at(8, 494, 220, 118), .visible = false, .look = Look::hint},
