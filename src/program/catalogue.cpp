@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "designs/common_emitter/form2.h"
-#include "frame/form16_controls.h"
 #include "designs/differential/form3_controls.h"
-#include "frame/mdi_form1_controls.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
+#include "frame/form16_controls.h"
+#include "frame/mdi_form1_controls.h"
 #include "tools/calculator.h"
 #include "tools/form14.h"
 #include "tools/form19.h"
@@ -26,26 +26,16 @@ namespace velmor::program {
 host::Catalogue catalogue()
 {
     static const std::vector<const host::WindowSpec*> windows{
-        &main_window::spec,
-        &form3::spec,
-        &palette::spec,
-        &form2::spec,
-        &editors::frmEditor,
-        &editors::frmEdito1,
-        &editors::frmEdito2,
-        &editors::frmEdito3,
-        &find_dialogs::frmFind,
-        &find_dialogs::frmReplace,
-        &calculator::spec,
-        &form14::spec,
-        &form19::spec,
-        &form21::spec,
-        &form22::spec,
-        &form6::spec,
-        &form7::spec,
-        &frm_about::spec,
-        &frm_drag::spec,
-        &infoform::spec,
+        &main_window::spec,     &form3::spec,
+        &palette::spec,         &form2::spec,
+        &editors::frmEditor,    &editors::frmEdito1,
+        &editors::frmEdito2,    &editors::frmEdito3,
+        &find_dialogs::frmFind, &find_dialogs::frmReplace,
+        &calculator::spec,      &form14::spec,
+        &form19::spec,          &form21::spec,
+        &form22::spec,          &form6::spec,
+        &form7::spec,           &frm_about::spec,
+        &frm_drag::spec,        &infoform::spec,
     };
     return windows;
 }

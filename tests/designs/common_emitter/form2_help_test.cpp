@@ -12,7 +12,8 @@ namespace velmor::form2_help_test {
 
 using form2::helpPages;
 
-TEST(Form2Help, PagesStandInTheOrderOfTheTagsWithTheirShortNames) {
+TEST(Form2Help, PagesStandInTheOrderOfTheTagsWithTheirShortNames)
+{
     constexpr std::array<std::pair<std::string_view, std::string_view>, 19> order{{
         {"Text1", " Delta QIc..."}, {"Text3", " Temperatura..."}, {"Text4", " Delta Vbe..."},
         {"Text8", " QIc..."},       {"Text15", " Res"},           {"Text9", " RLw.."},
@@ -29,7 +30,8 @@ TEST(Form2Help, PagesStandInTheOrderOfTheTagsWithTheirShortNames) {
     }
 }
 
-TEST(Form2Help, EveryPageExplainsInBothLanguages) {
+TEST(Form2Help, EveryPageExplainsInBothLanguages)
+{
     for (const auto& row : helpPages) {
         EXPECT_GT(row.page.es.size(), 250U) << row.field;
         EXPECT_GT(row.page.en.size(), 250U) << row.field;
@@ -37,7 +39,8 @@ TEST(Form2Help, EveryPageExplainsInBothLanguages) {
     }
 }
 
-TEST(Form2Help, EveryFormulaStandsOnThePageOfItsFieldInBothLanguages) {
+TEST(Form2Help, EveryFormulaStandsOnThePageOfItsFieldInBothLanguages)
+{
     constexpr std::array<std::pair<std::string_view, std::string_view>, 9> formulas{{
         {"Text8", "r'e = 25 mV / QIc"},
         {"Text11", "Vg = Eopp/Ein"},
