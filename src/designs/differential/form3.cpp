@@ -70,10 +70,8 @@ void Form3::tellAbout(Handle field)
     if (visible(Image3))
         return;
     for (const texts::StatusRow& row : texts::lessonRows())
-        if (row.field == field) {
+        if (row.field == field)
             setText(SSPanel4, pick(row.line));
-            show(SSPanel4);
-        }
 }
 
 void Form3::endPointing()
