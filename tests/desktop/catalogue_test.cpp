@@ -49,6 +49,7 @@ struct CatalogueTest : ::testing::TestWithParam<Showing> {
     {
         on.engine.values().LanguageIsEnglish = GetParam().english ? host::trueValue : std::int16_t{0};
         on.open();
+        on.answerAnything();
         window = &on.show(GetParam().window);
     }
     Bench on;

@@ -166,6 +166,11 @@ Bench::~Bench()
 {
     screen.detach();
     settle();
+    // A program that has ended leaves a standing order to leave every event loop.
+    if (engine.ended()) {
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
+        QCoreApplication::exec();
+    }
 }
 
 void Bench::open()
