@@ -12,9 +12,10 @@ namespace velmor::player {
 namespace main_detail {
 
 constexpr const char* usage =
-    "velmor-player [--seed N] [--events N] [--window NAME] [--details]\n"
+    "velmor-player [--seed N] [--events N] [--window NAME] [--straight] [--details]\n"
     "  plays so many random events over the whole program, or most of them on one window, and prints which slots and\n"
     "  boxes were reached; fails when anything went wrong or when less than nine in ten slots were reached\n"
+    "  --straight: designs only, from first to last field with plausible numbers\n"
     "velmor-player --list\n"
     "  prints the windows of the program\n";
 
@@ -34,6 +35,8 @@ Options optionsOf(int count, char** words)
         const bool hasValue = i + 1 < count;
         if (word == "--details")
             options.details = true;
+        else if (word == "--straight")
+            options.game.straight = true;
         else if (word == "--list")
             options.list = true;
         else if (word == "--seed" && hasValue)

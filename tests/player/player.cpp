@@ -97,7 +97,9 @@ void Player::move()
     keepWindowsFew();
     if (fault_.empty() && !engine_->ended()) {
         openTarget();
-        if (screen_->popupOwner != nullptr)
+        if (game_.straight)
+            straightStep();
+        else if (screen_->popupOwner != nullptr)
             usePopup();
         else if (mood_ == Mood::roam || modalWindow() != nullptr || chance_.in(6))
             roamStep();

@@ -63,6 +63,8 @@ struct Game {
     std::uint64_t seed = 1;
     std::string onlyWindow{};   ///< most events go to this window; empty for the whole program
     std::size_t windowCap = 10; ///< more open windows are closed
+    bool straight =
+        false; ///< a diligent student: designs from first to last field with plausible numbers, nothing else
 };
 
 class Player {
@@ -92,6 +94,7 @@ private:
     void keepWindowsFew();
 
     void designStep();
+    void straightStep();
     void typeNumber(host::Window& sheet);
     void pressKey(host::Window& window, std::int16_t key, const std::string& character);
     void typeText(host::Window& window, const std::string& text);

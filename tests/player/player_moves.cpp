@@ -101,6 +101,25 @@ void Player::designStep()
         perform({.act = Act::click, .window = sheet, .control = anyControl(*sheet)});
 }
 
+// A sheet whose focus has left the fields is finished: another is begun.
+void Player::straightStep()
+{
+    Window* sheet = sheetInHand();
+    if (sheet == nullptr)
+        return openSomething();
+    if (engine_->current() != sheet)
+        return perform({.act = Act::activate, .window = sheet});
+    const Handle held = sheet->focus();
+    if (held == noControl || sheet->row(held).kind != Kind::field || chance_.in(2))
+        return perform({.act = Act::close, .window = sheet});
+    if (chance_.in(35)) {
+        perform({.act = Act::text, .window = sheet, .control = held});
+        typeText(*sheet, usualNumber(chance_));
+    }
+    if (engine_->isLoaded(sheet))
+        perform({.act = Act::key, .window = sheet, .control = sheet->focus(), .detail = chance_.in(80) ? 13 : 27});
+}
+
 void Player::typeNumber(Window& sheet)
 {
     const Handle held = sheet.focus();

@@ -148,18 +148,24 @@ void PlayerScreen::windowGone(host::Window& window)
         popupOwner = nullptr;
 }
 
+std::string usualNumber(Chance& chance)
+{
+    // clang-format off
+    static constexpr const char* numbers[] = {
+        "1",   "2",    "3",   "5",   "9",  "10",  "12",  "15",  "18",  "20",  "24",  "30",  "33",  "40",    "47",   "50",   "60",
+        "75",  "80",   "90",  "100", "120", "150", "200", "300", "470", "500", "1000", "2000", "10000", "0.01", "0.05", "0.1",
+        "0.3", "0.5",  "0.6", "1.5", "2.2", "2.5", "2.7", "3.3", "4.7", "6.8", "7.5", "8",   "16"};
+    // clang-format on
+    return chance.one(numbers);
+}
+
 std::string plausibleNumber(Chance& chance)
 {
-    static constexpr const char* usual[] = {"1",   "2",   "3",     "5",    "9",   "10",   "12",  "15",   "18",  "20",
-                                            "24",  "30",  "40",    "47",   "60",  "75",   "90",  "100",  "150", "200",
-                                            "300", "470", "500",   "1000", "0.1", "0.5",  "0.6", "1.5",  "2.2", "2.5",
-                                            "2.7", "3.3", "4.7",   "6.8",  "7.5", "0.01", "0.3", "0.25", "2.5", "2000",
-                                            "8",   "16",  "10000", "0.05", "33",  "50",   "80",  "120"};
     static constexpr const char* odd[] = {
         "0",      "-1", "",   "1e3", "1.2.3", "99999999",        "0.000001", ".", "-",    "&HFFFF", "1e308",
         "1e-300", "Si", "Ge", "1,5", "32768", "922337203685477", "ñ",        "Ω", "12 V", "s/uso"};
     if (chance.in(88))
-        return chance.one(usual);
+        return usualNumber(chance);
     if (chance.in(50))
         return chance.one(odd);
     return std::to_string(chance.between(0, 400)) + "." + std::to_string(chance.between(0, 99));

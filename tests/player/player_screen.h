@@ -71,6 +71,8 @@ private:
     std::string clipboard_ = "12,5";
 };
 
+/// A number as the course uses it.
+std::string usualNumber(Chance& chance);
 /// A text as a student may type it into a field: mostly a plausible number.
 std::string plausibleNumber(Chance& chance);
 
