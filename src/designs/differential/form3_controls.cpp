@@ -52,7 +52,8 @@ constexpr Place pageAlone = at(962, 114, 228, 466);
 constexpr ControlRow controls[] = {
     {.id = Label11, .name = "Label11", .place = at(10, 66, 252, 344),  .look = Look::group},
     {.id = Label6,  .name = "Label6",  .place = at(10, 416, 252, 164), .look = Look::group},
-    {.id = Image1,  .name = "Image1",  .kind = Kind::image, .place = picture, .drawing = drawings::didactic},
+    {.id = Image1,  .name = "Image1",  .kind = Kind::image, .place = picture,
+     .meaning = {.es = "Circuito didáctico", .en = "Didactic circuit"}, .drawing = drawings::didactic},
     {.id = image2,  .name = "image2",  .kind = Kind::image, .place = picture, .visible = false, .drawing = drawings::finished},
     {.id = Line1,   .name = "Line1",   .kind = Kind::line, .place = picture, .drawing = drawings::paleNegativeSupply},
     {.id = Line2,   .name = "Line2",   .kind = Kind::line, .place = picture, .drawing = drawings::paleTail},
