@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cctype>
 #include <set>
+#include <vector>
 
 #include "sheets/design_sheet.h"
 
@@ -59,6 +60,21 @@ std::string faultOfValues(const host::ProgramValues& values)
     return {};
 }
 
+bool overlap(const host::Place& one, const host::Place& other)
+{
+    return one.left < other.left + other.width && other.left < one.left + one.width &&
+           one.top < other.top + other.height && other.top < one.top + one.height;
+}
+
+std::vector<host::Handle> visibleFields(const Window& window)
+{
+    std::vector<host::Handle> fields;
+    for (const host::ControlRow& row : window.spec().controls)
+        if (row.kind == host::Kind::field && !row.overlay && window.visible(row.id))
+            fields.push_back(row.id);
+    return fields;
+}
+
 std::string shortened(const std::string& text)
 {
     return text.size() <= 80 ? text : text.substr(0, 80) + "...";
@@ -99,6 +115,20 @@ std::string textFault(host::Engine& engine)
                 return std::string(window->name()) + "." + std::string(window->row(control).name) + " " + fault + ": " +
                        shortened(text);
         }
+    return {};
+}
+
+std::string fieldFault(const host::Engine& engine)
+{
+    using namespace consistency_detail;
+    for (const Window* window : engine.windows()) {
+        const std::vector<host::Handle> fields = visibleFields(*window);
+        for (std::size_t i = 0; i < fields.size(); ++i)
+            for (std::size_t k = i + 1; k < fields.size(); ++k)
+                if (overlap(host::shownPlace(*window, fields[i]), host::shownPlace(*window, fields[k])))
+                    return std::string(window->name()) + ": " + std::string(window->row(fields[i]).name) +
+                           " is seen upon " + std::string(window->row(fields[k]).name);
+    }
     return {};
 }
 

@@ -14,6 +14,9 @@ std::string engineFault(host::Engine& engine);
 /// What is wrong with the texts that changed since the last call; empty when nothing is. Takes the changes away.
 std::string textFault(host::Engine& engine);
 
+/// Two fields of a window that are seen upon each other; empty when there are none.
+std::string fieldFault(const host::Engine& engine);
+
 /// A number that is none, as a word of its own: "inf", "-nan".
 bool namesNoNumber(std::string_view text);
 bool isUtf8(std::string_view text);

@@ -12,6 +12,7 @@ namespace velmor::player {
 namespace player_detail {
 
 constexpr std::size_t rememberedEvents = 40;
+constexpr std::uint64_t fieldsLookedAt = 16; // every so many events
 constexpr int slotsWithoutEnd = 3000;
 constexpr int questionsWithoutEnd = 300;
 
@@ -145,6 +146,7 @@ void Player::perform(const Deed& deed)
 
 void Player::check()
 {
+    using player_detail::fieldsLookedAt;
     for (const host::Window* window : engine_->windows())
         if (window->serial() > newestWindow_) {
             newestWindow_ = window->serial();
@@ -153,6 +155,8 @@ void Player::check()
     std::string fault = engine_->ended() ? std::string() : engineFault(*engine_);
     if (fault.empty())
         fault = textFault(*engine_);
+    if (fault.empty() && events_ % fieldsLookedAt == 0)
+        fault = fieldFault(*engine_);
     if (!fault.empty())
         report(fault);
 }

@@ -55,6 +55,20 @@ INSTANTIATE_TEST_SUITE_P(Catalogue, EveryWindow,
                                            console::wholeProgram().catalogue.end()),
                          [](const auto& row) { return std::string(row.param->name); });
 
+// Odd values may end the program, by a number that no type holds; a design from first to last field never does.
+TEST_P(EveryWindow, NeverEndsTheProgramOnADiligentStudent)
+{
+    if (GetParam()->role != host::Role::sheet)
+        return;
+    for (const std::uint64_t seed : {1, 2}) {
+        Player player(console::wholeProgram(),
+                      {.seed = seed, .onlyWindow = std::string(GetParam()->name), .straight = true});
+        EXPECT_TRUE(player.play(eventsForAWindow)) << player.fault();
+        for (const auto& [where, failure] : player.coverage().failures())
+            ADD_FAILURE() << where << " after" << failure.events;
+    }
+}
+
 TEST(Player, TheWholeProgramStandsAShortGame)
 {
     for (const std::uint64_t seed : {1, 2}) {
@@ -89,8 +103,8 @@ enum Bad : host::Handle { Text1, Text2, Result, Bell, Loop, Error, Never };
 
 // clang-format off
 constexpr host::ControlRow badRows[] = {
-    {.id = Text1,  .name = "Text1",  .kind = host::Kind::field},
-    {.id = Text2,  .name = "Text2",  .kind = host::Kind::field},
+    {.id = Text1,  .name = "Text1",  .kind = host::Kind::field, .place = {0, 0, 90, 30}},
+    {.id = Text2,  .name = "Text2",  .kind = host::Kind::field, .place = {0, 30, 90, 30}},
     {.id = Result, .name = "Result", .kind = host::Kind::label},
     {.id = Bell,   .name = "Bell",   .kind = host::Kind::image},
     {.id = Loop,   .name = "Loop",   .kind = host::Kind::image},
@@ -106,6 +120,7 @@ public:
     static inline bool loops = false;
     static inline bool throws = false;
     static inline bool divides = false;
+    static inline bool piles = false;
     static inline bool asksForEver = false;
 
     void click()
@@ -114,6 +129,8 @@ public:
             setText(Result, "Zin = -inf K");
         if (divides)
             setText(Result, std::to_string((rules::Real(1) / rules::Real(0)).value()));
+        if (piles)
+            setPlaceOf(Text2, placeOf(Text1));
         while (asksForEver)
             host().MsgBox("again?", 0, "");
     }
@@ -164,7 +181,7 @@ struct BadProgram : testing::Test {
     BadProgram()
     {
         for (bool* fault : {&BadWindow::writesInfinity, &BadWindow::loops, &BadWindow::throws, &BadWindow::divides,
-                            &BadWindow::asksForEver})
+                            &BadWindow::piles, &BadWindow::asksForEver})
             *fault = false;
     }
     std::string faultAfter(std::uint64_t events)
@@ -186,6 +203,12 @@ TEST_F(BadProgram, AnInfinityOnALabelIsFound)
     BadWindow::writesInfinity = true;
     EXPECT_TRUE(faultAfter(3'000).starts_with("Bad.Result shows a number that is none: Zin = -inf K"))
         << player.fault();
+}
+
+TEST_F(BadProgram, FieldsSeenUponEachOtherAreFound)
+{
+    BadWindow::piles = true;
+    EXPECT_TRUE(faultAfter(3'000).starts_with("Bad: Text1 is seen upon Text2")) << player.fault();
 }
 
 TEST_F(BadProgram, SlotsWithoutEndAreFound)
