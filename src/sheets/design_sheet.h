@@ -54,7 +54,7 @@ public:
     void setNombreArchivo(std::string_view path) { nombreArchivo_ = path; }
 
     /// Filter and order of its circuit files.
-    const SheetSpec& files() const { return sheet_; }
+    const SheetSpec& circuitFiles() const { return sheet_; }
     /// The text of the sheet's report as of this moment, lines ended by CR LF.
     virtual std::string reportText() const = 0;
 
