@@ -60,6 +60,7 @@ double Canvas::scaleFor(QSize room) const
 
 void Canvas::layOut(double scale, QSize size)
 {
+    laidOut_ = true;
     resize(size);
     view_.pixelsPerTwip = scale / twipsPerUnit;
     const double spare = std::max(0.0, size.width() - design_.width * view_.pixelsPerTwip) / 2.0;
@@ -149,8 +150,10 @@ bool Canvas::isGround(Handle control) const
 
 void Canvas::paintOne(QPainter& painter, Handle control, const QRectF& clip)
 {
-    if (model_ == nullptr || !shows(control) || model_->row(control).look == host::Look::invisible
-        || !ink(control).intersects(clip) || isGround(control))
+    if (model_ == nullptr || !shows(control) || model_->row(control).look == host::Look::invisible || isGround(control))
+        return;
+    // Measuring what a control paints on costs as much as painting it: a whole canvas is painted without asking.
+    if (!clip.contains(rect()) && !ink(control).intersects(clip))
         return;
     if (isPagePicture(*model_, control))
         paintPagePicture(painter, *model_, control, view_);
@@ -175,9 +178,14 @@ void Canvas::repaintControl(Handle control)
     if (control == noControl || model_ == nullptr || !hasPlace(model_->row(control).kind))
         return;
     const QRectF before = std::exchange(ink_[control], QRectF());
-    const QRectF after = ink(control);
-    const QRect area = before.united(after).toAlignedRect();
-    update(area);
+    if (!isVisible())
+        return; // it is painted whole when it is shown
+    const host::ControlRow& row = model_->row(control);
+    const bool mayHaveMoved = !row.drawing.empty() || !(model_->placeOf(control) == row.place);
+    if (before.isNull() && mayHaveMoved)
+        update();
+    else
+        update(before.united(ink(control)).toAlignedRect());
     auto* pane = dynamic_cast<ControlPane*>(widgetOf(control));
     if (pane != nullptr && pane->paints())
         pane->update();

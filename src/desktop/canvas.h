@@ -103,6 +103,7 @@ private:
     std::vector<QWidget*> widgets_;
     std::unordered_map<const QObject*, host::Handle> handles_;
     mutable std::vector<QRectF> ink_;
+    bool laidOut_ = false; ///< has a size; until then nothing is worth placing
     std::unique_ptr<Pointer> pointer_;
     std::unique_ptr<Keyboard> keyboard_;
 };

@@ -181,7 +181,8 @@ void Canvas::refreshWidget(Handle control, bool shown)
     } else {
         label(control, *widget);
     }
-    place(control, *widget);
+    if (laidOut_)
+        place(control, *widget);
     if (widget->isEnabled() != state.enabled)
         widget->setEnabled(state.enabled);
     if (widget->isVisibleTo(this) != shown)

@@ -48,9 +48,19 @@ void ChildFrame::followWindow()
     const QString title = shownTitle(model()->caption()).simplified();
     if (windowTitle() != title)
         setWindowTitle(title);
+    followPlace(); // before it is shown, so that it is laid out once
     if (isHidden() == model()->shown())
         setVisible(model()->shown());
     followState();
+}
+
+void ChildFrame::followPlace()
+{
+    if (model()->windowState() != 0 || shownState() != 0 || (told_ == model()->place() && toldScale_ == desk_.scale))
+        return;
+    told_ = model()->place();
+    toldScale_ = desk_.scale;
+    setGeometry(desk_.pixelsOf(told_));
 }
 
 void ChildFrame::followState()
@@ -64,11 +74,7 @@ void ChildFrame::followState()
         else
             showNormal();
     }
-    if (state != 0 || (told_ == model()->place() && toldScale_ == desk_.scale))
-        return;
-    told_ = model()->place();
-    toldScale_ = desk_.scale;
-    setGeometry(desk_.pixelsOf(told_));
+    followPlace();
 }
 
 void ChildFrame::followControls()

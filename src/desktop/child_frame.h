@@ -31,6 +31,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void followPlace();
     void followState();
     void tellPlace();
     int shownState() const;

@@ -32,6 +32,7 @@ namespace main_window_detail {
 constexpr double drawnWidth = 1350.0;
 constexpr double drawnHeight = 675.0;
 constexpr int likelyTitleHeight = 30;
+constexpr int likelyMenuHeight = 20;
 constexpr QSize smallestWindow(640, 420);
 constexpr int edgeHeight = 2; ///< of the line between a sheet and the page that lies over it
 
@@ -42,6 +43,7 @@ MainWindow::MainWindow(Desk& desk, host::Window& model)
 {
     setObjectName(shown(model.name()));
     setMinimumSize(main_window_detail::smallestWindow);
+    menuBar()->hide();
     menus_ = new Menus(desk, model, *menuBar());
     area_->setParent(middle_);
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
@@ -77,7 +79,7 @@ void MainWindow::foresee()
     const QScreen* on = QGuiApplication::primaryScreen();
     const QRect room = on == nullptr ? QRect(0, 0, 1366, 768) : on->availableGeometry();
     setGeometry(room.adjusted(0, likelyTitleHeight, 0, 0));
-    const QSize inner(room.width(), room.height() - likelyTitleHeight - menuBar()->sizeHint().height());
+    const QSize inner(room.width(), room.height() - likelyTitleHeight - likelyMenuHeight);
     middle_->resize(inner);
     area_->setGeometry(QRect(QPoint(), inner));
     desk_.scale = std::min(inner.width() / drawnWidth, inner.height() / drawnHeight);
@@ -101,6 +103,9 @@ void MainWindow::followWindow()
         setWindowState((windowState() & ~compared) | wanted);
     if (isVisible() != model_->shown())
         setVisible(model_->shown());
+    // The machine's fonts are first read for the menu bar: meanwhile the window manager has the window already.
+    if (isVisible() && menuBar()->isHidden())
+        menuBar()->show();
 }
 
 void MainWindow::followControls()

@@ -159,7 +159,8 @@ void SheetView::bringIntoView()
 void SheetView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    layOutCanvas();
+    if (isVisible())
+        layOutCanvas();
 }
 
 void SheetView::showEvent(QShowEvent* event)
