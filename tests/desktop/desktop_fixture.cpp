@@ -287,14 +287,19 @@ void Bench::moveTo(Handle control)
 
 void Bench::drag(Handle from, Handle to)
 {
-    QWindow* window = main().windowHandle();
-    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, middleOf(sheet(), from));
+    drag(sheet(), from, to);
+}
+
+void Bench::drag(host::Window& model, Handle from, Handle to)
+{
+    QWindow* window = viewOf(model).window()->windowHandle();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, middleOf(model, from));
     for (const double part : {0.3, 0.7, 1.0}) {
-        const QPoint start = middleOf(sheet(), from);
-        const QPoint way = middleOf(sheet(), to) - start;
+        const QPoint start = middleOf(model, from);
+        const QPoint way = middleOf(model, to) - start;
         QTest::mouseMove(window, start + QPoint(static_cast<int>(way.x() * part), static_cast<int>(way.y() * part)));
     }
-    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, middleOf(sheet(), to));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, middleOf(model, to));
     settle();
 }
 

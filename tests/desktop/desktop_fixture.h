@@ -87,6 +87,7 @@ public:
     void doubleClick(host::Handle control);
     void moveTo(host::Handle control);
     void drag(host::Handle from, host::Handle to);
+    void drag(host::Window& window, host::Handle from, host::Handle to);
     QPoint middleOf(host::Window& window, host::Handle control);
 
     /// Queues the key with which the next box is answered; what it showed is noted.

@@ -99,6 +99,7 @@ private:
     // the chain
     void beginField(host::Handle field);
     void settleField(host::Handle field);
+    bool isEnter(host::EventArgs& args);
     void leaveTo(host::Handle field);
     void ink(const GrowingPart& part);
     void fillEin();

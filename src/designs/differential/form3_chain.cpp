@@ -29,10 +29,19 @@ void Form3::focusField(host::EventArgs& args)
     beginField(args.control);
 }
 
+// What a key begins with. Enter also puts away the help on pointing that F2 has left there.
+bool Form3::isEnter(host::EventArgs& args)
+{
+    if (sheets::filteredKey(*this, args) != enterKey)
+        return false;
+    endPointing();
+    return true;
+}
+
 // The sheet has no Esc key and no test at Enter: an empty field is passed, and leaving it puts its default in.
 void Form3::keyField(host::EventArgs& args)
 {
-    if (sheets::filteredKey(*this, args) != enterKey)
+    if (!isEnter(args))
         return;
     if (!isEmpty(*this, args.control))
         makeBare(*this, args.control);
@@ -93,7 +102,7 @@ bool Form3::tooMuchQIc() const
 
 void Form3::keyQIc(host::EventArgs& args)
 {
-    if (sheets::filteredKey(*this, args) != enterKey)
+    if (!isEnter(args))
         return;
     if (!isEmpty(*this, Text9))
         makeBare(*this, Text9);

@@ -9,7 +9,6 @@ namespace velmor::form3 {
 using host::BiText;
 using host::Handle;
 using sheets::digits;
-using sheets::enterKey;
 using sheets::isEmpty;
 using sheets::makeBare;
 using sheets::number;
@@ -40,7 +39,7 @@ void Form3::leaveTo(Handle field)
 
 void Form3::keyResult(host::EventArgs& args)
 {
-    if (sheets::filteredKey(*this, args) != enterKey)
+    if (!isEnter(args))
         return;
     if (!isEmpty(*this, args.control))
         makeBare(*this, args.control);
@@ -271,7 +270,7 @@ void Form3::focusEs()
 
 void Form3::keyEs(host::EventArgs& args)
 {
-    if (sheets::filteredKey(*this, args) != enterKey)
+    if (!isEnter(args))
         return;
     if (!isEmpty(*this, Text18))
         makeBare(*this, Text18);
