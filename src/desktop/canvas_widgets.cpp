@@ -24,6 +24,7 @@ namespace canvas_widgets_detail {
 constexpr double smallestText = 9.0; ///< logical pixels
 constexpr double pageMargin = 0.8;   ///< around a long text, in heights of its letters
 constexpr double rowHeight = 1.6;    ///< of a list, in heights of its letters
+constexpr int blanksOfATab = 8;
 
 QColor colorOr(std::int32_t own, const QColor& usual)
 {
@@ -81,6 +82,9 @@ void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen)
     font.setStrikeOut(chosen.strikeout);
     if (font != editor.font())
         editor.setFont(font);
+    const double tab = blanksOfATab * QFontMetricsF(font).horizontalAdvance(QLatin1Char(' '));
+    if (editor.tabStopDistance() != tab)
+        editor.setTabStopDistance(tab);
 }
 
 // Painted texts and pictures that cannot hold the keyboard are widgets only for whoever reads the screen by its tree.

@@ -18,10 +18,23 @@ namespace printing_detail {
 constexpr double twipsPerPoint = 20.0;
 constexpr double printersOwnSize = 10.0; ///< points, when the job names none
 constexpr double marginMillimetres = 15.0;
+constexpr double sideMillimetres = 10.0;
 
-// Breaks a line that is wider than the page after the last blank that fits, or in the word when there is none.
+/// The blanks with which a line begins, when they leave most of the page free.
+QString indentOf(const QString& line, const QFontMetricsF& metrics, double width)
+{
+    qsizetype blanks = 0;
+    while (blanks < line.size() && line[blanks] == QLatin1Char(' '))
+        ++blanks;
+    const QString indent = line.left(blanks);
+    return metrics.horizontalAdvance(indent) < width / 3.0 ? indent : QString();
+}
+
+// Breaks a line that is wider than the page after the last blank that fits, or in the word when there is none. What is
+// carried over stands under the line's beginning.
 void appendBroken(QStringList& lines, QString line, const QFontMetricsF& metrics, double width)
 {
+    const QString indent = indentOf(line, metrics, width);
     while (metrics.horizontalAdvance(line) > width) {
         qsizetype low = 1;
         qsizetype high = line.size();
@@ -30,9 +43,9 @@ void appendBroken(QStringList& lines, QString line, const QFontMetricsF& metrics
             (metrics.horizontalAdvance(line.left(middle)) <= width ? low : high) = middle;
         }
         const qsizetype blank = line.lastIndexOf(QLatin1Char(' '), low - 1);
-        const qsizetype end = blank > 0 ? blank + 1 : low;
+        const qsizetype end = blank > indent.size() ? blank + 1 : low;
         lines.append(line.left(end));
-        line.remove(0, end);
+        line.replace(0, end, indent);
     }
     lines.append(line);
 }
@@ -47,6 +60,7 @@ QString withoutTabs(QString line)
 QFont twipFont(const host::Font& font, bool sizeGiven)
 {
     QFont result(shown(font.name));
+    result.setStyleHint(QFont::Monospace);
     const double points = sizeGiven && font.size > 0 ? font.size : printing_detail::printersOwnSize;
     result.setPixelSize(static_cast<int>(points * printing_detail::twipsPerPoint + 0.5));
     result.setBold(font.bold);
@@ -115,7 +129,7 @@ void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english)
     speakInDialogs(english);
     QPrinter printer(QPrinter::HighResolution);
     const double margin = printing_detail::marginMillimetres;
-    printer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
+    printer.setPageMargins(QMarginsF(printing_detail::sideMillimetres, margin, printing_detail::sideMillimetres, margin), QPageLayout::Millimeter);
     printer.setDocName(QStringLiteral("Velmor"));
     if (!printer.isValid())
         printer.setOutputFormat(QPrinter::PdfFormat);

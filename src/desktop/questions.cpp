@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLibraryInfo>
@@ -134,6 +135,9 @@ std::optional<host::Font> askFont(QWidget* parent, const host::Font& initial, bo
 {
     speakInDialogs(english);
     QFont font(shown(initial.name));
+    font.setStyleHint(QFont::Monospace);
+    // The dialog begins with the letters that are seen, not with a name that this machine lacks.
+    font.setFamily(QFontInfo(font).family());
     font.setPointSizeF(initial.size);
     font.setBold(initial.bold);
     font.setItalic(initial.italic);

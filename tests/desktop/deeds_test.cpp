@@ -224,6 +224,9 @@ TEST(PrintingTest, theWholeTextIsPrintedAndLongLinesAreBrokenAtBlanks)
     EXPECT_EQ(desktop::printedLines(job, 100000.0), (QStringList{"uno", "dos tres cuatro", "", "cinco"}));
     const double width = desktop::printedTwips(job.font, "dos tres ") + 10.0;
     EXPECT_EQ(desktop::printedLines(job, width), (QStringList{"uno", "dos tres ", "cuatro", "", "cinco"}));
+    const host::PrintJob indented{.text = "  dos tres cuatro", .font = job.font};
+    EXPECT_EQ(desktop::printedLines(indented, desktop::printedTwips(job.font, "  dos tres ") + 10.0),
+              (QStringList{"  dos tres ", "  cuatro"}));
     job.text = "xxxxxxxxxx";
     EXPECT_EQ(desktop::printedLines(job, desktop::printedTwips(job.font, "xxxx") + 10.0).join(""), "xxxxxxxxxx");
 }
