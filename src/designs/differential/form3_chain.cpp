@@ -169,11 +169,14 @@ void Form3::leaveEin()
     setText(Text14, sheets::shown(*this, q_.Eopp));
 }
 
-// The only place where Beta is read: a value typed and left without coming back is not used.
+// The only place where Beta is read: a value typed and left without coming back is not used. What is no number, as an odd
+// file may bring it, counts as what leaving will make of it.
 void Form3::focusBeta()
 {
     beginField(Text5);
     q_.Beta = number(*this, Text5);
+    if (q_.Beta == Real(0.0))
+        q_.Beta = texts::fieldRow(Text5)->otherwise;
 }
 
 void Form3::leaveVj()

@@ -61,7 +61,8 @@ void Form3::proposeEbias()
     q_.dQic = number(*this, Text1);
     q_.T = number(*this, Text6);
     q_.dVbe = number(*this, Text7);
-    q_.EResMin = leastERes(q_.T, q_.dVbe, q_.dQic);
+    if (q_.dQic != Real(0.0))
+        q_.EResMin = leastERes(q_.T, q_.dVbe, q_.dQic);
     const std::string proposal = sheets::shown(*this, q_.EResMin + 1.0);
     show(Text8);
     ink(growingParts[0]);
