@@ -110,7 +110,8 @@ void Player::playLine(const std::string& line)
 void Player::collectTexts()
 {
     for (Window* window : walk_.engine().windows()) {
-        if (window == blank_ || window->role() == host::Role::mainWindow)
+        const host::Role role = window->role();
+        if (window == blank_ || role == host::Role::mainWindow || role == host::Role::palette)
             continue;
         const std::string name(window->name());
         outcome_.texts.push_back(name + " \"" + walk_.screen().plain(window->caption()) + "\"");

@@ -16,8 +16,9 @@ enum class Manner : std::uint8_t { asWritten, besideASheet, languageToAndFro };
 /// How a replay ended.
 struct Outcome {
     console::WalkResult result{};
-    std::string output{};             ///< what the walk reported
-    std::vector<std::string> texts{}; ///< every text and caption of every window but the main one
+    std::string output{}; ///< what the walk reported
+    std::vector<std::string>
+        texts{};             ///< every text and caption but those that a switch rewrites: of main window and palette
     bool cutShort = false;   ///< the walk left its sheets and came to the blank one: it was not played any further
     std::string disturbed{}; ///< a field of the blank sheet that changed although nobody touched it
 };

@@ -45,7 +45,6 @@ constexpr NotReplayed notToAndFro[] = {
     {"form16/hover_english.walk",                "a switch writes the caption of the main window, which bears the name of the page here"},
     {"form16/hover_spanish.walk",                "the same"},
     {"mdiform1/next_start_marked_already.walk",  "the language of the moment changes here without its captions, until a switch writes them"},
-    {"mdiform1/next_start_shows_bar.walk",       "the same"},
 };
 // clang-format on
 
@@ -76,6 +75,8 @@ testing::AssertionResult endsTheSame(const Outcome& written, const Outcome& othe
 
 class EveryWalk : public testing::TestWithParam<std::string> {
 protected:
+    // Walks are played from the checkout, where some find the project's own guides.
+    static void SetUpTestSuite() { std::filesystem::current_path(places::source()); }
     Outcome played(Manner manner) const
     {
         return replayed(console::wholeProgram(), folder() + "/" + GetParam(), manner);
