@@ -97,12 +97,12 @@ void Form2::clickPicture2()
     hide(Image2, Picture2, sta1, statu31, statu32, status5, status6, status7, status8, status9);
 }
 
-// `image2` stays as it is, and so do the notes, which have their place to themselves again.
+// The way back, but that `image2` stays as it is. The notes are shown until the pointer moves on.
 void Form2::clickPicture7()
 {
     drawBootstrapping(false);
     hide(Picture7, statu61, statu62, statu71, statu72);
-    show(Picture2, sta1, statu31, statu32);
+    show(Picture2, sta1, statu31, statu32, status5, status6, status7, status8, status9);
 }
 
 void Form2::clickClone(host::EventArgs& args)
