@@ -81,9 +81,16 @@ bool Canvas::belongs(Handle control) const
            && (except_ == noControl || !liesIn(spec, control, except_));
 }
 
+// A panel that is the canvas itself is shown with it: while no sheet is open the welcome is there, even when a sheet has
+// sent it away before.
 bool Canvas::shows(Handle control) const
 {
-    return model_ != nullptr && belongs(control) && isShown(*model_, control);
+    if (model_ == nullptr || !belongs(control))
+        return false;
+    for (Handle part = control; part != noControl; part = model_->row(part).parent)
+        if (!model_->visible(part) && !isGround(part))
+            return false;
+    return true;
 }
 
 const QRectF& Canvas::ink(Handle control) const
