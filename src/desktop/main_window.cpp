@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -34,6 +35,24 @@ constexpr double drawnHeight = 675.0;
 constexpr int likelyTitleHeight = 30;
 constexpr int likelyMenuHeight = 20;
 constexpr QSize smallestWindow(640, 420);
+constexpr double textShare = 0.7; ///< of the window's growth that menus and boxes take part in
+constexpr double largestTexts = 1.5;
+
+double scaleFor(QSize inner)
+{
+    return std::min(inner.width() / drawnWidth, inner.height() / drawnHeight);
+}
+
+// On a large screen everything is shown larger: menus and questions shall not look lost beside it.
+void proportionTexts(double scale)
+{
+    static const QFont usual = QApplication::font();
+    QFont font = usual;
+    if (usual.pointSizeF() > 0)
+        font.setPointSizeF(usual.pointSizeF() * std::clamp(textShare * scale, 1.0, largestTexts));
+    if (font != QApplication::font())
+        QApplication::setFont(font);
+}
 constexpr int edgeHeight = 2; ///< of the line between a sheet and the page that lies over it
 
 } // namespace main_window_detail
@@ -79,10 +98,11 @@ void MainWindow::foresee()
     const QScreen* on = QGuiApplication::primaryScreen();
     const QRect room = on == nullptr ? QRect(0, 0, 1366, 768) : on->availableGeometry();
     setGeometry(room.adjusted(0, likelyTitleHeight, 0, 0));
+    proportionTexts(scaleFor(room.size()));
     const QSize inner(room.width(), room.height() - likelyTitleHeight - likelyMenuHeight);
     middle_->resize(inner);
     area_->setGeometry(QRect(QPoint(), inner));
-    desk_.scale = std::min(inner.width() / drawnWidth, inner.height() / drawnHeight);
+    desk_.scale = scaleFor(inner);
     desk_.engine->setClientArea(desk_.twips(inner.width()), desk_.twips(inner.height()));
     model_->setPlace({0, 0, desk_.twips(inner.width()), desk_.twips(inner.height())});
 }
@@ -277,7 +297,7 @@ void MainWindow::tellClientArea()
     using namespace main_window_detail;
     if (!isVisible() || desk_.closing || isMinimized())
         return;
-    const double scale = std::min(middle_->width() / drawnWidth, middle_->height() / drawnHeight);
+    const double scale = scaleFor(middle_->size());
     const QSize inner = area_->size();
     const host::Place before = desk_.engine->clientArea();
     desk_.scale = scale;

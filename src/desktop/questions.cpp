@@ -9,6 +9,8 @@
 #include <QDialogButtonBox>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLibraryInfo>
@@ -48,6 +50,15 @@ QString inLanguage(const host::BiText& text, bool english)
     return shown(english ? text.en : text.es);
 }
 
+/// A short text under a long title: the title shall be read, too.
+void makeRoomForTitle(QMessageBox& dialog)
+{
+    constexpr int buttonsOfTheFrame = 130;
+    const int wanted = QFontMetrics(dialog.font()).horizontalAdvance(dialog.windowTitle()) + buttonsOfTheFrame;
+    if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout()))
+        grid->addItem(new QSpacerItem(wanted, 0, QSizePolicy::Minimum), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 QMessageBox::Icon iconOf(host::BoxIcon icon)
 {
     switch (icon) {
@@ -82,6 +93,7 @@ host::Answer askMessage(QWidget* parent, const host::MessageBox& box, bool engli
             made.emplace_back(dialog.addButton(inLanguage(row.caption, english), row.role), row.answer);
     const std::size_t first = box.secondIsDefault() && made.size() > 1 ? 1 : 0;
     dialog.setDefaultButton(made[first].first);
+    makeRoomForTitle(dialog);
     for (const auto& [button, answer] : made)
         if (answer == box.escape())
             dialog.setEscapeButton(button);
