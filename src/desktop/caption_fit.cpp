@@ -295,9 +295,9 @@ QString displayText(std::string_view text)
     const qsizetype common = columns::commonIndent(lines);
     for (QString& line : lines) {
         const QString written = columns::withoutColumns(line);
-        const qsizetype deeper =
-            common < 0 || written.isEmpty() ? 0 : std::min(columns::indent(line) - common, columns::deepest);
-        line = QString(deeper, QLatin1Char(' ')) + written;
+        const qsizetype deeper = common < 0 || written.isEmpty() ? 0 : columns::indent(line) - common;
+        // A single blank is a habit, too.
+        line = QString(deeper > 1 ? std::min(deeper, columns::deepest) : 0, QLatin1Char(' ')) + written;
     }
     return lines.join(QLatin1Char('\n'));
 }
