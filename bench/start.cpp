@@ -16,6 +16,7 @@ struct Program {
     std::string name;
     std::vector<std::string> command;
     std::vector<double> milliseconds;
+    std::vector<double> busy;
     std::vector<double> kilobytes;
 };
 
@@ -26,10 +27,12 @@ void measure(XScreen& screen, Program& program, bool warmUp)
     const auto mapped = screen.waitForWindow(child, 20000);
     if (!mapped)
         throw std::runtime_error(program.name + " showed no window");
+    const double busy = child.busy();
     poll(nullptr, 0, 700);
     if (warmUp)
         return;
     program.milliseconds.push_back(milliseconds(child.started(), mapped->when));
+    program.busy.push_back(busy);
     program.kilobytes.push_back(static_cast<double>(child.resident()));
 }
 
@@ -42,6 +45,7 @@ void run(int rounds, std::vector<Program>& programs)
     }
     for (const Program& program : programs) {
         report("start." + program.name + ".ms", quantile(program.milliseconds, 0.5));
+        report("start." + program.name + ".busy.ms", quantile(program.busy, 0.5));
         report("start." + program.name + ".kb", quantile(program.kilobytes, 0.5));
     }
 }
@@ -59,7 +63,7 @@ int main(int argc, char** argv)
     for (int i = 2; i < argc; ++i) {
         const std::string argument = argv[i];
         const auto sign = argument.find('=');
-        programs.push_back({argument.substr(0, sign), {argument.substr(sign + 1)}, {}, {}});
+        programs.push_back({argument.substr(0, sign), {argument.substr(sign + 1)}, {}, {}, {}});
     }
     try {
         run(std::atoi(argv[1]), programs);

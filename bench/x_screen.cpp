@@ -51,6 +51,14 @@ bool Child::ended()
     return ended_;
 }
 
+double Child::busy() const
+{
+    std::ifstream status("/proc/" + std::to_string(id_) + "/schedstat");
+    double nanoseconds = 0.0;
+    status >> nanoseconds;
+    return nanoseconds / 1e6;
+}
+
 long Child::resident() const
 {
     std::ifstream status("/proc/" + std::to_string(id_) + "/status");

@@ -31,6 +31,9 @@ public:
     pid_t id() const { return id_; }
     bool ended();
 
+    /// Milliseconds for which its first thread has been on a processor: what other work on the machine changes least.
+    double busy() const;
+
     /// Resident memory in kilobytes; 0 when it has ended.
     long resident() const;
 
