@@ -87,6 +87,7 @@ private:
     QWidget* makePage(host::Handle control);
     QWidget* makeEditor(host::Handle control);
     QWidget* makeList(host::Handle control);
+    bool opensFolders(host::Handle list) const;
     void place(host::Handle control, QWidget& widget);
     void label(host::Handle control, QWidget& widget);
     void raiseOverlays();

@@ -253,6 +253,12 @@ QWidget* Canvas::makeEditor(Handle control)
     return edit;
 }
 
+// A list of folders goes where a double click or Enter says; the arrow keys walk through it first.
+bool Canvas::opensFolders(Handle list) const
+{
+    return !model_->list(list).folder.empty() && model_->hasSlot(list, host::Event::change);
+}
+
 QWidget* Canvas::makeList(Handle control)
 {
     auto* list = new QListWidget(this);
@@ -263,8 +269,12 @@ QWidget* Canvas::makeList(Handle control)
     list->viewport()->installEventFilter(this);
     handles_[list->viewport()] = control;
     connect(list, &QListWidget::currentRowChanged, this, [this, control](int row) {
-        if (model_ != nullptr && !desk_.closing && model_->list(control).selected != row)
+        if (model_ != nullptr && !desk_.closing && !opensFolders(control) && model_->list(control).selected != row)
             desk_.engine->userChoose(*model_, control, row);
+    });
+    connect(list, &QListWidget::itemActivated, this, [this, control, list] {
+        if (model_ != nullptr && !desk_.closing && model_->hasSlot(control, host::Event::change))
+            desk_.engine->userChoose(*model_, control, list->currentRow());
     });
     return list;
 }

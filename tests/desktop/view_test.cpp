@@ -241,6 +241,25 @@ TEST_F(ViewTest, aListFollowsTheModelAndTellsTheChoice)
     EXPECT_EQ(log().back(), "List1 change");
 }
 
+TEST_F(ViewTest, aListOfFoldersIsWalkedBeforeItIsEntered)
+{
+    on.engine.userRun([this] {
+        on.sheet().list(List1).items = {"..", "guias", "informes"};
+        on.sheet().list(List1).folder = "/casa";
+        on.sheet().listChanged(List1);
+    });
+    auto* list = qobject_cast<QListWidget*>(on.widgetOf(on.sheet(), List1));
+    on.engine.userFocus(on.sheet(), List1);
+    on.settle();
+    on.key(Qt::Key_Down);
+    on.key(Qt::Key_Down);
+    EXPECT_GE(list->currentRow(), 1);
+    EXPECT_EQ(on.sheet().list(List1).selected, -1);
+    on.key(Qt::Key_Return);
+    EXPECT_EQ(on.sheet().list(List1).selected, list->currentRow());
+    EXPECT_EQ(log().back(), "List1 change");
+}
+
 TEST_F(ViewTest, menusShowCaptionsChecksAndAskBeforeTheyOpen)
 {
     auto& main = static_cast<BenchWindow&>(on.engine.mainWindow());
