@@ -2,7 +2,6 @@
 // The checks that follow every step of a play.
 #include "player/consistency.h"
 
-#include <algorithm>
 #include <cctype>
 #include <set>
 #include <vector>
@@ -132,14 +131,17 @@ std::string fieldFault(const host::Engine& engine)
     return {};
 }
 
+// Looked at after every event: no copies, and most letters end the look at once.
 bool namesNoNumber(std::string_view text)
 {
-    const auto letter = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || (c & 0x80) != 0; };
+    const auto lower = [text](std::size_t at) { return static_cast<char>(text[at] | 0x20); };
+    const auto isLetter = [text](std::size_t at) {
+        return std::isalnum(static_cast<unsigned char>(text[at])) != 0 || (text[at] & 0x80) != 0;
+    };
     for (std::size_t at = 0; at + 3 <= text.size(); ++at) {
-        std::string word(text.substr(at, 3));
-        std::transform(word.begin(), word.end(), word.begin(), [](char c) { return static_cast<char>(c | 0x20); });
-        const bool alone = (at == 0 || !letter(text[at - 1])) && (at + 3 == text.size() || !letter(text[at + 3]));
-        if (alone && (word == "inf" || word == "nan"))
+        const bool inf = lower(at) == 'i' && lower(at + 1) == 'n' && lower(at + 2) == 'f';
+        const bool nan = lower(at) == 'n' && lower(at + 1) == 'a' && lower(at + 2) == 'n';
+        if ((inf || nan) && (at == 0 || !isLetter(at - 1)) && (at + 3 == text.size() || !isLetter(at + 3)))
             return true;
     }
     return false;

@@ -131,7 +131,9 @@ void Player::perform(const Deed& deed)
     ++events_;
     slotsInEvent_ = 0;
     screen_->questions = 0;
-    history_.push_back(inWords(deed));
+    history_.push_back({deed.act, deed.window == nullptr ? nullptr : &deed.window->spec(),
+                        deed.window == nullptr ? 0 : deed.window->serial(), deed.control, deed.detail, deed.target,
+                        deed.text});
     if (history_.size() > rememberedEvents)
         history_.pop_front();
     try {
@@ -171,8 +173,8 @@ void Player::report(const std::string& what)
 std::string Player::lastEvents() const
 {
     std::string events;
-    for (const std::string& event : history_)
-        events += "\n    " + event;
+    for (const Remembered& event : history_)
+        events += "\n    " + inWords(event);
     return events;
 }
 

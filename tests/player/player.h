@@ -59,6 +59,17 @@ struct Deed {
     std::string text{};
 };
 
+/// A deed that is over: its window may be gone.
+struct Remembered {
+    Act act = Act::click;
+    const host::WindowSpec* window = nullptr;
+    unsigned serial = 0;
+    host::Handle control = host::noControl;
+    int detail = 0;
+    host::Handle target = host::noControl;
+    std::string text{};
+};
+
 struct Game {
     std::uint64_t seed = 1;
     std::string onlyWindow{};   ///< most events go to this window; empty for the whole program
@@ -137,10 +148,10 @@ private:
     unsigned newestWindow_ = 0;
     std::string failureKind_;
     std::string fault_;
-    std::deque<std::string> history_;
+    std::deque<Remembered> history_;
 };
 
 /// One event in words, for reports.
-std::string inWords(const Deed& deed);
+std::string inWords(const Remembered& deed);
 
 } // namespace velmor::player

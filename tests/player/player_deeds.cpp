@@ -16,19 +16,19 @@ constexpr std::string_view actNames[] = {
 };
 static_assert(std::size(actNames) == static_cast<std::size_t>(Act::count));
 
-std::string nameOf(const host::Window& window, host::Handle control)
+std::string nameOf(const host::WindowSpec& window, host::Handle control)
 {
-    return control == host::noControl ? std::string(".") : std::string(window.row(control).name);
+    return control == host::noControl ? std::string(".") : std::string(window.controls[control].name);
 }
 
 } // namespace deeds_detail
 
-std::string inWords(const Deed& deed)
+std::string inWords(const Remembered& deed)
 {
     using namespace deeds_detail;
     std::string words(actNames[static_cast<std::size_t>(deed.act)]);
     if (deed.window != nullptr) {
-        words += " " + std::string(deed.window->name()) + "/" + std::to_string(deed.window->serial());
+        words += " " + std::string(deed.window->name) + "/" + std::to_string(deed.serial);
         words += " " + nameOf(*deed.window, deed.control);
         if (deed.target != host::noControl)
             words += " on " + nameOf(*deed.window, deed.target);

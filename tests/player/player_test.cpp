@@ -97,6 +97,23 @@ TEST(Player, TheSameSeedPlaysTheSameGame)
     EXPECT_EQ(played[0], played[1]);
 }
 
+// No state is global: a second program in the same process is not felt by the first.
+TEST(Player, TwoProgramsPlayedInTurnDoNotFeelEachOther)
+{
+    const auto summaryAfter = [](bool besideAnother) {
+        Player player(console::wholeProgram(), {.seed = 11});
+        Player other(console::wholeProgram(), {.seed = 12});
+        for (int turn = 0; turn < 20; ++turn) {
+            EXPECT_TRUE(player.play(200)) << player.fault();
+            if (besideAnother) {
+                EXPECT_TRUE(other.play(300)) << other.fault();
+            }
+        }
+        return summary(player.coverage());
+    };
+    EXPECT_EQ(summaryAfter(false), summaryAfter(true));
+}
+
 // --- a program with every fault that the player must find
 
 enum Bad : host::Handle { Text1, Text2, Result, Bell, Loop, Error, Never };
