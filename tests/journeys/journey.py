@@ -157,6 +157,16 @@ class Program:
         x, y, width, height = self.place(node)
         self.tool("mousemove", str(x + width // 2), str(y + height // 2), "click", button)
 
+    def drag(self, node, target):
+        """Carries a thing with the left button held to the middle of another."""
+        x, y, width, height = self.place(node)
+        self.tool("mousemove", str(x + width // 2), str(y + height // 2), "mousedown", "1")
+        to_x, to_y, to_width, to_height = self.place(target)
+        for part in (0.2, 0.6, 1.0):
+            self.tool("mousemove", str(round(x + width / 2 + part * (to_x + to_width / 2 - x - width / 2))),
+                      str(round(y + height / 2 + part * (to_y + to_height / 2 - y - height / 2))))
+        self.tool("mouseup", "1")
+
     def box(self, text):
         """Waits for a message box with that text and until it has the keyboard."""
         label = self.see(text, "label")

@@ -142,6 +142,83 @@ class Design(Journey):
         velmor.wait_value("ΔQIc", "5")
 
 
+class Pair(Journey):
+    def open(self, first):
+        """The pair alone on the desk."""
+        velmor = self.program
+        velmor.focused("ΔQIc")
+        if first:
+            velmor.key(first)
+        velmor.key("ctrl+F4")
+        self.answer("archivo ha cambiado|file has changed", "n")
+        until(lambda: not self.sheets(), "an empty desk")
+        velmor.key("alt+shift+F1")
+        velmor.focused("%ΔQic")
+
+    def design(self):
+        velmor = self.program
+        for field in ("T", "ΔVbe", "Qic", "RLw", "S", "Vg", "fo", "Eopp", "Ein", "Beta", "Ec(max)", "Ic(max)", "Vj", "-Ebias"):
+            velmor.key("Return")
+            velmor.focused(field)
+        velmor.wait_value("-Ebias", "20.25")  # (90 - 20) x 2.75 mV x 100 / 1, and 1 V more
+        velmor.key("Return")
+        velmor.focused("Res")
+        velmor.wait_value("Res", "20.25")  # 20.25 V / (2 x 0.5 mA)
+        velmor.key("Return")
+        velmor.focused("RL")
+        velmor.wait_value("RL", "16")  # 16 x 8 / (16 - 8)
+        velmor.key("Return")
+        velmor.focused("+Es")
+        velmor.type("24")
+        velmor.key("Return")
+        velmor.see(r"EQ1= 16 V")  # 24 V - 0.5 mA x 16 K
+
+    def drag_and_measure(self, generator, sinusoid, first_input, output, page):
+        velmor = self.program
+        velmor.press(velmor.see(generator, "push button"))
+        signal = velmor.see(sinusoid)
+        velmor.drag(signal, velmor.see(first_input))
+        velmor.press(velmor.see(output))
+        velmor.see(page)
+        velmor.key("ctrl+b")
+        velmor.see("^%ΔQic,", "text")
+
+    def read_the_meter(self, meter):
+        velmor = self.program
+        velmor.press(velmor.see(meter, "push button"))
+        velmor.press(velmor.see("^DC", "radio button"))
+        velmor.press(velmor.see("^V,", "push button"))
+        velmor.press(velmor.see("-Ebias$", "push button"))
+        velmor.see(r"^20\.25$")
+
+    def test_a_sinusoid_is_dragged_the_pair_designed_the_meter_read_and_the_report_made(self):
+        velmor = self.program
+        self.open("")
+        self.drag_and_measure("^generador", "^senoide A", "^entrada 1", "^Out 1", r"Out 1 = 10 V")
+        velmor.press(velmor.field("%ΔQic"))
+        velmor.focused("%ΔQic")
+        self.design()
+        self.read_the_meter("^multímetro")
+        velmor.press(velmor.see("^elaborar informe", "push button"))
+        until(lambda: "Resultados del diseño de Diferencial Simple" in self.report(), "the report")
+        self.assertIn("ERes: 19.65 V", self.report())
+
+    def test_the_same_in_english(self):
+        velmor = self.program
+        self.open("ctrl+shift+i")
+        self.drag_and_measure("^generator", "^sinusoid A", "^input 1", "^Out 1", r"Out 1 = 10 V")
+        velmor.press(velmor.field("%ΔQic"))
+        velmor.focused("%ΔQic")
+        self.design()
+        self.read_the_meter("^multimeter")
+        velmor.press(velmor.see("^make the report", "push button"))
+        until(lambda: "Results of the design of Differential Simple" in self.report(), "the report")
+        self.assertIn("RL (kohm) = 16", self.report())
+
+    def report(self):
+        return "\n".join(self.program.text(node) for node in self.program.all() if node.get_role_name() == "text")
+
+
 class Text(Journey):
     def test_a_guide_is_changed_saved_and_printed(self):
         velmor = self.program
