@@ -131,6 +131,26 @@ std::string fieldFault(const host::Engine& engine)
     return {};
 }
 
+std::string SlotOrder::note(const host::Window& window, host::Handle control, host::Event event)
+{
+    using host::Event;
+    const unsigned serial = window.serial();
+    if (event == Event::load && !loaded_.insert(serial).second)
+        return std::string(window.name()) + " loads twice";
+    if (event != Event::load && !loaded_.contains(serial) && window.hasSlot(host::noControl, Event::load))
+        return "a slot of " + std::string(window.name()) + " runs before it is loaded";
+    const bool paired = (event == Event::focus && window.hasSlot(control, Event::lostFocus)) ||
+                        (event == Event::lostFocus && window.hasSlot(control, Event::focus));
+    if (!paired)
+        return {};
+    const bool inOrder =
+        event == Event::focus ? focused_.insert({serial, control}).second : focused_.erase({serial, control}) == 1;
+    if (inOrder)
+        return {};
+    return std::string(window.name()) + " " + std::string(window.row(control).name) +
+           (event == Event::focus ? " gets the focus twice" : " loses a focus that it has not");
+}
+
 // Looked at after every event: no copies, and most letters end the look at once.
 bool namesNoNumber(std::string_view text)
 {

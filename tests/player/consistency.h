@@ -2,7 +2,9 @@
 // What must hold of a program whenever no event is under way, whatever happened before.
 #pragma once
 
+#include <set>
 #include <string>
+#include <utility>
 
 #include "host/engine.h"
 
@@ -16,6 +18,18 @@ std::string textFault(host::Engine& engine);
 
 /// Two fields of a window that are seen upon each other; empty when there are none.
 std::string fieldFault(const host::Engine& engine);
+
+/// Watches the order in which slots run: a window loads before anything else, once; focus and lost focus of a control come in
+/// pairs.
+class SlotOrder {
+public:
+    /// What is wrong with this slot now; empty when nothing is.
+    std::string note(const host::Window& window, host::Handle control, host::Event event);
+
+private:
+    std::set<unsigned> loaded_;
+    std::set<std::pair<unsigned, host::Handle>> focused_;
+};
 
 /// A number that is none, as a word of its own: "inf", "-nan".
 bool namesNoNumber(std::string_view text);

@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <exception>
 
-#include "player/consistency.h"
-
 namespace velmor::player {
 
 namespace player_detail {
@@ -32,12 +30,15 @@ void Player::startProgram()
     using namespace player_detail;
     coverage_.startAgain();
     failureKind_.clear();
+    order_ = {};
     engine_.reset();
     screen_ = std::make_unique<PlayerScreen>(chance_, ground_);
     engine_ = std::make_unique<host::Engine>(program_.catalogue, *screen_, settings_);
     screen_->meanwhile = [this] { meanwhile(); };
     engine_->onSlot = [this](const host::Window& window, host::Handle control, host::Event event) {
         coverage_.slotRan(window, control, event);
+        if (orderFault_.empty())
+            orderFault_ = order_.note(window, control, event);
         if (++slotsInEvent_ > slotsWithoutEnd)
             throw Endless();
     };
@@ -154,7 +155,9 @@ void Player::check()
             newestWindow_ = window->serial();
             coverage_.leaveOut(*window);
         }
-    std::string fault = engine_->ended() ? std::string() : engineFault(*engine_);
+    std::string fault = orderFault_;
+    if (fault.empty() && !engine_->ended())
+        fault = engineFault(*engine_);
     if (fault.empty())
         fault = textFault(*engine_);
     if (fault.empty() && events_ % fieldsLookedAt == 0)

@@ -13,6 +13,7 @@
 #include "console/walk.h"
 #include "host/settings_store.h"
 #include "player/chance.h"
+#include "player/consistency.h"
 #include "player/coverage.h"
 #include "player/player_screen.h"
 
@@ -146,6 +147,8 @@ private:
     std::uint64_t events_ = 0;
     int slotsInEvent_ = 0;
     unsigned newestWindow_ = 0;
+    SlotOrder order_;
+    std::string orderFault_;
     std::string failureKind_;
     std::string fault_;
     std::deque<Remembered> history_;

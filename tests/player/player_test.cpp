@@ -116,6 +116,8 @@ TEST(Player, TwoProgramsPlayedInTurnDoNotFeelEachOther)
 
 // --- a program with every fault that the player must find
 
+using host::Event;
+
 enum Bad : host::Handle { Text1, Text2, Result, Bell, Loop, Error, Never };
 
 // clang-format off
@@ -151,11 +153,8 @@ public:
         while (asksForEver)
             host().MsgBox("again?", 0, "");
     }
-    void lost()
-    {
-        if (loops)
-            host().SetFocus(*this, Text1);
-    }
+    void load() {}
+    void lost() {}
     void focused()
     {
         if (loops)
@@ -172,6 +171,8 @@ public:
 constexpr host::SlotRow badSlots[] = {
     {Bell,  host::Event::click,     host::slot<&BadWindow::click>},
     {Text1, host::Event::focus,     host::slot<&BadWindow::focused>},
+    {Text1, host::Event::lostFocus, host::slot<&BadWindow::lost>},
+    {host::noControl, host::Event::load, host::slot<&BadWindow::load>},
     {Text2, host::Event::focus,     host::slot<&BadWindow::focused>},
     {Error, host::Event::hover,     host::slot<&BadWindow::error>},
     {Never, host::Event::click,     host::slot<&BadWindow::click>},
@@ -260,11 +261,11 @@ TEST_F(BadProgram, AFailureOfArithmeticIsNoFaultAndTheProgramStartsAnew)
     EXPECT_GT(player.coverage().failures().begin()->second.count, 5);
 }
 
-// Four of five slots: eight in ten.
+// Six of seven slots.
 TEST_F(BadProgram, ASlotThatIsNeverReachedIsMissed)
 {
     EXPECT_EQ(faultAfter(3'000), "");
-    EXPECT_EQ(player.coverage().of("Bad").reached.size(), 4u);
+    EXPECT_EQ(player.coverage().of("Bad").reached.size(), 6u);
     EXPECT_EQ(player.coverage().shortOf("Bad"), std::vector<std::string>{"Bad"});
     EXPECT_NE(summary(player.coverage()).find("not reached: Bad Never click"), std::string::npos);
 }
@@ -279,6 +280,25 @@ TEST_F(BadProgram, AFocusThatCannotBeHeldIsFound)
     EXPECT_EQ(engineFault(engine), "");
     window.hide(Text2); // behind the engine's back: inside an event it would be settled
     EXPECT_EQ(engineFault(engine), "Bad: the focus is on Text2, which cannot hold it");
+}
+
+TEST_F(BadProgram, SlotsOutOfOrderAreFound)
+{
+    ASSERT_EQ(faultAfter(2), "");
+    host::Engine& engine = player.engine();
+    engine.userRun([&] { engine.host().Show("Bad"); });
+    const host::Window& window = *engine.defaultInstance("Bad");
+    SlotOrder order;
+    EXPECT_EQ(order.note(window, host::noControl, Event::load), "");
+    EXPECT_EQ(order.note(window, host::noControl, Event::load), "Bad loads twice");
+    EXPECT_EQ(order.note(window, Text1, Event::lostFocus), "Bad Text1 loses a focus that it has not");
+    EXPECT_EQ(order.note(window, Text1, Event::focus), "");
+    EXPECT_EQ(order.note(window, Text1, Event::focus), "Bad Text1 gets the focus twice");
+    EXPECT_EQ(order.note(window, Text1, Event::lostFocus), "");
+    EXPECT_EQ(order.note(window, Text1, Event::focus), "");
+    EXPECT_EQ(order.note(window, Text2, Event::focus), "") << "Text2 has no slot for its loss, so there are no pairs";
+    EXPECT_EQ(order.note(window, Text2, Event::focus), "");
+    EXPECT_EQ(SlotOrder().note(window, Text1, Event::click), "a slot of Bad runs before it is loaded");
 }
 
 TEST(Consistency, ANumberThatIsNoneIsAWordOfItsOwn)

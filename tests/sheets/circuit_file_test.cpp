@@ -265,6 +265,51 @@ TEST(CircuitFile, ASaveIntoAFolderThatIsNotThereEndsInSilence)
     EXPECT_EQ(sheet.NombreArchivo(), program.path("no/such.RDC"));
 }
 
+// True where an ordinary user, to whom permissions apply, sees the deed come out so; in a process of its own.
+template <class Deed>
+bool asOrdinaryUser(Deed deed)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        if (::geteuid() == 0 && ::seteuid(65534) != 0)
+            ::_exit(2);
+        ::_exit(deed() ? 0 : 1);
+    }
+    int state = -1;
+    ::waitpid(child, &state, 0);
+    return WIFEXITED(state) && WEXITSTATUS(state) == 0;
+}
+
+TEST(CircuitFile, AFileThatMayNotBeReadChangesNothing)
+{
+    Opened file;
+    const std::filesystem::path path = file.program.folder.put("closed.RDC", designLines);
+    std::filesystem::permissions(path, std::filesystem::perms::none);
+    file.sheet.setNombreArchivo(path.string());
+    file.program.press(file.sheet, '5');
+    EXPECT_TRUE(asOrdinaryUser([&] {
+        file.program.run([&] { file.sheet.Abrir(); });
+        return file.untouched() && file.program.screen.boxes.empty();
+    }));
+}
+
+TEST(CircuitFile, ASaveIntoAFolderThatMayNotBeWrittenEndsInSilence)
+{
+    SheetProgram program;
+    TemplateSheet& sheet = finishedSheet(program);
+    sheet.setNombreArchivo(program.folder.put("old.RDC", "the old design").string());
+    std::filesystem::permissions(program.folder.path(),
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec |
+                                     std::filesystem::perms::others_read | std::filesystem::perms::others_exec);
+    EXPECT_TRUE(asOrdinaryUser([&] {
+        program.run([&] { sheet.Guardar(); });
+        return sheet.modificado() == trueValue && program.screen.boxes.empty();
+    }));
+    std::filesystem::permissions(program.folder.path(), std::filesystem::perms::owner_all);
+    EXPECT_EQ(program.folder.content("old.RDC"), "the old design");
+    EXPECT_EQ(program.folder.entries(), 1);
+}
+
 // The disk takes no byte more: in a process of its own, since the limit holds for all of it.
 TEST(CircuitFile, ASaveThatIsInterruptedLeavesTheOldFileWholeAndTheSheetChanged)
 {
