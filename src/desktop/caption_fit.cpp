@@ -88,6 +88,8 @@ Manner mannerOf(const host::ControlRow& row)
     case Kind::label:
         if (row.look == Look::toolButton)
             manner = {.padding = {4.0, 2.0, 4.0, 2.0}, .alignment = Qt::AlignCenter};
+        if (row.look == Look::paper)
+            manner.padding = {10.0, 4.0, 8.0, 4.0};
         break;
     case Kind::picture:
     case Kind::image:

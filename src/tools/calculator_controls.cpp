@@ -15,7 +15,7 @@ using host::SlotRow;
 namespace table {
 
 // clang-format off
-constexpr host::Place fieldPlace{300, 1950, 4500, 450};
+constexpr host::Place fieldPlace{300, 1230, 4500, 450};
 constexpr ControlRow controls[] = {
     {.id = Text1, .name = "Text1", .kind = Kind::field, .place = fieldPlace, .visible = false, .enabled = false,
      .meaning = {.es = "Tensión de salida Eo", .en = "Output voltage Eo"}},
@@ -29,14 +29,14 @@ constexpr ControlRow controls[] = {
      .meaning = {.es = "Impedancia de carga Zo", .en = "Load impedance Zo"}},
     {.id = Text6, .name = "Text6", .kind = Kind::field, .place = fieldPlace, .visible = false, .enabled = false,
      .meaning = {.es = "Impedancia de entrada Zi", .en = "Input impedance Zi"}},
-    {.id = Command3, .name = "Command3", .kind = Kind::button, .place = {300, 300, 1560, 480}, .text = "Decibeles",
+    {.id = Command3, .name = "Command3", .kind = Kind::button, .place = {300, 1890, 1560, 480}, .text = "Decibeles",
      .meaning = {.es = "Ganancia de tensión", .en = "Voltage gain"}},
-    {.id = Command4, .name = "Command4", .kind = Kind::button, .place = {1980, 300, 1560, 480}, .text = "Po / Pi",
+    {.id = Command4, .name = "Command4", .kind = Kind::button, .place = {1980, 1890, 1560, 480}, .text = "Po / Pi",
      .meaning = {.es = "Ganancia de potencia", .en = "Power gain"}},
-    {.id = Command5, .name = "Command5", .kind = Kind::button, .place = {3660, 300, 1140, 480}, .text = "Off",
+    {.id = Command5, .name = "Command5", .kind = Kind::button, .place = {3660, 1890, 1140, 480}, .text = "Off",
      .meaning = {.es = "Ocultar la calculadora", .en = "Hide the calculator"}},
-    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {300, 2550, 4500, 840}, .look = Look::hint},
-    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {300, 960, 4500, 840}, .look = Look::prompt},
+    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {300, 2520, 4500, 840}, .look = Look::hint},
+    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {300, 300, 4500, 840}, .look = Look::paper, .fontSize = 9},
 };
 static_assert(host::rowsInOrder(controls));
 
@@ -73,7 +73,7 @@ const host::WindowSpec spec{
     .name = "Calculator",
     .role = host::Role::tool,
     .caption = " Calculadora Velmor.",
-    .place = {0, 0, 5100, 3690},
+    .place = {0, 0, 5100, 3660},
     .controls = table::controls,
     .slots = table::slots,
     .tabOrder = table::order,
