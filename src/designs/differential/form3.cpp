@@ -105,9 +105,10 @@ void Form3::hoverField(host::EventArgs& args)
     }
 }
 
+// Over a part the status line is that of the field in hand again, not of what was pointed at before.
 void Form3::hoverPart(host::EventArgs& args)
 {
-    endPointing();
+    hoverBackground();
     for (const texts::PartRow& row : texts::partRows())
         if (row.part == args.control) {
             setText(Label36, pick(row.name));
