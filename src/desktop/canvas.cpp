@@ -155,12 +155,13 @@ bool Canvas::isGround(Handle control) const
     return model_->role() == host::Role::mainWindow && row.kind == host::Kind::panel && row.parent == noControl;
 }
 
-void Canvas::paintOne(QPainter& painter, Handle control, const QRectF& clip)
+void Canvas::paintOne(QPainter& painter, Handle control, const QRegion& clip)
 {
     if (model_ == nullptr || !shows(control) || model_->row(control).look == host::Look::invisible || isGround(control))
         return;
     // Measuring what a control paints on costs as much as painting it: a whole canvas is painted without asking.
-    if (!clip.contains(rect()) && !ink(control).intersects(clip))
+    const bool everything = clip.rectCount() == 1 && clip.boundingRect().contains(rect());
+    if (!everything && !clip.intersects(ink(control).toAlignedRect()))
         return;
     if (isPagePicture(*model_, control))
         paintPagePicture(painter, *model_, control, view_);
@@ -174,10 +175,9 @@ void Canvas::paintEvent(QPaintEvent* event)
     painter.fillRect(event->rect(), view_.inks->paper);
     if (model_ == nullptr)
         return;
-    const QRectF clip(event->rect());
     for (const host::ControlRow& row : model_->spec().controls)
         if (!row.overlay && hasPlace(row.kind))
-            paintOne(painter, row.id, clip);
+            paintOne(painter, row.id, event->region());
 }
 
 void Canvas::repaintControl(Handle control)

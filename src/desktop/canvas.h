@@ -59,7 +59,7 @@ public:
     void setHovered(host::Handle control);
     void setPressed(host::Handle control);
     void repaintControl(host::Handle control);
-    void paintOne(QPainter& painter, host::Handle control, const QRectF& clip);
+    void paintOne(QPainter& painter, host::Handle control, const QRegion& clip);
     const CanvasPlan::Entry& planOf(host::Handle control) const { return plan_.entries[control]; }
     QString tipOf(host::Handle control) const;
     Pointer& pointer() { return *pointer_; }

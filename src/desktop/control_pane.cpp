@@ -98,7 +98,7 @@ void ControlPane::paintEvent(QPaintEvent* event)
         return;
     QPainter painter(this);
     painter.translate(-pos());
-    canvas_.paintOne(painter, control_, event->rect().translated(pos()));
+    canvas_.paintOne(painter, control_, event->region().translated(pos()));
 }
 
 void ControlPane::focusInEvent(QFocusEvent* event)
