@@ -16,6 +16,7 @@
 #include <unistd.h>
 
 #include "desktop/desktop_screen.h"
+#include "desktop/quiet_style.h"
 #include "desktop/settings_file.h"
 #include "host/engine.h"
 #include "program/catalogue.h"
@@ -136,7 +137,7 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new velmor::desktop::QuietStyle);
     QApplication::setQuitOnLastWindowClosed(false);
 
     velmor::desktop::SettingsFile settings;

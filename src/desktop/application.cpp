@@ -5,6 +5,7 @@
 
 #include "desktop/control_pane.h"
 #include "desktop/program_icon.h"
+#include "desktop/quiet_style.h"
 
 namespace velmor::desktop {
 
@@ -16,7 +17,7 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
     setDesktopFileName(QStringLiteral("velmor"));
     setQuitOnLastWindowClosed(false);
     setWindowIcon(programIcon());
-    setStyle(QStringLiteral("Fusion"));
+    setStyle(new QuietStyle);
     tellAssistiveTechnology();
 }
 

@@ -12,6 +12,7 @@
 
 #include "desktop/caption_fit.h"
 #include "desktop/field_marks.h"
+#include "desktop/plates.h"
 #include "desktop/schematic_painter.h"
 #include "desktop/typefaces.h"
 
@@ -70,10 +71,9 @@ double hairline(const Scene& scene)
 
 void plate(const Scene& scene, const QColor& ground, const QColor& border, double radius, double width)
 {
-    scene.painter.setPen(border.isValid() ? QPen(border, width) : QPen(Qt::NoPen));
-    scene.painter.setBrush(ground.isValid() ? QBrush(ground) : QBrush(Qt::NoBrush));
     const double round = std::min(radius * scene.unit(), std::min(scene.box.width(), scene.box.height()) / 2.0);
-    scene.painter.drawRoundedRect(crisp(scene, scene.box), round, round);
+    const PlateLook look{ground, border, round, width};
+    (scene.view.forPrint ? paintPlate : paintPlateOnScreen)(scene.painter, crisp(scene, scene.box), look);
 }
 
 void focusRing(const Scene& scene)

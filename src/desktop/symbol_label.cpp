@@ -4,7 +4,9 @@
 
 #include <algorithm>
 
+#include <QByteArray>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPainter>
 
 #include "desktop/typefaces.h"
@@ -76,11 +78,8 @@ Style styleOf(const QString& text, qsizetype position, bool inWord, Style before
     return isSymbolWord(text, position) || afterOperator ? Style::italic : Style::upright;
 }
 
-} // namespace labels
-
-SymbolLabel setLabel(std::string_view name, double pixels)
+SymbolLabel setName(std::string_view name, double pixels)
 {
-    using namespace labels;
     const QString text = prepared(name);
     SymbolLabel label;
     label.capHeight = QFontMetricsF(drawingFont(pixels, false)).capHeight();
@@ -113,12 +112,37 @@ SymbolLabel setLabel(std::string_view name, double pixels)
     return label;
 }
 
-SymbolLabel setUpright(const QString& text, double pixels)
+SymbolLabel setPlain(const QString& text, double pixels)
 {
     SymbolLabel label;
     label.capHeight = QFontMetricsF(drawingFont(pixels, false)).capHeight();
-    labels::add(label, text, labels::Style::upright, pixels);
+    add(label, text, Style::upright, pixels);
     return label;
+}
+
+/// The same names are set at every repaint. Each kind of setting has a memory of its own.
+template <class Set> SymbolLabel remembered(const QByteArray& text, double pixels, Set set)
+{
+    static QHash<std::pair<QByteArray, double>, SymbolLabel> known;
+    const auto found = known.constFind({text, pixels});
+    if (found != known.constEnd())
+        return *found;
+    if (known.size() > 4000)
+        known.clear();
+    return *known.insert({text, pixels}, set());
+}
+
+} // namespace labels
+
+SymbolLabel setLabel(std::string_view name, double pixels)
+{
+    const QByteArray text(name.data(), static_cast<qsizetype>(name.size()));
+    return labels::remembered(text, pixels, [&] { return labels::setName(name, pixels); });
+}
+
+SymbolLabel setUpright(const QString& text, double pixels)
+{
+    return labels::remembered(text.toUtf8(), pixels, [&] { return labels::setPlain(text, pixels); });
 }
 
 void append(SymbolLabel& label, const SymbolLabel& next, double gap)

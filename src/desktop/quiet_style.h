@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+// The toolkit's plain style with flat title bars for child windows: one calm colour, four strokes for the buttons.
+#pragma once
+
+#include <QProxyStyle>
+
+class QStyleOptionTitleBar;
+
+namespace velmor::desktop {
+
+class QuietStyle final : public QProxyStyle {
+public:
+    QuietStyle();
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+
+private:
+    void drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter, const QWidget* widget) const;
+};
+
+} // namespace velmor::desktop
