@@ -20,9 +20,9 @@ constexpr int bottomMargin = 100;
 // clang-format off
 constexpr host::ControlRow controls[] = {
     {.id = Text1, .name = "Text1", .kind = Kind::page, .place = {0, 0, width, height},
-     .meaning = {.es = "Ayuda general", .en = "General help"}},
+     .meaning = {.es = "Ayuda general", .en = "General help"}, .fontSize = 9},
     {.id = Text2, .name = "Text2", .kind = Kind::page, .place = {0, 0, width, height}, .visible = false,
-     .meaning = {.es = "Ayuda general en inglés", .en = "General help"}},
+     .meaning = {.es = "Ayuda general en inglés", .en = "General help"}, .fontSize = 9},
 };
 static_assert(host::rowsInOrder(controls));
 

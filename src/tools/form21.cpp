@@ -22,9 +22,9 @@ constexpr host::ControlRow controls[] = {
     {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {150, 5865, 6300, 390}, .text = "Not available",
      .visible = false, .look = Look::note},
     {.id = Text22, .name = "Text22", .kind = Kind::page, .place = pagePlace,
-     .meaning = {.es = "Página de ayuda", .en = "Help page"}},
+     .meaning = {.es = "Página de ayuda", .en = "Help page"}, .fontSize = 9},
     {.id = Text23, .name = "Text23", .kind = Kind::page, .place = pagePlace, .visible = false,
-     .meaning = {.es = "Página de ayuda", .en = "Help page"}},
+     .meaning = {.es = "Página de ayuda", .en = "Help page"}, .fontSize = 9},
     {.id = SSCommand1, .name = "SSCommand1", .kind = Kind::button, .place = {150, 5820, 3000, 480},
      .text = "Para saber mäs...", .meaning = {.es = "Para saber más", .en = "To know more"}},
     {.id = SSCommand2, .name = "SSCommand2", .kind = Kind::button, .place = {3450, 5820, 3000, 480}, .text = "mas...",
@@ -45,7 +45,7 @@ host::Place shownPlaceOf(const host::Window& window, host::Handle control)
     if (control != Text22 && control != Text23)
         return window.placeOf(control);
     const bool buttons = window.visible(SSCommand1) || window.visible(SSCommand2);
-    const int top = window.visible(Label1) ? 600 : 150;
+    const int top = window.visible(Label1) && !window.text(Label1).empty() ? 600 : 150;
     return {150, top, 6300, (buttons ? 5670 : 6300) - top};
 }
 

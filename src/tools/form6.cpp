@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Table and pictures of the analysis sheet: approved, to be looked at, refused, and the traffic light.
+// Table and pictures of the analysis sheet: a clean signal, one clipped by its load or by the supply, one made smaller.
 #include "tools/form6.h"
 
 namespace velmor::form6 {
@@ -17,30 +17,32 @@ namespace table {
 constexpr BiText heading{.es = "Hoja de Análisis", .en = "Leaf of Analysis"};
 
 // clang-format off
-constexpr GridPoint tick[]     = {{22, 42}, {36, 56}, {62, 26}};
-constexpr GridPoint triangle[] = {{40, 10}, {74, 68}, {6, 68}, {40, 10}};
-constexpr GridPoint crossDown[] = {{24, 24}, {56, 56}};
-constexpr GridPoint crossUp[]   = {{56, 24}, {24, 56}};
+constexpr GridPoint clean[] = {{8, 40}, {12, 31}, {15, 23}, {19, 17}, {22, 14}, {26, 14}, {29, 17}, {33, 23}, {36, 31}, {40, 40}, {44, 49}, {47, 57}, {51, 63}, {54, 66}, {58, 66}, {61, 63}, {65, 57}, {68, 49}, {72, 40}};
+constexpr GridPoint flatTops[] = {{8, 40}, {12, 30}, {15, 25}, {19, 25}, {22, 25}, {26, 25}, {29, 25}, {33, 25}, {36, 30}, {40, 40}, {44, 50}, {47, 59}, {51, 66}, {54, 70}, {58, 70}, {61, 66}, {65, 59}, {68, 50}, {72, 40}};
+constexpr GridPoint flatBoth[] = {{8, 40}, {12, 28}, {15, 26}, {19, 26}, {22, 26}, {26, 26}, {29, 26}, {33, 26}, {36, 28}, {40, 40}, {44, 52}, {47, 54}, {51, 54}, {54, 54}, {58, 54}, {61, 54}, {65, 54}, {68, 52}, {72, 40}};
+constexpr GridPoint weak[] = {{8, 40}, {12, 37}, {15, 34}, {19, 31}, {22, 30}, {26, 30}, {29, 31}, {33, 34}, {36, 37}, {40, 40}, {44, 43}, {47, 46}, {51, 49}, {54, 50}, {58, 50}, {61, 49}, {65, 46}, {68, 43}, {72, 40}};
 
-constexpr Mark approved[] = {
-    {.symbol = Symbol::circle, .from = {6, 6}, .to = {74, 74}, .ink = Ink::accent},
-    {.symbol = Symbol::polyline, .ink = Ink::accent, .size = 250, .points = tick},
+constexpr Mark cleanSignal[] = {
+    {.symbol = Symbol::roundFrame, .from = {2, 4}, .to = {78, 76}},
+    {.symbol = Symbol::wire, .from = {6, 40}, .to = {74, 40}, .ink = Ink::quiet},
+    {.symbol = Symbol::polyline, .ink = Ink::accent, .points = clean},
 };
-constexpr Mark toLookAt[] = {
-    {.symbol = Symbol::polyline, .ink = Ink::warning, .size = 160, .points = triangle},
-    {.symbol = Symbol::wire, .from = {40, 30}, .to = {40, 50}, .ink = Ink::warning},
-    {.symbol = Symbol::node, .from = {40, 59}, .ink = Ink::warning},
+constexpr Mark clippedByTheLoad[] = {
+    {.symbol = Symbol::roundFrame, .from = {2, 4}, .to = {78, 76}},
+    {.symbol = Symbol::wire, .from = {6, 40}, .to = {74, 40}, .ink = Ink::quiet},
+    {.symbol = Symbol::dashedFrame, .from = {6, 25}, .to = {74, 25}, .ink = Ink::quiet},
+    {.symbol = Symbol::polyline, .ink = Ink::warning, .points = flatTops},
 };
-constexpr Mark refused[] = {
-    {.symbol = Symbol::circle, .from = {6, 6}, .to = {74, 74}, .ink = Ink::warning},
-    {.symbol = Symbol::polyline, .ink = Ink::warning, .size = 250, .points = crossDown},
-    {.symbol = Symbol::polyline, .ink = Ink::warning, .size = 250, .points = crossUp},
+constexpr Mark clippedByTheSupply[] = {
+    {.symbol = Symbol::roundFrame, .from = {2, 4}, .to = {78, 76}},
+    {.symbol = Symbol::dashedFrame, .from = {6, 26}, .to = {74, 26}, .ink = Ink::quiet},
+    {.symbol = Symbol::dashedFrame, .from = {6, 54}, .to = {74, 54}, .ink = Ink::quiet},
+    {.symbol = Symbol::polyline, .ink = Ink::warning, .points = flatBoth},
 };
-constexpr Mark trafficLight[] = {
-    {.symbol = Symbol::roundFrame, .from = {24, 2}, .to = {56, 78}},
-    {.symbol = Symbol::circle, .from = {31, 7}, .to = {49, 25}, .ink = Ink::warning},
-    {.symbol = Symbol::circle, .from = {31, 31}, .to = {49, 49}},
-    {.symbol = Symbol::circle, .from = {31, 55}, .to = {49, 73}, .ink = Ink::accent},
+constexpr Mark weakSignal[] = {
+    {.symbol = Symbol::roundFrame, .from = {2, 4}, .to = {78, 76}},
+    {.symbol = Symbol::polyline, .ink = Ink::quiet, .points = clean},
+    {.symbol = Symbol::polyline, .ink = Ink::warning, .points = weak},
 };
 
 constexpr host::Place picturePlace{300, 960, 1200, 1200};
@@ -51,13 +53,13 @@ constexpr host::ControlRow controls[] = {
      .text = "                Sin datos...", .look = Look::prompt},
     {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {300, 3750, 6150, 900}, .look = Look::note},
     {.id = Image2, .name = "Image2", .kind = Kind::image, .place = picturePlace, .visible = false,
-     .meaning = {.es = "Aprobado", .en = "Approved"}, .drawing = approved},
+     .meaning = {.es = "Señal sin deformar", .en = "Undistorted signal"}, .drawing = cleanSignal},
     {.id = Image3, .name = "Image3", .kind = Kind::image, .place = picturePlace, .visible = false,
-     .meaning = {.es = "Para revisar", .en = "To be looked at"}, .drawing = toLookAt},
+     .meaning = {.es = "Señal recortada: ERL no alcanza", .en = "Clipped signal: ERL does not suffice"}, .drawing = clippedByTheLoad},
     {.id = Image4, .name = "Image4", .kind = Kind::image, .place = picturePlace, .visible = false,
-     .meaning = {.es = "No cumple", .en = "Refused"}, .drawing = refused},
+     .meaning = {.es = "Señal recortada: la fuente no alcanza", .en = "Clipped signal: the supply does not suffice"}, .drawing = clippedByTheSupply},
     {.id = Image5, .name = "Image5", .kind = Kind::image, .place = picturePlace, .visible = false,
-     .meaning = {.es = "Semáforo", .en = "Traffic light"}, .drawing = trafficLight},
+     .meaning = {.es = "Señal que la carga disminuye", .en = "Signal that the load makes smaller"}, .drawing = weakSignal},
 };
 static_assert(host::rowsInOrder(controls));
 
@@ -65,6 +67,15 @@ constexpr host::SlotRow slots[] = {
     {host::noControl, host::Event::activate, host::slot<&Form6::activate>},
 };
 // clang-format on
+
+// Two pictures at a time stand one below the other.
+host::Place shownPlaceOf(const host::Window& window, host::Handle control)
+{
+    host::Place place = window.placeOf(control);
+    if ((control == Image3 || control == Image5) && place == picturePlace && window.visible(Image2))
+        place.top += place.height + 150;
+    return place;
+}
 
 } // namespace table
 
@@ -83,6 +94,7 @@ const host::WindowSpec spec{
     .controls = table::controls,
     .slots = table::slots,
     .create = create,
+    .shownPlace = table::shownPlaceOf,
 };
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)
