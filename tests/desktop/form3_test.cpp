@@ -3,9 +3,9 @@
 // reading taken, and every text inside its place in both languages, at three sizes, at each stage.
 #include <gtest/gtest.h>
 
+#include "designs/differential/form3_controls.h"
 #include "desktop/control_painter.h"
 #include "desktop/desktop_fixture.h"
-#include "designs/differential/form3_controls.h"
 #include "program/catalogue.h"
 
 namespace velmor::test::form3_test {
@@ -69,8 +69,8 @@ std::vector<std::string> complaints(const host::Window& sheet, const desktop::Vi
             continue;
         if (!desktop::captionFits(sheet, row.id, view))
             found.push_back(std::string(row.name) + " does not fit: " + sheet.text(row.id));
-        const QRectF box = row.kind == Kind::field ? desktop::boxOf(sheet, row.id, view)
-                                                   : desktop::captionBounds(sheet, row.id, view);
+        const QRectF box =
+            row.kind == Kind::field ? desktop::boxOf(sheet, row.id, view) : desktop::captionBounds(sheet, row.id, view);
         all.push_back({&row, box.adjusted(1, 1, -1, -1)});
     }
     for (std::size_t i = 0; i < all.size(); ++i)

@@ -59,7 +59,7 @@ void Form3::showFields(bool shown)
 
 void Form3::placePage()
 {
-    setPlaceOf(SSPanel4, !visible(Text1)    ? pageInsteadOfFields
+    setPlaceOf(SSPanel4, !visible(Text1)   ? pageInsteadOfFields
                          : visible(Image3) ? pageUnderInstrument
                                            : pageBesidePicture);
 }

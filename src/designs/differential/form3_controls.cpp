@@ -19,8 +19,6 @@ using host::slot;
 namespace table {
 
 constexpr int unit = 15; ///< twips of one unit of the drawing grid
-constexpr int sheetWidth = 1200;
-constexpr int sheetHeight = 620;
 constexpr int pictureLeft = 272;
 constexpr int pictureTop = 66;
 
@@ -29,6 +27,8 @@ constexpr Place at(int left, int top, int width, int height)
     return {left * unit, top * unit, width * unit, height * unit};
 }
 
+constexpr Place sheet = at(0, 0, 1200, 620);
+
 /// A place in the picture, whose own grid the drawings use.
 constexpr Place in(int left, int top, int width, int height)
 {
@@ -36,15 +36,27 @@ constexpr Place in(int left, int top, int width, int height)
 }
 
 /// A point of the picture that takes clicks and drops.
-constexpr Place spot(int x, int y) { return in(x - 14, y - 14, 28, 28); }
+constexpr Place spot(int x, int y)
+{
+    return in(x - 14, y - 14, 28, 28);
+}
 
-constexpr Place field(int row) { return at(112, 96 + 31 * row, 84, 22); }
-constexpr Place transistorField(int row) { return at(112, 446 + 33 * row, 84, 22); }
+constexpr Place field(int row)
+{
+    return at(112, 96 + 31 * row, 84, 22);
+}
+constexpr Place transistorField(int row)
+{
+    return at(112, 446 + 33 * row, 84, 22);
+}
 
 constexpr Place picture = in(0, 0, 678, 514);
 constexpr Place instrument = at(962, 114, 228, 186);
 constexpr Place formula = at(646, 7, 308, 52);
-constexpr Place tool(int index) { return at(962 + 46 * index, 12, 42, 38); }
+constexpr Place tool(int index)
+{
+    return at(962 + 46 * index, 12, 42, 38);
+}
 constexpr Place page = at(951, 50, 249, 427);
 constexpr Place pageAlone = at(962, 114, 228, 466);
 
@@ -96,8 +108,8 @@ constexpr ControlRow controls[] = {
      .meaning = {.es = "temperatura ambiente", .en = "ambient temperature"}},
     {.id = Text7,  .name = "Text7",  .kind = Kind::field, .place = field(2), .text = "2.75", .enabled = false, .symbol = "ΔV_be", .unit = "mV",
      .meaning = {.es = "cambio de Vbe por grado", .en = "change of Vbe per degree"}},
-    {.id = Text8,  .name = "Text8",  .kind = Kind::field, .place = in(396, 429, 66, 22), .text = "Ebias", .enabled = false, .symbol = "-E_bias", .unit = "V",
-     .meaning = {.es = "fuente negativa -Ebias", .en = "negative supply -Ebias"}},
+    {.id = Text8,  .name = "Text8",  .kind = Kind::field, .place = in(402, 429, 66, 22), .text = "Ebias", .enabled = false, .unit = "V",
+     .meaning = {.es = "-Ebias, fuente negativa", .en = "-Ebias, negative supply"}},
     {.id = Text9,  .name = "Text9",  .kind = Kind::field, .place = field(3), .text = "0.5",  .enabled = false, .symbol = "Q_ic", .unit = "mA",
      .meaning = {.es = "corriente de reposo de un transistor", .en = "quiescent current of one transistor"}},
     {.id = Text10, .name = "Text10", .kind = Kind::field, .place = field(4), .text = "16",   .enabled = false, .symbol = "R_Lw", .unit = "kΩ",
@@ -112,12 +124,12 @@ constexpr ControlRow controls[] = {
      .meaning = {.es = "tensión de salida pico a pico", .en = "output peak to peak"}},
     {.id = Text15, .name = "Text15", .kind = Kind::field, .place = field(9), .enabled = false, .symbol = "E_in", .unit = "V rms",
      .meaning = {.es = "tensión de entrada", .en = "input voltage"}},
-    {.id = Text16, .name = "Text16", .kind = Kind::field, .place = in(382, 349, 66, 22), .visible = false, .enabled = false, .symbol = "R_es", .unit = "kΩ",
-     .meaning = {.es = "resistor común de emisores Res", .en = "common emitter resistor Res"}},
-    {.id = Text17, .name = "Text17", .kind = Kind::field, .place = in(126, 99, 66, 22), .visible = false, .enabled = false, .symbol = "R_L", .unit = "kΩ",
-     .meaning = {.es = "resistor de Colector RL", .en = "collector resistor RL"}},
-    {.id = Text18, .name = "Text18", .kind = Kind::field, .place = in(380, 25, 66, 22), .visible = false, .enabled = false, .symbol = "+E_s", .unit = "V",
-     .meaning = {.es = "fuente positiva Es", .en = "positive supply Es"}},
+    {.id = Text16, .name = "Text16", .kind = Kind::field, .place = in(388, 349, 66, 22), .visible = false, .enabled = false, .unit = "kΩ",
+     .meaning = {.es = "Res, resistor común de emisores", .en = "Res, common emitter resistor"}},
+    {.id = Text17, .name = "Text17", .kind = Kind::field, .place = in(112, 99, 66, 22), .visible = false, .enabled = false, .unit = "kΩ",
+     .meaning = {.es = "RL, resistor de Colector", .en = "RL, collector resistor"}},
+    {.id = Text18, .name = "Text18", .kind = Kind::field, .place = in(386, 25, 66, 22), .visible = false, .enabled = false, .unit = "V",
+     .meaning = {.es = "+Es, fuente positiva", .en = "+Es, positive supply"}},
 
     {.id = Image4,  .name = "Image4",  .kind = Kind::image, .place = spot(340, 180), .visible = false,
      .meaning = {.es = "Out 3, entre Colectores", .en = "Out 3, between Collectors"}, .drawing = drawings::point},
@@ -453,7 +465,8 @@ Place shown(const host::Window& window, host::Handle control)
 
 } // namespace table
 
-static_assert(table::shortcuts[powerKey].action == KeyAction::run && table::shortcuts[backKey].action == KeyAction::run);
+static_assert(table::shortcuts[powerKey].action == KeyAction::run &&
+              table::shortcuts[backKey].action == KeyAction::run);
 
 const std::span<const PointPlaces> pointPlaces = table::points;
 const std::span<const GeneratorPart> generatorParts = table::generator;
@@ -493,7 +506,7 @@ const host::WindowSpec spec{
     .name = "Form3",
     .role = host::Role::sheet,
     .caption = "  Diferencial Simple",
-    .place = {0, 0, table::sheetWidth * table::unit, table::sheetHeight * table::unit},
+    .place = table::sheet,
     .controls = table::controls,
     .slots = table::framedSlots,
     .tabOrder = table::tabOrder,

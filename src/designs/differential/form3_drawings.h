@@ -23,7 +23,7 @@ using host::Symbol;
 
 constexpr Mark paleNegativeSupply[] = {
     {.symbol = Symbol::wire, .from = {340, 390}, .to = {340, 440}, .ink = Ink::quiet},
-    {.symbol = Symbol::terminal, .from = {340, 440}, .ink = Ink::quiet},
+    {.symbol = Symbol::terminal, .from = {340, 440}, .name = "-E_bias", .side = Side::right, .ink = Ink::quiet},
 };
 constexpr Mark paleTail[] = {
     {.symbol = Symbol::wire, .from = {340, 310}, .to = {340, 330}, .ink = Ink::quiet},
@@ -77,18 +77,18 @@ constexpr Mark didactic[] = {
      .ink = Ink::quiet},
 };
 
-// The parts as the chain reaches them; the field beside each bears its name.
+// The parts as the chain reaches them. Their names serve the fields beside them, which bear none of their own.
 
 constexpr Mark negativeSupply[] = {
     {.symbol = Symbol::wire, .from = {340, 390}, .to = {340, 440}},
-    {.symbol = Symbol::terminal, .from = {340, 440}, .field = Text8},
+    {.symbol = Symbol::terminal, .from = {340, 440}, .name = "-E_bias", .side = Side::right, .field = Text8},
 };
 constexpr Mark tail[] = {
     {.symbol = Symbol::wire, .from = {340, 310}, .to = {340, 330}},
-    {.symbol = Symbol::resistor, .from = {340, 330}, .to = {340, 390}, .field = Text16},
+    {.symbol = Symbol::resistor, .from = {340, 330}, .to = {340, 390}, .name = "R_es", .side = Side::right, .field = Text16},
 };
 constexpr Mark collectorResistors[] = {
-    {.symbol = Symbol::resistor, .from = {240, 80}, .to = {240, 140}, .field = Text17},
+    {.symbol = Symbol::resistor, .from = {240, 80}, .to = {240, 140}, .name = "R_L", .side = Side::left, .field = Text17},
     {.symbol = Symbol::wire, .from = {240, 140}, .to = {240, 180}},
     {.symbol = Symbol::resistor, .from = {440, 80}, .to = {440, 140}, .name = "R_L", .side = Side::right, .field = Text17},
     {.symbol = Symbol::wire, .from = {440, 140}, .to = {440, 180}},
@@ -99,16 +99,16 @@ constexpr Mark positiveSupply[] = {
     {.symbol = Symbol::wire, .from = {440, 60}, .to = {440, 80}},
     {.symbol = Symbol::wire, .from = {340, 36}, .to = {340, 60}},
     {.symbol = Symbol::node, .from = {340, 60}},
-    {.symbol = Symbol::terminal, .from = {340, 36}, .field = Text18},
+    {.symbol = Symbol::terminal, .from = {340, 36}, .name = "+E_s", .side = Side::right, .field = Text18},
 };
 
 constexpr Mark finished[] = {
-    {.symbol = Symbol::terminal, .from = {340, 36}, .field = Text18},
+    {.symbol = Symbol::terminal, .from = {340, 36}, .name = "+E_s", .side = Side::right, .field = Text18},
     {.symbol = Symbol::wire, .from = {340, 36}, .to = {340, 60}},
     {.symbol = Symbol::wire, .from = {240, 60}, .to = {440, 60}},
     {.symbol = Symbol::node, .from = {340, 60}},
     {.symbol = Symbol::wire, .from = {240, 60}, .to = {240, 80}},
-    {.symbol = Symbol::resistor, .from = {240, 80}, .to = {240, 140}, .field = Text17},
+    {.symbol = Symbol::resistor, .from = {240, 80}, .to = {240, 140}, .name = "R_L", .side = Side::left, .field = Text17},
     {.symbol = Symbol::wire, .from = {240, 140}, .to = {240, 220}},
     {.symbol = Symbol::wire, .from = {440, 60}, .to = {440, 80}},
     {.symbol = Symbol::resistor, .from = {440, 80}, .to = {440, 140}, .name = "R_L", .side = Side::right, .field = Text17},
@@ -124,9 +124,9 @@ constexpr Mark finished[] = {
     {.symbol = Symbol::wire, .from = {240, 310}, .to = {440, 310}},
     {.symbol = Symbol::node, .from = {340, 310}},
     {.symbol = Symbol::wire, .from = {340, 310}, .to = {340, 330}},
-    {.symbol = Symbol::resistor, .from = {340, 330}, .to = {340, 390}, .field = Text16},
+    {.symbol = Symbol::resistor, .from = {340, 330}, .to = {340, 390}, .name = "R_es", .side = Side::right, .field = Text16},
     {.symbol = Symbol::wire, .from = {340, 390}, .to = {340, 440}},
-    {.symbol = Symbol::terminal, .from = {340, 440}, .field = Text8},
+    {.symbol = Symbol::terminal, .from = {340, 440}, .name = "-E_bias", .side = Side::right, .field = Text8},
     // input 1
     {.symbol = Symbol::wire, .from = {180, 250}, .to = {210, 250}},
     {.symbol = Symbol::node, .from = {180, 250}},

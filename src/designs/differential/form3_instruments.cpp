@@ -127,9 +127,8 @@ std::span<const ProbeRow> probeRows()
 const ProbeRow* probeRow(host::Handle point, const InputSignals& inputs)
 {
     const auto& table = instruments::probeTable;
-    const auto found = std::find_if(table.begin(), table.end(), [&](const ProbeRow& row) {
-        return row.point == point && row.inputs == inputs;
-    });
+    const auto found = std::find_if(table.begin(), table.end(),
+                                    [&](const ProbeRow& row) { return row.point == point && row.inputs == inputs; });
     return found == table.end() ? nullptr : &*found;
 }
 

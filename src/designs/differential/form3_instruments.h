@@ -47,10 +47,10 @@ struct MeterRow {
     Current current = Current::dc;
     Function function = Function::none;
     Real (*value)(const Quantities&) = nullptr;
-    host::BiText unit{};         ///< for `SSPanel1`
-    std::string_view comment{};  ///< for `Label37`
-    bool whole = false;          ///< cut to a whole number, not rounded to four decimals
-    bool finishedOnly = false;   ///< there is nothing to measure in the didactic picture
+    host::BiText unit{};        ///< for `SSPanel1`
+    std::string_view comment{}; ///< for `Label37`
+    bool whole = false;         ///< cut to a whole number, not rounded to four decimals
+    bool finishedOnly = false;  ///< there is nothing to measure in the didactic picture
 };
 
 /// Null where the meter shows nothing.

@@ -95,8 +95,8 @@ void Form3::leaveEbias()
         host().SetFocus(*this, Text8);
         writeNumber(*this, Text8, texts::fieldRow(Text8)->left);
     }
-    if (!sheets::correctFrom(*this, Text8, leastValue, texts::fieldRow(Text8)->otherwise)
-        && number(*this, Text8) < q_.EResMin)
+    if (!sheets::correctFrom(*this, Text8, leastValue, texts::fieldRow(Text8)->otherwise) &&
+        number(*this, Text8) < q_.EResMin)
         say(*this, texts::belowEResMin);
     makeBare(*this, Text8);
     q_.Ebias = number(*this, Text8);

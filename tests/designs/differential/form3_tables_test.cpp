@@ -67,7 +67,10 @@ Complaints aboutMeanings(std::span<const ControlRow> rows)
     return found;
 }
 
-bool bothLanguages(const BiText& text) { return !text.es.empty() && !text.en.empty(); }
+bool bothLanguages(const BiText& text)
+{
+    return !text.es.empty() && !text.en.empty();
+}
 
 Complaints aboutLines(std::span<const texts::StatusRow> rows, std::span<const Handle> due)
 {
@@ -94,7 +97,7 @@ Complaints aboutKeys(std::span<const host::ShortcutRow> rows)
     return found;
 }
 
-constexpr Handle chain[] = {Text1, Text6, Text7,  Text9, Text10, Text11, Text12, Text13, Text14,
+constexpr Handle chain[] = {Text1,  Text6, Text7, Text9, Text10, Text11, Text12, Text13, Text14,
                             Text15, Text5, Text2, Text3, Text4,  Text8,  Text16, Text17, Text18};
 
 TEST(Form3Tables, EveryControlHasItsNameOnceAndLiesInsideTheSheet)
@@ -150,7 +153,8 @@ TEST(Form3Tables, EnterLeadsThroughTheWholeChain)
         ASSERT_NE(row, nullptr) << i;
         EXPECT_EQ(row->next, chain[i + 1]) << i;
         EXPECT_LE(row->low, row->high) << i;
-        EXPECT_TRUE(row->otherwise >= row->low && row->otherwise <= row->high) << "the correction is out of range: " << i;
+        EXPECT_TRUE(row->otherwise >= row->low && row->otherwise <= row->high)
+            << "the correction is out of range: " << i;
     }
     EXPECT_EQ(texts::fieldRow(Text18), nullptr);
 }
