@@ -9,49 +9,60 @@ namespace velmor::desktop {
 
 namespace program_icon_detail {
 
-constexpr int drawnSize = 128;
+constexpr double drawnSize = 128.0;
+constexpr int sizes[] = {16, 24, 32, 48, 128};
+constexpr double smallest = 32.0; ///< below it the lines keep more of their weight
 
-void paintTransistor(QPainter& painter)
+void paintTransistor(QPainter& painter, double weight)
 {
-    const QColor ink(0x16, 0x18, 0x1d);
-    painter.setPen(QPen(ink, 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPen lead(Qt::white, 7.0 * weight, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    painter.setPen(lead);
     painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(QPointF(70, 64), 30, 30);
-    painter.drawPolyline(QPolygonF({{58, 56}, {82, 43}, {82, 22}}));
-    painter.drawPolyline(QPolygonF({{58, 72}, {82, 85}, {82, 106}}));
-    painter.drawLine(QPointF(40, 64), QPointF(58, 64));
-    painter.setPen(QPen(ink, 8, Qt::SolidLine, Qt::FlatCap));
-    painter.drawLine(QPointF(58, 46), QPointF(58, 82));
+    painter.drawEllipse(QPointF(70, 64), 37, 37);
+    painter.drawPolyline(QPolygonF({{56, 55}, {84, 38}, {84, 18}}));
+    painter.drawPolyline(QPolygonF({{56, 73}, {84, 90}, {84, 110}}));
+    painter.setPen(QPen(Qt::white, 10.0 * weight, Qt::SolidLine, Qt::FlatCap));
+    painter.drawLine(QPointF(56, 42), QPointF(56, 86));
     painter.setPen(Qt::NoPen);
-    painter.setBrush(ink);
-    painter.drawPolygon(QPolygonF({{79.5, 83.6}, {65.2, 82.4}, {71, 71.8}}));
+    painter.setBrush(Qt::white);
+    painter.drawPolygon(QPolygonF({{82, 89}, {62, 86.5}, {70.5, 72.5}}));
 }
 
-void paintSignal(QPainter& painter)
+void paintSignal(QPainter& painter, double weight)
 {
     QPainterPath wave(QPointF(14, 64));
-    wave.cubicTo(18, 51, 23, 51, 27, 64);
-    wave.cubicTo(31, 77, 36, 77, 40, 64);
-    painter.setPen(QPen(QColor(0x1f, 0x6f, 0xeb), 5, Qt::SolidLine, Qt::RoundCap));
+    wave.cubicTo(19, 47, 26, 47, 31, 64);
+    wave.cubicTo(36, 81, 43, 81, 48, 64);
+    wave.lineTo(54, 64);
+    painter.setPen(QPen(QColor(0xff, 0xd1, 0x66), 7.0 * weight, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(wave);
+}
+
+QPixmap drawn(int size)
+{
+    QPixmap pixmap(size, size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(size / drawnSize, size / drawnSize);
+    const double weight = size < smallest ? 1.25 : 1.0;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x1a, 0x5f, 0xb4));
+    painter.drawRoundedRect(QRectF(4, 4, 120, 120), 26, 26);
+    paintTransistor(painter, weight);
+    paintSignal(painter, weight);
+    return pixmap;
 }
 
 } // namespace program_icon_detail
 
 QIcon programIcon()
 {
-    QPixmap pixmap(program_icon_detail::drawnSize, program_icon_detail::drawnSize);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(0xc9, 0xc5, 0xb8), 2));
-    painter.setBrush(QColor(0xfb, 0xfa, 0xf6));
-    painter.drawRoundedRect(QRectF(8, 8, 112, 112), 20, 20);
-    program_icon_detail::paintTransistor(painter);
-    program_icon_detail::paintSignal(painter);
-    painter.end();
-    return QIcon(pixmap);
+    QIcon icon;
+    for (const int size : program_icon_detail::sizes)
+        icon.addPixmap(program_icon_detail::drawn(size));
+    return icon;
 }
 
 } // namespace velmor::desktop
