@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontMetrics>
 
 #include "desktop/texts.h"
 
@@ -13,6 +14,8 @@ namespace velmor::desktop {
 
 namespace file_question_detail {
 
+constexpr int lettersAcross = 115; ///< room for names, sizes and dates
+constexpr int linesDown = 32;
 constexpr int overwritePrompt = 0x2;
 
 // On a file system that tells capitals apart, "*.CEC" must also find "bass.cec".
@@ -66,6 +69,8 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& aske
     }
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !saves || (asked.flags & file_question_detail::overwritePrompt) == 0);
     dialog.setOption(QFileDialog::HideNameFilterDetails); // the description names its pattern itself
+    const QFontMetrics letters = dialog.fontMetrics();
+    dialog.resize(letters.averageCharWidth() * file_question_detail::lettersAcross, letters.height() * file_question_detail::linesDown);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return held(dialog.selectedFiles().first());

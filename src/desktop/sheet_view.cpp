@@ -156,6 +156,17 @@ void SheetView::bringIntoView()
     area_->ensureVisible(box.center().x(), box.center().y(), box.width() / 2 + margin, box.height() / 2 + margin);
 }
 
+// A text laid out before its box had a size may stand scrolled past its first line.
+void SheetView::showCaret()
+{
+    QTimer::singleShot(0, this, [this] {
+        if (model() == nullptr || model()->role() != Role::editor || model()->focus() == noControl)
+            return;
+        if (auto* editor = qobject_cast<QPlainTextEdit*>(canvas_->widgetOf(model()->focus())))
+            editor->ensureCursorVisible();
+    });
+}
+
 void SheetView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
@@ -168,6 +179,7 @@ void SheetView::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     layOutCanvas();
     followTimers();
+    showCaret();
 }
 
 // A timer ticks while its control is enabled and its window is shown; while a slot runs or a box waits it stands still.

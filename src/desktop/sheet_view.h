@@ -50,6 +50,7 @@ protected:
 private:
     void followTimers();
     void bringIntoView();
+    void showCaret();
     bool isScrolled() const;
 
     Desk& desk_;
