@@ -115,6 +115,7 @@ private:
     void playSlot(host::Window& window, host::Handle control, host::Event event);
     void oddStep(host::Window& window);
     void editStep(host::Window& window, host::Handle editor);
+    void selectSomething(host::Window& window);
     void useList(host::Window& window, host::Handle list);
     void openSomething();
     void openTarget();

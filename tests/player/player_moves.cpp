@@ -184,6 +184,8 @@ void Player::playSlot(Window& window, Handle control, Event event)
         return perform({.act = Act::tab, .window = &window});
     case Event::click:
     case Event::mouseUp:
+        if (isMenu && window.role() == host::Role::editor && chance_.in(40))
+            selectSomething(window);
         return perform({.act = isMenu ? Act::menu : Act::click,
                         .window = &window,
                         .control = control,
@@ -233,6 +235,17 @@ void Player::playSlot(Window& window, Handle control, Event event)
     default:
         oddStep(window);
     }
+}
+
+// Cut and copy wait for a selection.
+void Player::selectSomething(Window& window)
+{
+    for (const host::ControlRow& row : window.spec().controls)
+        if (row.kind == Kind::editor) {
+            perform({.act = Act::edit, .window = &window, .control = row.id, .text = "a selection"});
+            perform({.act = Act::selectText, .window = &window, .control = row.id});
+            return;
+        }
 }
 
 void Player::useList(Window& window, Handle list)
