@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QtMath>
 
 #include "desktop/field_edit.h"
 #include "desktop/menus.h"
@@ -115,11 +116,14 @@ QRect SheetView::inHand() const
     return {on->mapToGlobal(box.topLeft()), box.size()};
 }
 
+// A small window beside a small main window keeps its readable size rather than scroll.
 QSize SheetView::wantedSize() const
 {
     const host::Place& design = canvas_->design();
     const int menuHeight = bar_ == nullptr ? 0 : bar_->sizeHint().height();
-    return {desk_.pixels(design.width), desk_.pixels(design.height) + menuHeight};
+    const bool pictures = model() != nullptr && model()->role() == Role::palette;
+    const double scale = pictures ? desk_.scale : std::max(desk_.scale, sheet_view_detail::smallestScale);
+    return {qCeil(design.width * scale / twipsPerUnit), qCeil(design.height * scale / twipsPerUnit) + menuHeight};
 }
 
 bool SheetView::isScrolled() const

@@ -241,6 +241,17 @@ TEST_F(ViewTest, aListFollowsTheModelAndTellsTheChoice)
     EXPECT_EQ(log().back(), "List1 change");
 }
 
+TEST_F(ViewTest, aToolBesideASmallMainWindowIsReadableAndDoesNotScroll)
+{
+    on.main().resize(640, 420);
+    on.settle();
+    host::Window& tool = on.show("Herramienta");
+    const desktop::SheetView& view = on.viewOf(tool);
+    EXPECT_LE(view.canvas().width(), view.width());
+    EXPECT_LE(view.canvas().height(), view.height());
+    EXPECT_GE(view.canvas().width(), 3000 / 15 * 0.85);
+}
+
 TEST_F(ViewTest, aListOfFoldersIsWalkedBeforeItIsEntered)
 {
     on.engine.userRun([this] {
