@@ -64,8 +64,13 @@ class Screen:
 
     def close(self):
         for process in (self.manager, self.server):
-            process.terminate()
-            process.wait()
+            # A server without clients may sleep over the signal that ends it: it is sent until it is heard.
+            while process.poll() is None:
+                process.terminate()
+                try:
+                    process.wait(0.1)
+                except subprocess.TimeoutExpired:
+                    pass
 
 
 class Program:
@@ -110,10 +115,14 @@ class Program:
         return found
 
     def named(self, pattern, role=None):
+        """What bears the name; of several the one that can be seen."""
+        hidden = None
         for node in self.all():
             if re.search(pattern, node.get_name() or "") and (role is None or node.get_role_name() == role):
-                return node
-        return None
+                if node.get_state_set().contains(Atspi.StateType.SHOWING):
+                    return node
+                hidden = hidden or node
+        return hidden
 
     def see(self, pattern, role=None):
         return until(lambda: self.named(pattern, role), "%s %s" % (role or "anything", pattern))
