@@ -91,9 +91,12 @@ class Program:
     def find_root(self):
         desktop = Atspi.get_desktop(0)
         for i in range(desktop.get_child_count()):
-            child = desktop.get_child_at_index(i)
-            if child is not None and child.get_process_id() == self.process.pid:
-                return child
+            try:
+                child = desktop.get_child_at_index(i)
+                if child is not None and child.get_process_id() == self.process.pid:
+                    return child
+            except GLib.Error:  # the program of an earlier journey, gone but not forgotten
+                continue
         return None
 
     # what the screen shows
@@ -115,14 +118,12 @@ class Program:
         return found
 
     def named(self, pattern, role=None):
-        """What bears the name; of several the one that can be seen."""
-        hidden = None
-        for node in self.all():
-            if re.search(pattern, node.get_name() or "") and (role is None or node.get_role_name() == role):
-                if node.get_state_set().contains(Atspi.StateType.SHOWING):
-                    return node
-                hidden = hidden or node
-        return hidden
+        """What bears the name; of several the first that can be seen."""
+        found = [node for node in self.all()
+                 if re.search(pattern, node.get_name() or "") and (role is None or node.get_role_name() == role)]
+        if len(found) > 1:
+            found = [node for node in found if node.get_state_set().contains(Atspi.StateType.SHOWING)] or found
+        return found[0] if found else None
 
     def see(self, pattern, role=None):
         return until(lambda: self.named(pattern, role), "%s %s" % (role or "anything", pattern))
