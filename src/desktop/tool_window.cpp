@@ -3,6 +3,7 @@
 
 #include <QCloseEvent>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "desktop/questions.h"
@@ -66,8 +67,25 @@ void ToolWindow::followWindow()
     if (model()->shown() && !isVisible() && !placed_)
         placeFirst();
     const bool minimised = model()->windowState() == 1;
+    if (model()->shown() && !isVisible())
+        beginAtField();
     if (isVisible() != (model()->shown() && !minimised))
         setVisible(model()->shown() && !minimised);
+}
+
+// A question that is asked again begins at its field, not at the button that ended it the last time.
+void ToolWindow::beginAtField()
+{
+    QTimer::singleShot(0, this, [this] {
+        if (model() == nullptr || !model()->shown() || !desk_.idle())
+            return;
+        for (const host::Handle control : host::Engine::tabOrder(*model()))
+            if (model()->canTakeFocus(control)) {
+                if (model()->row(control).kind == host::Kind::field)
+                    desk_.engine->userFocus(*model(), control);
+                return;
+            }
+    });
 }
 
 void ToolWindow::followSize()

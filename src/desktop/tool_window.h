@@ -37,6 +37,7 @@ protected:
 
 private:
     void followSize();
+    void beginAtField();
     void placeFirst();
     QRect room() const;
 
