@@ -1,18 +1,33 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Plays the journeys with the program given, each group on a session bus of its own: a bus forgets slowly who has left it.
+# Plays the journeys with the program given, each on a session bus of its own, so that none inherits what another left.
 # usage: run.sh PROGRAM [JOURNEY...]
 set -eu
 VELMOR=$1
-export VELMOR
 shift
 cd "$(dirname "$0")"
-export PYTHONDONTWRITEBYTECODE=1 NO_AT_BRIDGE=0
-if [ $# -eq 0 ]; then
-    set -- $(sed -nE 's/^class (\w+)\(Journey\):.*/journeys.\1/p' journeys.py)
-fi
-status=0
-for journey in "$@"; do
-    dbus-run-session -- /usr/bin/python3 -m unittest "$journey" 2>&1 || status=1
+export VELMOR PYTHONDONTWRITEBYTECODE=1 PYTHONWARNINGS=ignore
+python=/usr/bin/python3 # the one that knows the accessibility bus
+
+all_journeys() {
+    $python - <<'END'
+import unittest
+def names(suite):
+    for test in suite:
+        if isinstance(test, unittest.TestSuite):
+            yield from names(test)
+        else:
+            yield test.id()
+print("\n".join(names(unittest.defaultTestLoader.loadTestsFromName("journeys"))))
+END
+}
+
+failed=0
+for journey in ${*:-$(all_journeys)}; do
+    log=$(dbus-run-session -- $python -m unittest "$journey" 2>&1) || {
+        failed=1
+        echo "$log"
+    }
+    echo "$journey: $(echo "$log" | tail -n 1)"
 done
-exit $status
+exit $failed
