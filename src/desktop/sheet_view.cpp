@@ -5,6 +5,7 @@
 
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QtMath>
@@ -147,8 +148,18 @@ void SheetView::layOutCanvas()
                                                                      : sheet_view_detail::smallestScale);
     const host::Place& design = canvas_->design();
     const QSize needed(static_cast<int>(design.width * scale / twipsPerUnit), static_cast<int>(design.height * scale / twipsPerUnit));
-    canvas_->layOut(scale, needed.expandedTo(room));
+    canvas_->layOut(scale, needed.expandedTo(roomBesideBars(needed)));
     bringIntoView();
+}
+
+// One scroll bar takes room and must not bring the other along for that alone.
+QSize SheetView::roomBesideBars(QSize needed) const
+{
+    const QSize room = area_->maximumViewportSize();
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area_);
+    const bool across = needed.width() > room.width();
+    const bool down = needed.height() > room.height() - (across ? bar : 0);
+    return {room.width() - (down ? bar : 0), room.height() - (across || (down && needed.width() > room.width() - bar) ? bar : 0)};
 }
 
 void SheetView::bringIntoView()

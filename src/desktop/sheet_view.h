@@ -50,6 +50,7 @@ protected:
 private:
     void followTimers();
     void bringIntoView();
+    QSize roomBesideBars(QSize needed) const;
     void showCaret();
     bool isScrolled() const;
 

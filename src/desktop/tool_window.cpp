@@ -107,13 +107,25 @@ void ToolWindow::placeFirst()
 {
     placed_ = true;
     const QRect all = room();
-    const int right = all.right() + 1 - width() - tool_window_detail::gap;
-    const int bottom = all.bottom() + 1 - height() - 3 * tool_window_detail::gap;
-    const QPoint wished = model()->role() == host::Role::palette
-                              ? QPoint(all.center().x() - width() / 2, bottom)
-                          : model()->spec().modal ? all.center() - rect().center()
-                                                  : QPoint(right, all.center().y() - height() / 2);
-    moveTo(insideScreen(wished, size()));
+    const QPoint middle = all.center() - rect().center();
+    const int gap = tool_window_detail::gap;
+    const int right = all.right() + 1 - width() - gap;
+    const int bottom = all.bottom() + 1 - height() - 3 * gap;
+    if (model()->role() == host::Role::palette || model()->spec().modal) {
+        moveTo(insideScreen(model()->spec().modal ? middle : QPoint(middle.x(), bottom), size()));
+        return;
+    }
+    const QRegion taken = desk_.taken ? desk_.taken() : QRegion();
+    const int top = all.top() + 3 * gap;
+    const int left = all.left() + gap;
+    QPoint best(right, middle.y());
+    for (const QPoint wished : {best, QPoint(right, top), QPoint(right, bottom), QPoint(middle.x(), top), QPoint(left, top),
+                                QPoint(left, middle.y()), QPoint(middle.x(), middle.y())})
+        if (!taken.intersects(QRect(wished, size()).adjusted(0, -tool_window_detail::likelyTitleHeight, 0, 0))) {
+            best = wished;
+            break;
+        }
+    moveTo(insideScreen(best, size()));
 }
 
 bool ToolWindow::isShownInModel() const

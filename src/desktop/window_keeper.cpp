@@ -24,6 +24,7 @@ using host::Role;
 WindowKeeper::WindowKeeper(Desk& desk) : desk_(desk)
 {
     desk_.nextPane = [this] { nextPane(); };
+    desk_.taken = [this] { return taken(); };
     desk_.touched = [this](QWidget* view) { touched(view); };
     desk_.hovered = [this](const host::Window& window, host::Handle control) {
         if (main_)
@@ -256,6 +257,17 @@ void WindowKeeper::focusMoved(QWidget* now)
         postFocus();
 }
 
+QRegion WindowKeeper::taken() const
+{
+    QRegion region;
+    for (const auto& [window, frame] : frames_)
+        if (dynamic_cast<ToolWindow*>(frame) != nullptr && frame->widget().isVisible())
+            region += frame->widget().frameGeometry();
+    if (const SheetView* view = activeView())
+        region += view->inHand();
+    return region;
+}
+
 void WindowKeeper::makeRoom()
 {
     SheetView* view = activeView();
@@ -280,10 +292,23 @@ void WindowKeeper::childActivated(QMdiSubWindow* child)
 
 bool WindowKeeper::eventFilter(QObject* object, QEvent* event)
 {
+    if (event->type() == QEvent::ApplicationPaletteChange && object == main_.data())
+        followDesktop();
     if (event->type() == QEvent::WindowActivate && !desk_.closing && object->isWidgetType()
         && static_cast<QWidget*>(object)->isWindow())
         QTimer::singleShot(0, this, [this] { windowActivated(); });
     return QObject::eventFilter(object, event);
+}
+
+// The desktop has turned light or dark.
+void WindowKeeper::followDesktop()
+{
+    const Inks& inks = inksFor(QApplication::palette());
+    if (desk_.closing || desk_.inks == &inks)
+        return;
+    desk_.inks = &inks;
+    for (const auto& [window, frame] : frames_)
+        frame->recolor();
 }
 
 // The person, or the window manager for them, has turned to another window.

@@ -52,11 +52,13 @@ private:
     WindowFrame* make(host::Window& window);
     void followAll();
     void followLanguage();
+    void followDesktop();
     void followGone();
     void followRaised();
     void followActive();
     void followFocus();
     void makeRoom();
+    QRegion taken() const;
     int stripHeight() const;
     void postFocus();
     void focusMoved(QWidget* now);

@@ -4,9 +4,12 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QFile>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/keyboard.h"
+#include "desktop/menus.h"
+#include "places.h"
 
 namespace velmor::test::keyboard_test {
 
@@ -264,6 +267,20 @@ TEST_F(KeyboardTest, everyCommonKeyIsNamedInBothLanguages)
         EXPECT_FALSE(row.meaning.es.empty());
         EXPECT_FALSE(row.meaning.en.empty());
     }
+}
+
+TEST_F(KeyboardTest, thePageOnKeysNamesThemAll)
+{
+    QFile page(QString::fromStdString(places::source() + "/docs/keyboard.md"));
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(page.readAll());
+    const auto names = [&](std::string_view keys) {
+        return text.contains(QStringLiteral("`%1`").arg(QString::fromUtf8(keys.data(), static_cast<qsizetype>(keys.size()))));
+    };
+    for (const desktop::CommonKeyRow& row : desktop::commonKeys())
+        EXPECT_TRUE(names(row.keys)) << row.keys;
+    for (const desktop::MenuKeys& row : desktop::mainMenuKeys())
+        EXPECT_TRUE(names(row.keys)) << row.keys;
 }
 
 TEST_F(KeyboardTest, aKeyTheTextBoxLeavesOverIsHeardOnce)

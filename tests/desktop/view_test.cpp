@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QMdiArea>
@@ -377,6 +378,30 @@ TEST_F(ViewTest, aToolGivesWayToTheFieldInHand)
     on.key(Qt::Key_Tab);
     on.key(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_FALSE(window.frameGeometry().intersects(on.viewOf(on.sheet()).inHand()));
+}
+
+TEST_F(ViewTest, theSheetTurnsDarkWithTheDesktopAndBack)
+{
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 40, 44), QColor(30, 30, 34)));
+    on.settle();
+    EXPECT_TRUE(on.viewOf(on.sheet()).canvas().view().inks->dark);
+    EXPECT_EQ(on.field(Text1).palette().color(QPalette::Active, QPalette::Base), desktop::darkInks().field);
+    if (qEnvironmentVariableIsSet("VELMOR_PICTURES"))
+        on.main().grab().save(qEnvironmentVariable("VELMOR_PICTURES") + "/dark.png");
+    QApplication::setPalette(light);
+    on.settle();
+    EXPECT_FALSE(on.viewOf(on.sheet()).canvas().view().inks->dark);
+}
+
+TEST_F(ViewTest, twoScrollBarsComeOnlyWhereTwoAreNeeded)
+{
+    on.engine.userState(on.sheet(), 0);
+    frame(on.sheet()).setGeometry(0, 0, 300, 420);
+    on.settle();
+    const desktop::Canvas& canvas = on.viewOf(on.sheet()).canvas();
+    EXPECT_GT(canvas.width(), 300);
+    EXPECT_EQ(canvas.height(), canvas.parentWidget()->height());
 }
 
 TEST_F(ViewTest, nothingOfAQuestionReachesASlotTwice)

@@ -22,8 +22,10 @@ print("\n".join(names(unittest.defaultTestLoader.loadTestsFromName("journeys")))
 END
 }
 
+# shellcheck disable=SC2046 # names without blanks, one for each journey
+[ $# -gt 0 ] || set -- $(all_journeys)
 failed=0
-for journey in ${*:-$(all_journeys)}; do
+for journey in "$@"; do
     log=$(dbus-run-session -- $python -m unittest "$journey" 2>&1) || {
         failed=1
         echo "$log"
