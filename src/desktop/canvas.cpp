@@ -25,8 +25,9 @@ using host::Handle;
 using host::noControl;
 
 Canvas::Canvas(Desk& desk, host::Window& model, Handle area, Handle except)
-    : desk_(desk), model_(&model), area_(area), except_(except), plan_(CanvasPlan::of(model.spec())), widgets_(model.controlCount()),
-      ink_(model.controlCount()), pointer_(std::make_unique<Pointer>(*this)), keyboard_(std::make_unique<Keyboard>(*this))
+    : desk_(desk), model_(&model), area_(area), except_(except), plan_(CanvasPlan::of(model.spec())),
+      widgets_(model.controlCount()), ink_(model.controlCount()), pointer_(std::make_unique<Pointer>(*this)),
+      keyboard_(std::make_unique<Keyboard>(*this))
 {
     design_ = area == noControl ? host::Place{0, 0, model.spec().place.width, model.spec().place.height}
                                 : host::shownPlace(model, area);
@@ -77,8 +78,8 @@ void Canvas::layOut(double scale, QSize size)
 bool Canvas::belongs(Handle control) const
 {
     const host::WindowSpec& spec = model_->spec();
-    return hasPlace(model_->row(control).kind) && (area_ == noControl || liesIn(spec, control, area_))
-           && (except_ == noControl || !liesIn(spec, control, except_));
+    return hasPlace(model_->row(control).kind) && (area_ == noControl || liesIn(spec, control, area_)) &&
+           (except_ == noControl || !liesIn(spec, control, except_));
 }
 
 // A panel that is the canvas itself is shown with it: while no sheet is open the welcome is there, even when a sheet has
@@ -128,8 +129,8 @@ Handle Canvas::controlAt(QPoint point) const
     for (const bool overlay : {true, false})
         for (std::size_t i = model_->controlCount(); i-- > 0;) {
             const auto control = static_cast<Handle>(i);
-            if (model_->row(control).overlay == overlay && plan_.entries[control].target && shows(control)
-                && boxInPixels(control).contains(point))
+            if (model_->row(control).overlay == overlay && plan_.entries[control].target && shows(control) &&
+                boxInPixels(control).contains(point))
                 return control;
         }
     return noControl;

@@ -11,8 +11,8 @@ namespace canvas_plan_detail {
 using host::Event;
 using host::Handle;
 
-constexpr Event mouseEvents[] = {Event::click,     Event::doubleClick, Event::mouseDown, Event::mouseUp,
-                                 Event::hover,     Event::dragEnter,   Event::dragLeave, Event::drop};
+constexpr Event mouseEvents[] = {Event::click, Event::doubleClick, Event::mouseDown, Event::mouseUp,
+                                 Event::hover, Event::dragEnter,   Event::dragLeave, Event::drop};
 
 void noteSlots(CanvasPlan& plan, const host::WindowSpec& spec)
 {

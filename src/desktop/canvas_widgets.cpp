@@ -92,7 +92,8 @@ bool hasPane(const host::ControlRow& row)
 {
     if (row.overlay || host::takesFocus(row.kind))
         return true;
-    const bool tells = row.kind == Kind::label || row.kind == Kind::panel || (row.kind == Kind::image && !row.meaning.es.empty());
+    const bool tells =
+        row.kind == Kind::label || row.kind == Kind::panel || (row.kind == Kind::image && !row.meaning.es.empty());
     return tells && QAccessible::isActive();
 }
 

@@ -141,7 +141,8 @@ void ChildFrame::resizeEvent(QResizeEvent* event)
 
 void ChildFrame::tellPlace()
 {
-    if (following_ || model() == nullptr || desk_.closing || isHidden() || shownState() != 0 || model()->windowState() != 0)
+    if (following_ || model() == nullptr || desk_.closing || isHidden() || shownState() != 0 ||
+        model()->windowState() != 0)
         return;
     if (geometry() == desk_.pixelsOf(model()->place()))
         return;

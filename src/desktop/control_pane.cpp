@@ -38,8 +38,7 @@ public:
                                       : roleOf(pane->canvas().model()->row(pane->control()).kind,
                                                pane->canvas().planOf(pane->control()).clickable)),
           pane_(pane)
-    {
-    }
+    {}
 
     QAccessible::State state() const override
     {

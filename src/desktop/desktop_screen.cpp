@@ -20,7 +20,8 @@
 
 namespace velmor::desktop {
 
-DesktopScreen::DesktopScreen(const FolderPlaces& places, const QString& markFile) : places_(places), instance_(markFile) {}
+DesktopScreen::DesktopScreen(const FolderPlaces& places, const QString& markFile) : places_(places), instance_(markFile)
+{}
 
 DesktopScreen::~DesktopScreen() = default;
 
@@ -37,7 +38,8 @@ void DesktopScreen::detach()
 }
 
 // A question shows what led to it, waits, and hands the keyboard back to the window that asked.
-template <class Ask> auto DesktopScreen::ask(Ask question)
+template <class Ask>
+auto DesktopScreen::ask(Ask question)
 {
     const bool wasBusy = busy_;
     busyPointer(false);

@@ -61,7 +61,8 @@ public:
     void programEnded() override;
 
 private:
-    template <class Ask> auto ask(Ask question);
+    template <class Ask>
+    auto ask(Ask question);
 
     FolderPlaces places_;
     OtherInstance instance_;

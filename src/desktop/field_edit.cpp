@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/field_edit.h"
 
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 
 #include "desktop/palette_of_inks.h"
 
@@ -76,8 +76,10 @@ void FieldEdit::paintEvent(QPaintEvent* event)
     const double ratio = devicePixelRatioF();
     const double weight = (hasFocus() ? 2.0 : 1.0) * std::max(1.0, std::round(ratio)) / ratio;
     const double half = weight / 2.0;
-    painter.setPen(QPen(hasFocus() ? inks_->accent : isEnabled() ? inks_->edge : inks_->rule, weight, Qt::SolidLine,
-                        Qt::SquareCap, Qt::MiterJoin));
+    painter.setPen(QPen(hasFocus()    ? inks_->accent
+                        : isEnabled() ? inks_->edge
+                                      : inks_->rule,
+                        weight, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
 }
 

@@ -67,10 +67,12 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& aske
         QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
                          [&dialog](const QString& chosen) { dialog.setDefaultSuffix(endingOf(chosen)); });
     }
-    dialog.setOption(QFileDialog::DontConfirmOverwrite, !saves || (asked.flags & file_question_detail::overwritePrompt) == 0);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite,
+                     !saves || (asked.flags & file_question_detail::overwritePrompt) == 0);
     dialog.setOption(QFileDialog::HideNameFilterDetails); // the description names its pattern itself
     const QFontMetrics letters = dialog.fontMetrics();
-    dialog.resize(letters.averageCharWidth() * file_question_detail::lettersAcross, letters.height() * file_question_detail::linesDown);
+    dialog.resize(letters.averageCharWidth() * file_question_detail::lettersAcross,
+                  letters.height() * file_question_detail::linesDown);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return held(dialog.selectedFiles().first());

@@ -247,8 +247,8 @@ QRect MainWindow::pageStripIn(const QRect& rest) const
     const int height = std::min(rest.height(), rest.width() * strip.height / strip.width);
     const QRect low(rest.left(), rest.bottom() + 1 - height, rest.width(), height);
     const auto* palette = findChild<QWidget*>(QStringLiteral("Form16"));
-    const bool covered = palette != nullptr && palette->isVisible()
-                         && QRect(middle_->mapToGlobal(low.topLeft()), low.size()).intersects(palette->frameGeometry());
+    const bool covered = palette != nullptr && palette->isVisible() &&
+                         QRect(middle_->mapToGlobal(low.topLeft()), low.size()).intersects(palette->frameGeometry());
     return covered ? QRect(rest.topLeft(), low.size()) : low;
 }
 
@@ -277,11 +277,12 @@ void MainWindow::hovered(const host::Window& window, Handle control)
     if (model_ == nullptr)
         return;
     const Handle bar = model_->named("Picture14");
-    const bool onButtons = window.role() == host::Role::palette || (&window == model_ && liesIn(window.spec(), control, bar));
+    const bool onButtons =
+        window.role() == host::Role::palette || (&window == model_ && liesIn(window.spec(), control, bar));
     if (!onButtons && &window != model_)
         hush();
-    else if (onButtons && control != noControl && window.hasSlot(control, host::Event::hover)
-             && !std::exchange(talking_, true))
+    else if (onButtons && control != noControl && window.hasSlot(control, host::Event::hover) &&
+             !std::exchange(talking_, true))
         layOutPanels();
 }
 
@@ -311,8 +312,12 @@ void MainWindow::tellClientArea()
             if (!window->isChild() || window->windowState() != 0)
                 continue;
             const host::Place& old = window->place();
-            const auto across = [&](int value) { return static_cast<int>(static_cast<long long>(value) * width / before.width); };
-            const auto down = [&](int value) { return static_cast<int>(static_cast<long long>(value) * height / before.height); };
+            const auto across = [&](int value) {
+                return static_cast<int>(static_cast<long long>(value) * width / before.width);
+            };
+            const auto down = [&](int value) {
+                return static_cast<int>(static_cast<long long>(value) * height / before.height);
+            };
             window->setPlace({across(old.left), down(old.top), across(old.width), down(old.height)});
         }
     });
@@ -375,7 +380,8 @@ bool MainWindow::eventFilter(QObject* object, QEvent* event)
 {
     if (object == middle_ && event->type() == QEvent::Resize)
         layOutPanels();
-    else if (object == area_->viewport() && event->type() == QEvent::MouseButtonPress && model_ != nullptr && !desk_.closing)
+    else if (object == area_->viewport() && event->type() == QEvent::MouseButtonPress && model_ != nullptr &&
+             !desk_.closing)
         pressBackground(*static_cast<QMouseEvent*>(event));
     return QMainWindow::eventFilter(object, event);
 }

@@ -17,7 +17,8 @@ using host::noControl;
 
 bool Menus::hasMenus(const host::WindowSpec& spec)
 {
-    return std::any_of(spec.controls.begin(), spec.controls.end(), [](const auto& row) { return row.kind == Kind::menu; });
+    return std::any_of(spec.controls.begin(), spec.controls.end(),
+                       [](const auto& row) { return row.kind == Kind::menu; });
 }
 
 Menus::Menus(Desk& desk, host::Window& model, QMenuBar& bar)
@@ -82,11 +83,8 @@ QString Menus::keysOf(Handle item) const
 std::span<const MenuKeys> mainMenuKeys()
 {
     static constexpr MenuKeys rows[] = {
-        {"mnuFile(1)", "Ctrl+S"},
-        {"mnuFile(2)", "Ctrl+Shift+S"},
-        {"mnuFile(3)", "Ctrl+W"},
-        {"mnuIng", "Ctrl+Shift+I"},
-        {"mnuEsp", "Ctrl+Shift+E"},
+        {"mnuFile(1)", "Ctrl+S"},   {"mnuFile(2)", "Ctrl+Shift+S"}, {"mnuFile(3)", "Ctrl+W"},
+        {"mnuIng", "Ctrl+Shift+I"}, {"mnuEsp", "Ctrl+Shift+E"},
     };
     return rows;
 }

@@ -12,7 +12,7 @@ namespace velmor::desktop {
 
 namespace page_picture_detail {
 
-constexpr double fill = 0.86;    ///< of the place
+constexpr double fill = 0.86;   ///< of the place
 constexpr double boldest = 3.2; ///< times the weight of a sheet's lines
 
 } // namespace page_picture_detail
@@ -20,8 +20,8 @@ constexpr double boldest = 3.2; ///< times the weight of a sheet's lines
 bool isPagePicture(const host::Window& window, host::Handle control)
 {
     const host::ControlRow& row = window.row(control);
-    return window.role() == host::Role::mainWindow && row.kind == host::Kind::image && row.look == host::Look::paper
-           && !row.drawing.empty();
+    return window.role() == host::Role::mainWindow && row.kind == host::Kind::image && row.look == host::Look::paper &&
+           !row.drawing.empty();
 }
 
 void paintPagePicture(QPainter& painter, const host::Window& window, host::Handle control, const View& view)

@@ -151,9 +151,10 @@ void paintPlateOnScreen(QPainter& painter, const QRectF& box, const PlateLook& l
     const plates::Small& small = plates::smallOf(look, ratio);
     const QRectF line = device.mapRect(box);
     const int margin = small.margin;
-    const QRect outer = QRect(QPoint(static_cast<int>(std::floor(line.left())), static_cast<int>(std::floor(line.top()))),
-                              QPoint(static_cast<int>(std::floor(line.right())), static_cast<int>(std::floor(line.bottom()))))
-                            .adjusted(-margin, -margin, margin, margin);
+    const QRect outer =
+        QRect(QPoint(static_cast<int>(std::floor(line.left())), static_cast<int>(std::floor(line.top()))),
+              QPoint(static_cast<int>(std::floor(line.right())), static_cast<int>(std::floor(line.bottom()))))
+            .adjusted(-margin, -margin, margin, margin);
     if (outer.width() <= 2 * small.corner || outer.height() <= 2 * small.corner) {
         paintPlate(painter, box, look);
         return;

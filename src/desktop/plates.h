@@ -11,8 +11,8 @@ class QPainter;
 namespace velmor::desktop {
 
 struct PlateLook {
-    QColor ground; ///< invalid: none
-    QColor border; ///< invalid: none
+    QColor ground;      ///< invalid: none
+    QColor border;      ///< invalid: none
     double round = 0.0; ///< radius of the corners, logical pixels
     double width = 1.0; ///< of the border
 };

@@ -48,8 +48,8 @@ private:
     QPoint pressedAt_;
     host::Handle hovered_ = host::noControl;
     host::Handle lastPressed_ = host::noControl;
-    host::Handle held_ = host::noControl; ///< draggable control with the button down on it
-    host::Handle over_ = host::noControl; ///< drop target under the drag
+    host::Handle held_ = host::noControl;     ///< draggable control with the button down on it
+    host::Handle over_ = host::noControl;     ///< drop target under the drag
     host::Handle clicking_ = host::noControl; ///< text box being pressed
     int shift_ = 0;
     bool dragging_ = false;

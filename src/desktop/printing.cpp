@@ -129,7 +129,9 @@ void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english)
     speakInDialogs(english);
     QPrinter printer(QPrinter::HighResolution);
     const double margin = printing_detail::marginMillimetres;
-    printer.setPageMargins(QMarginsF(printing_detail::sideMillimetres, margin, printing_detail::sideMillimetres, margin), QPageLayout::Millimeter);
+    printer.setPageMargins(
+        QMarginsF(printing_detail::sideMillimetres, margin, printing_detail::sideMillimetres, margin),
+        QPageLayout::Millimeter);
     printer.setDocName(QStringLiteral("Velmor"));
     if (!printer.isValid())
         printer.setOutputFormat(QPrinter::PdfFormat);

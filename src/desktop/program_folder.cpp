@@ -16,7 +16,8 @@ namespace program_folder_detail {
 // Name filters compare without regard to capitals, as the platform that the guides were named for.
 QStringList guidesIn(const QString& folder)
 {
-    return folder.isEmpty() ? QStringList() : QDir(folder).entryList({QStringLiteral("*.Lab")}, QDir::Files, QDir::Name);
+    return folder.isEmpty() ? QStringList()
+                            : QDir(folder).entryList({QStringLiteral("*.Lab")}, QDir::Files, QDir::Name);
 }
 
 // A copy under another name first, so that a start that is cut short leaves no half guide behind.

@@ -9,8 +9,8 @@ namespace velmor::desktop {
 /// Where to look and what to fill from; the real places by default, others in tests.
 struct FolderPlaces {
     QString executableFolder;
-    QString documents;   ///< the user's documents
-    QString guides;      ///< the guide files that came with the program; empty when none are found
+    QString documents; ///< the user's documents
+    QString guides;    ///< the guide files that came with the program; empty when none are found
 
     static FolderPlaces usual();
 };

@@ -25,8 +25,8 @@ bool offered(const QStyleOptionTitleBar& bar, QStyle::SubControl part)
     case QStyle::SC_TitleBarMaxButton:
         return (bar.titleBarFlags & Qt::WindowMaximizeButtonHint) && !maximised;
     case QStyle::SC_TitleBarNormalButton:
-        return ((bar.titleBarFlags & Qt::WindowMinimizeButtonHint) && minimised)
-               || ((bar.titleBarFlags & Qt::WindowMaximizeButtonHint) && maximised);
+        return ((bar.titleBarFlags & Qt::WindowMinimizeButtonHint) && minimised) ||
+               ((bar.titleBarFlags & Qt::WindowMaximizeButtonHint) && maximised);
     case QStyle::SC_TitleBarCloseButton:
         return (bar.titleBarFlags & Qt::WindowSystemMenuHint) != 0;
     default:
@@ -48,7 +48,8 @@ void drawGlyph(QPainter& painter, QStyle::SubControl part, const QRect& box)
         break;
     case QStyle::SC_TitleBarNormalButton:
         painter.drawRect(square.adjusted(0, 2, -2, 0));
-        painter.drawPolyline(QPolygon({{square.left() + 2, square.top()}, {square.right() + 1, square.top()},
+        painter.drawPolyline(QPolygon({{square.left() + 2, square.top()},
+                                       {square.right() + 1, square.top()},
                                        {square.right() + 1, square.bottom() - 1}}));
         break;
     default:
@@ -93,7 +94,8 @@ void QuietStyle::drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter
     const bool active = (bar.titleBarState & State_Active) != 0;
     painter.save();
     painter.fillRect(bar.rect, active ? inks.accentTint : inks.desk);
-    painter.fillRect(QRect(bar.rect.left(), bar.rect.top(), bar.rect.width(), active ? 2 : 1), active ? inks.accent : inks.rule);
+    painter.fillRect(QRect(bar.rect.left(), bar.rect.top(), bar.rect.width(), active ? 2 : 1),
+                     active ? inks.accent : inks.rule);
     if (!bar.icon.isNull() && (bar.titleBarFlags & Qt::WindowSystemMenuHint)) {
         const QRect box = subControlRect(CC_TitleBar, &bar, SC_TitleBarSysMenu, widget);
         bar.icon.paint(&painter, box.adjusted(2, 2, -2, -2));
@@ -101,7 +103,8 @@ void QuietStyle::drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter
     painter.setPen(active ? inks.ink : inks.quiet);
     const QRect label = subControlRect(CC_TitleBar, &bar, SC_TitleBarLabel, widget);
     painter.drawText(label, Qt::AlignVCenter | Qt::AlignHCenter | Qt::TextSingleLine, bar.text);
-    for (const SubControl part : {SC_TitleBarMinButton, SC_TitleBarMaxButton, SC_TitleBarNormalButton, SC_TitleBarCloseButton}) {
+    for (const SubControl part :
+         {SC_TitleBarMinButton, SC_TitleBarMaxButton, SC_TitleBarNormalButton, SC_TitleBarCloseButton}) {
         if (!offered(bar, part))
             continue;
         const QRect box = subControlRect(CC_TitleBar, &bar, part, widget);

@@ -29,7 +29,8 @@ bool sensible(const QString& path)
 
 QString SettingsFile::usualPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/Velmor/Velmor.ini");
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/Velmor/Velmor.ini");
 }
 
 SettingsFile::SettingsFile(const QString& path)

@@ -144,10 +144,11 @@ void SheetView::layOutCanvas()
         return;
     }
     const bool pictures = model()->role() == Role::palette;
-    const double scale = std::max(canvas_->scaleFor(room), pictures ? sheet_view_detail::smallestOfPictures
-                                                                     : sheet_view_detail::smallestScale);
+    const double scale = std::max(canvas_->scaleFor(room),
+                                  pictures ? sheet_view_detail::smallestOfPictures : sheet_view_detail::smallestScale);
     const host::Place& design = canvas_->design();
-    const QSize needed(static_cast<int>(design.width * scale / twipsPerUnit), static_cast<int>(design.height * scale / twipsPerUnit));
+    const QSize needed(static_cast<int>(design.width * scale / twipsPerUnit),
+                       static_cast<int>(design.height * scale / twipsPerUnit));
     canvas_->layOut(scale, needed.expandedTo(roomBesideBars(needed)));
     bringIntoView();
 }
@@ -159,7 +160,8 @@ QSize SheetView::roomBesideBars(QSize needed) const
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area_);
     const bool across = needed.width() > room.width();
     const bool down = needed.height() > room.height() - (across ? bar : 0);
-    return {room.width() - (down ? bar : 0), room.height() - (across || (down && needed.width() > room.width() - bar) ? bar : 0)};
+    return {room.width() - (down ? bar : 0),
+            room.height() - (across || (down && needed.width() > room.width() - bar) ? bar : 0)};
 }
 
 void SheetView::bringIntoView()

@@ -121,7 +121,8 @@ SymbolLabel setPlain(const QString& text, double pixels)
 }
 
 /// The same names are set at every repaint. Each kind of setting has a memory of its own.
-template <class Set> SymbolLabel remembered(const QByteArray& text, double pixels, Set set)
+template <class Set>
+SymbolLabel remembered(const QByteArray& text, double pixels, Set set)
 {
     static QHash<std::pair<QByteArray, double>, SymbolLabel> known;
     const auto found = known.constFind({text, pixels});

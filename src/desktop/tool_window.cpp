@@ -14,7 +14,7 @@ namespace velmor::desktop {
 
 namespace tool_window_detail {
 
-constexpr int gap = 12; ///< logical pixels to the edge of the screen
+constexpr int gap = 12;               ///< logical pixels to the edge of the screen
 constexpr double largestShare = 0.92; ///< of the screen
 constexpr double paletteShare = 0.8;  ///< of the size in its table: it is seen all the time
 constexpr int likelyTitleHeight = 28;
@@ -22,8 +22,8 @@ constexpr int movedByHand = 64; ///< logical pixels; window managers move a litt
 
 Qt::WindowFlags flagsOf(const host::WindowSpec& spec)
 {
-    const Qt::WindowFlags buttons = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint
-                                    | Qt::WindowSystemMenuHint;
+    const Qt::WindowFlags buttons =
+        Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint;
     return spec.role == host::Role::palette ? Qt::Tool | buttons : Qt::Dialog | buttons;
 }
 
@@ -95,10 +95,11 @@ void ToolWindow::followSize()
         return;
     told_ = design;
     view_->canvas().setDesign(design);
-    const QSize wanted = view_->wantedSize() * (model()->role() == host::Role::palette ? tool_window_detail::paletteShare : 1.0);
+    const QSize wanted =
+        view_->wantedSize() * (model()->role() == host::Role::palette ? tool_window_detail::paletteShare : 1.0);
     const QSize most = room().size() * tool_window_detail::largestShare;
     resize(wanted.width() > most.width() || wanted.height() > most.height() ? wanted.scaled(most, Qt::KeepAspectRatio)
-                                                                             : wanted);
+                                                                            : wanted);
     view_->layOutCanvas();
 }
 
@@ -119,8 +120,8 @@ void ToolWindow::placeFirst()
     const int top = all.top() + 3 * gap;
     const int left = all.left() + gap;
     QPoint best(right, middle.y());
-    for (const QPoint wished : {best, QPoint(right, top), QPoint(right, bottom), QPoint(middle.x(), top), QPoint(left, top),
-                                QPoint(left, middle.y()), QPoint(middle.x(), middle.y())})
+    for (const QPoint wished : {best, QPoint(right, top), QPoint(right, bottom), QPoint(middle.x(), top),
+                                QPoint(left, top), QPoint(left, middle.y()), QPoint(middle.x(), middle.y())})
         if (!taken.intersects(QRect(wished, size()).adjusted(0, -tool_window_detail::likelyTitleHeight, 0, 0))) {
             best = wished;
             break;
@@ -141,7 +142,8 @@ int ToolWindow::restHeight() const
 
 void ToolWindow::restIn(const QRect& strip)
 {
-    const QSize mine = isVisible() ? frameGeometry().size() : QSize(width(), height() + tool_window_detail::likelyTitleHeight);
+    const QSize mine =
+        isVisible() ? frameGeometry().size() : QSize(width(), height() + tool_window_detail::likelyTitleHeight);
     moveTo({strip.center().x() - mine.width() / 2, strip.center().y() - mine.height() / 2});
 }
 
@@ -154,8 +156,8 @@ void ToolWindow::moveTo(QPoint place)
 void ToolWindow::moveEvent(QMoveEvent* event)
 {
     QWidget::moveEvent(event);
-    if (resting_ && placed_ && isVisible()
-        && (frameGeometry().topLeft() - wished_).manhattanLength() > tool_window_detail::movedByHand)
+    if (resting_ && placed_ && isVisible() &&
+        (frameGeometry().topLeft() - wished_).manhattanLength() > tool_window_detail::movedByHand)
         resting_ = false;
 }
 

@@ -61,7 +61,8 @@ WindowFrame* WindowKeeper::make(host::Window& window)
     if (window.role() == Role::mainWindow) {
         main_ = new MainWindow(desk_, window);
         main_->foresee();
-        connect(&main_->area(), &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* child) { childActivated(child); });
+        connect(&main_->area(), &QMdiArea::subWindowActivated, this,
+                [this](QMdiSubWindow* child) { childActivated(child); });
         frame = main_;
         language_ = desk_.engine->values().LanguageIsEnglish;
     } else if (window.isChild() && main_) {
@@ -252,8 +253,8 @@ void WindowKeeper::focusMoved(QWidget* now)
     if (desk_.closing || following_ || now == nullptr)
         return;
     SheetView* view = activeView();
-    if (view != nullptr && (now == view->parentWidget() || now == view || view->isAncestorOf(now))
-        && now != view->canvas().focusTarget())
+    if (view != nullptr && (now == view->parentWidget() || now == view || view->isAncestorOf(now)) &&
+        now != view->canvas().focusTarget())
         postFocus();
 }
 
@@ -284,7 +285,8 @@ void WindowKeeper::makeRoom()
 void WindowKeeper::childActivated(QMdiSubWindow* child)
 {
     auto* frame = dynamic_cast<ChildFrame*>(child);
-    if (desk_.closing || following_ || frame == nullptr || frame->model() == nullptr || !main_ || !main_->isActiveWindow())
+    if (desk_.closing || following_ || frame == nullptr || frame->model() == nullptr || !main_ ||
+        !main_->isActiveWindow())
         return;
     if (desk_.engine->current() != frame->model())
         desk_.engine->userActivate(*frame->model());
@@ -294,8 +296,8 @@ bool WindowKeeper::eventFilter(QObject* object, QEvent* event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange && object == main_.data())
         followDesktop();
-    if (event->type() == QEvent::WindowActivate && !desk_.closing && object->isWidgetType()
-        && static_cast<QWidget*>(object)->isWindow())
+    if (event->type() == QEvent::WindowActivate && !desk_.closing && object->isWidgetType() &&
+        static_cast<QWidget*>(object)->isWindow())
         QTimer::singleShot(0, this, [this] { windowActivated(); });
     return QObject::eventFilter(object, event);
 }

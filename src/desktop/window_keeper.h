@@ -19,7 +19,6 @@ class QMdiSubWindow;
 
 namespace velmor::desktop {
 
-
 class WindowKeeper final : public QObject, private QAccessible::ActivationObserver {
 public:
     explicit WindowKeeper(Desk& desk);
@@ -72,7 +71,7 @@ private:
     std::unordered_map<const host::Window*, WindowFrame*> frames_;
     std::vector<host::Window*> raised_;
     QPointer<QWidget> awaited_; ///< asked to become active; other activations on the way to it do not count
-    QPointer<QWidget> wanted_; ///< the person asked for it by key
+    QPointer<QWidget> wanted_;  ///< the person asked for it by key
     std::int16_t language_ = 0;
     bool following_ = false;
     bool again_ = false;

@@ -44,10 +44,10 @@ enum class Look : std::uint8_t {
     result,  ///< computed value on the drawing
     warning,
     title,
-    paper,   ///< background sheet of the drawing
+    paper,      ///< background sheet of the drawing
     toolButton, ///< picture or image that acts as a button
-    group,   ///< panel behind a group of fields
-    invisible, ///< takes place in the model only; shows nothing by itself
+    group,      ///< panel behind a group of fields
+    invisible,  ///< takes place in the model only; shows nothing by itself
 };
 
 /// In twips (1/1440 inch), from the window's left top corner.
@@ -65,10 +65,10 @@ enum class SymbolSide : std::uint8_t { left, above };
 /// One row of a window's table: what a control is before anything happens.
 struct ControlRow {
     Handle id = noControl;
-    std::string_view name{};  ///< the program's own name; an element of an array bears its index, "mnuFile(2)"
+    std::string_view name{}; ///< the program's own name; an element of an array bears its index, "mnuFile(2)"
     Kind kind = Kind::label;
     Place place{};
-    std::string_view text{};  ///< stored text or caption
+    std::string_view text{}; ///< stored text or caption
     bool visible = true;
     bool enabled = true;
     std::string_view symbol{}; ///< of a field: symbol of the quantity, "R_b1"
@@ -77,7 +77,7 @@ struct ControlRow {
     SymbolSide symbolSide = SymbolSide::left;
     Look look = Look::plain;
     std::span<const Mark> drawing{};
-    Handle parent = noControl;          ///< of a menu item: its menu; of a control inside a panel: the panel
+    Handle parent = noControl; ///< of a menu item: its menu; of a control inside a panel: the panel
     std::string_view tag = "0";
     bool checked = false;
     bool overlay = false;               ///< lies above the fields (help boxes, grown panels)

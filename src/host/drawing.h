@@ -91,10 +91,10 @@ struct Mark {
     GridPoint from{};
     GridPoint to{};
     std::string_view name{};
-    BiText note{};                       ///< for `text`: bilingual text instead of `name`
-    Side side = Side::none;              ///< where name and value stand
+    BiText note{};          ///< for `text`: bilingual text instead of `name`
+    Side side = Side::none; ///< where name and value stand
     Handle value = noControl;
-    std::string_view unit{};             ///< joined to the value when the value's text is a bare number
+    std::string_view unit{}; ///< joined to the value when the value's text is a bare number
     Handle field = noControl;
     Ink ink = Ink::normal;
     std::uint8_t size = 100;             ///< per cent of the letters' normal size; symbols keep theirs
@@ -105,8 +105,14 @@ struct Mark {
 /// grid when the base does. Its circle (radius 21 u) stands 20 u to the side; the leads from it to the ends are drawn.
 inline constexpr GridPoint transistorReach{30, 30};
 
-constexpr bool isMirrored(Symbol transistor) { return transistor == Symbol::npnLeft || transistor == Symbol::pnpLeft; }
-constexpr bool isPnp(Symbol transistor) { return transistor == Symbol::pnp || transistor == Symbol::pnpLeft; }
+constexpr bool isMirrored(Symbol transistor)
+{
+    return transistor == Symbol::npnLeft || transistor == Symbol::pnpLeft;
+}
+constexpr bool isPnp(Symbol transistor)
+{
+    return transistor == Symbol::pnp || transistor == Symbol::pnpLeft;
+}
 
 /// The end in the upper half: collector of an npn, emitter of a pnp.
 constexpr GridPoint upperEnd(Symbol transistor, GridPoint base)

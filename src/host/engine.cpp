@@ -12,8 +12,7 @@ namespace velmor::host {
 
 Engine::Engine(Catalogue catalogue, Screen& screen, SettingsStore& settings)
     : catalogue_(catalogue), screen_(screen), settings_(settings), host_(*this)
-{
-}
+{}
 
 Engine::~Engine() = default;
 

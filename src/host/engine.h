@@ -94,7 +94,7 @@ public:
     Window& mainWindow();
     Window* current() const { return current_; }
     Window* activeChild() const { return activeChild_; }
-    std::vector<Window*> windows() const; ///< loaded, in order of creation
+    std::vector<Window*> windows() const;                      ///< loaded, in order of creation
     Window* instance(std::string_view name, int number) const; ///< number counted from 1; 0 the newest
     Window* defaultInstance(std::string_view name) const;
     bool isLoaded(const Window* window) const;

@@ -91,7 +91,8 @@ Window* Engine::make(const WindowSpec& spec, bool isDefault)
     made->isDefault_ = isDefault;
     made->serial_ = ++serial_;
     if (made->isChild()) {
-        const auto children = std::count_if(windows_.begin(), windows_.end(), [](const auto& w) { return w->isChild(); });
+        const auto children =
+            std::count_if(windows_.begin(), windows_.end(), [](const auto& w) { return w->isChild(); });
         const int offset = static_cast<int>(children % cascadeTurns) * cascadeStep;
         made->place_ = {offset, offset, client_.width - offset, client_.height - offset};
         made->normalPlace_ = made->place_;

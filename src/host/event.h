@@ -20,18 +20,18 @@ enum class Event : std::uint8_t {
     mouseDown,
     mouseUp,
     hover,
-    key,       ///< a key was pressed; the slot may replace it by 0
-    change,    ///< the text of an editor or the choice of a list changed (never raised for design fields)
+    key,    ///< a key was pressed; the slot may replace it by 0
+    change, ///< the text of an editor or the choice of a list changed (never raised for design fields)
     dragEnter,
     dragLeave,
     drop,
     timer,
-    menuOpen,  ///< a menu is about to open
-    shortcut,  ///< of a window: a key of its shortcut table that runs a deed of its own; `key` is the row's index
+    menuOpen, ///< a menu is about to open
+    shortcut, ///< of a window: a key of its shortcut table that runs a deed of its own; `key` is the row's index
     // of a window (bound to noControl; click, doubleClick, mouseDown, mouseUp, hover and drop exist there too)
     load,
     activate,
-    comeBack,  ///< the active child is current again after a tool window
+    comeBack, ///< the active child is current again after a tool window
     repaint,
     resize,
     queryClose,
@@ -47,11 +47,11 @@ enum class CloseReason : std::uint8_t { button, code, programEnd };
 /// What a slot is told. `control` is the one that the event is about.
 struct EventArgs {
     Handle control = noControl;
-    std::int16_t key = 0;   ///< of `key`: in and out
+    std::int16_t key = 0; ///< of `key`: in and out
     Button button = Button::left;
-    int shift = 0;          ///< 1 Shift, 2 Ctrl, added
+    int shift = 0;             ///< 1 Shift, 2 Ctrl, added
     Handle source = noControl; ///< of drag events: what is dragged
-    bool cancel = false;    ///< of `queryClose`: set to refuse
+    bool cancel = false;       ///< of `queryClose`: set to refuse
     CloseReason reason = CloseReason::code;
 };
 
@@ -65,17 +65,21 @@ struct SlotRow {
 };
 
 namespace event_detail {
-template <class Method> struct ClassOf;
-template <class Owner, class Result> struct ClassOf<Result (Owner::*)()> {
+template <class Method>
+struct ClassOf;
+template <class Owner, class Result>
+struct ClassOf<Result (Owner::*)()> {
     using Type = Owner;
 };
-template <class Owner, class Result> struct ClassOf<Result (Owner::*)(EventArgs&)> {
+template <class Owner, class Result>
+struct ClassOf<Result (Owner::*)(EventArgs&)> {
     using Type = Owner;
 };
 } // namespace event_detail
 
 /// Makes a table entry of a member function `void Owner::f()` or `void Owner::f(EventArgs&)`.
-template <auto Method> void slot(Window& window, EventArgs& args)
+template <auto Method>
+void slot(Window& window, EventArgs& args)
 {
     using Owner = typename event_detail::ClassOf<decltype(Method)>::Type;
     auto& self = static_cast<Owner&>(window);

@@ -15,7 +15,8 @@ enum class FailureKind {
 };
 
 /// The plain English name of a kind, for traces and for the text of what().
-constexpr const char* failureName(FailureKind kind) noexcept {
+constexpr const char* failureName(FailureKind kind) noexcept
+{
     switch (kind) {
     case FailureKind::divisionByZero:
         return "Division by zero";

@@ -70,12 +70,12 @@ public:
     virtual std::optional<std::string> inputBox(const InputBox& box) = 0;
     virtual std::optional<std::int32_t> colourDialog(std::int32_t initial) = 0;
     virtual std::optional<Font> fontDialog(const Font& initial) = 0;
-    virtual std::string now() = 0;  ///< date and time, short format
+    virtual std::string now() = 0; ///< date and time, short format
     virtual std::string date() = 0;
     virtual std::string time() = 0;
     virtual std::string clipboardText() = 0;
     virtual int printedWidth(const Font& font, std::string_view text) = 0; ///< twips
-    virtual std::string programFolder() = 0; ///< without a slash at the end
+    virtual std::string programFolder() = 0;                               ///< without a slash at the end
     virtual std::string executableName() = 0;
     virtual bool otherInstanceRunning() = 0;
 

@@ -65,7 +65,9 @@ std::string toUtf8(std::u32string_view codePoints)
 {
     std::string result;
     result.reserve(codePoints.size());
-    const auto put = [&result](char32_t value) { result.push_back(static_cast<char>(static_cast<unsigned char>(value))); };
+    const auto put = [&result](char32_t value) {
+        result.push_back(static_cast<char>(static_cast<unsigned char>(value)));
+    };
     for (const char32_t code : codePoints) {
         if (code < 0x80U) {
             put(code);

@@ -24,7 +24,8 @@ bool sameName(std::string_view one, std::string_view other)
                       [](char a, char b) { return window_detail::folded(a) == window_detail::folded(b); });
 }
 
-Window::Window(SheetHost& host, const WindowSpec& spec) : host_(host), spec_(spec), caption_(spec.caption), place_(spec.place)
+Window::Window(SheetHost& host, const WindowSpec& spec)
+    : host_(host), spec_(spec), caption_(spec.caption), place_(spec.place)
 {
     controls_.reserve(spec.controls.size());
     for (const ControlRow& row : spec.controls) {

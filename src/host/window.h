@@ -33,7 +33,7 @@ enum class KeyAction : std::uint8_t {
     run, ///< the window's `shortcut` slot, which is told the index of the row
 };
 struct ShortcutRow {
-    std::string_view keys{};   ///< portable text as in "Ctrl+B", "F1"
+    std::string_view keys{};    ///< portable text as in "Ctrl+B", "F1"
     Handle control = noControl; ///< noControl: the control that has the focus
     KeyAction action = KeyAction::click;
     Handle target = noControl; ///< of dragTo
@@ -48,7 +48,8 @@ struct WindowSpec {
     Place place{};              ///< width and height: the drawing area in twips; left, top: wish of a tool window
     std::span<const ControlRow> controls{};
     std::span<const SlotRow> slots{};
-    std::span<const Handle> tabOrder{}; ///< chain order, then the other controls that take the focus; controls left out follow in table order
+    std::span<const Handle>
+        tabOrder{}; ///< chain order, then the other controls that take the focus; controls left out follow in table order
     std::span<const ShortcutRow> shortcuts{};
     std::unique_ptr<Window> (*create)(SheetHost&) = nullptr;
     bool modal = false;
@@ -104,10 +105,26 @@ public:
     void setForeColor(Handle control, std::int32_t color);
     void setFontSize(Handle control, std::int16_t points);
 
-    template <class... Handles> void show(Handles... controls) { (setVisible(controls, true), ...); }
-    template <class... Handles> void hide(Handles... controls) { (setVisible(controls, false), ...); }
-    template <class... Handles> void enable(Handles... controls) { (setEnabled(controls, true), ...); }
-    template <class... Handles> void disable(Handles... controls) { (setEnabled(controls, false), ...); }
+    template <class... Handles>
+    void show(Handles... controls)
+    {
+        (setVisible(controls, true), ...);
+    }
+    template <class... Handles>
+    void hide(Handles... controls)
+    {
+        (setVisible(controls, false), ...);
+    }
+    template <class... Handles>
+    void enable(Handles... controls)
+    {
+        (setEnabled(controls, true), ...);
+    }
+    template <class... Handles>
+    void disable(Handles... controls)
+    {
+        (setEnabled(controls, false), ...);
+    }
 
     /// The drawing that a control shows: its row's, or the one borrowed from another control (a flapping butterfly).
     std::span<const Mark> drawing(Handle control) const;

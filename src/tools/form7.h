@@ -10,8 +10,24 @@
 namespace velmor::form7 {
 
 enum Control : host::Handle {
-    Main, OpenWings, CloseWings, Picture1, Picture2, Command1, Command2, Command3, Command4, Command5, SSCommand1, SSCommand2,
-    Label1, Label2, Label3, Label4, Label5, Timer1
+    Main,
+    OpenWings,
+    CloseWings,
+    Picture1,
+    Picture2,
+    Command1,
+    Command2,
+    Command3,
+    Command4,
+    Command5,
+    SSCommand1,
+    SSCommand2,
+    Label1,
+    Label2,
+    Label3,
+    Label4,
+    Label5,
+    Timer1
 };
 
 extern const host::WindowSpec spec;

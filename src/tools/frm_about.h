@@ -10,7 +10,19 @@
 namespace velmor::frm_about {
 
 enum Control : host::Handle {
-    Main, OpenWings, CloseWings, Timer1, Command1, Command2, Image1, Label1_0, Label1_1, Label1_2, Label2, Label3, Label4
+    Main,
+    OpenWings,
+    CloseWings,
+    Timer1,
+    Command1,
+    Command2,
+    Image1,
+    Label1_0,
+    Label1_1,
+    Label1_2,
+    Label2,
+    Label3,
+    Label4
 };
 
 extern const host::WindowSpec spec;

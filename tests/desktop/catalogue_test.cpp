@@ -110,7 +110,8 @@ TEST_P(CatalogueTest, everythingShownLiesInsideItsWindow)
     const desktop::Canvas& canvas = on.viewOf(*window).canvas();
     const QRect sheet = canvas.rect().adjusted(-2, -2, 2, 2);
     for (const host::ControlRow& row : window->spec().controls) {
-        const bool placed = desktop::hasPlace(row.kind) && row.kind != Kind::editor && row.look != host::Look::invisible;
+        const bool placed =
+            desktop::hasPlace(row.kind) && row.kind != Kind::editor && row.look != host::Look::invisible;
         EXPECT_TRUE(!placed || !canvas.shows(row.id) || sheet.contains(canvas.boxInPixels(row.id))) << row.name;
     }
 }
@@ -150,7 +151,8 @@ TEST_P(CatalogueTest, everyKeyOfItsTableDoesItsDeed)
         Bench::settle();
         fresh.keys(desktop::shown(row.keys));
         const Handle about = row.action == host::KeyAction::dragTo ? row.target : control;
-        const auto touches = std::count_if(heard.begin(), heard.end(), [&](const auto& slot) { return slot.first == about; });
+        const auto touches =
+            std::count_if(heard.begin(), heard.end(), [&](const auto& slot) { return slot.first == about; });
         EXPECT_GT(touches, 0) << row.keys;
     }
 }
@@ -159,8 +161,7 @@ INSTANTIATE_TEST_SUITE_P(Windows, CatalogueTest, ::testing::ValuesIn(everyWindow
     return showing.param.window + (showing.param.english ? "_english" : "_spanish");
 });
 
-struct MainWindowTest : ::testing::TestWithParam<bool> {
-};
+struct MainWindowTest : ::testing::TestWithParam<bool> {};
 
 TEST_P(MainWindowTest, menusShowWhatTheModelHoldsAndFollowIt)
 {

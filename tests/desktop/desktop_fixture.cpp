@@ -22,11 +22,12 @@ using host::noControl;
 
 namespace bench {
 
-constexpr const char* eventNames[] = {"focus", "lost",  "click", "double", "down",     "up",   "hover",    "key",
-                                      "change", "enter", "leave", "drop",   "timer",    "opens", "shortcut", "load",
-                                      "activate", "back", "repaint", "resize", "ask",   "unload"};
+constexpr const char* eventNames[] = {"focus",    "lost",  "click",   "double", "down",  "up",    "hover",    "key",
+                                      "change",   "enter", "leave",   "drop",   "timer", "opens", "shortcut", "load",
+                                      "activate", "back",  "repaint", "resize", "ask",   "unload"};
 
-template <Event Which> void noted(host::Window& window, host::EventArgs& args)
+template <Event Which>
+void noted(host::Window& window, host::EventArgs& args)
 {
     static_cast<BenchWindow&>(window).note(Which, args);
 }
@@ -121,28 +122,54 @@ constexpr auto toolSlots = allSlots<std::size(toolRows)>();
 constexpr auto editorSlots = allSlots<std::size(editorRows)>();
 // clang-format on
 
-template <const host::WindowSpec& Spec> std::unique_ptr<host::Window> make(host::SheetHost& host)
+template <const host::WindowSpec& Spec>
+std::unique_ptr<host::Window> make(host::SheetHost& host)
 {
     return std::make_unique<BenchWindow>(host, Spec);
 }
 extern const host::WindowSpec mainSpec, sheetSpec, toolSpec, paletteSpec, editorSpec;
-const host::WindowSpec mainSpec{.name = "MDIForm1", .role = host::Role::mainWindow, .caption = "Banco", .place = {0, 0, 20250, 10125},
-                                .controls = mainRows, .slots = mainSlots, .create = make<mainSpec>};
-const host::WindowSpec sheetSpec{.name = "Hoja", .role = host::Role::sheet, .caption = "Hoja [*] & <b>", .place = {0, 0, 9000, 4500},
-                                 .controls = sheetRows, .slots = sheetSlots, .shortcuts = sheetKeys, .create = make<sheetSpec>};
-const host::WindowSpec toolSpec{.name = "Herramienta", .role = host::Role::tool, .caption = "Herramienta", .place = {0, 0, 3000, 2000},
-                                .controls = toolRows, .slots = toolSlots, .create = make<toolSpec>};
-const host::WindowSpec paletteSpec{.name = "Paleta", .role = host::Role::palette, .caption = "Paleta", .place = {0, 0, 6000, 1200},
-                                   .controls = paletteRows, .create = make<paletteSpec>};
-const host::WindowSpec editorSpec{.name = "Editor", .role = host::Role::editor, .caption = "Editor", .place = {0, 0, 6000, 4000},
-                                  .controls = editorRows, .slots = editorSlots, .create = make<editorSpec>};
+const host::WindowSpec mainSpec{.name = "MDIForm1",
+                                .role = host::Role::mainWindow,
+                                .caption = "Banco",
+                                .place = {0, 0, 20250, 10125},
+                                .controls = mainRows,
+                                .slots = mainSlots,
+                                .create = make<mainSpec>};
+const host::WindowSpec sheetSpec{.name = "Hoja",
+                                 .role = host::Role::sheet,
+                                 .caption = "Hoja [*] & <b>",
+                                 .place = {0, 0, 9000, 4500},
+                                 .controls = sheetRows,
+                                 .slots = sheetSlots,
+                                 .shortcuts = sheetKeys,
+                                 .create = make<sheetSpec>};
+const host::WindowSpec toolSpec{.name = "Herramienta",
+                                .role = host::Role::tool,
+                                .caption = "Herramienta",
+                                .place = {0, 0, 3000, 2000},
+                                .controls = toolRows,
+                                .slots = toolSlots,
+                                .create = make<toolSpec>};
+const host::WindowSpec paletteSpec{.name = "Paleta",
+                                   .role = host::Role::palette,
+                                   .caption = "Paleta",
+                                   .place = {0, 0, 6000, 1200},
+                                   .controls = paletteRows,
+                                   .create = make<paletteSpec>};
+const host::WindowSpec editorSpec{.name = "Editor",
+                                  .role = host::Role::editor,
+                                  .caption = "Editor",
+                                  .place = {0, 0, 6000, 4000},
+                                  .controls = editorRows,
+                                  .slots = editorSlots,
+                                  .create = make<editorSpec>};
 
 } // namespace bench
 
 host::Catalogue benchCatalogue()
 {
-    static const host::WindowSpec* const windows[] = {&bench::mainSpec, &bench::sheetSpec, &bench::toolSpec, &bench::paletteSpec,
-                                                      &bench::editorSpec};
+    static const host::WindowSpec* const windows[] = {&bench::mainSpec, &bench::sheetSpec, &bench::toolSpec,
+                                                      &bench::paletteSpec, &bench::editorSpec};
     return windows;
 }
 
@@ -275,7 +302,8 @@ void Bench::click(host::Window& window, Handle control, Qt::MouseButton button, 
 
 void Bench::doubleClick(Handle control)
 {
-    QTest::mouseDClick(viewOf(sheet()).window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, middleOf(sheet(), control));
+    QTest::mouseDClick(viewOf(sheet()).window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                       middleOf(sheet(), control));
     settle();
 }
 

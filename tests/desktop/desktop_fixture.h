@@ -26,8 +26,27 @@ namespace bench {
 
 /// Controls of the sheet "Hoja".
 enum Control : host::Handle {
-    Text1, Text2, Text3, Text4, Text5, Command1, Picture1, Option1, Option2, Check1, Image1, Image14, Image12,
-    Label1, Balloon, Page1, List1, Timer1, Panel1, Inside1, controlCount
+    Text1,
+    Text2,
+    Text3,
+    Text4,
+    Text5,
+    Command1,
+    Picture1,
+    Option1,
+    Option2,
+    Check1,
+    Image1,
+    Image14,
+    Image12,
+    Label1,
+    Balloon,
+    Page1,
+    List1,
+    Timer1,
+    Panel1,
+    Inside1,
+    controlCount
 };
 /// Controls of the main window.
 enum MainControl : host::Handle { mnuArchivo, mnuFile1, mnuOp, mnuIng, SSPanel1 };
@@ -81,7 +100,8 @@ public:
     static void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     static void keys(const QString& sequence);
     static void type(const QString& text);
-    void click(host::Handle control, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers held = Qt::NoModifier);
+    void click(host::Handle control, Qt::MouseButton button = Qt::LeftButton,
+               Qt::KeyboardModifiers held = Qt::NoModifier);
     void click(host::Window& window, host::Handle control, Qt::MouseButton button = Qt::LeftButton,
                Qt::KeyboardModifiers held = Qt::NoModifier);
     void doubleClick(host::Handle control);

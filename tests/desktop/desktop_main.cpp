@@ -11,8 +11,9 @@ namespace velmor::test::desktop_main {
 // The offscreen platform tells each time what it cannot do; everything else is worth reading.
 void tell(QtMsgType, const QMessageLogContext&, const QString& message)
 {
-    if (!message.startsWith(QStringLiteral("This plugin does not support")) && !message.contains(QStringLiteral("XDG_RUNTIME_DIR"))
-        && !message.contains(QStringLiteral("unsupported clipboard mode")))
+    if (!message.startsWith(QStringLiteral("This plugin does not support")) &&
+        !message.contains(QStringLiteral("XDG_RUNTIME_DIR")) &&
+        !message.contains(QStringLiteral("unsupported clipboard mode")))
         std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 

@@ -18,7 +18,9 @@ struct FocusTest : ::testing::Test {
     void SetUp() override { on.open(); }
     void focusGoes(host::Handle from, host::Handle to)
     {
-        on.sheet().deeds[{from, Event::lostFocus}] = [this, to](host::EventArgs&) { on.engine.host().SetFocus(on.sheet(), to); };
+        on.sheet().deeds[{from, Event::lostFocus}] = [this, to](host::EventArgs&) {
+            on.engine.host().SetFocus(on.sheet(), to);
+        };
     }
     Bench on;
 };
@@ -55,8 +57,7 @@ TEST_F(FocusTest, aClickPutsTheCaretAndSelectsNothing)
     on.click(Text2);
     EXPECT_TRUE(on.field(Text2).hasFocus());
     EXPECT_TRUE(on.field(Text2).selectedText().isEmpty());
-    EXPECT_EQ(on.sheet().log,
-              (std::vector<std::string>{"Text1 lost", "Text2 focus", "Text2 down", "Text2 click"}));
+    EXPECT_EQ(on.sheet().log, (std::vector<std::string>{"Text1 lost", "Text2 focus", "Text2 down", "Text2 click"}));
 }
 
 TEST_F(FocusTest, aClickThatTheOldFieldRedirectsNeverReachesTheOther)

@@ -275,7 +275,8 @@ TEST_F(KeyboardTest, thePageOnKeysNamesThemAll)
     ASSERT_TRUE(page.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(page.readAll());
     const auto names = [&](std::string_view keys) {
-        return text.contains(QStringLiteral("`%1`").arg(QString::fromUtf8(keys.data(), static_cast<qsizetype>(keys.size()))));
+        return text.contains(
+            QStringLiteral("`%1`").arg(QString::fromUtf8(keys.data(), static_cast<qsizetype>(keys.size()))));
     };
     for (const desktop::CommonKeyRow& row : desktop::commonKeys())
         EXPECT_TRUE(names(row.keys)) << row.keys;

@@ -28,7 +28,8 @@ int farthest(const QImage& one, const QImage& other)
         for (int x = 0; x < one.width(); ++x) {
             const QColor a = one.pixelColor(x, y);
             const QColor b = other.pixelColor(x, y);
-            most = std::max({most, std::abs(a.red() - b.red()), std::abs(a.green() - b.green()), std::abs(a.blue() - b.blue())});
+            most = std::max(
+                {most, std::abs(a.red() - b.red()), std::abs(a.green() - b.green()), std::abs(a.blue() - b.blue())});
         }
     return most;
 }
@@ -42,7 +43,8 @@ TEST(PlatesTest, onScreenTheyLookAsPainted)
         const QRectF large(10 + half, 8 + half, 120, 90);
         for (const desktop::PlateLook& look :
              {desktop::PlateLook{ground, border, 6.0, 1.0}, desktop::PlateLook{ground, QColor(), 4.0, 1.0},
-              desktop::PlateLook{QColor(), border, 3.5, 2.0}, desktop::PlateLook{QColor(10, 20, 30, 90), border, 0.0, 1.0}}) {
+              desktop::PlateLook{QColor(), border, 3.5, 2.0},
+              desktop::PlateLook{QColor(10, 20, 30, 90), border, 0.0, 1.0}}) {
             EXPECT_LE(farthest(painted(true, look, ratio, large), painted(false, look, ratio, large)), 6) << ratio;
             const QRectF tiny(10 + half, 8 + half, 9, 7);
             EXPECT_LE(farthest(painted(true, look, ratio, tiny), painted(false, look, ratio, tiny)), 6) << ratio;

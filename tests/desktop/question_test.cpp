@@ -120,7 +120,8 @@ TEST_F(QuestionTest, aSaveDialogAsksAboutReplacingOnlyWhereTheFlagsSaySo)
             result = !dynamic_cast<QFileDialog&>(dialog).testOption(QFileDialog::DontConfirmOverwrite);
             dialog.reject();
         });
-        on.screen.fileDialog({host::DialogKind::save, "Guardar", "Texto(*.txt)|*.txt", on.folder.path().toStdString(), flags});
+        on.screen.fileDialog(
+            {host::DialogKind::save, "Guardar", "Texto(*.txt)|*.txt", on.folder.path().toStdString(), flags});
         return result;
     };
     EXPECT_TRUE(confirms(2638862));
@@ -137,15 +138,16 @@ TEST_F(QuestionTest, aSaveDialogAddsTheEndingOfItsFilter)
         name->setText(on.folder.filePath("prueba"));
         QTest::keyClick(name, Qt::Key_Return);
     });
-    const auto path = on.screen.fileDialog({host::DialogKind::save, "Save Circuit", "Base Común (*.BCC)|*.BCC",
-                                            on.folder.path().toStdString(), 2638862});
+    const auto path = on.screen.fileDialog(
+        {host::DialogKind::save, "Save Circuit", "Base Común (*.BCC)|*.BCC", on.folder.path().toStdString(), 2638862});
     ASSERT_TRUE(path.has_value());
     EXPECT_EQ(*path, on.folder.filePath("prueba.BCC").toStdString());
 }
 
 TEST(FileFilterTest, descriptionsStandToTheLetterAndPatternsMatchAnyCapitals)
 {
-    const QStringList filters = desktop::nameFilters("Base Común (*.BCC)|*.BCC|Todos los archivos (*.*)|*.*|dos|*.bmp;*.Exe");
+    const QStringList filters =
+        desktop::nameFilters("Base Común (*.BCC)|*.BCC|Todos los archivos (*.*)|*.*|dos|*.bmp;*.Exe");
     ASSERT_EQ(filters.size(), 3);
     EXPECT_EQ(filters[0], "Base Común (*.BCC) (*.BCC *.bcc)");
     EXPECT_EQ(filters[1], "Todos los archivos (*.*) (*)");

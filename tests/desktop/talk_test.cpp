@@ -30,8 +30,8 @@ protected:
     desktop::Canvas* welcome()
     {
         for (desktop::Canvas* canvas : on.main().findChildren<desktop::Canvas*>())
-            if (canvas->model() == &on.engine.mainWindow() && canvas->isVisible()
-                && canvas->boxInPixels(main_window::Label1).isValid() && canvas->height() > 100)
+            if (canvas->model() == &on.engine.mainWindow() && canvas->isVisible() &&
+                canvas->boxInPixels(main_window::Label1).isValid() && canvas->height() > 100)
                 return canvas;
         return nullptr;
     }

@@ -52,7 +52,8 @@ TEST_F(ViewTest, textVisibilityEnablingAndColourFollowTheModel)
     EXPECT_FALSE(on.field(Text2).isEnabled());
     EXPECT_FALSE(on.field(Text1).isVisible());
     EXPECT_EQ(on.field(Text3).palette().color(QPalette::Active, QPalette::Base), QColor(0x80, 0, 0));
-    EXPECT_GE(desktop::contrast(on.field(Text3).palette().color(QPalette::Active, QPalette::Text), QColor(0x80, 0, 0)), 4.5);
+    EXPECT_GE(desktop::contrast(on.field(Text3).palette().color(QPalette::Active, QPalette::Text), QColor(0x80, 0, 0)),
+              4.5);
 }
 
 TEST_F(ViewTest, whatLiesInAHiddenPanelIsHidden)
@@ -348,7 +349,8 @@ TEST_F(ViewTest, aSheetThatFillsTheAreaGoesOnFillingIt)
 {
     const auto fills = [this] {
         const QRect sheet = frame(on.sheet()).geometry();
-        return std::abs(sheet.width() - on.main().area().width()) <= 2 && std::abs(sheet.height() - on.main().area().height()) <= 2;
+        return std::abs(sheet.width() - on.main().area().width()) <= 2 &&
+               std::abs(sheet.height() - on.main().area().height()) <= 2;
     };
     EXPECT_TRUE(fills());
     log().clear();

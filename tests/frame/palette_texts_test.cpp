@@ -11,17 +11,20 @@
 
 namespace velmor::palette_texts_test {
 
-bool bothLanguages(const host::BiText& text) {
+bool bothLanguages(const host::BiText& text)
+{
     return !text.es.empty() && !text.en.empty();
 }
 
-bool noLanguage(const host::BiText& text) {
+bool noLanguage(const host::BiText& text)
+{
     return text.es.empty() && text.en.empty();
 }
 
 /// Sentences are counted by their ends, so that the dots of "(r.m.s.)" or "..." need no care in the pages: they have
 /// none.
-std::ptrdiff_t sentences(std::string_view text) {
+std::ptrdiff_t sentences(std::string_view text)
+{
     std::ptrdiff_t ends = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool last = i + 1 == text.size();
@@ -31,7 +34,8 @@ std::ptrdiff_t sentences(std::string_view text) {
     return ends;
 }
 
-TEST(PaletteTexts, EveryPageSpeaksBothLanguagesInOneToThreeSentences) {
+TEST(PaletteTexts, EveryPageSpeaksBothLanguagesInOneToThreeSentences)
+{
     for (const auto& page : palette::designPages) {
         EXPECT_TRUE(bothLanguages(page.text)) << page.sheet;
         EXPECT_TRUE(bothLanguages(page.hoverMainCaption)) << page.sheet;
@@ -44,14 +48,16 @@ TEST(PaletteTexts, EveryPageSpeaksBothLanguagesInOneToThreeSentences) {
     EXPECT_EQ(sentences("Uno. Dos. Tres. Cuatro."), 4) << "the counter must be able to refuse";
 }
 
-TEST(PaletteTexts, ButtonsTwoToFiveHaveNoMaximAndTheOthersHaveOne) {
+TEST(PaletteTexts, ButtonsTwoToFiveHaveNoMaximAndTheOthersHaveOne)
+{
     for (std::size_t i = 0; i < palette::designPages.size(); ++i) {
         const auto& maxim = palette::designPages[i].maxim;
         EXPECT_TRUE(i >= 2 && i <= 5 ? noLanguage(maxim) : bothLanguages(maxim)) << i;
     }
 }
 
-TEST(PaletteTexts, EveryButtonOpensASheetOfItsOwn) {
+TEST(PaletteTexts, EveryButtonOpensASheetOfItsOwn)
+{
     std::set<std::string_view> sheets;
     for (const auto& page : palette::designPages)
         sheets.insert(page.sheet);
@@ -59,7 +65,8 @@ TEST(PaletteTexts, EveryButtonOpensASheetOfItsOwn) {
     EXPECT_TRUE(noLanguage(palette::designPages[11].sheetTitle)) << "the chooser keeps its own title";
 }
 
-TEST(PaletteTexts, PagesOfTheFirstAndEleventhButtonBeginAsTheyAlwaysDid) {
+TEST(PaletteTexts, PagesOfTheFirstAndEleventhButtonBeginAsTheyAlwaysDid)
+{
     const auto& pages = palette::designPages;
     EXPECT_TRUE(
         pages[0].text.es.starts_with("En este programa podremos realizar mediciones de señal de salida, de fase y de "
@@ -79,7 +86,8 @@ TEST(PaletteTexts, PagesOfTheFirstAndEleventhButtonBeginAsTheyAlwaysDid) {
                                       "face of the changes of temperature"));
 }
 
-TEST(PaletteTexts, OnlyTheCommonEmittersTellTheirClassOnTheMainWindowAlone) {
+TEST(PaletteTexts, OnlyTheCommonEmittersTellTheirClassOnTheMainWindowAlone)
+{
     for (std::size_t i = 0; i < palette::designPages.size(); ++i) {
         const auto& page = palette::designPages[i];
         const bool differ = page.hoverMainCaption.es != page.hoverPaletteCaption.es;
@@ -88,7 +96,8 @@ TEST(PaletteTexts, OnlyTheCommonEmittersTellTheirClassOnTheMainWindowAlone) {
     }
 }
 
-TEST(PaletteTexts, ThePoemBeginsWithTheSoundsInBothLanguages) {
+TEST(PaletteTexts, ThePoemBeginsWithTheSoundsInBothLanguages)
+{
     EXPECT_TRUE(palette::poem.label1.es.starts_with("Los sonidos formaron "));
     EXPECT_TRUE(palette::poem.label1.en.starts_with("The sounds formed"));
     EXPECT_TRUE(bothLanguages(palette::poem.label21));
@@ -97,7 +106,8 @@ TEST(PaletteTexts, ThePoemBeginsWithTheSoundsInBothLanguages) {
     EXPECT_EQ(stanzas(palette::poem.label21.es), stanzas(palette::poem.label21.en));
 }
 
-TEST(PaletteTexts, EachSymbolNoteBelongsToAPageOfItsOwn) {
+TEST(PaletteTexts, EachSymbolNoteBelongsToAPageOfItsOwn)
+{
     std::set<std::size_t> buttons;
     std::set<std::string_view> labels;
     for (const auto& note : palette::symbolNotes) {
@@ -112,7 +122,8 @@ TEST(PaletteTexts, EachSymbolNoteBelongsToAPageOfItsOwn) {
               "Simbologia\nhFE = ganancia de corriente sin señal\nhfe = Ganancia para pequeñas señales");
 }
 
-TEST(WelcomeTexts, EveryTextIsNamedOnceAndSpeaksBothLanguages) {
+TEST(WelcomeTexts, EveryTextIsNamedOnceAndSpeaksBothLanguages)
+{
     std::set<std::string_view> names;
     for (const auto& row : main_window::groupCaptions) {
         EXPECT_TRUE(bothLanguages(row.text)) << row.name;
@@ -125,7 +136,8 @@ TEST(WelcomeTexts, EveryTextIsNamedOnceAndSpeaksBothLanguages) {
     }
 }
 
-TEST(WelcomeTexts, AcceleratorsDifferWithinTheMenuOfNewSheets) {
+TEST(WelcomeTexts, AcceleratorsDifferWithinTheMenuOfNewSheets)
+{
     const auto accelerator = [](std::string_view caption) {
         const auto at = caption.find('&');
         return at == std::string_view::npos ? '\0' : caption[at + 1];

@@ -16,7 +16,11 @@ using Log = std::vector<std::string>;
 
 class EngineContract : public testing::Test {
 protected:
-    void SetUp() override { sheet_ = &program.newSheet(); program.takeLog(); }
+    void SetUp() override
+    {
+        sheet_ = &program.newSheet();
+        program.takeLog();
+    }
     void moveTo(Handle control) { program.engine.host().SetFocus(sheet(), control); }
     FixtureWindow& sheet() { return *sheet_; }
 
@@ -295,9 +299,7 @@ TEST_F(EngineContract, AUserEventDuringASlotWaitsForItsEnd)
 
 TEST_F(EngineContract, AFailureEndsTheProgramWithAMessageAndNothingRunsAfterIt)
 {
-    sheet().on(First, Event::key, [](EventArgs&) {
-        throw host::ProgramFailure(host::FailureKind::divisionByZero);
-    });
+    sheet().on(First, Event::key, [](EventArgs&) { throw host::ProgramFailure(host::FailureKind::divisionByZero); });
     program.engine.userKey(sheet(), 'x');
     EXPECT_TRUE(program.engine.ended());
     ASSERT_EQ(program.screen.failures.size(), 1U);

@@ -57,18 +57,26 @@ constexpr std::array<SlotRow, 9 * 9 + 9> makeSlots()
 constexpr auto slots = makeSlots();
 
 extern const host::WindowSpec mainSpec, sheetSpec, toolSpec, paletteSpec;
-template <const host::WindowSpec& Spec> std::unique_ptr<host::Window> create(host::SheetHost& host)
+template <const host::WindowSpec& Spec>
+std::unique_ptr<host::Window> create(host::SheetHost& host)
 {
     return std::make_unique<FixtureWindow>(host, Spec);
 }
 const host::WindowSpec mainSpec{
     .name = "Main", .role = host::Role::mainWindow, .controls = controls, .slots = slots, .create = create<mainSpec>};
-const host::WindowSpec sheetSpec{.name = "Sheet", .role = host::Role::sheet, .controls = controls, .slots = slots,
-                                 .tabOrder = order, .create = create<sheetSpec>};
+const host::WindowSpec sheetSpec{.name = "Sheet",
+                                 .role = host::Role::sheet,
+                                 .controls = controls,
+                                 .slots = slots,
+                                 .tabOrder = order,
+                                 .create = create<sheetSpec>};
 const host::WindowSpec toolSpec{
     .name = "Tool", .role = host::Role::tool, .controls = controls, .slots = slots, .create = create<toolSpec>};
-const host::WindowSpec paletteSpec{
-    .name = "Palette", .role = host::Role::palette, .controls = controls, .slots = slots, .create = create<paletteSpec>};
+const host::WindowSpec paletteSpec{.name = "Palette",
+                                   .role = host::Role::palette,
+                                   .controls = controls,
+                                   .slots = slots,
+                                   .create = create<paletteSpec>};
 const host::WindowSpec* const windows[] = {&mainSpec, &sheetSpec, &toolSpec, &paletteSpec};
 
 } // namespace fixture_detail

@@ -72,12 +72,14 @@ public:
     using Key = std::pair<host::Handle, host::Event>;
     FixtureWindow(host::SheetHost& host, const host::WindowSpec& spec) : host::Window(host, spec) {}
 
-    template <host::Event Which> void note(host::EventArgs& args)
+    template <host::Event Which>
+    void note(host::EventArgs& args)
     {
-        static constexpr const char* names[] = {"focus", "lost", "click", "double", "down", "up", "hover", "key", "change",
-                                                "enter", "leave", "drop", "timer", "opens", "shortcut", "load", "activate", "back",
-                                                "repaint", "resize", "ask", "unload"};
-        const std::string who = args.control == host::noControl ? std::string(name()) : std::string(row(args.control).name);
+        static constexpr const char* names[] = {
+            "focus", "lost",  "click", "double",   "down", "up",       "hover", "key",     "change", "enter", "leave",
+            "drop",  "timer", "opens", "shortcut", "load", "activate", "back",  "repaint", "resize", "ask",   "unload"};
+        const std::string who =
+            args.control == host::noControl ? std::string(name()) : std::string(row(args.control).name);
         log.push_back(who + " " + names[static_cast<int>(Which)]);
         const auto found = actions.find({args.control, Which});
         if (found != actions.end())
@@ -92,7 +94,8 @@ public:
     std::map<Key, std::function<void(host::EventArgs&)>> actions;
 };
 
-template <host::Event Which> constexpr host::SlotRow noting(host::Handle control)
+template <host::Event Which>
+constexpr host::SlotRow noting(host::Handle control)
 {
     return {control, Which, host::slot<&FixtureWindow::note<Which>>};
 }

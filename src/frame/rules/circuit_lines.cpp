@@ -18,20 +18,23 @@ constexpr std::size_t judgedPart = 64 * 1024;
 
 } // namespace circuit_lines
 
-std::optional<CircuitReader> CircuitReader::open(const std::filesystem::path& path) {
+std::optional<CircuitReader> CircuitReader::open(const std::filesystem::path& path)
+{
     std::optional<std::string> bytes = readWhole(path, largestCircuitFile);
     if (!bytes)
         return std::nullopt;
     return CircuitReader(std::move(*bytes));
 }
 
-CircuitReader::CircuitReader(std::string bytes) : bytes_(std::move(bytes)) {
+CircuitReader::CircuitReader(std::string bytes) : bytes_(std::move(bytes))
+{
     const bool hasReturn =
         std::string_view(bytes_).substr(0, circuit_lines::judgedPart).find('\r') != std::string::npos;
     lineEnd_ = hasReturn ? circuit_lines::lineEnd : circuit_lines::bareLineEnd;
 }
 
-std::optional<std::string> CircuitReader::readLine() {
+std::optional<std::string> CircuitReader::readLine()
+{
     if (position_ >= bytes_.size())
         return std::nullopt;
     const std::size_t end = std::min(bytes_.find(lineEnd_, position_), bytes_.size());
@@ -44,14 +47,16 @@ std::optional<std::string> CircuitReader::readLine() {
     return line;
 }
 
-std::string joinCircuitLines(std::span<const std::string> lines) {
+std::string joinCircuitLines(std::span<const std::string> lines)
+{
     std::string text;
     for (const std::string& line : lines)
         text.append(line).append(circuit_lines::lineEnd);
     return text;
 }
 
-bool writeCircuitFile(const std::filesystem::path& path, std::string_view text) {
+bool writeCircuitFile(const std::filesystem::path& path, std::string_view text)
+{
     return writeWhole(path, toWindows1252(text).append(circuit_lines::lineEnd));
 }
 

@@ -22,11 +22,13 @@ constexpr std::array<char32_t, 32> upperRow = {
 };
 // clang-format on
 
-constexpr unsigned char byteAt(std::string_view text, std::size_t offset) {
+constexpr unsigned char byteAt(std::string_view text, std::size_t offset)
+{
     return static_cast<unsigned char>(text[offset]);
 }
 
-constexpr bool isAscii(char letter) {
+constexpr bool isAscii(char letter)
+{
     return static_cast<unsigned char>(letter) < 0x80;
 }
 
@@ -39,7 +41,8 @@ struct Lead {
     unsigned char bits;
 };
 
-constexpr Lead leadOf(unsigned char byte) {
+constexpr Lead leadOf(unsigned char byte)
+{
     if (byte < 0x80)
         return {1, 0, 0, byte};
     if (byte < 0xC2)
@@ -59,7 +62,8 @@ constexpr Lead leadOf(unsigned char byte) {
 }
 
 // Copies the ASCII run at `offset` and moves past it; true when something else follows.
-bool copyAscii(std::string_view text, std::size_t& offset, std::string& into) {
+bool copyAscii(std::string_view text, std::size_t& offset, std::string& into)
+{
     const auto begin = text.begin() + static_cast<std::ptrdiff_t>(offset);
     const auto end = std::find_if_not(begin, text.end(), isAscii);
     into.append(begin, end);
@@ -67,7 +71,8 @@ bool copyAscii(std::string_view text, std::size_t& offset, std::string& into) {
     return offset < text.size();
 }
 
-std::string withReplacements(std::string_view text) {
+std::string withReplacements(std::string_view text)
+{
     std::string result;
     result.reserve(text.size());
     for (std::size_t offset = 0; copyAscii(text, offset, result);) {
@@ -78,7 +83,8 @@ std::string withReplacements(std::string_view text) {
     return result;
 }
 
-bool fitsWindows1252(std::string_view text) {
+bool fitsWindows1252(std::string_view text)
+{
     for (std::size_t offset = 0; offset < text.size();) {
         const CodePoint point = codePointAt(text, offset);
         if (!point.valid || !windows1252Code(point.value))
@@ -88,7 +94,8 @@ bool fitsWindows1252(std::string_view text) {
     return true;
 }
 
-bool wouldReadAsUtf8(std::string_view bytes) {
+bool wouldReadAsUtf8(std::string_view bytes)
+{
     if (bytes.starts_with(byteOrderMark))
         return true;
     return !std::all_of(bytes.begin(), bytes.end(), isAscii) && isValidUtf8(bytes);
@@ -96,7 +103,8 @@ bool wouldReadAsUtf8(std::string_view bytes) {
 
 } // namespace code_page
 
-CodePoint codePointAt(std::string_view text, std::size_t offset) noexcept {
+CodePoint codePointAt(std::string_view text, std::size_t offset) noexcept
+{
     const code_page::Lead lead = code_page::leadOf(code_page::byteAt(text, offset));
     if (lead.length == 0)
         return {replacementCharacter, 1, false};
@@ -114,7 +122,8 @@ CodePoint codePointAt(std::string_view text, std::size_t offset) noexcept {
     return {value, lead.length, true};
 }
 
-void appendUtf8(std::string& text, char32_t character) {
+void appendUtf8(std::string& text, char32_t character)
+{
     const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
     const char32_t value = surrogate || character > 0x10FFFF ? replacementCharacter : character;
     const auto append = [&text](char32_t byte) { text += static_cast<char>(static_cast<unsigned char>(byte)); };
@@ -134,7 +143,8 @@ void appendUtf8(std::string& text, char32_t character) {
     append(0x80 | (value & 0x3F));
 }
 
-bool isValidUtf8(std::string_view text) noexcept {
+bool isValidUtf8(std::string_view text) noexcept
+{
     for (std::size_t offset = 0; offset < text.size();) {
         const CodePoint point = codePointAt(text, offset);
         if (!point.valid)
@@ -144,14 +154,16 @@ bool isValidUtf8(std::string_view text) noexcept {
     return true;
 }
 
-std::size_t codePointCount(std::string_view text) noexcept {
+std::size_t codePointCount(std::string_view text) noexcept
+{
     std::size_t count = 0;
     for (std::size_t offset = 0; offset < text.size(); offset += codePointAt(text, offset).length)
         ++count;
     return count;
 }
 
-std::optional<unsigned char> windows1252Code(char32_t character) noexcept {
+std::optional<unsigned char> windows1252Code(char32_t character) noexcept
+{
     if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
         return static_cast<unsigned char>(character);
     const auto found = std::find(code_page::upperRow.begin(), code_page::upperRow.end(), character);
@@ -160,11 +172,13 @@ std::optional<unsigned char> windows1252Code(char32_t character) noexcept {
     return static_cast<unsigned char>(0x80 + (found - code_page::upperRow.begin()));
 }
 
-char32_t windows1252Character(unsigned char code) noexcept {
+char32_t windows1252Character(unsigned char code) noexcept
+{
     return code >= 0x80 && code < 0xA0 ? code_page::upperRow[code - 0x80u] : code;
 }
 
-std::string fromWindows1252(std::string_view bytes) {
+std::string fromWindows1252(std::string_view bytes)
+{
     std::string text;
     text.reserve(bytes.size());
     for (std::size_t offset = 0; code_page::copyAscii(bytes, offset, text); ++offset)
@@ -172,7 +186,8 @@ std::string fromWindows1252(std::string_view bytes) {
     return text;
 }
 
-std::string toWindows1252(std::string_view text) {
+std::string toWindows1252(std::string_view text)
+{
     std::string bytes;
     bytes.reserve(text.size());
     for (std::size_t offset = 0; code_page::copyAscii(text, offset, bytes);) {
@@ -183,13 +198,15 @@ std::string toWindows1252(std::string_view text) {
     return bytes;
 }
 
-std::string decodeDocument(std::string_view bytes) {
+std::string decodeDocument(std::string_view bytes)
+{
     if (bytes.starts_with(code_page::byteOrderMark))
         return code_page::withReplacements(bytes.substr(code_page::byteOrderMark.size()));
     return isValidUtf8(bytes) ? std::string(bytes) : fromWindows1252(bytes);
 }
 
-std::string encodeDocument(std::string_view text) {
+std::string encodeDocument(std::string_view text)
+{
     if (code_page::fitsWindows1252(text)) {
         std::string bytes = toWindows1252(text);
         if (!code_page::wouldReadAsUtf8(bytes))
@@ -198,7 +215,8 @@ std::string encodeDocument(std::string_view text) {
     return std::string(code_page::byteOrderMark) + code_page::withReplacements(text);
 }
 
-char32_t smallLetter(char32_t character) noexcept {
+char32_t smallLetter(char32_t character) noexcept
+{
     const bool plain = character >= U'A' && character <= U'Z';
     const bool accented = character >= 0xC0 && character <= 0xDE && character != 0xD7;
     if (plain || accented)
@@ -209,7 +227,8 @@ char32_t smallLetter(char32_t character) noexcept {
     return pairedWithNext ? character + 1 : character;
 }
 
-std::string smallLetters(std::string_view text) {
+std::string smallLetters(std::string_view text)
+{
     std::string result;
     result.reserve(text.size());
     for (std::size_t offset = 0; offset < text.size();) {

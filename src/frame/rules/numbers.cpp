@@ -17,13 +17,16 @@ using host::ProgramFailure;
 
 namespace number_reading {
 
-constexpr bool isDigit(char letter) {
+constexpr bool isDigit(char letter)
+{
     return letter >= '0' && letter <= '9';
 }
-constexpr bool isExponentLetter(char letter) {
+constexpr bool isExponentLetter(char letter)
+{
     return letter == 'E' || letter == 'e' || letter == 'D' || letter == 'd';
 }
-constexpr bool isSkipped(char letter) {
+constexpr bool isSkipped(char letter)
+{
     return letter == ' ' || letter == '\t' || letter == '\n';
 }
 
@@ -40,13 +43,15 @@ public:
     explicit SkippingCursor(std::string_view text) : text_(text) { skip(); }
 
     [[nodiscard]] char peek() const { return position_ < text_.size() ? text_[position_] : '\0'; }
-    void advance() {
+    void advance()
+    {
         ++position_;
         skip();
     }
 
 private:
-    void skip() {
+    void skip()
+    {
         while (position_ < text_.size() && isSkipped(text_[position_]))
             ++position_;
     }
@@ -55,14 +60,16 @@ private:
     std::size_t position_ = 0;
 };
 
-bool readSign(SkippingCursor& cursor) {
+bool readSign(SkippingCursor& cursor)
+{
     const char sign = cursor.peek();
     if (sign == '+' || sign == '-')
         cursor.advance();
     return sign == '-';
 }
 
-void readDigits(SkippingCursor& cursor, DecimalText& number) {
+void readDigits(SkippingCursor& cursor, DecimalText& number)
+{
     for (; isDigit(cursor.peek()); cursor.advance()) {
         number.characters += cursor.peek();
         number.hasDigit = true;
@@ -70,7 +77,8 @@ void readDigits(SkippingCursor& cursor, DecimalText& number) {
 }
 
 // The letter counts only when digits follow it, so nothing is kept before the first of them.
-void readExponent(SkippingCursor& cursor, DecimalText& number) {
+void readExponent(SkippingCursor& cursor, DecimalText& number)
+{
     if (!number.hasDigit || !isExponentLetter(cursor.peek()))
         return;
     cursor.advance();
@@ -81,7 +89,8 @@ void readExponent(SkippingCursor& cursor, DecimalText& number) {
     readDigits(cursor, number);
 }
 
-DecimalText readDecimal(SkippingCursor& cursor) {
+DecimalText readDecimal(SkippingCursor& cursor)
+{
     DecimalText number;
     readDigits(cursor, number);
     if (cursor.peek() == '.') {
@@ -93,7 +102,8 @@ DecimalText readDecimal(SkippingCursor& cursor) {
     return number;
 }
 
-int digitOf(char letter) {
+int digitOf(char letter)
+{
     if (isDigit(letter))
         return letter - '0';
     if (letter >= 'A' && letter <= 'F')
@@ -103,7 +113,8 @@ int digitOf(char letter) {
     return 16;
 }
 
-int baseOf(char letter) {
+int baseOf(char letter)
+{
     if (letter == 'H' || letter == 'h')
         return 16;
     if (letter == 'O' || letter == 'o')
@@ -112,7 +123,8 @@ int baseOf(char letter) {
 }
 
 // The cursor stands on the "&".
-double readPrefixed(SkippingCursor& cursor) {
+double readPrefixed(SkippingCursor& cursor)
+{
     cursor.advance();
     const int base = baseOf(cursor.peek());
     if (base == 0)
@@ -125,7 +137,8 @@ double readPrefixed(SkippingCursor& cursor) {
 }
 
 // The power of ten of the leading digit, clamped: its sign tells a number too large from one too small.
-long leadingPower(std::string_view characters) {
+long leadingPower(std::string_view characters)
+{
     const std::size_t letter = std::min(characters.find('e'), characters.size());
     const std::size_t point = std::min(characters.substr(0, letter).find('.'), letter);
     const std::size_t first = std::min(characters.find_first_of("123456789"), letter);
@@ -144,7 +157,8 @@ struct Conversion {
 };
 
 // A value too large comes back as the largest double, one too small as 0.
-Conversion toDouble(std::string_view characters) {
+Conversion toDouble(std::string_view characters)
+{
     Conversion result;
     const char* end = characters.data() + characters.size();
     if (std::from_chars(characters.data(), end, result.value).ec != std::errc::result_out_of_range)
@@ -155,16 +169,19 @@ Conversion toDouble(std::string_view characters) {
 }
 
 // No zero is negative: "-0" would be shown.
-double signedValue(double size, bool negative) {
+double signedValue(double size, bool negative)
+{
     return negative && size != 0.0 ? -size : size;
 }
 
 // Exact, and the same whatever the rounding mode that some driver may have left behind.
-double roundTiesToEven(double number) {
+double roundTiesToEven(double number)
+{
     return number - std::remainder(number, 1.0);
 }
 
-std::string_view withoutSurroundingBlanks(std::string_view text) {
+std::string_view withoutSurroundingBlanks(std::string_view text)
+{
     const std::size_t first = text.find_first_not_of(" \t");
     if (first == std::string_view::npos)
         return {};
@@ -174,10 +191,11 @@ std::string_view withoutSurroundingBlanks(std::string_view text) {
 // Reads a plain number as a whole; `characters` receives it without its sign, with "." as point and "e" as exponent.
 class StrictReader {
 public:
-    StrictReader(std::string_view text, std::string_view decimalSeparator)
-        : rest_(text), separator_(decimalSeparator) {}
+    StrictReader(std::string_view text, std::string_view decimalSeparator) : rest_(text), separator_(decimalSeparator)
+    {}
 
-    bool read(DecimalText& number) {
+    bool read(DecimalText& number)
+    {
         number.negative = takeSign();
         takeDigits(number);
         if (takePoint()) {
@@ -188,14 +206,16 @@ public:
     }
 
 private:
-    bool takeSign() {
+    bool takeSign()
+    {
         const bool negative = rest_.starts_with('-');
         if (negative || rest_.starts_with('+'))
             rest_.remove_prefix(1);
         return negative;
     }
 
-    bool takeDigits(DecimalText& number) {
+    bool takeDigits(DecimalText& number)
+    {
         std::size_t count = 0;
         while (count < rest_.size() && isDigit(rest_[count]))
             ++count;
@@ -205,7 +225,8 @@ private:
         return count > 0;
     }
 
-    bool takePoint() {
+    bool takePoint()
+    {
         const std::string_view point = !separator_.empty() && rest_.starts_with(separator_) ? separator_ : ".";
         if (!rest_.starts_with(point))
             return false;
@@ -213,7 +234,8 @@ private:
         return true;
     }
 
-    bool takeExponent(DecimalText& number) {
+    bool takeExponent(DecimalText& number)
+    {
         if (rest_.empty() || !isExponentLetter(rest_.front()))
             return true;
         rest_.remove_prefix(1);
@@ -227,7 +249,8 @@ private:
 
 } // namespace number_reading
 
-KeyFilterResult KeyFilter(std::int16_t& key) noexcept {
+KeyFilterResult KeyFilter(std::int16_t& key) noexcept
+{
     KeyFilterResult result{key, false};
     if (key == ',') {
         result.key = '.';
@@ -240,7 +263,8 @@ KeyFilterResult KeyFilter(std::int16_t& key) noexcept {
     return result;
 }
 
-double ParseLeadingNumber(std::string_view text) {
+double ParseLeadingNumber(std::string_view text)
+{
     number_reading::SkippingCursor cursor(text);
     const bool negative = number_reading::readSign(cursor);
     if (cursor.peek() == '&')
@@ -250,7 +274,8 @@ double ParseLeadingNumber(std::string_view text) {
                            : 0.0;
 }
 
-double StrictNumber(std::string_view text, std::string_view decimalSeparator) {
+double StrictNumber(std::string_view text, std::string_view decimalSeparator)
+{
     number_reading::DecimalText number;
     if (!number_reading::StrictReader(number_reading::withoutSurroundingBlanks(text), decimalSeparator).read(number))
         throw ProgramFailure(FailureKind::badNumber);
@@ -260,7 +285,8 @@ double StrictNumber(std::string_view text, std::string_view decimalSeparator) {
     return number_reading::signedValue(conversion.value, number.negative);
 }
 
-CurrencyValue::CurrencyValue(Real number) {
+CurrencyValue::CurrencyValue(Real number)
+{
     // The limits are 2 to the 63rd power: the upper one, which the type cannot hold, is the first double beyond it.
     constexpr double limit = 9223372036854775808.0;
     const double scaled = number_reading::roundTiesToEven((number * 10000.0).value());
@@ -269,7 +295,8 @@ CurrencyValue::CurrencyValue(Real number) {
     scaled_ = static_cast<std::int64_t>(scaled);
 }
 
-std::string CurrencyText(CurrencyValue number, std::string_view decimalSeparator) {
+std::string CurrencyText(CurrencyValue number, std::string_view decimalSeparator)
+{
     // Negated as unsigned: the size of the lowest value does not fit the signed type.
     const auto bits = static_cast<std::uint64_t>(number.scaled());
     const std::uint64_t size = number.scaled() < 0 ? 0 - bits : bits;
@@ -282,26 +309,31 @@ std::string CurrencyText(CurrencyValue number, std::string_view decimalSeparator
     return text.append(decimalSeparator).append(decimals);
 }
 
-std::string CurrencyText(Real number, std::string_view decimalSeparator) {
+std::string CurrencyText(Real number, std::string_view decimalSeparator)
+{
     return CurrencyText(CurrencyValue(number), decimalSeparator);
 }
 
-double TruncToInteger(double number) noexcept {
+double TruncToInteger(double number) noexcept
+{
     return std::trunc(number) + 0.0;
 }
 
-Real TruncToInteger(Real number) noexcept {
+Real TruncToInteger(Real number) noexcept
+{
     return TruncToInteger(number.value());
 }
 
-std::int16_t RoundToInt16(Real number) {
+std::int16_t RoundToInt16(Real number)
+{
     const double rounded = number_reading::roundTiesToEven(number.value());
     if (rounded < -32768.0 || rounded > 32767.0)
         throw ProgramFailure(FailureKind::overflow);
     return static_cast<std::int16_t>(rounded);
 }
 
-std::string NumberText(Real number, std::string_view decimalSeparator) {
+std::string NumberText(Real number, std::string_view decimalSeparator)
+{
     constexpr int significantDigits = 15;
     std::array<char, 32> buffer{};
     const double value = number_reading::signedValue(std::abs(number.value()), number.value() < 0.0);

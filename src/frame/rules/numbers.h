@@ -40,7 +40,8 @@ public:
     explicit CurrencyValue(Real number);
 
     /// The number whose ten-thousandths are counted by `tenThousandths`.
-    static constexpr CurrencyValue fromScaled(std::int64_t tenThousandths) noexcept {
+    static constexpr CurrencyValue fromScaled(std::int64_t tenThousandths) noexcept
+    {
         CurrencyValue result;
         result.scaled_ = tenThousandths;
         return result;

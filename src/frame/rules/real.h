@@ -15,8 +15,7 @@ public:
     constexpr Real() noexcept = default;
 
     /// Throws ProgramFailure (overflow) for an infinity or a not-a-number.
-    constexpr Real(double value)
-        : value_(value) // NOLINT(google-explicit-constructor): formulas hold plain constants
+    constexpr Real(double value) : value_(value) // NOLINT(google-explicit-constructor): formulas hold plain constants
     {
         if (!isFinite(value))
             throw host::ProgramFailure(host::FailureKind::overflow);
@@ -30,7 +29,8 @@ public:
 
     /// Throws ProgramFailure: divisionByZero when `other` is 0, also for 0 / 0; overflow when the quotient is too
     /// large.
-    constexpr Real& operator/=(Real other) {
+    constexpr Real& operator/=(Real other)
+    {
         if (other.value_ == 0.0)
             throw host::ProgramFailure(host::FailureKind::divisionByZero);
         return *this = Real(value_ / other.value_);
@@ -44,12 +44,14 @@ public:
     friend constexpr Real operator+(Real number) { return number; }
 
     friend constexpr bool operator==(Real left, Real right) noexcept { return left.value_ == right.value_; }
-    friend constexpr std::partial_ordering operator<=>(Real left, Real right) noexcept {
+    friend constexpr std::partial_ordering operator<=>(Real left, Real right) noexcept
+    {
         return left.value_ <=> right.value_;
     }
 
 private:
-    static constexpr bool isFinite(double value) noexcept {
+    static constexpr bool isFinite(double value) noexcept
+    {
         // A not-a-number fails both comparisons.
         return value >= std::numeric_limits<double>::lowest() && value <= std::numeric_limits<double>::max();
     }

@@ -35,7 +35,8 @@ public:
 
     [[nodiscard]] bool isOpen() const { return number_ >= 0; }
     [[nodiscard]] int number() const { return number_; }
-    bool close() {
+    bool close()
+    {
         const int number = std::exchange(number_, -1);
         return number < 0 || ::close(number) == 0;
     }
@@ -48,7 +49,8 @@ private:
 class Removal {
 public:
     explicit Removal(fs::path path) : path_(std::move(path)) {}
-    ~Removal() {
+    ~Removal()
+    {
         if (!path_.empty())
             ::unlink(path_.c_str());
     }
@@ -62,12 +64,14 @@ private:
 };
 
 // Beyond its first NUL the system would not see a path, and touch another file than the one named.
-bool isNameable(const fs::path& path) {
+bool isNameable(const fs::path& path)
+{
     return path.has_filename() && path.native().find('\0') == fs::path::string_type::npos;
 }
 
 // Where a path leads when its links are followed, also to a file that is not there yet.
-std::optional<fs::path> followLinks(fs::path path) {
+std::optional<fs::path> followLinks(fs::path path)
+{
     constexpr int mostLinks = 40;
     for (int links = 0; links < mostLinks; ++links) {
         std::error_code error;
@@ -88,7 +92,8 @@ struct OldFile {
     struct stat status {};
 };
 
-OldFile examine(const fs::path& path) {
+OldFile examine(const fs::path& path)
+{
     OldFile old;
     old.exists = ::stat(path.c_str(), &old.status) == 0;
     if (!old.exists) {
@@ -106,7 +111,8 @@ struct NewFile {
 };
 
 // The name does not grow out of the target's, which may already be as long as names can be.
-NewFile createBeside(const fs::path& target, mode_t mode) {
+NewFile createBeside(const fs::path& target, mode_t mode)
+{
     constexpr int attempts = 100;
     std::random_device random;
     for (int attempt = 0; attempt < attempts; ++attempt) {
@@ -121,7 +127,8 @@ NewFile createBeside(const fs::path& target, mode_t mode) {
 }
 
 // Not every file system knows owners and permissions: one that refuses still gets its file.
-void inherit(int descriptor, const OldFile& old) {
+void inherit(int descriptor, const OldFile& old)
+{
     if (!old.exists)
         return;
     const bool owned = ::fchown(descriptor, old.status.st_uid, old.status.st_gid) == 0;
@@ -129,7 +136,8 @@ void inherit(int descriptor, const OldFile& old) {
     static_cast<void>(::fchmod(descriptor, old.status.st_mode & kept));
 }
 
-bool writeAll(int descriptor, std::string_view bytes, const SaveSteps& steps) {
+bool writeAll(int descriptor, std::string_view bytes, const SaveSteps& steps)
+{
     while (!bytes.empty()) {
         const ssize_t written = steps.write ? steps.write(descriptor, bytes.data(), bytes.size())
                                             : ::write(descriptor, bytes.data(), bytes.size());
@@ -143,19 +151,22 @@ bool writeAll(int descriptor, std::string_view bytes, const SaveSteps& steps) {
 }
 
 // Some file systems cannot flush a single file and say so; every other refusal means that bytes may be lost.
-bool flush(int descriptor) {
+bool flush(int descriptor)
+{
     return ::fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
 // So that the rename itself outlives a power cut. The file is whole in any case, therefore nothing is reported.
-void flushFolder(const fs::path& file) {
+void flushFolder(const fs::path& file)
+{
     const fs::path folder = file.parent_path().empty() ? fs::path(".") : file.parent_path();
     const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (descriptor.isOpen())
         static_cast<void>(::fsync(descriptor.number()));
 }
 
-bool replace(const fs::path& target, const OldFile& old, std::string_view bytes, const SaveSteps& steps) {
+bool replace(const fs::path& target, const OldFile& old, std::string_view bytes, const SaveSteps& steps)
+{
     // Nobody may read along before the old file's permissions are in place; a first save takes the person's own.
     NewFile fresh = createBeside(target, old.exists ? 0600 : 0666);
     if (!fresh.descriptor.isOpen())
@@ -174,11 +185,13 @@ bool replace(const fs::path& target, const OldFile& old, std::string_view bytes,
     return true;
 }
 
-bool isBareName(std::string_view name) {
+bool isBareName(std::string_view name)
+{
     return isNameable(name) && name.find('/') == std::string_view::npos && name != "." && name != "..";
 }
 
-std::optional<fs::path> findEntry(const fs::path& folder, std::string_view name, fs::file_type wanted) {
+std::optional<fs::path> findEntry(const fs::path& folder, std::string_view name, fs::file_type wanted)
+{
     if (!isBareName(name))
         return std::nullopt;
     std::error_code error;
@@ -200,7 +213,8 @@ std::optional<fs::path> findEntry(const fs::path& folder, std::string_view name,
 
 } // namespace whole_file
 
-bool writeWhole(const std::filesystem::path& path, std::string_view bytes, const SaveSteps& steps) {
+bool writeWhole(const std::filesystem::path& path, std::string_view bytes, const SaveSteps& steps)
+{
     if (!whole_file::isNameable(path))
         return false;
     const auto target = whole_file::followLinks(path);
@@ -210,7 +224,8 @@ bool writeWhole(const std::filesystem::path& path, std::string_view bytes, const
     return old.replaceable && whole_file::replace(*target, old, bytes, steps);
 }
 
-std::optional<std::string> readWhole(const std::filesystem::path& path, std::size_t maxBytes) {
+std::optional<std::string> readWhole(const std::filesystem::path& path, std::size_t maxBytes)
+{
     if (!whole_file::isNameable(path))
         return std::nullopt;
     // Not blocking: a pipe without a writer must not stop the program before it can be refused.
@@ -239,11 +254,13 @@ std::optional<std::string> readWhole(const std::filesystem::path& path, std::siz
     }
 }
 
-std::optional<std::filesystem::path> findFile(const std::filesystem::path& folder, std::string_view name) {
+std::optional<std::filesystem::path> findFile(const std::filesystem::path& folder, std::string_view name)
+{
     return whole_file::findEntry(folder, name, std::filesystem::file_type::regular);
 }
 
-std::optional<std::filesystem::path> findFolder(const std::filesystem::path& folder, std::string_view name) {
+std::optional<std::filesystem::path> findFolder(const std::filesystem::path& folder, std::string_view name)
+{
     return whole_file::findEntry(folder, name, std::filesystem::file_type::directory);
 }
 

@@ -14,17 +14,20 @@ using namespace std::string_literals;
 
 const std::string mark = "\xEF\xBB\xBF";
 
-std::string byteText(unsigned code) {
+std::string byteText(unsigned code)
+{
     return std::string(1, static_cast<char>(static_cast<unsigned char>(code)));
 }
 
-std::string utf8(char32_t character) {
+std::string utf8(char32_t character)
+{
     std::string text;
     appendUtf8(text, character);
     return text;
 }
 
-TEST(CodePage, AgreesWithTheFiguresOfTheScriptInAllItsCodes) {
+TEST(CodePage, AgreesWithTheFiguresOfTheScriptInAllItsCodes)
+{
     for (unsigned code = 0; code < 256; ++code) {
         const char32_t character = number_figures::windows1252Figures[code];
         EXPECT_EQ(windows1252Character(static_cast<unsigned char>(code)), character) << code;
@@ -34,14 +37,16 @@ TEST(CodePage, AgreesWithTheFiguresOfTheScriptInAllItsCodes) {
     }
 }
 
-TEST(CodePage, HasNoCodeForAnyOtherCharacter) {
+TEST(CodePage, HasNoCodeForAnyOtherCharacter)
+{
     int coded = 0;
     for (char32_t character = 0; character <= 0x10FFFF; ++character)
         coded += windows1252Code(character).has_value();
     EXPECT_EQ(coded, 256);
 }
 
-TEST(CodePage, KeepsSpanishAndWritesAQuestionMarkForTheRest) {
+TEST(CodePage, KeepsSpanishAndWritesAQuestionMarkForTheRest)
+{
     EXPECT_EQ(toWindows1252("Emisor Común, señal ¿Sí?"), "Emisor Com\xFAn, se\xF1"
                                                          "al \xBFS\xED?");
     EXPECT_EQ(fromWindows1252("Emisor Com\xFAn"), "Emisor Común");
@@ -53,7 +58,8 @@ TEST(CodePage, KeepsSpanishAndWritesAQuestionMarkForTheRest) {
     EXPECT_EQ(toWindows1252("a\0b"s), "a\0b"s);
 }
 
-TEST(Utf8, GivesEveryCodePointBack) {
+TEST(Utf8, GivesEveryCodePointBack)
+{
     for (char32_t character = 0; character <= 0x10FFFF; ++character) {
         if (character == 0xD800)
             character = 0xE000;
@@ -64,14 +70,16 @@ TEST(Utf8, GivesEveryCodePointBack) {
     }
 }
 
-TEST(Utf8, WritesNoSurrogateAndNothingBeyondItsEnd) {
+TEST(Utf8, WritesNoSurrogateAndNothingBeyondItsEnd)
+{
     EXPECT_EQ(utf8(0xD800), "\xEF\xBF\xBD");
     EXPECT_EQ(utf8(0xDFFF), "\xEF\xBF\xBD");
     EXPECT_EQ(utf8(0x110000), "\xEF\xBF\xBD");
 }
 
 // How many of the texts made of one byte of each set are valid.
-int countValid(const std::vector<std::string>& sets, std::size_t at = 0, const std::string& begun = {}) {
+int countValid(const std::vector<std::string>& sets, std::size_t at = 0, const std::string& begun = {})
+{
     if (at == sets.size())
         return isValidUtf8(begun) ? 1 : 0;
     int count = 0;
@@ -80,14 +88,16 @@ int countValid(const std::vector<std::string>& sets, std::size_t at = 0, const s
     return count;
 }
 
-std::string bytesFrom(unsigned first, unsigned last) {
+std::string bytesFrom(unsigned first, unsigned last)
+{
     std::string bytes;
     for (unsigned code = first; code <= last; ++code)
         bytes += byteText(code);
     return bytes;
 }
 
-TEST(Utf8, CountsAsManyValidSequencesAsThereAreCodePoints) {
+TEST(Utf8, CountsAsManyValidSequencesAsThereAreCodePoints)
+{
     const std::string all = bytesFrom(0, 255);
     const std::string edges = "\x7F\x80\xBF\xC0"; // two of them can follow
     EXPECT_EQ(countValid({all}), 128);
@@ -97,7 +107,8 @@ TEST(Utf8, CountsAsManyValidSequencesAsThereAreCodePoints) {
     EXPECT_EQ(countValid({bytesFrom(0xF0, 0xFF), all, edges, edges}), 0x100000 / 4096 * 4);
 }
 
-TEST(Utf8, TakesAnInvalidSequenceAsFarAsItCouldHaveBegunAValidOne) {
+TEST(Utf8, TakesAnInvalidSequenceAsFarAsItCouldHaveBegunAValidOne)
+{
     struct Row {
         std::string bytes;
         std::size_t length;
@@ -127,14 +138,16 @@ TEST(Utf8, TakesAnInvalidSequenceAsFarAsItCouldHaveBegunAValidOne) {
     }
 }
 
-TEST(Utf8, CountsCharacters) {
+TEST(Utf8, CountsCharacters)
+{
     EXPECT_EQ(codePointCount(""), 0u);
     EXPECT_EQ(codePointCount("señal"), 5u);
     EXPECT_EQ(codePointCount("\U0001F98B!"), 2u);
     EXPECT_EQ(codePointCount("a\xFF\xE2\x82z"), 4u);
 }
 
-TEST(Document, IsReadByItsMarkThenAsUtf8ThenAsWindows1252) {
+TEST(Document, IsReadByItsMarkThenAsUtf8ThenAsWindows1252)
+{
     EXPECT_EQ(decodeDocument(""), "");
     EXPECT_EQ(decodeDocument("plain"), "plain");
     EXPECT_EQ(decodeDocument(mark), "");
@@ -150,7 +163,8 @@ TEST(Document, IsReadByItsMarkThenAsUtf8ThenAsWindows1252) {
     EXPECT_EQ(decodeDocument("a\0b"s), "a\0b"s);
 }
 
-TEST(Document, IsWrittenInWindows1252WhileThatCanBeReadBack) {
+TEST(Document, IsWrittenInWindows1252WhileThatCanBeReadBack)
+{
     EXPECT_EQ(encodeDocument(""), "");
     EXPECT_EQ(encodeDocument("plain\r\n"), "plain\r\n");
     EXPECT_EQ(encodeDocument("señal"), "se\xF1"
@@ -166,7 +180,8 @@ TEST(Document, IsWrittenInWindows1252WhileThatCanBeReadBack) {
     EXPECT_EQ(encodeDocument("a\xFF"), mark + "a\uFFFD");
 }
 
-std::string randomDocument(std::mt19937_64& dice) {
+std::string randomDocument(std::mt19937_64& dice)
+{
     constexpr char32_t likely[] = {U'a', U'\n', U'ñ', U'Ã', U'±', U'ï', U'»', U'¿', U'€', 0x81, 0x3A9, 0xFEFF, 0x1F98B};
     std::string text;
     for (std::uint64_t letters = dice() % 12; letters > 0; --letters)
@@ -174,7 +189,8 @@ std::string randomDocument(std::mt19937_64& dice) {
     return text;
 }
 
-TEST(Document, ComesBackAsItWasWritten) {
+TEST(Document, ComesBackAsItWasWritten)
+{
     std::mt19937_64 dice(1252);
     for (int round = 0; round < 100'000; ++round) {
         const std::string text = randomDocument(dice);
@@ -182,7 +198,8 @@ TEST(Document, ComesBackAsItWasWritten) {
     }
 }
 
-TEST(Document, OfOldBytesKeepsThemWhenItIsSavedUnchanged) {
+TEST(Document, OfOldBytesKeepsThemWhenItIsSavedUnchanged)
+{
     std::mt19937_64 dice(1252);
     int old = 0;
     for (int round = 0; round < 100'000; ++round) {
@@ -197,7 +214,8 @@ TEST(Document, OfOldBytesKeepsThemWhenItIsSavedUnchanged) {
     EXPECT_GT(old, 10'000);
 }
 
-TEST(SmallLetters, FoldSpanishAndAllOtherLettersOfThePage) {
+TEST(SmallLetters, FoldSpanishAndAllOtherLettersOfThePage)
+{
     EXPECT_EQ(smallLetters("GUÍA Ñandú ÜÁÉÓÚ Ç.LAB"), "guía ñandú üáéóú ç.lab");
     EXPECT_EQ(smallLetters("ŠŒŽŸ"), "šœžÿ");
     EXPECT_EQ(smallLetters("×÷ß@[`{ÿ\u03A9"), "×÷ß@[`{ÿ\u03A9");

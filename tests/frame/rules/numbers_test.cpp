@@ -24,7 +24,8 @@ using host::ProgramFailure;
 constexpr double largest = std::numeric_limits<double>::max();
 
 template <class Action>
-std::optional<FailureKind> failureOf(Action action) {
+std::optional<FailureKind> failureOf(Action action)
+{
     try {
         action();
     } catch (const ProgramFailure& failure) {
@@ -57,7 +58,8 @@ constexpr KeyRow keyRows[] = {
 };
 // clang-format on
 
-TEST(KeyFilter, TreatsEveryKeyAsTheTableSays) {
+TEST(KeyFilter, TreatsEveryKeyAsTheTableSays)
+{
     int keys = 0;
     for (const KeyRow& row : keyRows) {
         for (int code = row.from; code <= row.to; ++code, ++keys) {
@@ -148,7 +150,8 @@ constexpr ReadingRow readingRows[] = {
 };
 // clang-format on
 
-TEST(ParseLeadingNumber, ReadsTheNumberThatATextBeginsWith) {
+TEST(ParseLeadingNumber, ReadsTheNumberThatATextBeginsWith)
+{
     for (const ReadingRow& row : readingRows) {
         const double number = ParseLeadingNumber(row.text);
         EXPECT_EQ(number, row.number) << '"' << row.text << '"';
@@ -156,12 +159,14 @@ TEST(ParseLeadingNumber, ReadsTheNumberThatATextBeginsWith) {
     }
 }
 
-TEST(ParseLeadingNumber, AgreesWithTheFiguresOfTheScript) {
+TEST(ParseLeadingNumber, AgreesWithTheFiguresOfTheScript)
+{
     for (const auto& figure : number_figures::leadingFigures)
         EXPECT_EQ(ParseLeadingNumber(figure.text), figure.number) << '"' << figure.text << '"';
 }
 
-TEST(ParseLeadingNumber, PlacesAnExponentAgainstLongRowsOfDigits) {
+TEST(ParseLeadingNumber, PlacesAnExponentAgainstLongRowsOfDigits)
+{
     const std::string zeros(400, '0');
     EXPECT_EQ(ParseLeadingNumber("0." + zeros + "25E402"), 25.0);
     EXPECT_EQ(ParseLeadingNumber("25" + zeros + "E-400"), 25.0);
@@ -172,13 +177,15 @@ TEST(ParseLeadingNumber, PlacesAnExponentAgainstLongRowsOfDigits) {
     EXPECT_EQ(ParseLeadingNumber("&H" + std::string(400, 'F')), largest);
 }
 
-TEST(ParseLeadingNumber, KnowsNoEndOfATextButItsLength) {
+TEST(ParseLeadingNumber, KnowsNoEndOfATextButItsLength)
+{
     EXPECT_EQ(ParseLeadingNumber(std::string_view("12345", 2)), 12.0);
     EXPECT_EQ(ParseLeadingNumber(std::string_view("1\0002", 3)), 1.0);
     EXPECT_EQ(ParseLeadingNumber(std::string(1'000'000, ' ') + "4"), 4.0);
 }
 
-std::string randomText(std::mt19937_64& dice) {
+std::string randomText(std::mt19937_64& dice)
+{
     constexpr std::string_view likely = "0123456789.0123456789+-EeDd&HhOo \t\n,VmK";
     std::string text(dice() % 24, '\0');
     for (char& letter : text)
@@ -186,7 +193,8 @@ std::string randomText(std::mt19937_64& dice) {
     return text;
 }
 
-TEST(ParseLeadingNumber, NeverFailsAndNeverReadsOnBehindALetter) {
+TEST(ParseLeadingNumber, NeverFailsAndNeverReadsOnBehindALetter)
+{
     std::mt19937_64 dice(20240511);
     for (int round = 0; round < 200'000; ++round) {
         const std::string text = randomText(dice);
@@ -198,7 +206,8 @@ TEST(ParseLeadingNumber, NeverFailsAndNeverReadsOnBehindALetter) {
     }
 }
 
-TEST(StrictNumber, TakesAPlainNumberWithSurroundingBlanks) {
+TEST(StrictNumber, TakesAPlainNumberWithSurroundingBlanks)
+{
     EXPECT_EQ(StrictNumber("12.5", "."), 12.5);
     EXPECT_EQ(StrictNumber(" \t12.5  ", "."), 12.5);
     EXPECT_EQ(StrictNumber("-3", "."), -3.0);
@@ -211,7 +220,8 @@ TEST(StrictNumber, TakesAPlainNumberWithSurroundingBlanks) {
     EXPECT_FALSE(std::signbit(StrictNumber("-0", ".")));
 }
 
-TEST(StrictNumber, TakesTheSeparatorOfTheMomentAndThePoint) {
+TEST(StrictNumber, TakesTheSeparatorOfTheMomentAndThePoint)
+{
     EXPECT_EQ(StrictNumber("2,5", ","), 2.5);
     EXPECT_EQ(StrictNumber("2.5", ","), 2.5);
     EXPECT_EQ(StrictNumber("2.5", ""), 2.5);
@@ -219,7 +229,8 @@ TEST(StrictNumber, TakesTheSeparatorOfTheMomentAndThePoint) {
     EXPECT_EQ(failureOf([] { StrictNumber("1.234,5", ","); }), FailureKind::badNumber);
 }
 
-TEST(StrictNumber, FailsOnAnythingElse) {
+TEST(StrictNumber, FailsOnAnythingElse)
+{
     for (const char* text : {"",   " ",   "10 mA", "1 2",  "1.2.3", "- 5", "--5",  ".",  "-",   "E5",
                              "2E", "2E+", "2Es",   "&H10", "inf",   "nan", "0x10", "5x", "\n5", "5\xC2\xA0"})
         EXPECT_EQ(failureOf([text] { StrictNumber(text, "."); }), FailureKind::badNumber) << '"' << text << '"';
@@ -228,7 +239,8 @@ TEST(StrictNumber, FailsOnAnythingElse) {
     EXPECT_EQ(failureOf([] { StrictNumber("-1E309", "."); }), FailureKind::overflow);
 }
 
-TEST(CurrencyValue, AgreesWithTheFiguresOfTheScript) {
+TEST(CurrencyValue, AgreesWithTheFiguresOfTheScript)
+{
     for (const auto& figure : number_figures::currencyFigures) {
         const CurrencyValue value(figure.number);
         EXPECT_EQ(value.scaled(), figure.scaled) << figure.number;
@@ -236,7 +248,8 @@ TEST(CurrencyValue, AgreesWithTheFiguresOfTheScript) {
     }
 }
 
-TEST(CurrencyValue, SendsTiesToTheEvenInteger) {
+TEST(CurrencyValue, SendsTiesToTheEvenInteger)
+{
     EXPECT_EQ(CurrencyValue(0.03125).scaled(), 312);
     EXPECT_EQ(CurrencyValue(0.09375).scaled(), 938);
     EXPECT_EQ(CurrencyValue(-0.03125).scaled(), -312);
@@ -249,7 +262,8 @@ TEST(CurrencyValue, SendsTiesToTheEvenInteger) {
     EXPECT_EQ(CurrencyValue(std::nextafter(0.03125, 1.0)).scaled(), 313);
 }
 
-TEST(CurrencyValue, FailsOutsideItsRange) {
+TEST(CurrencyValue, FailsOutsideItsRange)
+{
     // 2 to the 63rd power over 10000 lies between 922337203685477.5 and .625, neighbouring doubles.
     EXPECT_EQ(CurrencyValue(922337203685477.5).scaled(), 9223372036854774784);
     EXPECT_EQ(failureOf([] { CurrencyValue(922337203685477.625); }), FailureKind::overflow);
@@ -259,7 +273,8 @@ TEST(CurrencyValue, FailsOutsideItsRange) {
     EXPECT_EQ(failureOf([] { CurrencyValue(std::nan("")); }), FailureKind::overflow);
 }
 
-TEST(CurrencyText, ShowsUpToFourDecimals) {
+TEST(CurrencyText, ShowsUpToFourDecimals)
+{
     EXPECT_EQ(CurrencyText(12.5, "."), "12.5");
     EXPECT_EQ(CurrencyText(3.0, "."), "3");
     EXPECT_EQ(CurrencyText(0.0012, "."), "0.0012");
@@ -275,7 +290,8 @@ TEST(CurrencyText, ShowsUpToFourDecimals) {
               "-922337203685477.5808");
 }
 
-TEST(CurrencyText, ReadsBackAsTheSameNumber) {
+TEST(CurrencyText, ReadsBackAsTheSameNumber)
+{
     std::mt19937_64 dice(7);
     for (int round = 0; round < 50'000; ++round) {
         const auto scaled = static_cast<std::int64_t>(dice() >> (12 + dice() % 50)) * (round % 2 == 0 ? 1 : -1);
@@ -289,7 +305,8 @@ TEST(CurrencyText, ReadsBackAsTheSameNumber) {
     }
 }
 
-TEST(TruncToInteger, CutsTheFractionOffTowardZero) {
+TEST(TruncToInteger, CutsTheFractionOffTowardZero)
+{
     EXPECT_EQ(TruncToInteger(2.9), 2.0);
     EXPECT_EQ(TruncToInteger(-2.9), -2.0);
     EXPECT_EQ(TruncToInteger(1e300), 1e300);
@@ -298,7 +315,8 @@ TEST(TruncToInteger, CutsTheFractionOffTowardZero) {
     EXPECT_EQ(NumberText(TruncToInteger(Real(99.999) / 3.0), "."), "33");
 }
 
-TEST(RoundToInt16, SendsTiesToTheEvenIntegerAndFailsBeyond16Bits) {
+TEST(RoundToInt16, SendsTiesToTheEvenIntegerAndFailsBeyond16Bits)
+{
     EXPECT_EQ(RoundToInt16(2.5), 2);
     EXPECT_EQ(RoundToInt16(3.5), 4);
     EXPECT_EQ(RoundToInt16(-2.5), -2);
@@ -314,12 +332,14 @@ TEST(RoundToInt16, SendsTiesToTheEvenIntegerAndFailsBeyond16Bits) {
     EXPECT_EQ(failureOf([] { RoundToInt16(1e300); }), FailureKind::overflow);
 }
 
-TEST(NumberText, AgreesWithTheFiguresOfTheScript) {
+TEST(NumberText, AgreesWithTheFiguresOfTheScript)
+{
     for (const auto& figure : number_figures::textFigures)
         EXPECT_EQ(NumberText(figure.number, "."), figure.text);
 }
 
-TEST(NumberText, ShowsFifteenDigitsAndAnExponentOnlyWhereItMust) {
+TEST(NumberText, ShowsFifteenDigitsAndAnExponentOnlyWhereItMust)
+{
     EXPECT_EQ(NumberText(20.0, "."), "20");
     EXPECT_EQ(NumberText(0.5, "."), "0.5");
     EXPECT_EQ(NumberText(-0.5, "."), "-0.5");
@@ -337,13 +357,15 @@ TEST(NumberText, ShowsFifteenDigitsAndAnExponentOnlyWhereItMust) {
 }
 
 // Half of them anywhere in the range of doubles, half of the size that fields have.
-double randomDouble(std::mt19937_64& dice) {
+double randomDouble(std::mt19937_64& dice)
+{
     const auto mantissa = static_cast<double>(dice() % (1ULL << 53)) + 1.0;
     const int exponent = static_cast<int>(dice() % (dice() % 2 == 0 ? 1960 : 30));
     return std::ldexp(dice() % 2 == 0 ? mantissa : -mantissa, exponent < 30 ? exponent - 53 : exponent - 1020);
 }
 
-TEST(NumberText, ReadsBackAsTheSameText) {
+TEST(NumberText, ReadsBackAsTheSameText)
+{
     std::mt19937_64 dice(15);
     for (int round = 0; round < 200'000; ++round) {
         const double number = randomDouble(dice);
@@ -356,7 +378,8 @@ TEST(NumberText, ReadsBackAsTheSameText) {
     }
 }
 
-TEST(NumberText, ReadsBackExactlyWhatAPersonTypes) {
+TEST(NumberText, ReadsBackExactlyWhatAPersonTypes)
+{
     std::mt19937_64 dice(4);
     for (int round = 0; round < 50'000; ++round) {
         const std::string text = std::to_string(dice() % 10'000'000 + 1) + "." + std::to_string(dice() % 10'000) + "1";
@@ -364,7 +387,8 @@ TEST(NumberText, ReadsBackExactlyWhatAPersonTypes) {
     }
 }
 
-TEST(FailureKinds, HaveNamesOfTheirOwn) {
+TEST(FailureKinds, HaveNamesOfTheirOwn)
+{
     EXPECT_STREQ(ProgramFailure(FailureKind::divisionByZero).what(), "Division by zero");
     EXPECT_STREQ(ProgramFailure(FailureKind::overflow).what(), "Overflow");
     EXPECT_STREQ(ProgramFailure(FailureKind::badNumber).what(), "Not a number");
@@ -374,13 +398,15 @@ TEST(FailureKinds, HaveNamesOfTheirOwn) {
 // The C and C++ locales of a student in Argentina while it lives.
 class CommaLocale {
 public:
-    CommaLocale() : oldC_(std::setlocale(LC_ALL, nullptr)), oldCpp_(std::locale()) {
+    CommaLocale() : oldC_(std::setlocale(LC_ALL, nullptr)), oldCpp_(std::locale())
+    {
         ::setenv("LOCPATH", (places::build() + "/locales").c_str(), 0);
         present_ = std::setlocale(LC_ALL, "es_AR.UTF-8") != nullptr;
         if (present_)
             std::locale::global(std::locale("es_AR.UTF-8"));
     }
-    ~CommaLocale() {
+    ~CommaLocale()
+    {
         std::locale::global(oldCpp_);
         std::setlocale(LC_ALL, oldC_.c_str());
     }
@@ -395,7 +421,8 @@ private:
     bool present_ = false;
 };
 
-TEST(NumberRules, AreTheSameUnderACommaLocale) {
+TEST(NumberRules, AreTheSameUnderACommaLocale)
+{
     const CommaLocale locale;
     ASSERT_TRUE(locale.present()) << "es_AR.UTF-8 is missing";
     char half[8] = {};

@@ -23,7 +23,8 @@ constexpr std::size_t mebibyte = 1024 * 1024;
 
 // Runs an action in a process of its own and gives the state that it ended in; the action's result is its exit status.
 template <class Action>
-int inChild(Action action) {
+int inChild(Action action)
+{
     const pid_t child = ::fork();
     if (child == 0)
         ::_exit(action());
@@ -34,7 +35,8 @@ int inChild(Action action) {
 
 // True where an ordinary user, to whom permissions apply, sees the action succeed.
 template <class Action>
-bool asOrdinaryUser(Action action) {
+bool asOrdinaryUser(Action action)
+{
     const int state = inChild([&action] {
         if (::geteuid() == 0 && ::seteuid(65534) != 0)
             return 2;
@@ -44,14 +46,16 @@ bool asOrdinaryUser(Action action) {
     return WIFEXITED(state) && WEXITSTATUS(state) == 0;
 }
 
-mode_t modeOf(const fs::path& path) {
+mode_t modeOf(const fs::path& path)
+{
     struct stat status {};
     ::stat(path.c_str(), &status);
     return status.st_mode & 07777;
 }
 
 // Writes until `limit` bytes are on the disk, then fails as a full disk does.
-SaveSteps fullAfter(std::size_t limit) {
+SaveSteps fullAfter(std::size_t limit)
+{
     SaveSteps steps;
     steps.write = [left = limit](int descriptor, const char* bytes, std::size_t count) mutable -> ssize_t {
         const ssize_t written = left == 0 ? -1 : ::write(descriptor, bytes, std::min(count, left));
@@ -64,7 +68,8 @@ SaveSteps fullAfter(std::size_t limit) {
     return steps;
 }
 
-TEST(WriteWhole, MakesAFileWithExactlyTheBytes) {
+TEST(WriteWhole, MakesAFileWithExactlyTheBytes)
+{
     const ScratchFolder folder;
     const std::string bytes = "line\r\n\0\xFF end"s;
     EXPECT_TRUE(writeWhole(folder / "new.RPC", bytes));
@@ -74,7 +79,8 @@ TEST(WriteWhole, MakesAFileWithExactlyTheBytes) {
     EXPECT_EQ(folder.entries(), 2);
 }
 
-TEST(WriteWhole, ReplacesALongerFileCompletely) {
+TEST(WriteWhole, ReplacesALongerFileCompletely)
+{
     const ScratchFolder folder;
     folder.put("old.RPC", std::string(100'000, 'x'));
     EXPECT_TRUE(writeWhole(folder / "old.RPC", "short"));
@@ -82,7 +88,8 @@ TEST(WriteWhole, ReplacesALongerFileCompletely) {
     EXPECT_EQ(folder.entries(), 1);
 }
 
-TEST(WriteWhole, KeepsTheOldFileWhenTheDiskIsFullAtAnyByte) {
+TEST(WriteWhole, KeepsTheOldFileWhenTheDiskIsFullAtAnyByte)
+{
     const ScratchFolder folder;
     folder.put("old.RPC", "the old design");
     for (std::size_t limit = 0; limit < 20; ++limit) {
@@ -94,13 +101,15 @@ TEST(WriteWhole, KeepsTheOldFileWhenTheDiskIsFullAtAnyByte) {
     EXPECT_EQ(folder.content("old.RPC"), "twenty bytes of new.");
 }
 
-TEST(WriteWhole, MakesNoFileWhenTheDiskIsFull) {
+TEST(WriteWhole, MakesNoFileWhenTheDiskIsFull)
+{
     const ScratchFolder folder;
     EXPECT_FALSE(writeWhole(folder / "new.RPC", "bytes", fullAfter(3)));
     EXPECT_EQ(folder.entries(), 0);
 }
 
-TEST(WriteWhole, KeepsTheOldFileWhenTheDeviceItselfIsFull) {
+TEST(WriteWhole, KeepsTheOldFileWhenTheDeviceItselfIsFull)
+{
     const ScratchFolder folder;
     folder.put("old.RPC", "the old design");
     const int full = ::open("/dev/full", O_WRONLY | O_CLOEXEC);
@@ -113,7 +122,8 @@ TEST(WriteWhole, KeepsTheOldFileWhenTheDeviceItselfIsFull) {
     EXPECT_EQ(folder.entries(), 1);
 }
 
-TEST(WriteWhole, KeepsTheOldFileWhenItMayNotGrowSoLarge) {
+TEST(WriteWhole, KeepsTheOldFileWhenItMayNotGrowSoLarge)
+{
     const ScratchFolder folder;
     folder.put("old.RPC", "the old design");
     const int state = inChild([&folder] {
@@ -127,7 +137,8 @@ TEST(WriteWhole, KeepsTheOldFileWhenItMayNotGrowSoLarge) {
     EXPECT_EQ(folder.entries(), 1);
 }
 
-TEST(WriteWhole, GoesOnAfterShortAndInterruptedWrites) {
+TEST(WriteWhole, GoesOnAfterShortAndInterruptedWrites)
+{
     const ScratchFolder folder;
     SaveSteps steps;
     steps.write = [turn = 0](int descriptor, const char* bytes, std::size_t) mutable -> ssize_t {
@@ -140,7 +151,8 @@ TEST(WriteWhole, GoesOnAfterShortAndInterruptedWrites) {
     EXPECT_EQ(folder.content("new.RPC"), "byte by byte");
 }
 
-TEST(WriteWhole, GivesUpOnAWriteThatNeverAdvances) {
+TEST(WriteWhole, GivesUpOnAWriteThatNeverAdvances)
+{
     const ScratchFolder folder;
     SaveSteps steps;
     steps.write = [](int, const char*, std::size_t) -> ssize_t { return 0; };
@@ -148,7 +160,8 @@ TEST(WriteWhole, GivesUpOnAWriteThatNeverAdvances) {
     EXPECT_EQ(folder.entries(), 0);
 }
 
-TEST(WriteWhole, KeepsTheOldFileWhenTheProgramIsKilledBeforeTheReplacement) {
+TEST(WriteWhole, KeepsTheOldFileWhenTheProgramIsKilledBeforeTheReplacement)
+{
     const ScratchFolder folder;
     folder.put("old.RPC", "the old design");
     SaveSteps steps;
@@ -161,7 +174,8 @@ TEST(WriteWhole, KeepsTheOldFileWhenTheProgramIsKilledBeforeTheReplacement) {
     EXPECT_EQ(folder.content("old.RPC"), "new");
 }
 
-TEST(WriteWhole, KeepsTheOldFileWhenTheProgramIsKilledInTheMiddleOfWriting) {
+TEST(WriteWhole, KeepsTheOldFileWhenTheProgramIsKilledInTheMiddleOfWriting)
+{
     const ScratchFolder folder;
     folder.put("old.RPC", "the old design");
     SaveSteps steps;
@@ -175,7 +189,8 @@ TEST(WriteWhole, KeepsTheOldFileWhenTheProgramIsKilledInTheMiddleOfWriting) {
     EXPECT_EQ(folder.content("old.RPC"), "the old design");
 }
 
-TEST(WriteWhole, HasTheWholeNewContentAsideWhenItReplaces) {
+TEST(WriteWhole, HasTheWholeNewContentAsideWhenItReplaces)
+{
     const ScratchFolder folder;
     folder.put("old.RPC", "the old design");
     std::string aside;
@@ -191,7 +206,8 @@ TEST(WriteWhole, HasTheWholeNewContentAsideWhenItReplaces) {
     EXPECT_EQ(folder.content("old.RPC"), "new");
 }
 
-TEST(WriteWhole, LeavesNothingWhenTheReplacementItselfFails) {
+TEST(WriteWhole, LeavesNothingWhenTheReplacementItselfFails)
+{
     const ScratchFolder folder;
     SaveSteps steps;
     steps.beforeReplace = [&] { fs::create_directory(folder / "name.RPC"); };
@@ -200,7 +216,8 @@ TEST(WriteWhole, LeavesNothingWhenTheReplacementItselfFails) {
     EXPECT_TRUE(fs::is_directory(folder / "name.RPC"));
 }
 
-TEST(WriteWhole, KeepsThePermissionsOfTheOldFile) {
+TEST(WriteWhole, KeepsThePermissionsOfTheOldFile)
+{
     const ScratchFolder folder;
     const fs::path path = folder.put("old.RPC", "old");
     for (const mode_t mode : {0640u, 0600u, 0664u, 0755u}) {
@@ -210,7 +227,8 @@ TEST(WriteWhole, KeepsThePermissionsOfTheOldFile) {
     }
 }
 
-TEST(WriteWhole, GivesANewFileThePermissionsThatThePersonWants) {
+TEST(WriteWhole, GivesANewFileThePermissionsThatThePersonWants)
+{
     const ScratchFolder folder;
     const mode_t mask = ::umask(027);
     EXPECT_TRUE(writeWhole(folder / "new.RPC", "new"));
@@ -218,7 +236,8 @@ TEST(WriteWhole, GivesANewFileThePermissionsThatThePersonWants) {
     EXPECT_EQ(modeOf(folder / "new.RPC"), 0640u);
 }
 
-TEST(WriteWhole, KeepsTheOwnerWhereItMay) {
+TEST(WriteWhole, KeepsTheOwnerWhereItMay)
+{
     if (::geteuid() != 0)
         GTEST_SKIP() << "only root may give files away";
     const ScratchFolder folder;
@@ -230,7 +249,8 @@ TEST(WriteWhole, KeepsTheOwnerWhereItMay) {
     EXPECT_EQ(status.st_uid, 65534u);
 }
 
-TEST(WriteWhole, WritesThroughLinksToTheFileThatTheyMean) {
+TEST(WriteWhole, WritesThroughLinksToTheFileThatTheyMean)
+{
     const ScratchFolder folder;
     fs::create_directory(folder / "far");
     folder.put("far/real.RPC", "old");
@@ -242,7 +262,8 @@ TEST(WriteWhole, WritesThroughLinksToTheFileThatTheyMean) {
     EXPECT_TRUE(fs::is_symlink(folder / "nearer.RPC"));
 }
 
-TEST(WriteWhole, MakesTheFileThatALinkPointsToInVain) {
+TEST(WriteWhole, MakesTheFileThatALinkPointsToInVain)
+{
     const ScratchFolder folder;
     fs::create_symlink("later.RPC", folder / "link.RPC");
     EXPECT_TRUE(writeWhole(folder / "link.RPC", "new"));
@@ -250,7 +271,8 @@ TEST(WriteWhole, MakesTheFileThatALinkPointsToInVain) {
     EXPECT_TRUE(fs::is_symlink(folder / "link.RPC"));
 }
 
-TEST(WriteWhole, RefusesLinksThatGoInCircles) {
+TEST(WriteWhole, RefusesLinksThatGoInCircles)
+{
     const ScratchFolder folder;
     fs::create_symlink("b", folder / "a");
     fs::create_symlink("a", folder / "b");
@@ -259,7 +281,8 @@ TEST(WriteWhole, RefusesLinksThatGoInCircles) {
 }
 
 // The pipe stands for devices too: were the refusal ever lost, root would replace the system's own.
-TEST(WriteWhole, RefusesWhatIsNoPlainFile) {
+TEST(WriteWhole, RefusesWhatIsNoPlainFile)
+{
     const ScratchFolder folder;
     fs::create_directory(folder / "folder.RPC");
     ASSERT_EQ(::mkfifo((folder / "pipe.RPC").c_str(), 0644), 0);
@@ -271,7 +294,8 @@ TEST(WriteWhole, RefusesWhatIsNoPlainFile) {
     EXPECT_EQ(folder.entries(), 3);
 }
 
-TEST(WriteWhole, RefusesNamesThatNameNothing) {
+TEST(WriteWhole, RefusesNamesThatNameNothing)
+{
     const ScratchFolder folder;
     EXPECT_FALSE(writeWhole("", "new"));
     EXPECT_FALSE(writeWhole(folder.path() / "", "new"));
@@ -283,13 +307,15 @@ TEST(WriteWhole, RefusesNamesThatNameNothing) {
     EXPECT_EQ(folder.entries(), 1);
 }
 
-TEST(WriteWhole, TakesTheLongestNameThereIs) {
+TEST(WriteWhole, TakesTheLongestNameThereIs)
+{
     const ScratchFolder folder;
     EXPECT_TRUE(writeWhole(folder / std::string(255, 'n'), "new"));
     EXPECT_EQ(folder.content(std::string(255, 'n')), "new");
 }
 
-TEST(WriteWhole, TakesANameWithoutAFolder) {
+TEST(WriteWhole, TakesANameWithoutAFolder)
+{
     const ScratchFolder folder;
     const int state = inChild([&folder] {
         fs::current_path(folder.path());
@@ -299,7 +325,8 @@ TEST(WriteWhole, TakesANameWithoutAFolder) {
     EXPECT_EQ(folder.content("bare.RPC"), "new");
 }
 
-TEST(WriteWhole, FailsInAReadOnlyFolder) {
+TEST(WriteWhole, FailsInAReadOnlyFolder)
+{
     const ScratchFolder folder;
     const fs::path path = folder.put("old.RPC", "the old design");
     ::chmod(path.c_str(), 0666);
@@ -313,7 +340,8 @@ TEST(WriteWhole, FailsInAReadOnlyFolder) {
     EXPECT_TRUE(asOrdinaryUser([&] { return writeWhole(folder / "new.RPC", "new"); }));
 }
 
-TEST(WriteWhole, RespectsAFileThatMayNotBeWritten) {
+TEST(WriteWhole, RespectsAFileThatMayNotBeWritten)
+{
     const ScratchFolder folder;
     const fs::path path = folder.put("old.RPC", "the old design");
     ::chmod(folder.path().c_str(), 0777);
@@ -325,7 +353,8 @@ TEST(WriteWhole, RespectsAFileThatMayNotBeWritten) {
     EXPECT_EQ(folder.content("old.RPC"), "new");
 }
 
-TEST(ReadWhole, GivesTheBytesUpToItsLimit) {
+TEST(ReadWhole, GivesTheBytesUpToItsLimit)
+{
     const ScratchFolder folder;
     const std::string bytes = "a\r\n\0\xFF"s + std::string(100'000, 'z');
     folder.put("file", bytes);
@@ -335,7 +364,8 @@ TEST(ReadWhole, GivesTheBytesUpToItsLimit) {
     EXPECT_EQ(readWhole(folder / "empty", 0), "");
 }
 
-TEST(ReadWhole, RefusesWhatIsNoPlainFileWithoutWaiting) {
+TEST(ReadWhole, RefusesWhatIsNoPlainFileWithoutWaiting)
+{
     const ScratchFolder folder;
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0644), 0);
     EXPECT_EQ(readWhole(folder / "pipe", mebibyte), std::nullopt);
@@ -347,7 +377,8 @@ TEST(ReadWhole, RefusesWhatIsNoPlainFileWithoutWaiting) {
     EXPECT_EQ(readWhole(folder / "cut\0off"s, mebibyte), std::nullopt);
 }
 
-TEST(ReadWhole, RefusesAFileThatMayNotBeRead) {
+TEST(ReadWhole, RefusesAFileThatMayNotBeRead)
+{
     const ScratchFolder folder;
     const fs::path path = folder.put("secret", "plain");
     ::chmod(path.c_str(), 0);
@@ -356,7 +387,8 @@ TEST(ReadWhole, RefusesAFileThatMayNotBeRead) {
     EXPECT_TRUE(asOrdinaryUser([&] { return readWhole(path, mebibyte) == "plain"; }));
 }
 
-TEST(ReadWhole, RefusesAFileOfAGibibyteWithoutHoldingIt) {
+TEST(ReadWhole, RefusesAFileOfAGibibyteWithoutHoldingIt)
+{
     const ScratchFolder folder;
     folder.put("huge", "x");
     fs::resize_file(folder / "huge", 1024 * mebibyte);
@@ -368,7 +400,8 @@ TEST(ReadWhole, RefusesAFileOfAGibibyteWithoutHoldingIt) {
     EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 4096) << "KiB";
 }
 
-TEST(ReadWhole, AsksForNoMemoryThatALyingSizeWouldTake) {
+TEST(ReadWhole, AsksForNoMemoryThatALyingSizeWouldTake)
+{
     const ScratchFolder folder;
     folder.put("vast", "x");
     std::error_code tooVast;
@@ -378,14 +411,16 @@ TEST(ReadWhole, AsksForNoMemoryThatALyingSizeWouldTake) {
     EXPECT_EQ(readWhole(folder / "vast", mebibyte), std::nullopt);
 }
 
-TEST(ReadWhole, TrustsWhatItReadsMoreThanTheSizeItWasTold) {
+TEST(ReadWhole, TrustsWhatItReadsMoreThanTheSizeItWasTold)
+{
     // The system's own files say that they are empty.
     ASSERT_EQ(fs::file_size("/proc/self/status"), 0u);
     EXPECT_EQ(readWhole("/proc/self/status", 10), std::nullopt);
     EXPECT_GT(readWhole("/proc/self/status", mebibyte).value_or("").size(), 10u);
 }
 
-TEST(FindFile, PrefersTheExactNameAndThenIgnoresCapitals) {
+TEST(FindFile, PrefersTheExactNameAndThenIgnoresCapitals)
+{
     const ScratchFolder folder;
     folder.put("Guía Ñandú.Lab", "");
     folder.put("NOTES.lab", "");
@@ -397,13 +432,15 @@ TEST(FindFile, PrefersTheExactNameAndThenIgnoresCapitals) {
     EXPECT_EQ(findFile(folder.path(), "Guia Nandu.Lab"), std::nullopt);
 }
 
-TEST(FindFile, FindsNamesInTheOldCodePage) {
+TEST(FindFile, FindsNamesInTheOldCodePage)
+{
     const ScratchFolder folder;
     folder.put("com\xFAn.lab", "");
     EXPECT_EQ(findFile(folder.path(), "COMÚN.LAB"), folder / "com\xFAn.lab");
 }
 
-TEST(FindFile, TellsFilesFromFolders) {
+TEST(FindFile, TellsFilesFromFolders)
+{
     const ScratchFolder folder;
     fs::create_directory(folder / "archivos");
     folder.put("ARCHIVOS", "");
@@ -412,7 +449,8 @@ TEST(FindFile, TellsFilesFromFolders) {
     EXPECT_EQ(findFile(folder.path(), "archivos"), folder / "ARCHIVOS");
 }
 
-TEST(FindFile, FindsNothingOutsideItsFolder) {
+TEST(FindFile, FindsNothingOutsideItsFolder)
+{
     const ScratchFolder folder;
     fs::create_directory(folder / "inner");
     folder.put("outer.lab", "");
