@@ -68,7 +68,8 @@ TEST(SettingsFileTest, aDamagedFileGivesDefaultsAndIsReplacedAtTheNextWriting)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("Velmor.ini");
-    write(path, QByteArray("[Predeter\0minados\nfCast\xff\xfe=Ing,,,=\n]]]]\nPantalla", 50));
+    constexpr char bytes[] = "[Predeter\0minados\nfCast\xff\xfe=Ing,,,=\n]]]]\nPantalla";
+    write(path, QByteArray(bytes, sizeof bytes - 1));
     desktop::SettingsFile damaged(path);
     EXPECT_EQ(damaged.value("Predeterminados", "fCastIng"), std::nullopt);
     damaged.setValue("Predeterminados", "fCastIng", "1");
