@@ -274,15 +274,9 @@ TEST_F(KeyboardTest, thePageOnKeysNamesThemAll)
     QFile page(QString::fromStdString(places::source() + "/docs/keyboard.md"));
     ASSERT_TRUE(page.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(page.readAll());
-<<<<<<< ours
-    const auto names = [&](std::string_view keys) {
-        return text.contains(
-            QStringLiteral("`%1`").arg(QString::fromUtf8(keys.data(), static_cast<qsizetype>(keys.size()))));
-=======
     const auto names = [&](std::string_view told) {
         return text.contains(
             QStringLiteral("`%1`").arg(QString::fromUtf8(told.data(), static_cast<qsizetype>(told.size()))));
->>>>>>> theirs
     };
     for (const desktop::CommonKeyRow& row : desktop::commonKeys())
         EXPECT_TRUE(names(row.keys)) << row.keys;
