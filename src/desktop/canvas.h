@@ -23,6 +23,8 @@ class Keyboard;
 class Pointer;
 
 class Canvas final : public QWidget {
+    Q_OBJECT
+
 public:
     /// Shows the whole window, or with an `area` that panel and what lies in it; what lies in `except` is left out.
     Canvas(Desk& desk, host::Window& model, host::Handle area = host::noControl, host::Handle except = host::noControl);
