@@ -16,7 +16,7 @@
 #include <unistd.h>
 
 #include "desktop/desktop_screen.h"
-#include "desktop/quiet_style.h"
+#include "desktop/drawing/quiet_style.h"
 #include "desktop/settings_file.h"
 #include "host/engine.h"
 #include "program/catalogue.h"

@@ -19,18 +19,18 @@ fault() {
 # The folders whose headers a folder of src may include, besides its own.
 declare -A below=(
     [host]=""
-    [frame/rules]="host"
-    [sheets]="host frame/rules"
-    [frame]="host frame/rules sheets"
-    [designs/common_emitter]="host frame/rules sheets"
-    [designs/base_collector]="host frame/rules sheets"
-    [designs/differential]="host frame/rules sheets"
-    [designs/power]="host frame/rules sheets"
-    [editors]="host frame/rules sheets"
-    [tools]="host frame/rules sheets"
-    [program]="host frame/rules sheets frame designs editors tools"
-    [console]="host frame/rules sheets frame program"
-    [desktop]="host frame/rules sheets frame program"
+    [rules]="host"
+    [sheets]="host rules"
+    [frame]="host rules sheets"
+    [designs/common_emitter]="host rules sheets"
+    [designs/base_collector]="host rules sheets"
+    [designs/differential]="host rules sheets"
+    [designs/power]="host rules sheets"
+    [editors]="host rules sheets"
+    [tools]="host rules sheets"
+    [program]="host rules sheets frame designs editors tools"
+    [console]="host rules sheets frame program"
+    [desktop]="host rules sheets frame program"
 )
 
 check_layers() {
@@ -38,7 +38,7 @@ check_layers() {
     local folder files line header allowed
     for folder in "${!below[@]}"; do
         mapfile -t files < <(git ls-files -co --exclude-standard "src/$folder" | grep -E '\.(h|cpp)$' || true)
-        [[ $folder == frame ]] && mapfile -t files < <(printf '%s\n' "${files[@]}" | grep -v '^src/frame/rules/' || true)
+        [[ $folder == frame ]] && mapfile -t files < <(printf '%s\n' "${files[@]}" | grep -v '^src/rules/' || true)
         [[ -n ${files[0]:-} ]] || continue
         while IFS= read -r line; do
             header=${line#*\"}
@@ -52,7 +52,7 @@ check_layers() {
     # not at all needs the system's own calls.
     while IFS= read -r line; do
         fault "$line: not of the standard library"
-    done < <(git ls-files -co --exclude-standard src | grep -E '\.(h|cpp)$' | grep -vE '^src/(desktop/|frame/rules/whole_file)' |
+    done < <(git ls-files -co --exclude-standard src | grep -E '\.(h|cpp)$' | grep -vE '^src/(desktop/|rules/whole_file)' |
         xargs -r grep -HnE '^#include <([A-Z]|[^>]*[./])' || true)
 }
 

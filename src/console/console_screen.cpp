@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "console/walk_text.h"
-#include "frame/rules/code_page.h"
 #include "host/window.h"
+#include "rules/code_page.h"
 
 namespace velmor::console {
 

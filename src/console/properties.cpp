@@ -8,7 +8,7 @@
 
 #include "console/sheet_access.h"
 #include "console/walk.h"
-#include "frame/rules/numbers.h"
+#include "rules/numbers.h"
 
 namespace velmor::console {
 

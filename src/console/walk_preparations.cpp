@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "console/verbs.h"
-#include "frame/rules/code_page.h"
+#include "rules/code_page.h"
 
 namespace velmor::console {
 

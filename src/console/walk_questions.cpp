@@ -8,9 +8,9 @@
 
 #include "console/properties.h"
 #include "console/verbs.h"
-#include "frame/rules/code_page.h"
-#include "frame/rules/numbers.h"
-#include "frame/rules/whole_file.h"
+#include "rules/code_page.h"
+#include "rules/numbers.h"
+#include "rules/whole_file.h"
 
 namespace velmor::console {
 

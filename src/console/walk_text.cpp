@@ -6,7 +6,7 @@
 #include <charconv>
 #include <cmath>
 
-#include "frame/rules/code_page.h"
+#include "rules/code_page.h"
 
 namespace velmor::console {
 

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "frame/rules/code_page.h"
+#include "rules/code_page.h"
 
 namespace velmor::console {
 

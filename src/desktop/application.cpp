@@ -3,9 +3,9 @@
 
 #include <clocale>
 
-#include "desktop/control_pane.h"
-#include "desktop/program_icon.h"
-#include "desktop/quiet_style.h"
+#include "desktop/canvas/control_pane.h"
+#include "desktop/drawing/program_icon.h"
+#include "desktop/drawing/quiet_style.h"
 
 namespace velmor::desktop {
 

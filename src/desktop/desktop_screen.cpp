@@ -12,11 +12,11 @@
 #include <QPointer>
 #include <QProcess>
 
-#include "desktop/document_store.h"
+#include "desktop/canvas/document_store.h"
+#include "desktop/drawing/texts.h"
 #include "desktop/printing.h"
-#include "desktop/questions.h"
-#include "desktop/texts.h"
-#include "desktop/window_keeper.h"
+#include "desktop/windows/questions.h"
+#include "desktop/windows/window_keeper.h"
 
 namespace velmor::desktop {
 

@@ -7,7 +7,7 @@
 
 #include <QString>
 
-#include "desktop/desk.h"
+#include "desktop/canvas/desk.h"
 #include "desktop/other_instance.h"
 #include "desktop/program_folder.h"
 #include "host/screen.h"

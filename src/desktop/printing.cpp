@@ -8,8 +8,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
-#include "desktop/questions.h"
-#include "desktop/texts.h"
+#include "desktop/drawing/texts.h"
+#include "desktop/windows/questions.h"
 
 namespace velmor::desktop {
 

@@ -5,7 +5,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include "desktop/texts.h"
+#include "desktop/drawing/texts.h"
 
 namespace velmor::desktop {
 

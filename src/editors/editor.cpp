@@ -5,9 +5,9 @@
 #include <filesystem>
 #include <system_error>
 
-#include "frame/rules/code_page.h"
-#include "frame/rules/whole_file.h"
 #include "host/engine.h"
+#include "rules/code_page.h"
+#include "rules/whole_file.h"
 
 namespace velmor::editors {
 

@@ -3,11 +3,11 @@
 // the windows that have such buttons.
 #pragma once
 
-#include "frame/small_symbols.h"
+#include "sheets/small_symbols.h"
 
 namespace velmor::palette::button_drawings {
 
-using namespace small_symbols;
+using namespace sheets::small_symbols;
 
 // clang-format off
 inline constexpr auto longTailedPair = joined(

@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
-#include "frame/rules/circuit_lines.h"
 #include "host/sheet_host.h"
 #include "host/window.h"
+#include "rules/circuit_lines.h"
 
 namespace velmor::sheets {
 

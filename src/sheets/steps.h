@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "frame/rules/numbers.h"
+#include "rules/numbers.h"
 #include "sheets/design_sheet.h"
 
 namespace velmor::sheets {

@@ -8,7 +8,7 @@
 #include <iterator>
 #include <string>
 
-#include "frame/rules/numbers.h"
+#include "rules/numbers.h"
 
 namespace velmor::calculator {
 

@@ -5,9 +5,9 @@
 #include <memory>
 #include <string_view>
 
-#include "frame/rules/real.h"
 #include "host/sheet_host.h"
 #include "host/window.h"
+#include "rules/real.h"
 
 namespace velmor::calculator {
 

@@ -2,7 +2,7 @@
 // Slots, formulas and table of the temperature conversion.
 #include "tools/form22.h"
 
-#include "frame/rules/numbers.h"
+#include "rules/numbers.h"
 #include "sheets/design_sheet.h"
 
 namespace velmor::form22 {

@@ -4,9 +4,9 @@
 
 #include <memory>
 
-#include "frame/rules/real.h"
 #include "host/sheet_host.h"
 #include "host/window.h"
+#include "rules/real.h"
 
 namespace velmor::form22 {
 

@@ -13,7 +13,7 @@
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 
-#include "desktop/document_store.h"
+#include "desktop/canvas/document_store.h"
 #include "desktop/other_instance.h"
 #include "desktop/printing.h"
 #include "desktop/program_folder.h"

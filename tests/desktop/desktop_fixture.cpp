@@ -11,7 +11,7 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "desktop/texts.h"
+#include "desktop/drawing/texts.h"
 
 namespace velmor::test {
 

@@ -11,13 +11,13 @@
 #include <QString>
 #include <QTemporaryDir>
 
-#include "desktop/child_frame.h"
+#include "desktop/canvas/field_edit.h"
 #include "desktop/desktop_screen.h"
-#include "desktop/field_edit.h"
-#include "desktop/main_window.h"
-#include "desktop/sheet_view.h"
-#include "desktop/tool_window.h"
-#include "desktop/window_keeper.h"
+#include "desktop/windows/child_frame.h"
+#include "desktop/windows/main_window.h"
+#include "desktop/windows/sheet_view.h"
+#include "desktop/windows/tool_window.h"
+#include "desktop/windows/window_keeper.h"
 #include "host/engine.h"
 
 namespace velmor::test {

@@ -3,7 +3,7 @@
 """Works out the figures that the tests of the number rules and of the code page compare with, in another language and by
 other means: Python's own float formatting and reading, its integers, regular expressions and its cp1252 codec.
 
-    tests/figures/number_rules.py > tests/frame/rules/number_figures.h
+    tests/figures/number_rules.py > tests/rules/number_figures.h
 """
 import codecs
 import random

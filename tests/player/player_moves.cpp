@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "frame/rules/code_page.h"
 #include "host/text_store.h"
+#include "rules/code_page.h"
 
 namespace velmor::player {
 

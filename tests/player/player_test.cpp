@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "console/whole_program.h"
-#include "frame/rules/real.h"
 #include "player/consistency.h"
+#include "rules/real.h"
 #include "sheets/template_program.h"
 #include "sheets/template_sheet.h"
 

@@ -11,8 +11,8 @@
 #include <gtest/gtest.h>
 
 #include "console/whole_program.h"
-#include "frame/rules/scratch_folder.h"
 #include "places.h"
+#include "rules/scratch_folder.h"
 #include "sheets/design_sheet.h"
 
 namespace velmor::replay {

@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "frame/rules/scratch_folder.h"
 #include "host/engine.h"
+#include "rules/scratch_folder.h"
 #include "sheets/template_program.h"
 #include "sheets/template_sheet.h"
 

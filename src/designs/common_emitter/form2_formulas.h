@@ -6,7 +6,7 @@
 // capacitor's reactance is a tenth of the resistance at the lowest frequency).
 #pragma once
 
-#include "frame/rules/numbers.h"
+#include "rules/numbers.h"
 
 namespace velmor::form2 {
 

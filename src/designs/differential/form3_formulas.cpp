@@ -2,7 +2,7 @@
 // The formulas of the long-tailed pair. Their order of multiplication and division decides the last digit.
 #include "designs/differential/form3_formulas.h"
 
-#include "frame/rules/numbers.h"
+#include "rules/numbers.h"
 
 namespace velmor::form3 {
 

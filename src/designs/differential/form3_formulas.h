@@ -3,7 +3,7 @@
 // milliamperes without scaling. They know no field.
 #pragma once
 
-#include "frame/rules/real.h"
+#include "rules/real.h"
 
 namespace velmor::form3 {
 

@@ -1,0 +1,322 @@
+// SPDX-License-Identifier: MIT
+// Painting, places and the way of events; the child widgets stand in canvas_widgets.cpp.
+#include "desktop/canvas/canvas.h"
+
+#include <algorithm>
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include "desktop/canvas/control_pane.h"
+#include "desktop/canvas/field_edit.h"
+#include "desktop/canvas/keyboard.h"
+#include "desktop/canvas/pointer.h"
+#include "desktop/drawing/control_painter.h"
+#include "desktop/drawing/page_picture.h"
+#include "desktop/drawing/texts.h"
+
+namespace velmor::desktop {
+
+using host::Handle;
+using host::noControl;
+
+Canvas::Canvas(Desk& desk, host::Window& model, Handle area, Handle except)
+    : desk_(desk), model_(&model), area_(area), except_(except), plan_(CanvasPlan::of(model.spec())),
+      widgets_(model.controlCount()), ink_(model.controlCount()), pointer_(std::make_unique<Pointer>(*this)),
+      keyboard_(std::make_unique<Keyboard>(*this))
+{
+    design_ = area == noControl ? host::Place{0, 0, model.spec().place.width, model.spec().place.height}
+                                : host::shownPlace(model, area);
+    view_.inks = desk.inks;
+    view_.languageIsEnglish = desk.engine->values().LanguageIsEnglish;
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+}
+
+Canvas::~Canvas() = default;
+
+void Canvas::forgetModel()
+{
+    model_ = nullptr;
+    pointer_->forget();
+}
+
+void Canvas::setDesign(const host::Place& design)
+{
+    design_ = design;
+}
+
+double Canvas::scaleFor(QSize room) const
+{
+    if (design_.width <= 0 || design_.height <= 0)
+        return 1.0;
+    return std::min(room.width() * twipsPerUnit / design_.width, room.height() * twipsPerUnit / design_.height);
+}
+
+void Canvas::layOut(double scale, QSize size)
+{
+    laidOut_ = true;
+    resize(size);
+    view_.pixelsPerTwip = scale / twipsPerUnit;
+    const double spare = std::max(0.0, size.width() - design_.width * view_.pixelsPerTwip) / 2.0;
+    view_.origin = QPointF(std::floor(spare) - design_.left * view_.pixelsPerTwip, -design_.top * view_.pixelsPerTwip);
+    std::fill(ink_.begin(), ink_.end(), QRectF());
+    if (model_ == nullptr)
+        return;
+    for (std::size_t control = 0; control < widgets_.size(); ++control)
+        if (widgets_[control] != nullptr)
+            place(static_cast<Handle>(control), *widgets_[control]);
+    update();
+}
+
+bool Canvas::belongs(Handle control) const
+{
+    const host::WindowSpec& spec = model_->spec();
+    return hasPlace(model_->row(control).kind) && (area_ == noControl || liesIn(spec, control, area_)) &&
+           (except_ == noControl || !liesIn(spec, control, except_));
+}
+
+// A panel that is the canvas itself is shown with it: while no sheet is open the welcome is there, even when a sheet has
+// sent it away before.
+bool Canvas::shows(Handle control) const
+{
+    if (model_ == nullptr || !belongs(control))
+        return false;
+    for (Handle part = control; part != noControl; part = model_->row(part).parent)
+        if (!model_->visible(part) && !isGround(part))
+            return false;
+    return true;
+}
+
+const QRectF& Canvas::ink(Handle control) const
+{
+    QRectF& held = ink_[control];
+    if (held.isNull())
+        held = inkBounds(*model_, control, view_).adjusted(-1, -1, 1, 1);
+    return held;
+}
+
+// Help boxes are placed by the width of the main window, which a sheet scaled by itself need not have.
+QRect Canvas::keptInside(QRect box) const
+{
+    box.moveLeft(std::clamp(box.left(), 0, std::max(0, width() - box.width())));
+    box.moveTop(std::clamp(box.top(), 0, std::max(0, height() - box.height())));
+    return box.intersected(rect());
+}
+
+QRect Canvas::boxInPixels(Handle control) const
+{
+    const QRectF box = boxOf(*model_, control, view_);
+    const QPoint leftTop(qRound(box.left()), qRound(box.top()));
+    const QPoint rightBottom(qRound(box.right()), qRound(box.bottom()));
+    const QRect exact(leftTop, QSize(rightBottom.x() - leftTop.x(), rightBottom.y() - leftTop.y()));
+    const host::ControlRow& row = model_->row(control);
+    if (row.kind == host::Kind::editor && model_->role() == host::Role::editor)
+        return rect();
+    return row.overlay && row.kind == host::Kind::page ? keptInside(exact) : exact;
+}
+
+Handle Canvas::controlAt(QPoint point) const
+{
+    if (model_ == nullptr)
+        return noControl;
+    for (const bool overlay : {true, false})
+        for (std::size_t i = model_->controlCount(); i-- > 0;) {
+            const auto control = static_cast<Handle>(i);
+            if (model_->row(control).overlay == overlay && plan_.entries[control].target && shows(control) &&
+                boxInPixels(control).contains(point))
+                return control;
+        }
+    return noControl;
+}
+
+QWidget* Canvas::widgetOf(Handle control) const
+{
+    return control < widgets_.size() ? widgets_[control] : nullptr;
+}
+
+QWidget* Canvas::focusTarget()
+{
+    if (model_ == nullptr || model_->focus() == noControl)
+        return this;
+    QWidget* widget = widgetOf(model_->focus());
+    return widget != nullptr && widget->isVisibleTo(this) && widget->isEnabled() ? widget : this;
+}
+
+// The panels of the main window are the canvas itself there.
+bool Canvas::isGround(Handle control) const
+{
+    const host::ControlRow& row = model_->row(control);
+    return model_->role() == host::Role::mainWindow && row.kind == host::Kind::panel && row.parent == noControl;
+}
+
+void Canvas::paintOne(QPainter& painter, Handle control, const QRegion& clip)
+{
+    if (model_ == nullptr || !shows(control) || model_->row(control).look == host::Look::invisible || isGround(control))
+        return;
+    // Measuring what a control paints on costs as much as painting it: a whole canvas is painted without asking.
+    const bool everything = clip.rectCount() == 1 && clip.boundingRect().contains(rect());
+    if (!everything && !clip.intersects(ink(control).toAlignedRect()))
+        return;
+    if (isPagePicture(*model_, control))
+        paintPagePicture(painter, *model_, control, view_);
+    else
+        paintControl(painter, *model_, control, view_);
+}
+
+void Canvas::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.fillRect(event->rect(), view_.inks->paper);
+    if (model_ == nullptr)
+        return;
+    for (const host::ControlRow& row : model_->spec().controls)
+        if (!row.overlay && hasPlace(row.kind))
+            paintOne(painter, row.id, event->region());
+}
+
+void Canvas::repaintControl(Handle control)
+{
+    if (control == noControl || model_ == nullptr || !hasPlace(model_->row(control).kind))
+        return;
+    const QRectF before = std::exchange(ink_[control], QRectF());
+    if (!isVisible())
+        return; // it is painted whole when it is shown
+    const host::ControlRow& row = model_->row(control);
+    const bool mayHaveMoved = !row.drawing.empty() || !(model_->placeOf(control) == row.place);
+    if (before.isNull() && mayHaveMoved)
+        update();
+    else
+        update(before.united(ink(control)).toAlignedRect());
+    auto* pane = dynamic_cast<ControlPane*>(widgetOf(control));
+    if (pane != nullptr && pane->paints())
+        pane->update();
+}
+
+void Canvas::setHovered(Handle control)
+{
+    const Handle before = std::exchange(view_.hovered, control);
+    if (before == control)
+        return;
+    repaintControl(before);
+    repaintControl(control);
+}
+
+void Canvas::setPressed(Handle control)
+{
+    const Handle before = std::exchange(view_.pressed, control);
+    if (before == control)
+        return;
+    repaintControl(before);
+    repaintControl(control);
+}
+
+bool Canvas::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && model_ != nullptr) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const Handle control = controlAt(help->pos());
+        const QString tip = control == noControl ? QString() : tipOf(control);
+        if (tip.isEmpty())
+            QToolTip::hideText();
+        else
+            QToolTip::showText(help->globalPos(), shownTip(tip), this, boxInPixels(control));
+        return true;
+    }
+    if (event->type() == QEvent::ShortcutOverride && keyboard_->wants(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+bool Canvas::eventFilter(QObject* object, QEvent* event)
+{
+    const auto known = handles_.find(object);
+    if (known == handles_.end() || model_ == nullptr || desk_.closing)
+        return QWidget::eventFilter(object, event);
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        if (keyboard_->wants(*static_cast<QKeyEvent*>(event)))
+            event->accept();
+        return false;
+    case QEvent::KeyPress:
+        return keyboard_->pressed(*static_cast<QKeyEvent*>(event));
+    case QEvent::InputMethod:
+        return keyboard_->composed(*static_cast<QInputMethodEvent*>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::ContextMenu:
+        return filterMouse(known->second, *static_cast<QWidget*>(object), *event);
+    default:
+        return false;
+    }
+}
+
+bool Canvas::filterMouse(Handle control, QWidget& widget, QEvent& event)
+{
+    if (event.type() == QEvent::ContextMenu)
+        return true;
+    auto& mouse = static_cast<QMouseEvent&>(event);
+    const QPoint here = widget.mapTo(this, mouse.position().toPoint());
+    if (widgetOf(control) != nullptr && dynamic_cast<ControlPane*>(widgetOf(control)) != nullptr) {
+        switch (event.type()) {
+        case QEvent::MouseButtonPress:
+            pointer_->pressed(here, mouse);
+            break;
+        case QEvent::MouseButtonDblClick:
+            pointer_->doubleClicked(here, mouse);
+            break;
+        case QEvent::MouseMove:
+            pointer_->moved(here, mouse.buttons());
+            break;
+        default:
+            pointer_->released(here, mouse);
+        }
+        return true;
+    }
+    return pointer_->filtered(control, here, mouse);
+}
+
+void Canvas::keyPressEvent(QKeyEvent* event)
+{
+    // A key that a text box has left over has been here before.
+    if (model_ == nullptr || !hasFocus() || !keyboard_->pressed(*event))
+        QWidget::keyPressEvent(event);
+}
+
+void Canvas::mousePressEvent(QMouseEvent* event)
+{
+    pointer_->pressed(event->position().toPoint(), *event);
+}
+
+void Canvas::mouseMoveEvent(QMouseEvent* event)
+{
+    pointer_->moved(event->position().toPoint(), event->buttons());
+}
+
+void Canvas::mouseReleaseEvent(QMouseEvent* event)
+{
+    pointer_->released(event->position().toPoint(), *event);
+}
+
+void Canvas::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    pointer_->doubleClicked(event->position().toPoint(), *event);
+}
+
+void Canvas::leaveEvent(QEvent* event)
+{
+    QWidget::leaveEvent(event);
+    pointer_->left();
+}
+
+} // namespace velmor::desktop

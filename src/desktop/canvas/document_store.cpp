@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+// Characters and positions of a QTextDocument. A text without surrogate pairs, which is nearly every text, is counted
+// unit by unit without being copied.
+#include "desktop/canvas/document_store.h"
+
+#include <algorithm>
+
+#include <QPlainTextDocumentLayout>
+
+#include "desktop/drawing/texts.h"
+
+namespace velmor::desktop {
+
+namespace document_store_detail {
+
+constexpr double margin = 12.0; ///< logical pixels around the text
+
+QString lineFeeds(QString text)
+{
+    return text.replace(QChar::ParagraphSeparator, QLatin1Char('\n')).replace(QChar::LineSeparator, QLatin1Char('\n'));
+}
+
+// A carriage return or a foreign line break inside a text becomes one line break of the document.
+QString oneKindOfBreak(std::string_view text)
+{
+    return shown(text)
+        .replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
+} // namespace document_store_detail
+
+DocumentStore::DocumentStore() : cursor_(&document_)
+{
+    document_.setDocumentLayout(new QPlainTextDocumentLayout(&document_));
+    document_.setDocumentMargin(document_store_detail::margin);
+}
+
+DocumentStore::~DocumentStore()
+{
+    if (edit_)
+        edit_->setDocument(nullptr);
+}
+
+void DocumentStore::shownBy(QPlainTextEdit* edit)
+{
+    edit->setDocument(&document_);
+    edit->setTextCursor(cursor_);
+    edit_ = edit;
+}
+
+QTextCursor DocumentStore::cursor() const
+{
+    return edit_ ? edit_->textCursor() : cursor_;
+}
+
+void DocumentStore::keep(const QTextCursor& cursor)
+{
+    cursor_ = cursor;
+    if (edit_)
+        edit_->setTextCursor(cursor);
+}
+
+bool DocumentStore::plainUnits() const
+{
+    if (surrogatesAtRevision_ != document_.revision()) {
+        surrogatesAtRevision_ = document_.revision();
+        const QString text = document_.toRawText();
+        surrogates_ = std::any_of(text.begin(), text.end(), [](QChar unit) { return unit.isSurrogate(); });
+    }
+    return !surrogates_;
+}
+
+int DocumentStore::unitOf(std::size_t character) const
+{
+    const int end = document_.characterCount() - 1;
+    if (plainUnits())
+        return static_cast<int>(std::min(character, static_cast<std::size_t>(end)));
+    int unit = 0;
+    for (; character > 0 && unit < end; --character)
+        unit += document_.characterAt(unit).isHighSurrogate() && unit + 1 < end ? 2 : 1;
+    return unit;
+}
+
+std::size_t DocumentStore::characterOf(int unit) const
+{
+    if (plainUnits())
+        return static_cast<std::size_t>(unit);
+    std::size_t character = 0;
+    for (int at = 0; at < unit; ++at)
+        if (!document_.characterAt(at).isLowSurrogate())
+            ++character;
+    return character;
+}
+
+QString DocumentStore::units(int from, int to) const
+{
+    QTextCursor reader(const_cast<QTextDocument*>(&document_));
+    reader.setPosition(from);
+    reader.setPosition(to, QTextCursor::KeepAnchor);
+    return document_store_detail::lineFeeds(reader.selectedText());
+}
+
+std::size_t DocumentStore::length() const
+{
+    return characterOf(document_.characterCount() - 1);
+}
+
+std::string DocumentStore::slice(std::size_t from, std::size_t count) const
+{
+    const int start = unitOf(from);
+    const int end = count > length() ? document_.characterCount() - 1 : unitOf(from + count);
+    return end > start ? held(units(start, end)) : std::string();
+}
+
+std::string DocumentStore::all() const
+{
+    return held(document_store_detail::lineFeeds(document_.toRawText()));
+}
+
+void DocumentStore::setAll(std::string_view text)
+{
+    ++changing_;
+    document_.setPlainText(document_store_detail::oneKindOfBreak(text));
+    keep(QTextCursor(&document_));
+    --changing_;
+}
+
+std::size_t DocumentStore::selectionStart() const
+{
+    return characterOf(cursor().selectionStart());
+}
+
+std::size_t DocumentStore::selectionLength() const
+{
+    const QTextCursor now = cursor();
+    return characterOf(now.selectionEnd()) - characterOf(now.selectionStart());
+}
+
+void DocumentStore::select(std::size_t from, std::size_t count)
+{
+    QTextCursor now(&document_);
+    now.setPosition(unitOf(from));
+    now.setPosition(unitOf(from + std::min(count, length())), QTextCursor::KeepAnchor);
+    keep(now);
+}
+
+void DocumentStore::replaceSelection(std::string_view text)
+{
+    ++changing_;
+    QTextCursor now = cursor();
+    now.insertText(document_store_detail::oneKindOfBreak(text));
+    keep(now);
+    --changing_;
+}
+
+} // namespace velmor::desktop

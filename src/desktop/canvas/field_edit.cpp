@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/canvas/field_edit.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "desktop/drawing/palette_of_inks.h"
+
+namespace velmor::desktop {
+
+FieldEdit::FieldEdit(const Inks& inks, QWidget* parent) : QLineEdit(parent), inks_(&inks)
+{
+    setFrame(false);
+    setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setDragEnabled(false);
+    setAcceptDrops(false);
+    setTextMargins(2, 0, 2, 0);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    recolor();
+}
+
+void FieldEdit::setInks(const Inks& inks)
+{
+    inks_ = &inks;
+    recolor();
+}
+
+void FieldEdit::showText(const QString& text)
+{
+    if (this->text() == text)
+        return;
+    setText(text);
+    if (selectedWhole_)
+        selectAll();
+    else
+        setCursorPosition(hasFocus() ? static_cast<int>(text.size()) : 0);
+}
+
+void FieldEdit::selectWhole()
+{
+    selectedWhole_ = true;
+    selectAll();
+}
+
+void FieldEdit::setOwnColors(std::int32_t ground, std::int32_t ink)
+{
+    if (ground == ground_ && ink == ink_)
+        return;
+    ground_ = ground;
+    ink_ = ink;
+    recolor();
+}
+
+void FieldEdit::recolor()
+{
+    const QColor ground = ground_ < 0 ? inks_->field : QColor::fromRgb(static_cast<QRgb>(ground_));
+    const QColor wished = ink_ < 0 ? inks_->fieldInk : QColor::fromRgb(static_cast<QRgb>(ink_));
+    QPalette colors = palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        colors.setColor(group, QPalette::Base, ground);
+        colors.setColor(group, QPalette::Text, ground_ < 0 && ink_ < 0 ? wished : readableOn(ground, wished));
+        colors.setColor(group, QPalette::Highlight, inks_->accent);
+        colors.setColor(group, QPalette::HighlightedText, inks_->onAccent);
+    }
+    colors.setColor(QPalette::Disabled, QPalette::Base, ground_ < 0 ? inks_->fieldOff : ground);
+    colors.setColor(QPalette::Disabled, QPalette::Text,
+                    ground_ < 0 ? inks_->fieldOffInk : readableOn(ground, inks_->fieldOffInk));
+    setPalette(colors);
+}
+
+void FieldEdit::paintEvent(QPaintEvent* event)
+{
+    QLineEdit::paintEvent(event);
+    QPainter painter(this);
+    const double ratio = devicePixelRatioF();
+    const double weight = (hasFocus() ? 2.0 : 1.0) * std::max(1.0, std::round(ratio)) / ratio;
+    const double half = weight / 2.0;
+    painter.setPen(QPen(hasFocus()    ? inks_->accent
+                        : isEnabled() ? inks_->edge
+                                      : inks_->rule,
+                        weight, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
+}
+
+void FieldEdit::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    update();
+}
+
+void FieldEdit::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    update();
+}
+
+} // namespace velmor::desktop

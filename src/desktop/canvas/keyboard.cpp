@@ -1,0 +1,388 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/canvas/keyboard.h"
+
+#include <algorithm>
+#include <map>
+#include <vector>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QPointer>
+
+#include "desktop/canvas/canvas.h"
+#include "desktop/canvas/field_edit.h"
+#include "desktop/canvas/pointer.h"
+#include "desktop/drawing/texts.h"
+
+namespace velmor::desktop {
+
+using host::Handle;
+using host::Kind;
+using host::noControl;
+
+namespace keyboard_detail {
+
+constexpr std::int16_t enterKey = 13;
+constexpr std::int16_t escapeKey = 27;
+constexpr std::int16_t backspaceKey = 8;
+constexpr std::int16_t copyKey = 3;
+constexpr std::int16_t pasteKey = 22;
+constexpr std::int16_t cutKey = 24;
+constexpr std::int16_t undoKey = 26;
+constexpr std::int16_t unknownCharacter = 63; ///< "?": treated as a letter, that is, refused with a beep by the filter
+constexpr qsizetype longestPaste = 4096;
+
+// clang-format off
+constexpr CommonKeyRow commonKeyRows[] = {
+    // keys          deed                     Spanish                                        English
+    {"Tab",          CommonKey::next,       {"al campo siguiente",                           "to the next field"}},
+    {"Shift+Tab",    CommonKey::previous,   {"al campo anterior",                            "to the field before"}},
+    {"Menu",         CommonKey::rightPress, {"botón derecho sobre el campo: ayuda o tabla",  "right button on the field: help or table"}},
+    {"Shift+F10",    CommonKey::rightPress, {"botón derecho sobre el campo: ayuda o tabla",  "right button on the field: help or table"}},
+    {"F1",           CommonKey::help,       {"muestra u oculta la ayuda de la hoja",         "shows or hides the help of the sheet"}},
+    {"F2",           CommonKey::hover,      {"lo que dice el ratón sobre el campo",          "what the mouse over the field says"}},
+    {"Ctrl+F1",      CommonKey::hover,      {"lo que dice el ratón sobre el campo",          "what the mouse over the field says"}},
+    {"F6",           CommonKey::nextPane,   {"a la ventana siguiente",                       "to the next window"}},
+    {"Esc",          CommonKey::close,      {"cierra una ventana de ayuda o herramienta",    "closes a window of help or a tool"}},
+};
+// clang-format on
+
+// What Windows-1252 has between 128 and 159; 0 where it has nothing.
+constexpr char16_t upperHalf[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
+                                    0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+
+bool isTyped(const QKeyEvent& event)
+{
+    const QString text = event.text();
+    if (text.isEmpty() || !text.at(0).isPrint())
+        return false;
+    const Qt::KeyboardModifiers held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
+}
+
+QKeyCombination combinationOf(std::string_view keys)
+{
+    const QKeySequence sequence(shown(keys), QKeySequence::PortableText);
+    return sequence.isEmpty() ? QKeyCombination() : sequence[0];
+}
+
+} // namespace keyboard_detail
+
+std::span<const CommonKeyRow> commonKeys()
+{
+    return keyboard_detail::commonKeyRows;
+}
+
+std::int16_t keyCode(char32_t character)
+{
+    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
+        return static_cast<std::int16_t>(character);
+    for (std::size_t i = 0; i < std::size(keyboard_detail::upperHalf); ++i)
+        if (keyboard_detail::upperHalf[i] != 0 && keyboard_detail::upperHalf[i] == character)
+            return static_cast<std::int16_t>(0x80 + i);
+    return keyboard_detail::unknownCharacter;
+}
+
+char32_t characterOf(std::int16_t code)
+{
+    if (code >= 0x80 && code < 0xA0 && keyboard_detail::upperHalf[code - 0x80] != 0)
+        return keyboard_detail::upperHalf[code - 0x80];
+    return static_cast<char32_t>(code);
+}
+
+// Parsed once for all windows of a kind: this is asked at every key.
+std::size_t shortcutRow(const host::WindowSpec& spec, QKeyCombination keys)
+{
+    static std::map<const host::WindowSpec*, std::vector<QKeyCombination>> tables;
+    auto known = tables.find(&spec);
+    if (known == tables.end()) {
+        known = tables.emplace(&spec, std::vector<QKeyCombination>()).first;
+        for (const host::ShortcutRow& row : spec.shortcuts)
+            known->second.push_back(keyboard_detail::combinationOf(row.keys));
+    }
+    const auto found = std::find(known->second.begin(), known->second.end(), keys);
+    return found == known->second.end() ? noRow : static_cast<std::size_t>(found - known->second.begin());
+}
+
+QKeyCombination keysOf(const QKeyEvent& event)
+{
+    return QKeyCombination(event.modifiers() & ~Qt::KeypadModifier, static_cast<Qt::Key>(event.key()));
+}
+
+bool Keyboard::wants(const QKeyEvent& event) const
+{
+    return canvas_.model() != nullptr && shortcutRow(canvas_.model()->spec(), keysOf(event)) != noRow;
+}
+
+bool Keyboard::pressed(const QKeyEvent& event)
+{
+    host::Window* model = canvas_.model();
+    if (model == nullptr || canvas_.desk().closing)
+        return true;
+    if (canvas_.desk().touched)
+        canvas_.desk().touched(&canvas_);
+    if (event.key() == Qt::Key_Escape && canvas_.pointer().cancelDrag())
+        return true;
+    const QKeyCombination keys = keysOf(event);
+    if (runShortcut(keys) || runCommon(keys))
+        return true;
+    const Handle held = model->focus();
+    if (held == noControl)
+        return false;
+    QWidget* widget = canvas_.widgetOf(held);
+    if (auto* field = dynamic_cast<FieldEdit*>(widget))
+        return fieldKey(*field, event);
+    return host::takesFocus(model->row(held).kind) && model->row(held).kind != Kind::page &&
+                   model->row(held).kind != Kind::editor && model->row(held).kind != Kind::list
+               ? paneKey(event)
+               : textKey(event);
+}
+
+bool Keyboard::runShortcut(QKeyCombination keys)
+{
+    const std::size_t row = shortcutRow(canvas_.model()->spec(), keys);
+    if (row == noRow)
+        return false;
+    const Desk& desk = canvas_.desk();
+    host::Window& model = *canvas_.model();
+    desk.engine->userShortcut(model, row);
+    if (desk.hovered && model.spec().shortcuts[row].action == host::KeyAction::hover && desk.idle())
+        desk.hovered(model, model.spec().shortcuts[row].control);
+    return true;
+}
+
+bool Keyboard::runCommon(QKeyCombination keys)
+{
+    if (keys.key() == Qt::Key_Backtab)
+        keys = QKeyCombination(Qt::ShiftModifier, Qt::Key_Tab);
+    for (const CommonKeyRow& row : keyboard_detail::commonKeyRows)
+        if (keyboard_detail::combinationOf(row.keys) == keys)
+            return run(row.deed);
+    return false;
+}
+
+bool Keyboard::run(CommonKey deed)
+{
+    host::Window& model = *canvas_.model();
+    host::Engine& engine = *canvas_.desk().engine;
+    const Handle held = model.focus();
+    const bool writes = held != noControl && model.row(held).kind == Kind::editor;
+    switch (deed) {
+    case CommonKey::next:
+    case CommonKey::previous:
+        if (writes)
+            return false; // a tab is a character there
+        engine.userTab(model, deed == CommonKey::previous);
+        return true;
+    case CommonKey::rightPress:
+        if (writes)
+            return false;
+        engine.userPress(model, held, host::Button::right);
+        return true;
+    case CommonKey::hover:
+        engine.userHover(model, held);
+        return true;
+    case CommonKey::help:
+        return toggleHelp();
+    case CommonKey::nextPane:
+        if (canvas_.desk().nextPane)
+            canvas_.desk().nextPane();
+        return true;
+    case CommonKey::close:
+        return closeTool();
+    }
+    return false;
+}
+
+// A small window goes at Escape, unless the control in hand has a use of its own for the key.
+bool Keyboard::closeTool()
+{
+    host::Window& model = *canvas_.model();
+    Desk& desk = canvas_.desk();
+    if (model.role() == host::Role::palette) {
+        if (desk.nextPane)
+            desk.nextPane();
+        return true;
+    }
+    if (model.role() != host::Role::tool)
+        return false;
+    const Handle held = model.focus();
+    const bool hears = held != noControl && model.hasSlot(held, host::Event::key);
+    if ((!hears || passes(keyboard_detail::escapeKey)) && canvas_.model() != nullptr)
+        desk.engine->userClose(model);
+    return true;
+}
+
+// The pair of pictures that show and hide the help; the one that is visible is meant.
+bool Keyboard::toggleHelp()
+{
+    host::Window& model = *canvas_.model();
+    for (const std::string_view name : {"Image35", "Image34"}) {
+        const Handle picture = model.named(name);
+        if (picture != noControl && model.visible(picture)) {
+            canvas_.desk().engine->userClick(model, picture);
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Keyboard::passes(std::int16_t key)
+{
+    return canvas_.desk().engine->userKey(*canvas_.model(), key) == key;
+}
+
+// Enter in a field of a small window that knows nothing of the key does what the window is for.
+bool Keyboard::pressFirstButton()
+{
+    host::Window& model = *canvas_.model();
+    if (model.role() != host::Role::tool || model.hasSlot(model.focus(), host::Event::key))
+        return false;
+    for (const Handle control : host::Engine::tabOrder(model))
+        if (model.row(control).kind == Kind::button && model.canTakeFocus(control)) {
+            canvas_.desk().engine->userClick(model, control);
+            return true;
+        }
+    return false;
+}
+
+bool Keyboard::fieldKey(FieldEdit& field, const QKeyEvent& event)
+{
+    using namespace keyboard_detail;
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
+        if (!pressFirstButton())
+            passes(enterKey);
+        return true;
+    }
+    if (event.key() == Qt::Key_Escape) {
+        passes(escapeKey);
+        return true;
+    }
+    if (event.matches(QKeySequence::Paste)) {
+        paste(field);
+        return true;
+    }
+    if (isTyped(event)) {
+        typeText(field, event.text());
+        return true;
+    }
+    // A letter with Alt is a menu's that no menu has: the line edit would write it past the key slot.
+    if (event.modifiers() == Qt::AltModifier && !event.text().isEmpty() && event.text().at(0).isPrint())
+        return true;
+    field.handTaken();
+    if (event.key() == Qt::Key_Backspace)
+        return !passes(backspaceKey);
+    if (event.matches(QKeySequence::Cut))
+        return !passes(cutKey);
+    if (event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo))
+        return !passes(undoKey);
+    if (event.matches(QKeySequence::Copy))
+        passes(copyKey);
+    return false;
+}
+
+// Pages, editors and lists: the slot hears the key first, the widget does with it what such widgets do.
+bool Keyboard::textKey(const QKeyEvent& event)
+{
+    using namespace keyboard_detail;
+    const Handle held = canvas_.model()->focus();
+    if (!canvas_.model()->hasSlot(held, host::Event::key))
+        return false;
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+        return !passes(enterKey);
+    if (event.key() == Qt::Key_Escape)
+        return !passes(escapeKey);
+    if (event.key() == Qt::Key_Backspace)
+        return !passes(backspaceKey);
+    if (isTyped(event))
+        return !passes(keyCode(event.text().toUcs4().value(0)));
+    return false;
+}
+
+bool Keyboard::paneKey(const QKeyEvent& event)
+{
+    using namespace keyboard_detail;
+    host::Window& model = *canvas_.model();
+    const Handle held = model.focus();
+    const Kind kind = model.row(held).kind;
+    if (event.key() == Qt::Key_Space && (kind == Kind::option || kind == Kind::check)) {
+        canvas_.desk().engine->userClick(model, held);
+        return true;
+    }
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+        passes(enterKey);
+    else if (event.key() == Qt::Key_Escape)
+        passes(escapeKey);
+    else if (event.key() == Qt::Key_Backspace)
+        passes(backspaceKey);
+    else if (isTyped(event))
+        passes(keyCode(event.text().toUcs4().value(0)));
+    else
+        return false;
+    return true;
+}
+
+QString Keyboard::filtered(const QString& text)
+{
+    QString result;
+    QPointer<Canvas> alive(&canvas_);
+    const Handle held = canvas_.model()->focus();
+    for (const char32_t character : text.toUcs4()) {
+        if (character < 32 || character == 127)
+            continue;
+        const std::int16_t key = keyCode(character);
+        const std::int16_t passed = canvas_.desk().engine->userKey(*canvas_.model(), key);
+        if (!alive || canvas_.model() == nullptr || canvas_.model()->focus() != held)
+            return {};
+        if (passed == key)
+            result += QString::fromUcs4(&character, 1);
+        else if (const char32_t replaced = characterOf(passed); passed != 0)
+            result += QString::fromUcs4(&replaced, 1);
+    }
+    return result;
+}
+
+void Keyboard::typeText(FieldEdit& field, const QString& text)
+{
+    QPointer<FieldEdit> alive(&field);
+    const QString passed = filtered(text);
+    if (alive && !passed.isEmpty()) {
+        field.handTaken();
+        field.insert(passed);
+    }
+}
+
+void Keyboard::paste(FieldEdit& field)
+{
+    QPointer<FieldEdit> alive(&field);
+    QPointer<Canvas> canvas(&canvas_);
+    const QString text = QGuiApplication::clipboard()->text().left(keyboard_detail::longestPaste);
+    if (text.isEmpty() || !passes(keyboard_detail::pasteKey) || !alive)
+        return;
+    Desk& desk = canvas_.desk();
+    desk.muted = true;
+    const QString passed = filtered(text);
+    desk.muted = false;
+    if (alive && !passed.isEmpty()) {
+        field.handTaken();
+        field.insert(passed);
+    }
+}
+
+bool Keyboard::composed(const QInputMethodEvent& event)
+{
+    host::Window* model = canvas_.model();
+    if (model == nullptr || model->focus() == noControl || event.commitString().isEmpty())
+        return false;
+    auto* field = dynamic_cast<FieldEdit*>(canvas_.widgetOf(model->focus()));
+    if (field == nullptr)
+        return false;
+    typeText(*field, event.commitString());
+    return true;
+}
+
+} // namespace velmor::desktop

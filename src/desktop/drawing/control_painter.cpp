@@ -1,0 +1,472 @@
+// SPDX-License-Identifier: MIT
+// One small function per look. What a text's size and room are is decided in caption_fit, what a drawing looks like in
+// schematic_painter.
+#include "desktop/drawing/control_painter.h"
+
+#include <algorithm>
+#include <vector>
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPen>
+
+#include "desktop/drawing/caption_fit.h"
+#include "desktop/drawing/field_marks.h"
+#include "desktop/drawing/plates.h"
+#include "desktop/drawing/schematic_painter.h"
+#include "desktop/drawing/typefaces.h"
+
+namespace velmor::desktop {
+
+using host::Handle;
+using host::Kind;
+using host::Look;
+
+namespace painting {
+
+/// All that one control's painting needs.
+struct Scene {
+    QPainter& painter;
+    const host::Window& window;
+    Handle control;
+    const View& view;
+    QRectF box;
+
+    const host::ControlRow& row() const { return window.row(control); }
+    std::span<const host::Mark> drawing() const { return window.drawing(control); }
+    const host::Control& state() const { return window.control(control); }
+    const Inks& inks() const { return *view.inks; }
+    double unit() const { return view.pixelsPerUnit(); }
+    /// Blanks alone are nothing to frame.
+    bool speaks() const { return state().text.find_first_not_of(" \n") != std::string::npos; }
+    bool enabled() const { return state().enabled; }
+    bool focused() const { return !view.forPrint && window.focus() == control && takesFocus(row().kind); }
+    bool hovered() const { return !view.forPrint && enabled() && view.hovered == control; }
+    bool pressed() const { return !view.forPrint && enabled() && view.pressed == control; }
+};
+
+QColor colorOf(std::int32_t rgb)
+{
+    return QColor::fromRgb(static_cast<QRgb>(rgb));
+}
+
+/// A box on whole device pixels, so that its border is one crisp line.
+QRectF crisp(const Scene& scene, const QRectF& box)
+{
+    if (scene.view.forPrint)
+        return box;
+    const double ratio = scene.painter.deviceTransform().m11();
+    const QTransform& transform = scene.painter.deviceTransform();
+    const QRect pixels = transform.mapRect(box).toRect();
+    return transform.inverted().mapRect(QRectF(pixels)).adjusted(0.5 / ratio, 0.5 / ratio, -0.5 / ratio, -0.5 / ratio);
+}
+
+double hairline(const Scene& scene)
+{
+    if (scene.view.forPrint)
+        return 0.8 * scene.unit();
+    const double ratio = scene.painter.deviceTransform().m11();
+    return std::max(1.0, std::floor(scene.unit() * ratio + 0.2)) / ratio;
+}
+
+void plate(const Scene& scene, const QColor& ground, const QColor& border, double radius, double width)
+{
+    const double round = std::min(radius * scene.unit(), std::min(scene.box.width(), scene.box.height()) / 2.0);
+    const PlateLook look{ground, border, round, width};
+    (scene.view.forPrint ? paintPlate : paintPlateOnScreen)(scene.painter, crisp(scene, scene.box), look);
+}
+
+void focusRing(const Scene& scene)
+{
+    if (!scene.focused())
+        return;
+    const double width = 2.0 * hairline(scene);
+    scene.painter.setPen(QPen(scene.inks().accent, width));
+    scene.painter.setBrush(Qt::NoBrush);
+    const double inset = width / 2.0;
+    scene.painter.drawRoundedRect(crisp(scene, scene.box).adjusted(inset, inset, -inset, -inset), 4.0 * scene.unit(),
+                                  4.0 * scene.unit());
+}
+
+/// A soft shadow under what lies above the sheet.
+void shadow(const Scene& scene)
+{
+    if (scene.view.forPrint)
+        return;
+    scene.painter.setPen(Qt::NoPen);
+    for (int ring = 3; ring > 0; --ring) {
+        const double spread = ring * 1.5 * scene.unit();
+        scene.painter.setBrush(QColor(0, 0, 0, scene.inks().dark ? 40 : 14));
+        scene.painter.drawRoundedRect(scene.box.adjusted(-spread, -spread + 2.0, spread, spread + 2.0), spread + 6.0,
+                                      spread + 6.0);
+    }
+}
+
+/// A sheet's own colour for the ground, else the look's.
+QColor groundOr(const Scene& scene, const QColor& own)
+{
+    return scene.state().backColor >= 0 ? colorOf(scene.state().backColor) : own;
+}
+
+void writeCaption(const Scene& scene, const QColor& ink, const QColor& ground)
+{
+    const CaptionSetting setting = setCaption(scene.window, scene.control, scene.view);
+    if (setting.text.isEmpty())
+        return;
+    const QColor wished = scene.state().foreColor >= 0 ? colorOf(scene.state().foreColor) : ink;
+    scene.painter.setFont(setting.font);
+    scene.painter.setPen(readableOn(ground, wished));
+    scene.painter.drawText(setting.room, setting.flags | Qt::TextDontClip, setting.text);
+}
+
+void paintDrawing(const Scene& scene)
+{
+    const auto drawing = scene.drawing();
+    if (drawing.empty())
+        return;
+    const bool faded = !scene.enabled() && scene.row().look == Look::toolButton;
+    scene.painter.setOpacity(faded ? 0.45 : 1.0);
+    paintMarks(scene.painter, scene.window, drawing, scene.box.topLeft(), scene.view);
+    scene.painter.setOpacity(1.0);
+}
+
+void paintPrompt(const Scene& scene)
+{
+    if (!scene.speaks())
+        return;
+    const QColor ground = groundOr(scene, scene.inks().voice);
+    plate(scene, ground, QColor(), 5.0, 0.0);
+    // The bar of the accent at the left edge: the teacher speaks.
+    QPainterPath edge;
+    edge.addRoundedRect(scene.box, 5.0 * scene.unit(), 5.0 * scene.unit());
+    scene.painter.save();
+    scene.painter.setClipRect(QRectF(scene.box.topLeft(), QSizeF(4.0 * scene.unit(), scene.box.height())),
+                              Qt::IntersectClip);
+    scene.painter.fillPath(edge, scene.inks().accent);
+    scene.painter.restore();
+    writeCaption(scene, scene.inks().ink, ground);
+}
+
+void paintHint(const Scene& scene)
+{
+    if (!scene.speaks())
+        return;
+    const QColor ground = groundOr(scene, scene.inks().hint);
+    plate(scene, ground, QColor(), 4.0, 0.0);
+    writeCaption(scene, scene.inks().ink, ground);
+}
+
+void paintBalloon(const Scene& scene)
+{
+    if (!scene.speaks())
+        return;
+    const QColor ground = groundOr(scene, scene.inks().balloon);
+    plate(scene, ground, QColor(), 5.0, 0.0);
+    writeCaption(scene, scene.inks().onBalloon, ground);
+}
+
+/// A triangle with an exclamation mark: a warning is told by its shape, not by its colour alone.
+void warningSign(const Scene& scene)
+{
+    const double size = std::min(14.0 * scene.unit(), scene.box.height() * 0.7);
+    const QPointF centre(scene.box.left() + std::min(13.0 * scene.unit(), scene.box.width() * 0.12),
+                         scene.box.center().y());
+    QPainterPath triangle(centre + QPointF(0.0, -0.5) * size);
+    triangle.lineTo(centre + QPointF(0.56, 0.45) * size);
+    triangle.lineTo(centre + QPointF(-0.56, 0.45) * size);
+    triangle.closeSubpath();
+    QPen pen(scene.inks().warning, size * 0.12, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    scene.painter.setPen(pen);
+    scene.painter.setBrush(Qt::NoBrush);
+    scene.painter.drawPath(triangle);
+    scene.painter.drawLine(centre + QPointF(0.0, -0.14) * size, centre + QPointF(0.0, 0.12) * size);
+    scene.painter.drawPoint(centre + QPointF(0.0, 0.30) * size);
+}
+
+void paintWarning(const Scene& scene)
+{
+    if (!scene.speaks())
+        return;
+    const QColor ground = groundOr(scene, scene.inks().warningTint);
+    plate(scene, ground, scene.inks().warning, 4.0, hairline(scene));
+    warningSign(scene);
+    writeCaption(scene, scene.inks().warning, ground);
+}
+
+void paintHeading(const Scene& scene)
+{
+    const QColor ground = groundOr(scene, scene.inks().paper);
+    if (scene.state().backColor >= 0)
+        plate(scene, ground, QColor(), 3.0, 0.0);
+    writeCaption(scene, scene.inks().ink, ground);
+}
+
+void paintGroup(const Scene& scene)
+{
+    const QColor ground = groundOr(scene, scene.inks().paper);
+    plate(scene, ground, scene.inks().rule, 6.0, hairline(scene));
+    writeCaption(scene, scene.inks().quiet, ground);
+    paintDrawing(scene);
+}
+
+void paintPaper(const Scene& scene)
+{
+    const QColor ground = groundOr(scene, scene.inks().paper);
+    plate(scene, ground, scene.inks().rule, 6.0, hairline(scene));
+    paintDrawing(scene);
+    writeCaption(scene, scene.inks().ink, ground);
+    focusRing(scene);
+}
+
+void paintText(const Scene& scene)
+{
+    QColor ground = scene.inks().paper;
+    if (scene.state().backColor >= 0) {
+        ground = colorOf(scene.state().backColor);
+        plate(scene, ground, QColor(), 3.0, 0.0);
+    }
+    const Look look = scene.row().look;
+    const bool steppingBack = look == Look::note || !scene.enabled();
+    paintDrawing(scene);
+    writeCaption(scene, steppingBack ? scene.inks().quiet : scene.inks().ink, ground);
+}
+
+void paintPanel(const Scene& scene)
+{
+    const bool floats = scene.row().overlay;
+    const QColor ground = groundOr(scene, scene.inks().paper);
+    if (floats)
+        shadow(scene);
+    plate(scene, ground, floats ? scene.inks().edge : scene.inks().rule, 6.0, hairline(scene));
+    paintDrawing(scene);
+    writeCaption(scene, scene.enabled() ? scene.inks().ink : scene.inks().quiet, ground);
+}
+
+QColor buttonGround(const Scene& scene)
+{
+    if (!scene.enabled())
+        return scene.inks().buttonOff;
+    if (scene.pressed())
+        return scene.inks().accentTint;
+    return groundOr(scene, scene.hovered() ? scene.inks().buttonHover : scene.inks().button);
+}
+
+void paintButton(const Scene& scene)
+{
+    const QColor ground = buttonGround(scene);
+    const QColor border = !scene.enabled()  ? scene.inks().rule
+                          : scene.hovered() ? scene.inks().accent
+                                            : scene.inks().edge;
+    plate(scene, ground, border, 5.0, hairline(scene));
+    paintDrawing(scene);
+    writeCaption(scene, scene.enabled() ? scene.inks().ink : scene.inks().buttonOffInk, ground);
+    focusRing(scene);
+}
+
+void paintPicture(const Scene& scene)
+{
+    QColor ground = scene.inks().paper;
+    if (scene.state().backColor >= 0) {
+        ground = colorOf(scene.state().backColor);
+        plate(scene, ground, QColor(), 3.0, 0.0);
+    }
+    paintDrawing(scene);
+    writeCaption(scene, scene.enabled() ? scene.inks().ink : scene.inks().quiet, ground);
+    focusRing(scene);
+}
+
+void paintChoice(const Scene& scene)
+{
+    const double size = std::min(13.0 * scene.unit(), scene.box.height());
+    const QPointF centre(scene.box.left() + size / 2.0 + 1.0, scene.box.center().y());
+    const QRectF mark(centre - QPointF(size, size) / 2.0, QSizeF(size, size));
+    const bool round = scene.row().kind == Kind::option;
+    const bool on = scene.state().checked;
+    const QColor ink = scene.enabled() ? scene.inks().accent : scene.inks().quiet;
+    scene.painter.setPen(QPen(on || scene.hovered() ? ink : scene.inks().edge, hairline(scene) * 1.3));
+    scene.painter.setBrush(on && !round ? ink : scene.enabled() ? scene.inks().field : scene.inks().fieldOff);
+    if (round)
+        scene.painter.drawEllipse(mark);
+    else
+        scene.painter.drawRoundedRect(mark, size / 5.0, size / 5.0);
+    if (on && round) {
+        scene.painter.setPen(Qt::NoPen);
+        scene.painter.setBrush(ink);
+        scene.painter.drawEllipse(centre, size * 0.27, size * 0.27);
+    } else if (on) {
+        QPainterPath tick(centre + QPointF(-0.26, 0.02) * size);
+        tick.lineTo(centre + QPointF(-0.06, 0.22) * size);
+        tick.lineTo(centre + QPointF(0.28, -0.22) * size);
+        scene.painter.setBrush(Qt::NoBrush);
+        scene.painter.setPen(QPen(scene.inks().onAccent, size * 0.14, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        scene.painter.drawPath(tick);
+    }
+    writeCaption(scene, scene.enabled() ? scene.inks().ink : scene.inks().quiet, scene.inks().paper);
+    focusRing(scene);
+}
+
+void paintLine(const Scene& scene)
+{
+    scene.painter.setPen(QPen(scene.inks().rule, hairline(scene) * 1.3));
+    if (scene.drawing().empty())
+        scene.painter.drawLine(scene.box.topLeft(), scene.box.bottomRight());
+    paintDrawing(scene);
+}
+
+void paintShape(const Scene& scene)
+{
+    const bool marked = scene.state().backColor >= 0;
+    if (scene.drawing().empty())
+        plate(scene, marked ? colorOf(scene.state().backColor) : QColor(),
+              marked ? scene.inks().accent : scene.inks().rule, 4.0, hairline(scene) * (marked ? 2.0 : 1.0));
+    paintDrawing(scene);
+}
+
+/// A field on paper: its text in a plain box.
+void paintPrintedField(const Scene& scene)
+{
+    plate(scene, QColor(), scene.inks().edge, 2.0, hairline(scene));
+    writeCaption(scene, scene.inks().ink, scene.inks().paper);
+}
+
+void paintByKind(const Scene& scene)
+{
+    switch (scene.row().kind) {
+    case Kind::button:
+        return paintButton(scene);
+    case Kind::picture:
+    case Kind::image:
+        return scene.row().look == Look::toolButton ? paintButton(scene) : paintPicture(scene);
+    case Kind::option:
+    case Kind::check:
+        return paintChoice(scene);
+    case Kind::panel:
+        return paintPanel(scene);
+    case Kind::line:
+        return paintLine(scene);
+    case Kind::shape:
+        return paintShape(scene);
+    case Kind::timer:
+    case Kind::menu:
+        return;
+    default:
+        return paintText(scene);
+    }
+}
+
+void paintByLook(const Scene& scene)
+{
+    switch (scene.row().look) {
+    case Look::prompt:
+        return paintPrompt(scene);
+    case Look::hint:
+    case Look::lesson:
+        return paintHint(scene);
+    case Look::balloon:
+        return paintBalloon(scene);
+    case Look::warning:
+        return paintWarning(scene);
+    case Look::heading:
+    case Look::title:
+        return paintHeading(scene);
+    case Look::group:
+        return paintGroup(scene);
+    case Look::paper:
+        return paintPaper(scene);
+    case Look::toolButton:
+        return paintButton(scene);
+    case Look::note:
+    case Look::result:
+        return paintText(scene);
+    case Look::plain:
+    case Look::invisible:
+        break;
+    }
+    paintByKind(scene);
+}
+
+bool isWidget(Kind kind)
+{
+    return kind == Kind::field || kind == Kind::page || kind == Kind::editor || kind == Kind::list;
+}
+
+void paintLayer(QPainter& painter, const host::Window& window, const View& view, bool overlays)
+{
+    for (Handle control = 0; control < window.controlCount(); ++control) {
+        if (!isPainted(window, control) || window.row(control).overlay != overlays)
+            continue;
+        if (!view.exposed.isEmpty() && !inkBounds(window, control, view).intersects(view.exposed))
+            continue;
+        paintControl(painter, window, control, view);
+    }
+}
+
+} // namespace painting
+
+bool isPainted(const host::Window& window, Handle control)
+{
+    const host::ControlRow& row = window.row(control);
+    for (Handle part = control; part != host::noControl; part = window.row(part).parent)
+        if (!window.visible(part))
+            return false;
+    return row.look != Look::invisible && row.kind != Kind::timer && row.kind != Kind::menu;
+}
+
+QRectF boxOf(const host::Window& window, Handle control, const View& view)
+{
+    const host::Place place = host::shownPlace(window, control);
+    const double scale = view.pixelsPerTwip;
+    return {view.origin.x() + place.left * scale, view.origin.y() + place.top * scale, place.width * scale,
+            place.height * scale};
+}
+
+void paintControl(QPainter& painter, const host::Window& window, Handle control, const View& view)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const painting::Scene scene{painter, window, control, view, boxOf(window, control, view)};
+    if (painting::isWidget(window.row(control).kind)) {
+        if (view.forPrint && window.row(control).kind == Kind::field)
+            painting::paintPrintedField(scene);
+        paintFieldMarks(painter, window, control, view);
+    } else {
+        painting::paintByLook(scene);
+    }
+    painter.restore();
+}
+
+void paintWindow(QPainter& painter, const host::Window& window, const View& view)
+{
+    const host::Place& place = window.spec().place;
+    const QRectF sheet(view.origin, QSizeF(place.width, place.height) * view.pixelsPerTwip);
+    painter.fillRect(sheet, view.inks->paper);
+    painting::paintLayer(painter, window, view, false);
+    painting::paintLayer(painter, window, view, true);
+}
+
+QRectF inkBounds(const host::Window& window, Handle control, const View& view)
+{
+    const double margin = 7.0 * view.pixelsPerUnit();
+    const double overhang = 2.0 * view.pixelsPerUnit(); // of slanted letters
+    QRectF bounds = boxOf(window, control, view).adjusted(-margin, -margin, margin, margin);
+    bounds |= boundsOfMarks(window, window.drawing(control), boxOf(window, control, view).topLeft(), view);
+    if (painting::isWidget(window.row(control).kind))
+        for (const QRectF& box : {symbolBounds(window, control, view), unitBounds(window, control, view)})
+            if (!box.isEmpty())
+                bounds |= box.adjusted(-overhang, -overhang, overhang, overhang);
+    return bounds;
+}
+
+QFont captionFont(const host::Window& window, Handle control, const View& view)
+{
+    if (painting::isWidget(window.row(control).kind))
+        return interfaceFont(fieldLetters(window, control, view));
+    return setCaption(window, control, view).font;
+}
+
+QRectF captionBounds(const host::Window& window, Handle control, const View& view)
+{
+    return setCaption(window, control, view).box;
+}
+
+} // namespace velmor::desktop

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/drawing/quiet_style.h"
+
+#include <QPainter>
+#include <QStyleOptionTitleBar>
+
+#include "desktop/drawing/palette_of_inks.h"
+
+namespace velmor::desktop {
+
+namespace quiet_style_detail {
+
+struct ButtonRow {
+    QStyle::SubControl part;
+    QStyle::SubControl glyph; ///< what is drawn: minimise, maximise, restore or close
+};
+
+bool offered(const QStyleOptionTitleBar& bar, QStyle::SubControl part)
+{
+    const bool minimised = (bar.titleBarState & Qt::WindowMinimized) != 0;
+    const bool maximised = (bar.titleBarState & Qt::WindowMaximized) != 0;
+    switch (part) {
+    case QStyle::SC_TitleBarMinButton:
+        return (bar.titleBarFlags & Qt::WindowMinimizeButtonHint) && !minimised;
+    case QStyle::SC_TitleBarMaxButton:
+        return (bar.titleBarFlags & Qt::WindowMaximizeButtonHint) && !maximised;
+    case QStyle::SC_TitleBarNormalButton:
+        return ((bar.titleBarFlags & Qt::WindowMinimizeButtonHint) && minimised) ||
+               ((bar.titleBarFlags & Qt::WindowMaximizeButtonHint) && maximised);
+    case QStyle::SC_TitleBarCloseButton:
+        return (bar.titleBarFlags & Qt::WindowSystemMenuHint) != 0;
+    default:
+        return false;
+    }
+}
+
+void drawGlyph(QPainter& painter, QStyle::SubControl part, const QRect& box)
+{
+    const QPoint middle = box.center();
+    const int half = 4;
+    const QRect square(middle.x() - half, middle.y() - half, 2 * half, 2 * half);
+    switch (part) {
+    case QStyle::SC_TitleBarMinButton:
+        painter.drawLine(square.bottomLeft(), square.bottomRight());
+        break;
+    case QStyle::SC_TitleBarMaxButton:
+        painter.drawRect(square);
+        break;
+    case QStyle::SC_TitleBarNormalButton:
+        painter.drawRect(square.adjusted(0, 2, -2, 0));
+        painter.drawPolyline(QPolygon({{square.left() + 2, square.top()},
+                                       {square.right() + 1, square.top()},
+                                       {square.right() + 1, square.bottom() - 1}}));
+        break;
+    default:
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawLine(QPointF(square.left(), square.top()), QPointF(square.right() + 1, square.bottom() + 1));
+        painter.drawLine(QPointF(square.right() + 1, square.top()), QPointF(square.left(), square.bottom() + 1));
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+}
+
+} // namespace quiet_style_detail
+
+QuietStyle::QuietStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void QuietStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                    const QWidget* widget) const
+{
+    if (control == CC_TitleBar)
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option)) {
+            drawTitleBar(*bar, *painter, widget);
+            return;
+        }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const
+{
+    if (element != PE_FrameWindow) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    }
+    const Inks& inks = inksFor(option->palette);
+    painter->setPen(option->state & State_Active ? inks.edge : inks.rule);
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+}
+
+void QuietStyle::drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter, const QWidget* widget) const
+{
+    using namespace quiet_style_detail;
+    const Inks& inks = inksFor(bar.palette);
+    const bool active = (bar.titleBarState & State_Active) != 0;
+    painter.save();
+    painter.fillRect(bar.rect, active ? inks.accentTint : inks.desk);
+    painter.fillRect(QRect(bar.rect.left(), bar.rect.top(), bar.rect.width(), active ? 2 : 1),
+                     active ? inks.accent : inks.rule);
+    if (!bar.icon.isNull() && (bar.titleBarFlags & Qt::WindowSystemMenuHint)) {
+        const QRect box = subControlRect(CC_TitleBar, &bar, SC_TitleBarSysMenu, widget);
+        bar.icon.paint(&painter, box.adjusted(2, 2, -2, -2));
+    }
+    painter.setPen(active ? inks.ink : inks.quiet);
+    const QRect label = subControlRect(CC_TitleBar, &bar, SC_TitleBarLabel, widget);
+    painter.drawText(label, Qt::AlignVCenter | Qt::AlignHCenter | Qt::TextSingleLine, bar.text);
+    for (const SubControl part :
+         {SC_TitleBarMinButton, SC_TitleBarMaxButton, SC_TitleBarNormalButton, SC_TitleBarCloseButton}) {
+        if (!offered(bar, part))
+            continue;
+        const QRect box = subControlRect(CC_TitleBar, &bar, part, widget);
+        const bool under = (bar.activeSubControls & part) != 0 && (bar.state & State_MouseOver);
+        if (under)
+            painter.fillRect(box, inks.buttonHover);
+        painter.setPen(QPen(active ? inks.ink : inks.quiet, 1.0));
+        drawGlyph(painter, part, box);
+    }
+    painter.restore();
+}
+
+} // namespace velmor::desktop

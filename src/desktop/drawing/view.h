@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// How a window is looked at: scale, place, colours, language. Plain data handed to the painters.
+#pragma once
+
+#include <cstdint>
+
+#include <QPointF>
+#include <QRectF>
+
+#include "desktop/drawing/palette_of_inks.h"
+#include "host/control.h"
+
+namespace velmor::desktop {
+
+/// Twips in one unit u of the drawing grid.
+inline constexpr double twipsPerUnit = 15.0;
+
+struct View {
+    double pixelsPerTwip = 1.0 / twipsPerUnit; ///< logical pixels; 1/15 is 100 %
+    QPointF origin{}; ///< where the window's left top corner lies, in the painter's coordinates
+    const Inks* inks = &lightInks();
+    host::Handle hovered = host::noControl; ///< control under the pointer
+    host::Handle pressed = host::noControl; ///< button held down
+    QRectF exposed{};      ///< painter's coordinates; `paintWindow` leaves out what lies outside; empty: all
+    bool forPrint = false; ///< no snapping to pixels, no focus, no hover
+    std::int16_t languageIsEnglish = 0;
+
+    double pixelsPerUnit() const { return pixelsPerTwip * twipsPerUnit; }
+};
+
+} // namespace velmor::desktop

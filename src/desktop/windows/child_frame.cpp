@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/windows/child_frame.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMenu>
+#include <QScopedValueRollback>
+
+#include "desktop/drawing/texts.h"
+#include "desktop/windows/sheet_view.h"
+
+namespace velmor::desktop {
+
+namespace child_frame_detail {
+
+constexpr QSize smallestFrame(240, 120);
+
+} // namespace child_frame_detail
+
+ChildFrame::ChildFrame(Desk& desk, host::Window& model) : desk_(desk), view_(new SheetView(desk, model))
+{
+    setWidget(view_);
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setMinimumSize(child_frame_detail::smallestFrame);
+    setObjectName(shown(model.name()));
+    // The toolkit's own menu of a frame claims Ctrl+W too, which is the main menu's: neither would work.
+    for (QAction* action : systemMenu()->actions())
+        if (action->shortcut() == QKeySequence(QKeySequence::Close))
+            action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4));
+}
+
+host::Window* ChildFrame::model() const
+{
+    return view_->model();
+}
+
+int ChildFrame::shownState() const
+{
+    return isMinimized() ? 1 : isMaximized() ? 2 : 0;
+}
+
+void ChildFrame::followWindow()
+{
+    if (model() == nullptr)
+        return;
+    const QScopedValueRollback following(following_, true);
+    const QString title = shownTitle(model()->caption()).simplified();
+    if (windowTitle() != title)
+        setWindowTitle(title);
+    followPlace(); // before it is shown, so that it is laid out once
+    if (isHidden() == model()->shown())
+        setVisible(model()->shown());
+    followState();
+}
+
+void ChildFrame::followPlace()
+{
+    if (model()->windowState() != 0 || shownState() != 0 || (told_ == model()->place() && toldScale_ == desk_.scale))
+        return;
+    told_ = model()->place();
+    toldScale_ = desk_.scale;
+    setGeometry(desk_.pixelsOf(told_));
+}
+
+void ChildFrame::followState()
+{
+    const int state = model()->windowState();
+    if (state != shownState()) {
+        if (state == 1)
+            showMinimized();
+        else if (state == 2)
+            showMaximized();
+        else
+            showNormal();
+    }
+    followPlace();
+}
+
+void ChildFrame::followControls()
+{
+    view_->bringUpToDate();
+}
+
+void ChildFrame::bringToFront()
+{
+    const QScopedValueRollback following(following_, true);
+    if (mdiArea() != nullptr && model() != nullptr && model()->shown())
+        mdiArea()->setActiveSubWindow(this);
+    raise();
+}
+
+void ChildFrame::relabel()
+{
+    view_->relabel();
+}
+
+void ChildFrame::recolor()
+{
+    view_->recolor();
+}
+
+void ChildFrame::farewell()
+{
+    const QScopedValueRollback following(following_, true);
+    view_->forgetModel();
+    hide();
+    if (mdiArea() != nullptr)
+        mdiArea()->removeSubWindow(this);
+    deleteLater();
+}
+
+// Whether the window may close is the engine's to say; a frame goes by farewell alone.
+void ChildFrame::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    if (model() != nullptr && !desk_.closing)
+        desk_.engine->userClose(*model());
+}
+
+void ChildFrame::changeEvent(QEvent* event)
+{
+    QMdiSubWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange || following_ || model() == nullptr || desk_.closing)
+        return;
+    if (shownState() != model()->windowState())
+        desk_.engine->userState(*model(), shownState());
+}
+
+void ChildFrame::moveEvent(QMoveEvent* event)
+{
+    QMdiSubWindow::moveEvent(event);
+    tellPlace();
+}
+
+void ChildFrame::resizeEvent(QResizeEvent* event)
+{
+    QMdiSubWindow::resizeEvent(event);
+    tellPlace();
+}
+
+void ChildFrame::tellPlace()
+{
+    if (following_ || model() == nullptr || desk_.closing || isHidden() || shownState() != 0 ||
+        model()->windowState() != 0)
+        return;
+    if (geometry() == desk_.pixelsOf(model()->place()))
+        return;
+    told_ = desk_.twipsOf(geometry());
+    toldScale_ = desk_.scale;
+    desk_.engine->userResized(*model(), told_);
+}
+
+} // namespace velmor::desktop

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// A sheet or an editor as a child window of the main window. Its place is the model's; what the person does with frame
+// and buttons is told to the engine, and undone where the engine refuses.
+#pragma once
+
+#include <QMdiSubWindow>
+
+#include "desktop/canvas/desk.h"
+#include "desktop/windows/window_frame.h"
+
+namespace velmor::desktop {
+
+class ChildFrame final : public QMdiSubWindow, public WindowFrame {
+public:
+    ChildFrame(Desk& desk, host::Window& model);
+
+    host::Window* model() const override;
+    QWidget& widget() override { return *this; }
+    SheetView* view() override { return view_; }
+    void followWindow() override;
+    void followControls() override;
+    void bringToFront() override;
+    void relabel() override;
+    void recolor() override;
+    void farewell() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void followPlace();
+    void followState();
+    void tellPlace();
+    int shownState() const;
+
+    Desk& desk_;
+    SheetView* view_;
+    host::Place told_; ///< place that the frame and the model last agreed on
+    double toldScale_ = 0.0;
+    bool following_ = false;
+};
+
+} // namespace velmor::desktop

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+// The main window: menus, the child windows' area, the welcome panel over or in front of it, the circuit bar beside it.
+#pragma once
+
+#include <QMainWindow>
+
+#include "desktop/canvas/desk.h"
+#include "desktop/windows/window_frame.h"
+
+class QMdiArea;
+
+namespace velmor::desktop {
+
+class Canvas;
+class Menus;
+
+class MainWindow final : public QMainWindow, public WindowFrame {
+public:
+    MainWindow(Desk& desk, host::Window& model);
+    ~MainWindow() override;
+
+    host::Window* model() const override { return model_; }
+    QWidget& widget() override { return *this; }
+    SheetView* view() override { return nullptr; }
+    void followWindow() override;
+    void followControls() override;
+    void bringToFront() override;
+    void relabel() override;
+    void recolor() override;
+    void farewell() override;
+
+    QMdiArea& area() const { return *area_; }
+    Menus& menus() const { return *menus_; }
+    /// Leaves a strip at the lower edge free for the palette.
+    void setStrip(int height);
+    /// That strip, in screen coordinates.
+    QRect strip() const;
+    /// A child window is shown, so the welcome panel leaves it room.
+    void setHasChildren(bool hasChildren);
+    /// The pointer is over a control of some window: a button that talks brings the page of its design over the sheets.
+    void hovered(const host::Window& window, host::Handle control);
+    /// The page that lies over the sheets goes.
+    void hush();
+    /// Takes the size that it will have on this screen before it is shown, so that the first sheets are made to it.
+    void foresee();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    bool openMenuByKey(QKeyCombination keys);
+    void pressBackground(const QMouseEvent& event);
+    void layOutPanels();
+    void layOutWelcome(const QRect& rest);
+    bool hasPage() const;
+    QRect pageStripIn(const QRect& rest) const;
+    void tellClientArea();
+
+    Desk& desk_;
+    host::Window* model_;
+    Menus* menus_ = nullptr;
+    QMdiArea* area_;
+    QWidget* middle_;
+    Canvas* welcome_ = nullptr;
+    Canvas* bar_ = nullptr;
+    QWidget* edge_ = nullptr;
+    const host::Window* below_ = nullptr; ///< active child at the last layout; compared only
+    int strip_ = 0;
+    bool hasChildren_ = false;
+    bool talking_ = false;
+    bool following_ = false;
+};
+
+} // namespace velmor::desktop

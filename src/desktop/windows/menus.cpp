@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/windows/menus.h"
+
+#include <algorithm>
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "desktop/drawing/texts.h"
+
+namespace velmor::desktop {
+
+using host::Handle;
+using host::Kind;
+using host::noControl;
+
+bool Menus::hasMenus(const host::WindowSpec& spec)
+{
+    return std::any_of(spec.controls.begin(), spec.controls.end(),
+                       [](const auto& row) { return row.kind == Kind::menu; });
+}
+
+Menus::Menus(Desk& desk, host::Window& model, QMenuBar& bar)
+    : QObject(&bar), desk_(desk), model_(&model), hasItems_(model.controlCount(), false)
+{
+    for (const host::ControlRow& row : model.spec().controls)
+        if (row.kind == Kind::menu && row.parent != noControl)
+            hasItems_[row.parent] = true;
+    for (const host::ControlRow& row : model.spec().controls)
+        if (row.kind == Kind::menu)
+            add(row.id, row.parent == noControl ? static_cast<QWidget&>(bar) : *menus_.at(row.parent));
+}
+
+void Menus::add(Handle row, QWidget& parent)
+{
+    QAction* action = nullptr;
+    if (hasItems_[row]) {
+        auto* menu = new QMenu(&parent);
+        menus_[row] = menu;
+        action = menu->menuAction();
+        connect(menu, &QMenu::aboutToShow, this, [this, row] { opening(row); });
+    } else {
+        action = new QAction(&parent);
+        action->setSeparator(model_->text(row) == "-");
+        connect(action, &QAction::triggered, this, [this, row] {
+            if (model_ != nullptr && !desk_.closing)
+                desk_.engine->userMenu(*model_, row);
+            if (model_ != nullptr)
+                refresh(row);
+        });
+        const QString keys = keysOf(row);
+        if (!keys.isEmpty()) {
+            action->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
+            // Keys of a window's table reach the engine through its keyboard; here they are only told.
+            if (model_->role() != host::Role::mainWindow || tableNames(row))
+                action->setShortcutContext(Qt::WidgetShortcut);
+        }
+    }
+    parent.addAction(action);
+    actions_[row] = action;
+    refresh(row);
+}
+
+bool Menus::tableNames(Handle item) const
+{
+    const auto& rows = model_->spec().shortcuts;
+    return std::any_of(rows.begin(), rows.end(), [item](const host::ShortcutRow& row) { return row.control == item; });
+}
+
+QString Menus::keysOf(Handle item) const
+{
+    for (const host::ShortcutRow& row : model_->spec().shortcuts)
+        if (row.control == item)
+            return shown(row.keys);
+    if (model_->role() == host::Role::mainWindow)
+        for (const MenuKeys& usual : mainMenuKeys())
+            if (host::sameName(model_->row(item).name, usual.item))
+                return shown(usual.keys);
+    return {};
+}
+
+std::span<const MenuKeys> mainMenuKeys()
+{
+    static constexpr MenuKeys rows[] = {
+        {"mnuFile(1)", "Ctrl+S"},   {"mnuFile(2)", "Ctrl+Shift+S"}, {"mnuFile(3)", "Ctrl+W"},
+        {"mnuIng", "Ctrl+Shift+I"}, {"mnuEsp", "Ctrl+Shift+E"},
+    };
+    return rows;
+}
+
+void Menus::refresh(Handle item)
+{
+    QAction* action = actionOf(item);
+    if (action == nullptr || model_ == nullptr)
+        return;
+    const host::Control& state = model_->control(item);
+    const QString caption = shown(state.text).simplified();
+    if (action->text() != caption && !action->isSeparator())
+        action->setText(caption);
+    action->setVisible(state.visible && model_->row(item).look != host::Look::invisible);
+    action->setEnabled(state.enabled);
+    if (state.checked)
+        action->setCheckable(true);
+    if (action->isCheckable())
+        action->setChecked(state.checked);
+}
+
+void Menus::apply(const std::vector<Handle>& changes)
+{
+    for (const Handle control : changes)
+        if (model_ != nullptr && model_->row(control).kind == Kind::menu)
+            refresh(control);
+}
+
+void Menus::opening(Handle menu)
+{
+    if (model_ != nullptr && desk_.idle())
+        desk_.engine->userMenuOpens(*model_, menu);
+}
+
+QMenu* Menus::menuOf(Handle menu) const
+{
+    const auto found = menus_.find(menu);
+    return found == menus_.end() ? nullptr : found->second;
+}
+
+QAction* Menus::actionOf(Handle item) const
+{
+    const auto found = actions_.find(item);
+    return found == actions_.end() ? nullptr : found->second;
+}
+
+} // namespace velmor::desktop

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// The menus of a window from its control table: captions, check marks, what is enabled. A menu that opens asks the engine
+// first, an item that is chosen is told to it.
+#pragma once
+
+#include <span>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include <QObject>
+
+#include "desktop/canvas/desk.h"
+#include "host/window.h"
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace velmor::desktop {
+
+/// The usual keys of the main window's items, for those that its own table leaves without.
+struct MenuKeys {
+    std::string_view item;
+    std::string_view keys;
+};
+std::span<const MenuKeys> mainMenuKeys();
+
+class Menus final : public QObject {
+public:
+    /// Fills `bar` with the window's menus; without a menu row the bar stays empty. Captions follow the language of the
+    /// moment through the model, nothing is translated here.
+    Menus(Desk& desk, host::Window& model, QMenuBar& bar);
+
+    static bool hasMenus(const host::WindowSpec& spec);
+    void apply(const std::vector<host::Handle>& changes);
+    void forgetModel() { model_ = nullptr; }
+    /// The menu of a row that has items; null otherwise.
+    QMenu* menuOf(host::Handle menu) const;
+    QAction* actionOf(host::Handle item) const;
+
+private:
+    void add(host::Handle row, QWidget& parent);
+    void refresh(host::Handle item);
+    void opening(host::Handle menu);
+    QString keysOf(host::Handle item) const;
+    bool tableNames(host::Handle item) const;
+
+    Desk& desk_;
+    host::Window* model_;
+    std::vector<bool> hasItems_;
+    std::unordered_map<host::Handle, QMenu*> menus_;
+    std::unordered_map<host::Handle, QAction*> actions_;
+};
+
+} // namespace velmor::desktop

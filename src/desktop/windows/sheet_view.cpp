@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/windows/sheet_view.h"
+
+#include <algorithm>
+
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QStyle>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QtMath>
+
+#include "desktop/canvas/field_edit.h"
+#include "desktop/canvas/pointer.h"
+#include "desktop/windows/menus.h"
+
+namespace velmor::desktop {
+
+using host::Handle;
+using host::Kind;
+using host::noControl;
+using host::Role;
+
+namespace sheet_view_detail {
+
+/// Below this scale an 8 point text falls under 9 logical pixels: the sheet scrolls instead.
+constexpr double smallestScale = 0.85;
+constexpr double smallestOfPictures = 0.4;
+constexpr int toolMargin = 120; ///< twips
+constexpr int scrollMargin = 40;
+
+} // namespace sheet_view_detail
+
+SheetView::SheetView(Desk& desk, host::Window& model, QWidget* parent)
+    : QWidget(parent), desk_(desk), area_(new QScrollArea(this)), canvas_(new Canvas(desk, model))
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    if (Menus::hasMenus(model.spec())) {
+        bar_ = new QMenuBar(this);
+        bar_->setNativeMenuBar(false);
+        menus_ = new Menus(desk, model, *bar_);
+        column->addWidget(bar_);
+    }
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setFocusPolicy(Qt::NoFocus);
+    area_->setWidget(canvas_);
+    column->addWidget(area_);
+    setFocusProxy(canvas_);
+    canvas_->applyAll();
+    model.takeChanges();
+    followTimers();
+}
+
+SheetView::~SheetView() = default;
+
+void SheetView::forgetModel()
+{
+    canvas_->forgetModel();
+    if (menus_ != nullptr)
+        menus_->forgetModel();
+    for (const auto& [handle, timer] : timers_)
+        timer->stop();
+}
+
+void SheetView::bringUpToDate()
+{
+    if (model() == nullptr)
+        return;
+    const std::vector<Handle> changes = model()->takeChanges();
+    if (changes.empty())
+        return;
+    canvas_->apply(changes);
+    if (menus_ != nullptr)
+        menus_->apply(changes);
+    followTimers();
+}
+
+void SheetView::followFocus()
+{
+    QWidget* target = canvas_->focusTarget();
+    if (target->hasFocus())
+        return;
+    target->setFocus(Qt::OtherFocusReason);
+    if (auto* field = dynamic_cast<FieldEdit*>(target))
+        if (!canvas_->pointer().placesCaretIn(*field))
+            field->selectWhole();
+    bringIntoView();
+}
+
+host::Place SheetView::designOfTool() const
+{
+    host::Place design{0, 0, model()->place().width, model()->place().height};
+    for (const host::ControlRow& row : model()->spec().controls) {
+        if (!hasPlace(row.kind) || row.overlay || row.look == host::Look::invisible)
+            continue;
+        const host::Place place = host::shownPlace(*model(), row.id);
+        if (place.left + place.width > design.width)
+            design.width = place.left + place.width + sheet_view_detail::toolMargin;
+        if (place.top + place.height > design.height)
+            design.height = place.top + place.height + sheet_view_detail::toolMargin;
+    }
+    return design;
+}
+
+QRect SheetView::inHand() const
+{
+    if (model() == nullptr || model()->focus() == noControl)
+        return {};
+    QRect box = canvas_->boxInPixels(model()->focus());
+    QWidget* on = canvas_;
+    if (auto* editor = qobject_cast<QPlainTextEdit*>(canvas_->widgetOf(model()->focus()))) {
+        box = editor->cursorRect().adjusted(-sheet_view_detail::scrollMargin, 0, sheet_view_detail::scrollMargin, 0);
+        on = editor->viewport();
+    }
+    return {on->mapToGlobal(box.topLeft()), box.size()};
+}
+
+// A small window beside a small main window keeps its readable size rather than scroll.
+QSize SheetView::wantedSize() const
+{
+    const host::Place& design = canvas_->design();
+    const int menuHeight = bar_ == nullptr ? 0 : bar_->sizeHint().height();
+    const bool pictures = model() != nullptr && model()->role() == Role::palette;
+    const double scale = pictures ? desk_.scale : std::max(desk_.scale, sheet_view_detail::smallestScale);
+    return {qCeil(design.width * scale / twipsPerUnit), qCeil(design.height * scale / twipsPerUnit) + menuHeight};
+}
+
+bool SheetView::isScrolled() const
+{
+    return canvas_->width() > area_->viewport()->width() || canvas_->height() > area_->viewport()->height();
+}
+
+void SheetView::layOutCanvas()
+{
+    if (model() == nullptr)
+        return;
+    if (model()->role() != Role::sheet && model()->role() != Role::editor)
+        canvas_->setDesign(designOfTool());
+    const QSize room = area_->maximumViewportSize();
+    if (model()->role() == Role::editor) {
+        canvas_->layOut(desk_.scale, room);
+        return;
+    }
+    const bool pictures = model()->role() == Role::palette;
+    const double scale = std::max(canvas_->scaleFor(room),
+                                  pictures ? sheet_view_detail::smallestOfPictures : sheet_view_detail::smallestScale);
+    const host::Place& design = canvas_->design();
+    const QSize needed(static_cast<int>(design.width * scale / twipsPerUnit),
+                       static_cast<int>(design.height * scale / twipsPerUnit));
+    canvas_->layOut(scale, needed.expandedTo(roomBesideBars(needed)));
+    bringIntoView();
+}
+
+// One scroll bar takes room and must not bring the other along for that alone.
+QSize SheetView::roomBesideBars(QSize needed) const
+{
+    const QSize room = area_->maximumViewportSize();
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area_);
+    const bool across = needed.width() > room.width();
+    const bool down = needed.height() > room.height() - (across ? bar : 0);
+    return {room.width() - (down ? bar : 0),
+            room.height() - (across || (down && needed.width() > room.width() - bar) ? bar : 0)};
+}
+
+void SheetView::bringIntoView()
+{
+    if (model() == nullptr || model()->focus() == noControl || !isScrolled())
+        return;
+    const QRect box = canvas_->boxInPixels(model()->focus());
+    const int margin = sheet_view_detail::scrollMargin;
+    area_->ensureVisible(box.center().x(), box.center().y(), box.width() / 2 + margin, box.height() / 2 + margin);
+}
+
+// A text laid out before its box had a size may stand scrolled past its first line.
+void SheetView::showCaret()
+{
+    QTimer::singleShot(0, this, [this] {
+        if (model() == nullptr || model()->role() != Role::editor || model()->focus() == noControl)
+            return;
+        if (auto* editor = qobject_cast<QPlainTextEdit*>(canvas_->widgetOf(model()->focus())))
+            editor->ensureCursorVisible();
+    });
+}
+
+void SheetView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (isVisible())
+        layOutCanvas();
+}
+
+void SheetView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    layOutCanvas();
+    followTimers();
+    showCaret();
+}
+
+// A timer ticks while its control is enabled and its window is shown; while a slot runs or a box waits it stands still.
+void SheetView::followTimers()
+{
+    if (model() == nullptr)
+        return;
+    for (const host::ControlRow& row : model()->spec().controls) {
+        if (row.kind != Kind::timer || row.interval <= 0)
+            continue;
+        QTimer*& timer = timers_[row.id];
+        if (timer == nullptr) {
+            timer = new QTimer(this);
+            timer->setInterval(row.interval);
+            connect(timer, &QTimer::timeout, this, [this, handle = row.id] {
+                if (model() != nullptr && isVisible() && desk_.idle())
+                    desk_.engine->userTimer(*model(), handle);
+            });
+        }
+        const bool runs = model()->enabled(row.id) && model()->shown();
+        if (runs != timer->isActive())
+            runs ? timer->start() : timer->stop();
+    }
+}
+
+} // namespace velmor::desktop

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+// One window of the program inside its frame: menus of its own where it has some, the canvas as large as it fits, scroll
+// bars below a readable size, its timers. The frame around it (child window or window of its own) is not known here.
+#pragma once
+
+#include <memory>
+#include <unordered_map>
+
+#include <QScrollArea>
+#include <QWidget>
+
+#include "desktop/canvas/canvas.h"
+#include "desktop/canvas/desk.h"
+
+class QMenuBar;
+class QTimer;
+
+namespace velmor::desktop {
+
+class Menus;
+
+class SheetView final : public QWidget {
+public:
+    SheetView(Desk& desk, host::Window& model, QWidget* parent = nullptr);
+    ~SheetView() override;
+
+    host::Window* model() const { return canvas_->model(); }
+    Canvas& canvas() const { return *canvas_; }
+    Menus* menus() const { return menus_; }
+    void forgetModel();
+
+    /// Follows what changed in the model since the last time.
+    void bringUpToDate();
+    /// Puts Qt's focus where the model's is; a field that gets it this way is selected whole.
+    void followFocus();
+    void relabel() { canvas_->relabel(); }
+    void recolor() { canvas_->recolor(); }
+    void layOutCanvas();
+    /// The size of a tool: its window's, made larger where a control would be cut off.
+    host::Place designOfTool() const;
+    /// What the keyboard works on, in screen coordinates: the field in hand, in an editor the line; empty without one.
+    QRect inHand() const;
+    /// Size in logical pixels that shows the window as its table wants it.
+    QSize wantedSize() const;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void followTimers();
+    void bringIntoView();
+    QSize roomBesideBars(QSize needed) const;
+    void showCaret();
+    bool isScrolled() const;
+
+    Desk& desk_;
+    QMenuBar* bar_ = nullptr;
+    Menus* menus_ = nullptr;
+    QScrollArea* area_;
+    Canvas* canvas_;
+    std::unordered_map<host::Handle, QTimer*> timers_;
+};
+
+} // namespace velmor::desktop

@@ -1,0 +1,418 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/windows/window_keeper.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QCursor>
+#include <QMdiArea>
+#include <QMenu>
+#include <QScopedValueRollback>
+#include <QTimer>
+
+#include "desktop/windows/child_frame.h"
+#include "desktop/windows/main_window.h"
+#include "desktop/windows/menus.h"
+#include "desktop/windows/sheet_view.h"
+#include "desktop/windows/tool_window.h"
+
+namespace velmor::desktop {
+
+using host::noControl;
+using host::Role;
+
+WindowKeeper::WindowKeeper(Desk& desk) : desk_(desk)
+{
+    desk_.nextPane = [this] { nextPane(); };
+    desk_.taken = [this] { return taken(); };
+    desk_.touched = [this](QWidget* view) { touched(view); };
+    desk_.hovered = [this](const host::Window& window, host::Handle control) {
+        if (main_)
+            main_->hovered(window, control);
+    };
+    QAccessible::installActivationObserver(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focusMoved(now); });
+}
+
+WindowKeeper::~WindowKeeper()
+{
+    QAccessible::removeActivationObserver(this);
+    shutDown();
+}
+
+// Somebody has begun to read the screen: the painted texts get their places in the tree.
+void WindowKeeper::accessibilityActiveChanged(bool active)
+{
+    if (!active || desk_.closing)
+        return;
+    for (const auto& [window, frame] : frames_)
+        frame->recolor();
+}
+
+void WindowKeeper::created(host::Window& window)
+{
+    if (window.role() == Role::mainWindow)
+        make(window);
+}
+
+WindowFrame* WindowKeeper::make(host::Window& window)
+{
+    WindowFrame* frame = nullptr;
+    if (window.role() == Role::mainWindow) {
+        main_ = new MainWindow(desk_, window);
+        main_->foresee();
+        connect(&main_->area(), &QMdiArea::subWindowActivated, this,
+                [this](QMdiSubWindow* child) { childActivated(child); });
+        frame = main_;
+        language_ = desk_.engine->values().LanguageIsEnglish;
+    } else if (window.isChild() && main_) {
+        auto* child = new ChildFrame(desk_, window);
+        main_->area().addSubWindow(child);
+        frame = child;
+    } else {
+        frame = new ToolWindow(desk_, window, main_);
+    }
+    frame->widget().installEventFilter(this);
+    frames_[&window] = frame;
+    return frame;
+}
+
+WindowFrame* WindowKeeper::frameOf(const host::Window& window) const
+{
+    const auto found = frames_.find(&window);
+    return found == frames_.end() ? nullptr : found->second;
+}
+
+void WindowKeeper::raised(host::Window& window)
+{
+    raised_.erase(std::remove(raised_.begin(), raised_.end(), &window), raised_.end());
+    raised_.push_back(&window);
+}
+
+void WindowKeeper::gone(host::Window& window)
+{
+    raised_.erase(std::remove(raised_.begin(), raised_.end(), &window), raised_.end());
+    WindowFrame* frame = frameOf(window);
+    if (frame == nullptr)
+        return;
+    frames_.erase(&window);
+    const QScopedValueRollback following(following_, true);
+    frame->farewell();
+}
+
+void WindowKeeper::shutDown()
+{
+    desk_.closing = true;
+    for (const auto& [window, frame] : frames_) {
+        frame->widget().removeEventFilter(this);
+        frame->farewell();
+    }
+    frames_.clear();
+    raised_.clear();
+    delete main_;
+}
+
+// Showing and moving widgets delivers events at once, which may run slots and come back here: they wait for the next round.
+void WindowKeeper::bringUpToDate()
+{
+    if (desk_.closing || desk_.engine == nullptr)
+        return;
+    if (following_) {
+        again_ = true;
+        return;
+    }
+    do {
+        again_ = false;
+        const QScopedValueRollback following(following_, true);
+        followAll();
+    } while (again_ && !desk_.closing);
+    postFocus();
+}
+
+void WindowKeeper::followAll()
+{
+    followLanguage();
+    followGone();
+    bool children = false;
+    for (host::Window* window : desk_.engine->windows()) {
+        WindowFrame* frame = frameOf(*window);
+        const bool made = frame == nullptr && window->shown();
+        if (made)
+            frame = make(*window);
+        if (frame == nullptr)
+            continue;
+        frame->followControls();
+        if (window->takeWindowChanged() || made || window->isChild())
+            frame->followWindow();
+        children = children || (window->isChild() && window->shown() && window->windowState() != 1);
+    }
+    if (main_) {
+        main_->setHasChildren(children);
+        main_->setStrip(stripHeight());
+    }
+    followRaised();
+    followActive();
+    followFocus();
+    makeRoom();
+}
+
+void WindowKeeper::followLanguage()
+{
+    if (std::exchange(language_, desk_.engine->values().LanguageIsEnglish) == language_)
+        return;
+    for (const auto& [window, frame] : frames_)
+        frame->relabel();
+}
+
+// The palette has a strip of the main window to itself until the person moves it elsewhere.
+int WindowKeeper::stripHeight() const
+{
+    int height = 0;
+    for (const auto& [window, frame] : frames_)
+        if (auto* tool = dynamic_cast<ToolWindow*>(frame); tool != nullptr && tool->rests())
+            height = std::max(height, tool->restHeight());
+    return height;
+}
+
+// A window unloaded by a slot that still runs is out of sight at once.
+void WindowKeeper::followGone()
+{
+    for (const auto& [window, frame] : frames_)
+        if (!desk_.engine->isLoaded(window) && frame->widget().isVisible())
+            frame->widget().hide();
+}
+
+void WindowKeeper::followRaised()
+{
+    const std::vector<host::Window*> raised = std::exchange(raised_, {});
+    for (host::Window* window : raised) {
+        WindowFrame* frame = desk_.engine->isLoaded(window) ? frameOf(*window) : nullptr;
+        if (frame == nullptr)
+            continue;
+        frame->bringToFront();
+        if (window->role() == Role::palette)
+            continue;
+        if (window->isChild() && main_)
+            main_->bringToFront();
+        QWidget* top = window->isChild() ? static_cast<QWidget*>(main_) : &frame->widget();
+        awaited_ = top != nullptr && !top->isActiveWindow() ? top : nullptr;
+    }
+}
+
+// Qt chooses an active child of its own when one goes; the model's is the one that counts.
+void WindowKeeper::followActive()
+{
+    const host::Window* child = desk_.engine->activeChild();
+    if (!main_ || child == nullptr || !child->shown())
+        return;
+    auto* frame = dynamic_cast<ChildFrame*>(frameOf(*child));
+    if (frame != nullptr && main_->area().currentSubWindow() != frame)
+        main_->area().setActiveSubWindow(frame);
+}
+
+SheetView* WindowKeeper::activeView() const
+{
+    QWidget* active = QApplication::activeWindow();
+    for (const auto& [window, frame] : frames_)
+        if (frame->view() != nullptr && &frame->widget() == active)
+            return frame->view();
+    if (!main_ || active != main_)
+        return nullptr;
+    const host::Window* child = desk_.engine->activeChild();
+    WindowFrame* frame = child == nullptr ? nullptr : frameOf(*child);
+    return frame == nullptr ? nullptr : frame->view();
+}
+
+void WindowKeeper::followFocus()
+{
+    SheetView* view = activeView();
+    const QWidget* now = QApplication::focusWidget();
+    // A menu that is walked by keyboard has the focus on loan and gives it back itself.
+    if (view == nullptr || (now != nullptr && now->inherits("QMenuBar")))
+        return;
+    view->followFocus();
+}
+
+void WindowKeeper::postFocus()
+{
+    if (std::exchange(focusPosted_, true))
+        return;
+    QTimer::singleShot(0, this, [this] {
+        focusPosted_ = false;
+        if (desk_.closing || following_)
+            return;
+        const QScopedValueRollback following(following_, true);
+        followFocus();
+        makeRoom();
+    });
+}
+
+// Never at once: whoever gives the focus is not done yet.
+void WindowKeeper::focusMoved(QWidget* now)
+{
+    if (desk_.closing || following_ || now == nullptr)
+        return;
+    SheetView* view = activeView();
+    if (view != nullptr && (now == view->parentWidget() || now == view || view->isAncestorOf(now)) &&
+        now != view->canvas().focusTarget())
+        postFocus();
+}
+
+QRegion WindowKeeper::taken() const
+{
+    QRegion region;
+    for (const auto& [window, frame] : frames_)
+        if (dynamic_cast<ToolWindow*>(frame) != nullptr && frame->widget().isVisible())
+            region += frame->widget().frameGeometry();
+    if (const SheetView* view = activeView())
+        region += view->inHand();
+    return region;
+}
+
+void WindowKeeper::makeRoom()
+{
+    SheetView* view = activeView();
+    const QRect inHand = view == nullptr ? QRect() : view->inHand();
+    for (const auto& [window, frame] : frames_)
+        if (auto* tool = dynamic_cast<ToolWindow*>(frame); tool != nullptr && tool->view() != view) {
+            if (tool->rests() && main_)
+                tool->restIn(main_->strip());
+            else if (!inHand.isEmpty())
+                tool->giveWayTo(inHand);
+        }
+}
+
+void WindowKeeper::childActivated(QMdiSubWindow* child)
+{
+    auto* frame = dynamic_cast<ChildFrame*>(child);
+    if (desk_.closing || following_ || frame == nullptr || frame->model() == nullptr || !main_ ||
+        !main_->isActiveWindow())
+        return;
+    if (desk_.engine->current() != frame->model())
+        desk_.engine->userActivate(*frame->model());
+}
+
+bool WindowKeeper::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() == QEvent::ApplicationPaletteChange && object == main_.data())
+        followDesktop();
+    if (event->type() == QEvent::WindowActivate && !desk_.closing && object->isWidgetType() &&
+        static_cast<QWidget*>(object)->isWindow())
+        QTimer::singleShot(0, this, [this] { windowActivated(); });
+    return QObject::eventFilter(object, event);
+}
+
+// The desktop has turned light or dark.
+void WindowKeeper::followDesktop()
+{
+    const Inks& inks = inksFor(QApplication::palette());
+    if (desk_.closing || desk_.inks == &inks)
+        return;
+    desk_.inks = &inks;
+    for (const auto& [window, frame] : frames_)
+        frame->recolor();
+}
+
+// The person, or the window manager for them, has turned to another window.
+void WindowKeeper::windowActivated()
+{
+    QWidget* active = QApplication::activeWindow();
+    if (desk_.closing || active == nullptr || !desk_.idle() || handedBack(active))
+        return;
+    if (awaited_ && awaited_ != active)
+        return;
+    awaited_ = nullptr;
+    if (wanted_ != active)
+        wanted_ = nullptr;
+    host::Window* turnedTo = nullptr;
+    for (const auto& [window, frame] : frames_)
+        if (&frame->widget() == active)
+            turnedTo = frame->model();
+    if (turnedTo != nullptr && turnedTo->role() == Role::mainWindow && desk_.engine->activeChild() != nullptr)
+        turnedTo = desk_.engine->activeChild();
+    if (turnedTo != nullptr && desk_.engine->current() != turnedTo)
+        desk_.engine->userActivate(*turnedTo);
+    postFocus();
+}
+
+// Window managers give the keyboard to a palette that is shown or pressed; a student writes on in the sheet.
+bool WindowKeeper::handedBack(QWidget* active)
+{
+    auto* tool = dynamic_cast<ToolWindow*>(active);
+    if (tool == nullptr || tool->model() == nullptr || tool->model()->role() != Role::palette || wanted_ == active)
+        return false;
+    host::Window* current = desk_.engine->current();
+    WindowFrame* frame = current == nullptr || current->isChild() ? nullptr : frameOf(*current);
+    QWidget* back = frame == nullptr || frame == tool ? static_cast<QWidget*>(main_) : &frame->widget();
+    if (back != nullptr && back->isVisible())
+        back->activateWindow();
+    return true;
+}
+
+// A press or a key: activations that were awaited no longer matter, and the page that the mouse has brought over the sheets
+// goes, unless the press was on a button that talks.
+void WindowKeeper::touched(QWidget* view)
+{
+    awaited_ = nullptr;
+    auto* canvas = dynamic_cast<Canvas*>(view);
+    if (!main_ || canvas == nullptr || canvas->model() == nullptr || canvas->model()->role() == Role::palette)
+        return;
+    const bool onPanel = canvas->model()->role() == Role::mainWindow;
+    if (!onPanel || canvas->controlAt(canvas->mapFromGlobal(QCursor::pos())) == noControl)
+        main_->hush();
+}
+
+QWidget* WindowKeeper::dialogParent() const
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    const host::Window* current = desk_.engine->current();
+    if (current != nullptr && !current->isChild())
+        if (WindowFrame* frame = frameOf(*current); frame != nullptr && frame->widget().isVisible())
+            return &frame->widget();
+    return main_;
+}
+
+void WindowKeeper::dialogClosed(QWidget* parent)
+{
+    if (parent != nullptr && parent->isVisible() && !desk_.closing) {
+        parent->activateWindow();
+        postFocus();
+    }
+}
+
+void WindowKeeper::popup(host::Window& owner, host::Handle menu)
+{
+    QPoint at = QCursor::pos();
+    QTimer::singleShot(0, this, [this, &owner, menu, at] {
+        if (desk_.closing || !main_ || main_->model() != &owner)
+            return;
+        if (QMenu* shown = main_->menus().menuOf(menu))
+            shown->popup(at);
+    });
+}
+
+void WindowKeeper::nextPane()
+{
+    std::vector<host::Window*> panes;
+    if (main_)
+        panes.push_back(desk_.engine->activeChild() != nullptr ? desk_.engine->activeChild() : main_->model());
+    for (host::Window* window : desk_.engine->windows())
+        if (window->role() == Role::tool || window->role() == Role::palette)
+            if (WindowFrame* frame = frameOf(*window); frame != nullptr && frame->widget().isVisible())
+                panes.push_back(window);
+    if (panes.empty())
+        return;
+    QWidget* active = QApplication::activeWindow();
+    std::size_t at = 0;
+    for (std::size_t i = 1; i < panes.size(); ++i)
+        if (&frameOf(*panes[i])->widget() == active)
+            at = i;
+    host::Window* next = panes[(at + 1) % panes.size()];
+    QWidget* top = next->isChild() ? static_cast<QWidget*>(main_) : &frameOf(*next)->widget();
+    wanted_ = top;
+    top->raise();
+    top->activateWindow();
+}
+
+} // namespace velmor::desktop

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// Keeps a frame for each window that is shown and makes the frames follow the model: what is shown, in front, active and
+// focused. The model leads; what Qt does on its own (activation by the window manager, focus) is put as a question.
+#pragma once
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include <QAccessible>
+#include <QObject>
+#include <QPointer>
+
+#include "desktop/canvas/desk.h"
+#include "desktop/windows/main_window.h"
+#include "desktop/windows/window_frame.h"
+
+class QMdiSubWindow;
+
+namespace velmor::desktop {
+
+class WindowKeeper final : public QObject, private QAccessible::ActivationObserver {
+public:
+    explicit WindowKeeper(Desk& desk);
+    ~WindowKeeper() override;
+
+    void created(host::Window& window);
+    void raised(host::Window& window);
+    void gone(host::Window& window);
+    void bringUpToDate();
+    void popup(host::Window& owner, host::Handle menu);
+    /// All frames go; nothing reaches the engine any more.
+    void shutDown();
+
+    WindowFrame* frameOf(const host::Window& window) const;
+    MainWindow* mainWindow() const { return main_.data(); }
+    /// The view that has or would have the keyboard; null without one.
+    SheetView* activeView() const;
+    /// Where a dialog belongs.
+    QWidget* dialogParent() const;
+    /// After a dialog the window that asked is active again.
+    void dialogClosed(QWidget* parent);
+    /// The next window that is open beside the main one gets the keyboard.
+    void nextPane();
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void accessibilityActiveChanged(bool active) override;
+    WindowFrame* make(host::Window& window);
+    void followAll();
+    void followLanguage();
+    void followDesktop();
+    void followGone();
+    void followRaised();
+    void followActive();
+    void followFocus();
+    void makeRoom();
+    QRegion taken() const;
+    int stripHeight() const;
+    void postFocus();
+    void focusMoved(QWidget* now);
+    void childActivated(QMdiSubWindow* child);
+    void windowActivated();
+    bool handedBack(QWidget* active);
+    void touched(QWidget* view);
+
+    Desk& desk_;
+    QPointer<MainWindow> main_;
+    std::unordered_map<const host::Window*, WindowFrame*> frames_;
+    std::vector<host::Window*> raised_;
+    QPointer<QWidget> awaited_; ///< asked to become active; other activations on the way to it do not count
+    QPointer<QWidget> wanted_;  ///< the person asked for it by key
+    std::int16_t language_ = 0;
+    bool following_ = false;
+    bool again_ = false;
+    bool focusPosted_ = false;
+};
+
+} // namespace velmor::desktop

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// Renders windows to pictures, to be judged by eye, and names every text that does not fit:
+//     velmor_gallery FOLDER           the sample windows of the painters, also as PDF and SVG
+//     velmor_gallery FOLDER NAME ...  windows of the program, with all that is hidden shown under NAME-all
+#include <cstdio>
+#include <string>
+
+#include <QApplication>
+#include <QDir>
+#include <QImage>
+#include <QPainter>
+
+#include "desktop/drawing/control_painter.h"
+#include "desktop/drawing/drawing_export.h"
+#include "desktop/drawing/painted_sheet.h"
+#include "program/catalogue.h"
+
+namespace velmor::test {
+
+desktop::View galleryView(const desktop::Inks& inks, double scale, std::int16_t languageIsEnglish)
+{
+    desktop::View view;
+    view.pixelsPerTwip = scale / desktop::twipsPerUnit;
+    view.inks = &inks;
+    view.languageIsEnglish = languageIsEnglish;
+    return view;
+}
+
+/// The widgets' part of a sheet: fields as plain boxes with their texts.
+void paintFields(QPainter& painter, const host::Window& window, const desktop::View& view)
+{
+    for (host::Handle control = 0; control < window.controlCount(); ++control) {
+        const host::Kind kind = window.row(control).kind;
+        const bool boxed = kind == host::Kind::field || kind == host::Kind::page || kind == host::Kind::list;
+        if (!boxed || !desktop::isPainted(window, control))
+            continue;
+        const QRectF box = desktop::boxOf(window, control, view);
+        const bool enabled = window.enabled(control);
+        painter.setPen(view.inks->edge);
+        painter.setBrush(enabled ? view.inks->field : view.inks->fieldOff);
+        painter.drawRoundedRect(box, 3.0, 3.0);
+        painter.setPen(enabled ? view.inks->fieldInk : view.inks->fieldOffInk);
+        painter.setFont(desktop::captionFont(window, control, view));
+        const int flags = kind == host::Kind::field ? Qt::AlignVCenter : Qt::AlignTop | Qt::TextWordWrap;
+        painter.drawText(box.adjusted(4, 0, -4, 0), flags, QString::fromStdString(window.text(control)));
+    }
+}
+
+void savePicture(const host::Window& window, const desktop::View& view, double ratio, const QString& path)
+{
+    const host::Place& place = window.spec().place;
+    const QSizeF size = QSizeF(place.width, place.height) * view.pixelsPerTwip * ratio;
+    QImage image(size.toSize().expandedTo({16, 16}), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(view.inks->paper);
+    QPainter painter(&image);
+    desktop::paintWindow(painter, window, view);
+    paintFields(painter, window, view);
+    painter.end();
+    image.save(path);
+}
+
+int reportMisfits(const host::Window& window, const desktop::View& view, const char* what)
+{
+    int misfits = 0;
+    for (host::Handle control = 0; control < window.controlCount(); ++control)
+        if (desktop::isPainted(window, control) && !desktop::captionFits(window, control, view)) {
+            ++misfits;
+            std::printf("%s %s: %s does not fit\n", std::string(window.name()).c_str(), what,
+                        std::string(window.row(control).name).c_str());
+        }
+    return misfits;
+}
+
+bool saveSamples(const QDir& folder)
+{
+    PaintedProgram program;
+    host::Window& stage = program.stage();
+    program.engine.userFocus(stage, FieldCollector);
+    for (const double scale : {0.9, 1.0, 1.5, 2.0, 2.4}) {
+        const QString suffix = QString::number(qRound(scale * 100)) + QStringLiteral(".png");
+        const desktop::View view = galleryView(desktop::lightInks(), scale, 0);
+        savePicture(stage, view, 1.0, folder.filePath(QStringLiteral("stage") + suffix));
+        savePicture(program.symbols(), view, 1.0, folder.filePath(QStringLiteral("symbols") + suffix));
+    }
+    savePicture(stage, galleryView(desktop::lightInks(), 1.2, 0), 1.5, folder.filePath(QStringLiteral("dense.png")));
+    const bool written = desktop::exportPdf(folder.filePath(QStringLiteral("stage.pdf")), stage, 0) &&
+                         desktop::exportSvg(folder.filePath(QStringLiteral("stage.svg")), stage, 0);
+    stage.setVisible(OverlayPanel, true);
+    savePicture(stage, galleryView(desktop::darkInks(), 1.5, 0), 1.0, folder.filePath(QStringLiteral("dark.png")));
+    return written;
+}
+
+/// One window of the program as it first shows itself in a language; null when the program has none of that name.
+bool saveWindow(const QDir& folder, const std::string& name, std::int16_t languageIsEnglish)
+{
+    SilentScreen screen;
+    host::MemorySettings settings;
+    host::Engine engine(program::catalogue(), screen, settings);
+    engine.values().LanguageIsEnglish = languageIsEnglish;
+    engine.loadMainWindow();
+    host::Window* window = nullptr;
+    engine.userRun([&] {
+        window = engine.host().NewInstance(name);
+        if (window != nullptr)
+            engine.host().Show(*window);
+    });
+    if (window == nullptr)
+        return false;
+    const char* language = languageIsEnglish == host::trueValue ? "en" : "es";
+    const QString stem = folder.filePath(QString::fromStdString(name) + QLatin1Char('-') + QLatin1String(language));
+    const desktop::View view = galleryView(desktop::lightInks(), 1.4, languageIsEnglish);
+    savePicture(*window, view, 1.0, stem + QStringLiteral(".png"));
+    savePicture(*window, galleryView(desktop::darkInks(), 1.4, languageIsEnglish), 1.0,
+                stem + QStringLiteral("-dark.png"));
+    for (const double scale : {1.0, 1.4, 2.0})
+        reportMisfits(*window, galleryView(desktop::lightInks(), scale, languageIsEnglish), language);
+    for (host::Handle control = 0; control < window->controlCount(); ++control)
+        window->setVisible(control, true);
+    savePicture(*window, view, 1.0, stem + QStringLiteral("-all.png"));
+    return true;
+}
+
+} // namespace velmor::test
+
+int main(int argc, char** argv)
+{
+    using namespace velmor;
+    const QApplication application(argc, argv);
+    const QDir folder(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QDir::currentPath());
+    bool done = true;
+    if (argc <= 2)
+        done = test::saveSamples(folder);
+    for (int i = 2; i < argc; ++i)
+        for (const std::int16_t language : {std::int16_t{0}, host::trueValue})
+            if (!test::saveWindow(folder, argv[i], language)) {
+                std::printf("%s: no such window\n", argv[i]);
+                done = false;
+            }
+    return done ? 0 : 1;
+}

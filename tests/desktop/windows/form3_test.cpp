@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: MIT
+// The pair and its bench on real widgets: a design by the keyboard, signals dragged with the mouse and carried by keys, a
+// reading taken, and every text inside its place in both languages, at three sizes, at each stage.
+#include <gtest/gtest.h>
+
+#include "designs/differential/form3_controls.h"
+#include "desktop/desktop_fixture.h"
+#include "desktop/drawing/control_painter.h"
+#include "program/catalogue.h"
+
+namespace velmor::test::form3_test {
+
+using namespace form3;
+using host::Handle;
+using host::Kind;
+using host::Look;
+
+class Form3Test : public ::testing::TestWithParam<bool> {
+protected:
+    Form3Test() : on(program::catalogue()) {}
+    void SetUp() override
+    {
+        on.engine.values().LanguageIsEnglish = GetParam() ? host::trueValue : std::int16_t{0};
+        on.open();
+        sheet = &on.show("Form3");
+        Bench::settle();
+    }
+    void enter(int times)
+    {
+        for (int i = 0; i < times; ++i)
+            Bench::key(Qt::Key_Return);
+    }
+    void finish()
+    {
+        enter(17);
+        Bench::type("24");
+        enter(1);
+        ASSERT_TRUE(sheet->visible(image2));
+    }
+    void expectTextsFit(const char* stage);
+
+    Bench on;
+    host::Window* sheet = nullptr;
+};
+
+bool isGround(const host::ControlRow& row)
+{
+    return row.look == Look::paper || row.look == Look::group || row.look == Look::invisible || row.kind == Kind::menu;
+}
+
+bool isWritten(const host::Window& window, const host::ControlRow& row)
+{
+    return window.visible(row.id) && !row.overlay && !isGround(row) &&
+           window.text(row.id).find_first_not_of(" \n") != std::string::npos;
+}
+
+struct Written {
+    const host::ControlRow* row;
+    QRectF box;
+};
+
+/// What does not fit its place, and what lies over another text or field, at a size.
+std::vector<std::string> complaints(const host::Window& sheet, const desktop::View& view)
+{
+    std::vector<std::string> found;
+    std::vector<Written> all;
+    for (const host::ControlRow& row : sheet.spec().controls) {
+        if (!isWritten(sheet, row))
+            continue;
+        if (!desktop::captionFits(sheet, row.id, view))
+            found.push_back(std::string(row.name) + " does not fit: " + sheet.text(row.id));
+        const QRectF box =
+            row.kind == Kind::field ? desktop::boxOf(sheet, row.id, view) : desktop::captionBounds(sheet, row.id, view);
+        all.push_back({&row, box.adjusted(1, 1, -1, -1)});
+    }
+    for (std::size_t i = 0; i < all.size(); ++i)
+        for (std::size_t k = i + 1; k < all.size(); ++k)
+            if (all[i].box.intersects(all[k].box))
+                found.push_back(std::string(all[i].row->name) + " lies over " + std::string(all[k].row->name));
+    return found;
+}
+
+void Form3Test::expectTextsFit(const char* stage)
+{
+    desktop::View view;
+    view.languageIsEnglish = on.engine.values().LanguageIsEnglish;
+    for (const double pixelsWide : {1100.0, 1340.0, 2500.0}) {
+        view.pixelsPerTwip = pixelsWide / sheet->spec().place.width;
+        EXPECT_EQ(complaints(*sheet, view), std::vector<std::string>{}) << stage << ", " << pixelsWide;
+    }
+}
+
+TEST_P(Form3Test, theCheckOfTheTextsSeesWhatIsTooLongAndWhatLiesOverAnother)
+{
+    desktop::View view;
+    sheet->setText(Label22, "a dynamic resistance with far too many words for a place so small");
+    EXPECT_EQ(complaints(*sheet, view).size(), 1u);
+    sheet->setText(Label22, "r'e");
+    sheet->setText(Label28, "Res");
+    sheet->setPlaceOf(Label28, sheet->placeOf(Label22));
+    EXPECT_EQ(complaints(*sheet, view).size(), 1u);
+}
+
+TEST_P(Form3Test, everyTextFitsItsPlaceAtEachStage)
+{
+    expectTextsFit("blank");
+    for (int i = 0; i < 17; ++i) {
+        enter(1);
+        expectTextsFit("on the way");
+    }
+    Bench::type("24");
+    enter(1);
+    ASSERT_TRUE(sheet->visible(image2));
+    expectTextsFit("finished");
+    on.click(*sheet, Image33);
+    on.click(*sheet, c4);
+    on.click(*sheet, c1);
+    on.click(*sheet, Image4);
+    expectTextsFit("meter on");
+}
+
+TEST_P(Form3Test, everyPageOfTheGeneratorFits)
+{
+    on.click(*sheet, Image30);
+    expectTextsFit("generator on");
+    for (const Handle source : {Image14, Image15})
+        for (const Handle input : {Image12, Image11}) {
+            on.engine.userDrag(*sheet, source, input);
+            expectTextsFit("signal");
+            for (const Handle output : {Image22, Image26, Image24}) {
+                on.click(*sheet, output);
+                expectTextsFit("output");
+            }
+        }
+    for (const Handle deed : {c6, Image8, c7, Image8}) {
+        on.click(*sheet, deed);
+        expectTextsFit("common mode");
+    }
+}
+
+TEST_P(Form3Test, aSinusoidIsDraggedWithTheMouseAndAnOutputMeasured)
+{
+    on.click(*sheet, Image30);
+    ASSERT_TRUE(sheet->visible(Image14));
+    on.drag(*sheet, Image14, Image12);
+    EXPECT_TRUE(sheet->visible(Image16));
+    EXPECT_TRUE(sheet->visible(Image17));
+    on.click(*sheet, Image22);
+    EXPECT_NE(sheet->text(SSPanel4).find(" Out 1 = 10 V"), std::string::npos);
+    EXPECT_TRUE(sheet->visible(Image23));
+    EXPECT_FALSE(sheet->visible(Image25));
+    on.drag(*sheet, Image15, Image11);
+    EXPECT_TRUE(sheet->visible(Image21));
+    on.drag(*sheet, Image14, Image26);
+    EXPECT_TRUE(sheet->visible(Image18));
+    // let go over nothing that takes it
+    on.drag(*sheet, Image15, Image22);
+    EXPECT_FALSE(sheet->visible(Image20));
+}
+
+TEST_P(Form3Test, aStudentWithoutAMouseCarriesTheSignalsAndMeasures)
+{
+    Bench::keys("Ctrl+B");
+    ASSERT_TRUE(sheet->visible(Image14));
+    Bench::keys("Ctrl+1");
+    Bench::keys("Ctrl+2");
+    EXPECT_TRUE(sheet->visible(Image16));
+    EXPECT_TRUE(sheet->visible(Image18));
+    Bench::keys("Ctrl+7");
+    EXPECT_NE(sheet->text(SSPanel4).find(" Out 3 = 0 Volts"), std::string::npos);
+    Bench::keys("Ctrl+B");
+    EXPECT_FALSE(sheet->visible(Image14));
+    EXPECT_TRUE(sheet->visible(Text1));
+}
+
+TEST_P(Form3Test, theMeterReadsByMouseAndByKeyboard)
+{
+    finish();
+    on.click(*sheet, Image33);
+    on.click(*sheet, Option2);
+    on.click(*sheet, c1);
+    on.click(*sheet, Image5);
+    EXPECT_EQ(sheet->text(SSPanel2), "20.25");
+    Bench::keys("Shift+F4");
+    EXPECT_EQ(sheet->text(SSPanel2), "24");
+    // Tab comes to the buttons, Space presses them
+    for (int i = 0; i < 30 && sheet->focus() != c4; ++i)
+        Bench::key(Qt::Key_Tab);
+    ASSERT_EQ(sheet->focus(), c4);
+    Bench::key(Qt::Key_Space);
+    EXPECT_FALSE(sheet->enabled(c4));
+    Bench::keys("Shift+F5");
+    EXPECT_EQ(sheet->text(SSPanel2), "0.5");
+}
+
+TEST_P(Form3Test, thePointerOverAFieldBringsItsFormulaAndTheTableOfValues)
+{
+    enter(15);
+    ASSERT_EQ(sheet->focus(), Text16);
+    Bench::key(Qt::Key_F2);
+    EXPECT_TRUE(sheet->visible(Shape8));
+    EXPECT_TRUE(sheet->visible(Text21));
+    QWidget* values = on.widgetOf(*sheet, Text21);
+    ASSERT_NE(values, nullptr);
+    EXPECT_TRUE(values->isVisible());
+    const QRect canvas = on.viewOf(*sheet).canvas().rect();
+    EXPECT_TRUE(canvas.contains(values->geometry()));
+    enter(1);
+    EXPECT_FALSE(sheet->visible(Text21));
+}
+
+TEST_P(Form3Test, theHelpPageOpensInsideTheSheet)
+{
+    Bench::key(Qt::Key_F1);
+    const Handle page = GetParam() ? Text19 : Text20;
+    ASSERT_TRUE(sheet->visible(page));
+    EXPECT_TRUE(on.viewOf(*sheet).canvas().rect().contains(on.widgetOf(*sheet, page)->geometry()));
+    Bench::key(Qt::Key_F1);
+    EXPECT_FALSE(sheet->visible(page));
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, Form3Test, ::testing::Bool(),
+                         [](const auto& showing) { return showing.param ? "english" : "spanish"; });
+
+} // namespace velmor::test::form3_test

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+// Boxes and dialogs: what the flags ask for, to the letter, in the program's language.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "desktop/desktop_fixture.h"
+#include "desktop/windows/questions.h"
+
+namespace velmor::test::question_test {
+
+using host::Answer;
+
+struct BoxCase {
+    int flags;
+    QStringList spanish;
+    QString preselected;
+    Answer enter;
+    Answer escape;
+};
+
+struct QuestionTest : ::testing::Test {
+    void SetUp() override { on.open(); }
+    Answer ask(int flags, int key)
+    {
+        on.answerByKey(key);
+        return on.screen.messageBox({"Valor <b>fuera</b> & de rango\nElija otro", "Criterio & <i>diseño</i>", flags});
+    }
+    /// Does something to the next dialog of that name.
+    void whenShown(const char* name, const std::function<void(QDialog&)>& deed)
+    {
+        auto* watch = new QTimer(&on.main());
+        QObject::connect(watch, &QTimer::timeout, watch, [watch, name, deed] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr || dialog->objectName() != QLatin1String(name) || !dialog->isVisible())
+                return;
+            watch->deleteLater();
+            deed(*dialog);
+        });
+        watch->start(1);
+    }
+    Bench on;
+};
+
+TEST_F(QuestionTest, flagsGiveButtonsDefaultAndEscape)
+{
+    const BoxCase cases[] = {
+        {0, {"Aceptar"}, "Aceptar", Answer::ok, Answer::ok},
+        {48, {"Aceptar"}, "Aceptar", Answer::ok, Answer::ok},
+        {16, {"Aceptar"}, "Aceptar", Answer::ok, Answer::ok},
+        {65, {"Aceptar", "Cancelar"}, "Aceptar", Answer::ok, Answer::cancel},
+        {33, {"Aceptar", "Cancelar"}, "Aceptar", Answer::ok, Answer::cancel},
+        {289, {"Aceptar", "Cancelar"}, "Cancelar", Answer::cancel, Answer::cancel},
+        {67, {"Sí", "No", "Cancelar"}, "Sí", Answer::yes, Answer::cancel},
+        {35, {"Sí", "No", "Cancelar"}, "Sí", Answer::yes, Answer::cancel},
+        {36, {"Sí", "No"}, "Sí", Answer::yes, Answer::no},
+        {20, {"Sí", "No"}, "Sí", Answer::yes, Answer::no},
+        {308, {"Sí", "No"}, "No", Answer::no, Answer::no},
+    };
+    for (const BoxCase& one : cases) {
+        EXPECT_EQ(ask(one.flags, Qt::Key_Return), one.enter) << one.flags;
+        QStringList buttons = on.boxes.back().buttons;
+        QStringList wanted = one.spanish;
+        buttons.sort();
+        wanted.sort();
+        EXPECT_EQ(buttons, wanted) << one.flags;
+        EXPECT_EQ(on.boxes.back().preselected, one.preselected) << one.flags;
+        EXPECT_EQ(ask(one.flags, Qt::Key_Escape), one.escape) << one.flags;
+    }
+}
+
+TEST_F(QuestionTest, textAndTitleAreShownToTheLetter)
+{
+    ask(48, Qt::Key_Return);
+    EXPECT_TRUE(on.boxes.back().plain);
+    EXPECT_EQ(on.boxes.back().text, "Valor <b>fuera</b> & de rango\nElija otro");
+    EXPECT_EQ(on.boxes.back().title, "Criterio & <i>diseño</i>");
+}
+
+TEST_F(QuestionTest, buttonsSpeakTheLanguageOfTheMoment)
+{
+    on.engine.values().LanguageIsEnglish = host::trueValue;
+    EXPECT_EQ(ask(67, Qt::Key_N), Answer::no) << "the letter of a button answers";
+    QStringList buttons = on.boxes.back().buttons;
+    buttons.sort();
+    EXPECT_EQ(buttons, (QStringList{"Cancel", "No", "Yes"}));
+}
+
+TEST_F(QuestionTest, anInputBoxShowsItsPromptPlainAndStandsInsideTheScreen)
+{
+    QString prompt;
+    bool inside = false;
+    whenShown("inputBox", [&](QDialog& dialog) {
+        prompt = dialog.findChild<QLabel*>()->text();
+        inside = dialog.screen()->availableGeometry().contains(dialog.pos());
+        EXPECT_EQ(dialog.findChild<QLabel*>()->textFormat(), Qt::PlainText);
+        EXPECT_EQ(dialog.findChild<QLineEdit*>()->selectedText(), "175");
+        dialog.findChild<QLineEdit*>()->setText("212");
+        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    EXPECT_EQ(on.screen.inputBox({"Coloque la <b> & temperatura", "Conversion", "175", 240000, 210000}), "212");
+    EXPECT_EQ(prompt, "Coloque la <b> & temperatura");
+    EXPECT_TRUE(inside);
+    whenShown("inputBox", [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(on.screen.inputBox({"Coloque", "Conversion", "175", 0, 0}), std::nullopt);
+}
+
+TEST_F(QuestionTest, aSaveDialogAsksAboutReplacingOnlyWhereTheFlagsSaySo)
+{
+    const auto confirms = [&](int flags) {
+        bool result = false;
+        whenShown("fileDialog", [&](QDialog& dialog) {
+            result = !dynamic_cast<QFileDialog&>(dialog).testOption(QFileDialog::DontConfirmOverwrite);
+            dialog.reject();
+        });
+        on.screen.fileDialog(
+            {host::DialogKind::save, "Guardar", "Texto(*.txt)|*.txt", on.folder.path().toStdString(), flags});
+        return result;
+    };
+    EXPECT_TRUE(confirms(2638862));
+    EXPECT_FALSE(confirms(0));
+}
+
+TEST_F(QuestionTest, aSaveDialogAddsTheEndingOfItsFilter)
+{
+    whenShown("fileDialog", [&](QDialog& dialog) {
+        auto& files = dynamic_cast<QFileDialog&>(dialog);
+        EXPECT_EQ(files.windowTitle(), "Save Circuit");
+        EXPECT_EQ(files.defaultSuffix(), "BCC");
+        auto* name = dialog.findChild<QLineEdit*>();
+        name->setText(on.folder.filePath("prueba"));
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    const auto path = on.screen.fileDialog(
+        {host::DialogKind::save, "Save Circuit", "Base Común (*.BCC)|*.BCC", on.folder.path().toStdString(), 2638862});
+    ASSERT_TRUE(path.has_value());
+    EXPECT_EQ(*path, on.folder.filePath("prueba.BCC").toStdString());
+}
+
+TEST(FileFilterTest, descriptionsStandToTheLetterAndPatternsMatchAnyCapitals)
+{
+    const QStringList filters =
+        desktop::nameFilters("Base Común (*.BCC)|*.BCC|Todos los archivos (*.*)|*.*|dos|*.bmp;*.Exe");
+    ASSERT_EQ(filters.size(), 3);
+    EXPECT_EQ(filters[0], "Base Común (*.BCC) (*.BCC *.bcc)");
+    EXPECT_EQ(filters[1], "Todos los archivos (*.*) (*)");
+    EXPECT_EQ(filters[2], "dos (*.bmp *.BMP *.Exe *.exe *.EXE)");
+    EXPECT_EQ(desktop::endingOf(filters[0]), "BCC");
+    EXPECT_EQ(desktop::endingOf(filters[1]), "");
+}
+
+TEST_F(QuestionTest, aProgramThatMustEndSaysSoPlainly)
+{
+    on.answerByKey(Qt::Key_Return);
+    on.screen.programFailed("El programa debe terminar");
+    EXPECT_EQ(on.boxes.back().text, "El programa debe terminar");
+}
+
+} // namespace velmor::test::question_test
