@@ -6,6 +6,7 @@
 
 #include "frame/mdi_form1_controls.h"
 #include "frame/palette_texts.h"
+#include "sheets/sheet_titles.h"
 
 namespace velmor::palette {
 
@@ -17,10 +18,8 @@ namespace pages_detail {
 
 constexpr BiText generalPaletteCaption{.es = " Todos...", .en = " All circuits..."};
 constexpr std::string_view generalMainCaption = "   Velmor";
-constexpr BiText simpleTitle{.es = "  Circuito Realimentado por Tensión Simple",
-                             .en = "  Feedback  Voltage Circuits Simple"};
-constexpr BiText stableTitle{.es = "  Circuito Realimentado por Tensión Estable",
-                             .en = "  Feedback  Voltage Circuits Stable"};
+constexpr BiText simpleTitle = sheets::titleOf("Form8");
+constexpr BiText stableTitle = sheets::titleOf("Form18");
 constexpr std::size_t chooser = 11;
 constexpr std::size_t poemPicture = 12;
 constexpr int pageTop = 20;

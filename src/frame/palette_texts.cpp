@@ -2,6 +2,8 @@
 // The palette's texts, Spanish and English side by side. Slips of captions and maxims are the program's own.
 #include "frame/palette_texts.h"
 
+#include "sheets/sheet_titles.h"
+
 namespace velmor::palette {
 
 // clang-format off
@@ -19,7 +21,7 @@ constexpr std::array<DesignPage, 12> designPages{{
                   .en = "I prefer to wait to have to suffer an accelerated decision"},
         .hoverMainCaption    = {.es = " Amplificador Diferencial Simple", .en = " Long Tail Pairs Simple "},
         .hoverPaletteCaption = {.es = " Amplificador Diferencial Simple", .en = " Long Tail Pairs Simple "},
-        .sheetTitle = {.es = "  Diferencial Simple", .en = "  Long Tail Pairs  -  Differential Amplifier"},
+        .sheetTitle = sheets::titleOf("Form3"),
         .sheet = "Form3",
     },
     {
@@ -34,7 +36,7 @@ constexpr std::array<DesignPage, 12> designPages{{
                   .en = "Where it finishes the effort, the failure begins... "},
         .hoverMainCaption    = {.es = "Amplificador Diferencial Compuesto", .en = "Long Tail Pairs Compound"},
         .hoverPaletteCaption = {.es = "Amplificador Diferencial Compuesto", .en = "Long Tail Pairs Compound"},
-        .sheetTitle = {.es = "  Diferencial Compuesto ó Cascode", .en = "Long Tail Pairs Compound"},
+        .sheetTitle = sheets::titleOf("Form13"),
         .sheet = "Form13",
     },
     {
@@ -49,7 +51,7 @@ constexpr std::array<DesignPage, 12> designPages{{
         .maxim = {.es = "", .en = ""},
         .hoverMainCaption    = {.es = " Circuito con Base Común", .en = " Common Base "},
         .hoverPaletteCaption = {.es = " Circuito con Base Común", .en = " Common Base "},
-        .sheetTitle = {.es = "  Base Común", .en = "  Common Base"},
+        .sheetTitle = sheets::titleOf("Form4"),
         .sheet = "Form4",
     },
     {
@@ -62,7 +64,7 @@ constexpr std::array<DesignPage, 12> designPages{{
         .maxim = {.es = "", .en = ""},
         .hoverMainCaption    = {.es = " Fuente de Corriente Constante", .en = " DC Current Source"},
         .hoverPaletteCaption = {.es = " Fuente de Corriente Constante", .en = " DC Current Source"},
-        .sheetTitle = {.es = "  Fuente de Corriente Constante", .en = "  D.C. source"},
+        .sheetTitle = sheets::titleOf("Form12"),
         .sheet = "Form12",
     },
     {
@@ -75,7 +77,7 @@ constexpr std::array<DesignPage, 12> designPages{{
         .maxim = {.es = "", .en = ""},
         .hoverMainCaption    = {.es = " Inversor de Fase", .en = " Paraphase"},
         .hoverPaletteCaption = {.es = " Inversor de Fase", .en = " Paraphase"},
-        .sheetTitle = {.es = "  Parafase", .en = "  Paraphase"},
+        .sheetTitle = sheets::titleOf("Form9"),
         .sheet = "Form9",
     },
     {
@@ -88,7 +90,7 @@ constexpr std::array<DesignPage, 12> designPages{{
         .maxim = {.es = "", .en = ""},
         .hoverMainCaption    = {.es = " Colector Común", .en = " Common Collector"},
         .hoverPaletteCaption = {.es = " Colector Común", .en = " Common Collector"},
-        .sheetTitle = {.es = "  Colector Común", .en = "  Common Collector"},
+        .sheetTitle = sheets::titleOf("Form17"),
         .sheet = "Form17",
     },
     {
@@ -104,7 +106,7 @@ constexpr std::array<DesignPage, 12> designPages{{
                                 .en = " Power Amplifier. (Class A - Darlington) "},
         .hoverPaletteCaption = {.es = " Potencia en Clase A mejorada...",
                                 .en = " Power Amplifier. (Class A - Darlington) "},
-        .sheetTitle = {.es = "  Clase A mejorada...", .en = "  Power Amplifier. (Class A - Darlington)"},
+        .sheetTitle = sheets::titleOf("form20"),
         .sheet = "form20",
     },
     {
@@ -118,7 +120,7 @@ constexpr std::array<DesignPage, 12> designPages{{
                   .en = "Begins, begin... the time passes and anything neither nobody waited for you"},
         .hoverMainCaption    = {.es = " Amplificador Clase A Simple ", .en = " Power Amplifier Class A Simple  "},
         .hoverPaletteCaption = {.es = " Amplificador Clase A Simple ", .en = " Power Amplifier Class A Simple  "},
-        .sheetTitle = {.es = "  Amplificador Clase A Simple", .en = "  Power Amplifier Class A Simple"},
+        .sheetTitle = sheets::titleOf("Form15"),
         .sheet = "Form15",
     },
     {
@@ -133,7 +135,7 @@ constexpr std::array<DesignPage, 12> designPages{{
                         "error "},
         .hoverMainCaption    = {.es = " Amplificador Clase B ", .en = " Power Amplifier Class B "},
         .hoverPaletteCaption = {.es = " Amplificador Clase B ", .en = " Power Amplifier Class B "},
-        .sheetTitle = {.es = "  Amplificador de Potencia Clase B", .en = "  Power Amplifier Class B"},
+        .sheetTitle = sheets::titleOf("Form10"),
         .sheet = "Form10",
     },
     {
@@ -147,7 +149,7 @@ constexpr std::array<DesignPage, 12> designPages{{
                   .en = "The best definition of a true is  a lie related 100 times... "},
         .hoverMainCaption    = {.es = " Clase B mejorado...", .en = " Power Amplifier Class B Darlington."},
         .hoverPaletteCaption = {.es = " Clase B mejorado...", .en = " Power Amplifier Class B Darlington."},
-        .sheetTitle = {.es = "  Amplificador de Potencia Clase B Mejorado", .en = "  Power Amplifier Class B Darlington"},
+        .sheetTitle = sheets::titleOf("Form11"),
         .sheet = "Form11",
     },
     {
@@ -164,8 +166,7 @@ constexpr std::array<DesignPage, 12> designPages{{
                                 .en = "Common Emmiter (class A, feedback for current)"},
         .hoverPaletteCaption = {.es = " Emisor Común Realimentado por Corriente ",
                                 .en = "Common Emmiter (feedback for current)"},
-        .sheetTitle = {.es = "  Emisor Común Realimentado por Corriente",
-                       .en = "  Common Emitter, Feedback for Current"},
+        .sheetTitle = sheets::titleOf("Form2"),
         .sheet = "Form2",
     },
     {

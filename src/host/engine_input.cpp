@@ -304,7 +304,9 @@ void Engine::userShortcut(Window& window, std::size_t row)
     if (ended_ || window.gone_)
         return;
     const ShortcutRow& bound = window.spec().shortcuts[row];
-    const Handle control = bound.control == noControl ? window.focus_ : bound.control;
+    Handle control = bound.control == noControl ? window.focus_ : bound.control;
+    if (bound.action == KeyAction::click && bound.target != noControl && !window.visible(control))
+        control = bound.target;
     switch (bound.action) {
     case KeyAction::click:
         return control != noControl && window.row(control).kind == Kind::menu ? userMenu(window, control)

@@ -226,6 +226,25 @@ Place shownPlace(const Window& window, Handle control)
     return place == nullptr ? window.placeOf(control) : place(window, control);
 }
 
+bool belongs(const Window& window, const GrowthRow& row)
+{
+    return (row.when == noControl || window.visible(row.when)) &&
+           (row.unless == noControl || !window.visible(row.unless));
+}
+
+Tone toneOf(const Window& window, Handle control)
+{
+    for (const ValueRow& row : window.spec().values)
+        if (row.value == control && window.visible(control) && toneOf(window, row.part) == Tone::pale)
+            return Tone::pale;
+    if (window.visible(control))
+        return Tone::ink;
+    for (const GrowthRow& row : window.spec().growth)
+        if (row.part == control && belongs(window, row))
+            return Tone::pale;
+    return Tone::away;
+}
+
 SlotIndex::SlotIndex(const WindowSpec& spec) : byControl_(spec.controls.size() + 1)
 {
     for (const SlotRow& bound : spec.slots) {

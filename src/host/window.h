@@ -36,8 +36,23 @@ struct ShortcutRow {
     std::string_view keys{};    ///< portable text as in "Ctrl+B", "F1"
     Handle control = noControl; ///< noControl: the control that has the focus
     KeyAction action = KeyAction::click;
-    Handle target = noControl; ///< of dragTo
+    Handle target = noControl; ///< of dragTo; of click: the control that is meant while `control` is hidden
     BiText meaning{};
+};
+
+/// A part of a drawing that comes with a field of the chain: hidden in the model until then, and drawn pale meanwhile. Rows
+/// with the same part give several fields that bring it.
+struct GrowthRow {
+    Handle part = noControl;
+    Handle field = noControl;
+    Handle when = noControl;   ///< belongs to the circuit only while this control is visible
+    Handle unless = noControl; ///< belongs to the circuit only while this control is hidden
+};
+
+/// A text on the drawing that belongs to a part, and is pale while the part is.
+struct ValueRow {
+    Handle value = noControl;
+    Handle part = noControl;
 };
 
 /// Everything that is the same for all instances of a window.
@@ -54,6 +69,8 @@ struct WindowSpec {
     std::unique_ptr<Window> (*create)(SheetHost&) = nullptr;
     bool modal = false;
     BiText sheetTitle{}; ///< of a sheet: the caption that a menu or clone gives it
+    std::span<const GrowthRow> growth{};
+    std::span<const ValueRow> values{};
     /// Where a screen shows a control when that is not its place in the model; null: every control at its place.
     Place (*shownPlace)(const Window&, Handle) = nullptr;
 };
@@ -208,6 +225,14 @@ private:
     explicit SlotIndex(const WindowSpec& spec);
     std::vector<std::array<SlotFunction, static_cast<std::size_t>(Event::count)>> byControl_;
 };
+
+/// True while the circuit that is being designed has the part of this row.
+bool belongs(const Window& window, const GrowthRow& row);
+/// How a drawing stands there: a part that the chain has not reached yet is pale, one of another circuit is not there.
+enum class Tone : std::uint8_t { ink, pale, away };
+/// The tone of a control that is a part of the drawing (`growth`) or a value on it (`values`). What is neither is ink while
+/// it is visible.
+Tone toneOf(const Window& window, Handle control);
 
 /// Where a screen shows a control: its place, unless the window's table says otherwise.
 Place shownPlace(const Window& window, Handle control);

@@ -3,7 +3,6 @@
 // a sheet. It knows no circuit; a sheet adds its controls, slots and formulas.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -12,8 +11,17 @@
 #include "host/sheet_host.h"
 #include "host/window.h"
 #include "rules/circuit_lines.h"
+#include "rules/numbers.h"
+#include "sheets/chain.h"
+#include "sheets/saying.h"
+#include "sheets/tools.h"
 
 namespace velmor::sheets {
+
+using rules::Real;
+
+inline constexpr std::int16_t enterKey = 13;
+inline constexpr std::int16_t escapeKey = 27;
 
 /// One line of a circuit file. `noControl` is a line that carries no value.
 struct FileLine {
@@ -22,19 +30,44 @@ struct FileLine {
     bool showFirst = false; ///< visible before its line is read, so also where the file ends before it
 };
 
-/// What the files and reports of one sheet are, as data.
+/// Pages that lie on the sheet and come and go with the pair of the help tool.
+struct HelpBoxes {
+    host::Handle spanish = host::noControl;
+    host::Handle english = host::noControl;
+    host::Place place{}; ///< where both open
+};
+
+/// What one kind of sheet says, accepts and writes, as data.
 struct SheetSpec {
+    // the circuit file
     host::BiText filter{};                           ///< `MiFiltro`
     std::span<const FileLine> written{};             ///< order in which `Datos` writes
     std::span<const FileLine> read{};                ///< order in which `Abrir` reads
     host::Handle temperatureField = host::noControl; ///< takes `TemperaturaCompartida` when it gets the focus
+    // the chain, what is said along it, and the help
+    std::span<const ChainRow> chain{};
+    std::span<const Saying> sayings{};
+    host::Handle voice = host::noControl;  ///< the panel of the teacher's voice
+    std::span<const host::Handle> notes{}; ///< beside the fields; pointing at a field shows its own alone
+    std::span<const HelpPage> helpPages{}; ///< in the order in which tags are tested; none: the sheet has no tags
+    HelpBoxes helpBoxes{};
+    // the tools
+    Tools tools{};
+    host::BiText guide{}; ///< file of the guide tool
+};
+
+/// What a key press asks of a field of the chain.
+enum class Press : std::uint8_t {
+    nothing, ///< an ordinary key, or Enter in the empty field, which has been told so
+    enter,   ///< go on; the field is bare by now
+    escape,  ///< take the default and go on
 };
 
 class DesignSheet : public host::Window {
 public:
     DesignSheet(host::SheetHost& host, const host::WindowSpec& window, const SheetSpec& sheet);
 
-    // The public operations, in the order in which the main window knows them. Booleans are -1 and 0.
+    // --- the public operations, in the order in which the main window knows them; booleans are -1 and 0
     std::int16_t OperCancelo() const { return operCancelo_; }
     void setOperCancelo(std::int16_t value) { operCancelo_ = value; }
     std::string MiFiltro() const;
@@ -53,25 +86,107 @@ public:
     const std::string& NombreArchivo() const { return nombreArchivo_; }
     void setNombreArchivo(std::string_view path) { nombreArchivo_ = path; }
 
-    /// Filter and order of its circuit files.
-    const SheetSpec& circuitFiles() const { return sheet_; }
+    /// The tables of this kind of sheet.
+    const SheetSpec& tables() const { return sheet_; }
     /// The text of the sheet's report as of this moment, lines ended by CR LF.
     virtual std::string reportText() const = 0;
 
-    // Slots that every sheet binds (see `withSheetFrame`).
+    // --- slots that every sheet binds (`sheetSlots`)
     void frameComeBack();
     void frameRepaint();
     void frameResize();
     void frameQueryClose(host::EventArgs& args);
+    /// What each activation begins with: `Form21` unloaded, the main window's welcome panel and circuit bar hidden.
+    void frameActivate();
+
+    // --- slots that every field of the chain has, unless the sheet has its own (`sheetSlots`)
+    /// Tag, prompts and parts of the drawing of the field in hand.
+    void focusField(host::EventArgs& args);
+    /// Enter and Esc as the row says: what is said, then on to the next field.
+    void keyField(host::EventArgs& args);
+    /// The correction of the row.
+    void leaveField(host::EventArgs& args);
+    /// The field's note and prompt; without a prompt for the pointer, that of the focus.
+    void hoverField(host::EventArgs& args);
+    /// Right button: the field's help page.
+    void pressField(host::EventArgs& args);
+
+    // --- slots of the tools
+    void clickGuide();
+    void clickCalculator();
+    void clickReport(); ///< an editor that is open already keeps its text
+    void clickClone(host::EventArgs& args);
+    void openHelpBoxes();
+    void closeHelpBoxes();
 
     /// A temperature was converted: the temperature field, if it has the focus, takes it at once.
     void temperatureConverted();
 
-    /// What each activation begins with: `Form21` unloaded, the main window's welcome panel and circuit bar hidden.
-    void frameActivate();
-
+    // --- saying
     std::string_view pick(const host::BiText& text) const { return host().pick(text); }
+    bool inEnglish() const { return host().values().LanguageIsEnglish == host::trueValue; }
+    /// Writes the text to its place, or shows the box. Returns the answer of a box.
+    int tell(const Saying& row);
+    /// All rows of the sheet about this field and moment, in their order; those of every field where it has none of its own.
+    void tell(host::Handle field, When when);
+    void write(host::Handle control, const host::BiText& text) { setText(control, pick(text)); }
+    void hideNotes();
+
+    // --- keys
+    /// What each key press begins with: the key filter, its beep, the separator put back to ".", and `modificado` set.
+    /// Returns the filtered key, which is also the event's key from then on.
+    std::int16_t filteredKey(host::EventArgs& args);
+    /// A key press in `args.control`, filtered first. Enter in an empty field tells so and asks nothing; Enter in a filled one
+    /// rewrites it as its bare number before anything else of the step.
+    Press pressed(host::EventArgs& args);
+
+    // --- numbers
     std::string decimalSeparator() const { return host().values().DecimalSeparator; }
+    /// The number that a field's or caption's text begins with.
+    Real at(host::Handle control) const;
+    /// The number of a field that must hold nothing else: the field is rewritten as its bare number.
+    Real take(host::Handle field);
+    void makeBare(host::Handle field);
+    bool isEmpty(host::Handle field) const { return text(field).empty(); }
+    /// The text of a number: up to 15 digits.
+    std::string digits(Real value) const;
+    /// The text of a displayed result: four decimals.
+    std::string shown(Real value) const;
+    /// The text of a number without its fraction.
+    std::string whole(Real value) const;
+    /// Writes a number into a field: up to 15 digits.
+    void write(host::Handle control, Real value) { setText(control, digits(value)); }
+    /// Writes `otherwise` when the field's number is out of range (also for an empty field). A value in range is left as typed.
+    /// True when it had to be corrected.
+    bool correct(host::Handle field, double from, double to, double otherwise);
+    bool correctFrom(host::Handle field, double from, double otherwise);
+    /// The correction of the field's row in the chain.
+    bool correct(host::Handle field);
+
+    // --- moving on
+    const ChainRow& chainRow(host::Handle field) const;
+    /// Shows and enables the control and gives it the focus.
+    void goTo(host::Handle field);
+
+    // --- the drawing
+    /// Shows the parts that come with this field, as far as they belong to the circuit.
+    void grow(host::Handle field);
+    void growWhole();
+    void clearDrawing();
+
+    // --- help by tags
+    void LimpiarTags();
+    /// Shows the page of the first field, in the order of the pages, whose tag is 1.
+    void MostrarAyuda();
+
+    // --- buttons
+    /// Guide: a new text editor of the language opens the file.
+    void openGuide(const host::BiText& guide);
+    /// Report: an editor that is open already is only overwritten when the student accepts.
+    void openReportAsking();
+    /// A press on the ground of the drawing. Right button with Shift or Ctrl: the menu of options; right button alone: the bar
+    /// of circuits, and the pair exchanged; left button: the menu of files.
+    void pressPicture(const host::EventArgs& args, const ImagePair& pair);
 
 protected:
     /// The closing steps of `Abrir` behind the last line: the archive prompt and what the sheet shows.
@@ -80,6 +195,9 @@ protected:
 private:
     bool PreguntaGuardar();
     void VerificarGuardar();
+    const Saying* saying(host::Handle field, When when) const;
+    void rearrange();
+    void showReport(bool build);
 
     const SheetSpec& sheet_;
     std::string nombreArchivo_;
@@ -87,23 +205,5 @@ private:
     std::int16_t modificado_ = 0;
     bool cierreCancelado_ = false;
 };
-
-/// The slots of the frame, followed by the sheet's own, which replace a frame slot of the same event.
-template <std::size_t Count>
-constexpr std::array<host::SlotRow, Count + 5> withSheetFrame(const std::array<host::SlotRow, Count>& own)
-{
-    using host::Event;
-    using host::noControl;
-    std::array<host::SlotRow, Count + 5> all{
-        host::SlotRow{noControl, Event::activate, host::slot<&DesignSheet::frameActivate>},
-        host::SlotRow{noControl, Event::comeBack, host::slot<&DesignSheet::frameComeBack>},
-        host::SlotRow{noControl, Event::repaint, host::slot<&DesignSheet::frameRepaint>},
-        host::SlotRow{noControl, Event::resize, host::slot<&DesignSheet::frameResize>},
-        host::SlotRow{noControl, Event::queryClose, host::slot<&DesignSheet::frameQueryClose>},
-    };
-    for (std::size_t i = 0; i < Count; ++i)
-        all[i + 5] = own[i];
-    return all;
-}
 
 } // namespace velmor::sheets

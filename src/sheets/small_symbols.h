@@ -6,7 +6,8 @@
 #include <array>
 #include <cstddef>
 
-#include "host/drawing.h"
+#include "sheets/rows.h"
+#include "sheets/schematic.h"
 
 namespace velmor::sheets::small_symbols {
 
@@ -14,10 +15,9 @@ using host::GridPoint;
 using host::Mark;
 using host::Symbol;
 
-constexpr GridPoint point(int x, int y)
-{
-    return {static_cast<std::int16_t>(x), static_cast<std::int16_t>(y)};
-}
+using sheets::joined;
+using sheets::point;
+using sheets::wire;
 
 /// Measures of a transistor's inside, from the middle of its circle; right-hand side of an npn.
 struct TransistorSize {
@@ -97,24 +97,5 @@ struct Ground {
         Mark{.symbol = Symbol::wire, .from = point(X - 1, Y + 6), .to = point(X + 1, Y + 6)},
     };
 };
-
-constexpr Mark wire(int fromX, int fromY, int toX, int toY)
-{
-    return {.symbol = Symbol::wire, .from = point(fromX, fromY), .to = point(toX, toY)};
-}
-
-/// Several groups of marks as one drawing.
-template <std::size_t... Counts>
-constexpr auto joined(const std::array<Mark, Counts>&... parts)
-{
-    std::array<Mark, (Counts + ...)> all{};
-    std::size_t at = 0;
-    const auto add = [&](const auto& part) {
-        for (const Mark& mark : part)
-            all[at++] = mark;
-    };
-    (add(parts), ...);
-    return all;
-}
 
 } // namespace velmor::sheets::small_symbols

@@ -1,196 +1,159 @@
 // SPDX-License-Identifier: MIT
-// The steps that slots are made of.
-#include "sheets/steps.h"
+// The steps that slots are made of: saying, reading and writing numbers, moving on, drawing.
+#include <algorithm>
+
+#include "sheets/design_sheet.h"
 
 namespace velmor::sheets {
 
-using host::BiText;
 using host::Handle;
 
-const BoxText placeANumber{.text = {.es = "Debe colocar una cifra...", .en = " Place a number..."},
-                           .title = {.es = "Error", .en = "Error"},
-                           .flags = 48};
+// --- saying
 
-namespace steps_detail {
-
-constexpr BoxText overwriteReport{
-    .text = {.es = "Si Acepta, lo escrito por ud. se perdera, (los datos del circuito no se pierden)",
-             .en = " Acept, delete edit date, Cancel return... "},
-    .title = {.es = " Cuidado!!!", .en = "Warning !!!!"},
-    .flags = 65};
-constexpr int answerOk = 1;
-
-bool anyArrangementMark(host::SheetHost& host)
+int DesignSheet::tell(const Saying& row)
 {
-    return host.checked("mnuCas") || host.checked("mnuHoriz") || host.checked("mnuVert");
+    if (row.place == inBox)
+        return host().MsgBox(pick(row.text), row.flags, pick(row.title));
+    if (!pick(row.text).empty())
+        write(row.place, row.text);
+    return 0;
 }
 
-} // namespace steps_detail
+const Saying* DesignSheet::saying(Handle field, When when) const
+{
+    const auto found = std::find_if(sheet_.sayings.begin(), sheet_.sayings.end(),
+                                    [&](const Saying& row) { return row.about == field && row.when == when; });
+    return found == sheet_.sayings.end() ? nullptr : &*found;
+}
 
-std::int16_t filteredKey(DesignSheet& sheet, host::EventArgs& args)
+void DesignSheet::tell(Handle field, When when)
+{
+    const Handle about = saying(field, when) != nullptr ? field : host::noControl;
+    for (const Saying& row : sheet_.sayings)
+        if (row.about == about && row.when == when)
+            tell(row);
+}
+
+void DesignSheet::hideNotes()
+{
+    for (const Handle note : sheet_.notes)
+        hide(note);
+}
+
+// --- keys
+
+std::int16_t DesignSheet::filteredKey(host::EventArgs& args)
 {
     const rules::KeyFilterResult filtered = rules::KeyFilter(args.key);
     if (filtered.beep)
-        sheet.host().Beep();
-    sheet.host().values().DecimalSeparator = ".";
-    sheet.setModificado(host::trueValue);
+        host().Beep();
+    host().values().DecimalSeparator = ".";
+    setModificado(host::trueValue);
     return args.key;
 }
 
-Press pressed(DesignSheet& sheet, host::EventArgs& args, const BoxText& whenEmpty)
+Press DesignSheet::pressed(host::EventArgs& args)
 {
-    const std::int16_t key = filteredKey(sheet, args);
+    const std::int16_t key = filteredKey(args);
     if (key == escapeKey)
         return Press::escape;
     if (key != enterKey)
         return Press::nothing;
-    if (isEmpty(sheet, args.control)) {
-        say(sheet, whenEmpty);
+    if (isEmpty(args.control)) {
+        tell(args.control, When::empty);
         return Press::nothing;
     }
-    makeBare(sheet, args.control);
+    makeBare(args.control);
     return Press::enter;
 }
 
-rules::Real number(const host::Window& window, Handle control)
+// --- numbers
+
+Real DesignSheet::at(Handle control) const
 {
-    return rules::ParseLeadingNumber(window.text(control));
+    return rules::ParseLeadingNumber(text(control));
 }
 
-rules::Real strictNumber(DesignSheet& sheet, Handle field)
+Real DesignSheet::take(Handle field)
 {
-    makeBare(sheet, field);
-    return rules::StrictNumber(sheet.text(field), sheet.decimalSeparator());
+    makeBare(field);
+    return rules::StrictNumber(text(field), decimalSeparator());
 }
 
-void writeNumber(DesignSheet& sheet, Handle control, rules::Real value)
+void DesignSheet::makeBare(Handle field)
 {
-    sheet.setText(control, digits(sheet, value));
+    write(field, at(field));
 }
 
-std::string shown(const DesignSheet& sheet, rules::Real value)
+std::string DesignSheet::digits(Real value) const
 {
-    return rules::CurrencyText(value, sheet.decimalSeparator());
+    return rules::NumberText(value, decimalSeparator());
 }
 
-std::string digits(const DesignSheet& sheet, rules::Real value)
+std::string DesignSheet::shown(Real value) const
 {
-    return rules::NumberText(value, sheet.decimalSeparator());
+    return rules::CurrencyText(value, decimalSeparator());
 }
 
-bool isEmpty(const host::Window& window, Handle field)
+std::string DesignSheet::whole(Real value) const
 {
-    return window.text(field).empty();
+    return digits(rules::TruncToInteger(value));
 }
 
-void makeBare(DesignSheet& sheet, Handle field)
+bool DesignSheet::correct(Handle field, double from, double to, double otherwise)
 {
-    writeNumber(sheet, field, number(sheet, field));
-}
-
-bool correctToRange(DesignSheet& sheet, Handle field, double low, double high, double otherwise)
-{
-    const rules::Real value = number(sheet, field);
-    if (value >= low && value <= high)
+    const Real value = at(field);
+    if (value >= from && value <= to)
         return false;
-    writeNumber(sheet, field, otherwise);
+    write(field, otherwise);
     return true;
 }
 
-bool correctFrom(DesignSheet& sheet, Handle field, double low, double otherwise)
+bool DesignSheet::correctFrom(Handle field, double from, double otherwise)
 {
-    if (number(sheet, field) >= low)
-        return false;
-    writeNumber(sheet, field, otherwise);
-    return true;
+    return correct(field, from, noLimit, otherwise);
 }
 
-void goTo(DesignSheet& sheet, Handle field)
+bool DesignSheet::correct(Handle field)
 {
-    sheet.show(field);
-    sheet.enable(field);
-    sheet.host().SetFocus(sheet, field);
+    const ChainRow& row = chainRow(field);
+    return correct(field, row.from, row.to, row.otherwise);
 }
 
-int say(const DesignSheet& sheet, const BoxText& box)
+// --- moving on
+
+const ChainRow& DesignSheet::chainRow(Handle field) const
 {
-    return sheet.host().MsgBox(sheet.pick(box.text), box.flags, sheet.pick(box.title));
+    return *std::find_if(sheet_.chain.begin(), sheet_.chain.end(),
+                         [field](const ChainRow& row) { return row.field == field; });
 }
 
-void clone(DesignSheet& sheet, const ClonePair& pair, Handle clicked)
+void DesignSheet::goTo(Handle field)
 {
-    const Handle other = clicked == pair.first ? pair.second : pair.first;
-    sheet.show(other);
-    sheet.hide(clicked);
-    host::Window* opened = sheet.host().NewInstance(sheet.name());
-    if (opened == nullptr)
-        return;
-    sheet.host().Show(*opened);
-    opened->setCaption(sheet.pick(sheet.spec().sheetTitle));
-    if (clicked == pair.first) {
-        opened->show(pair.second);
-        opened->hide(pair.first);
-    }
+    show(field);
+    enable(field);
+    host().SetFocus(*this, field);
 }
 
-void showCalculator(DesignSheet& sheet)
+// --- the drawing
+
+void DesignSheet::grow(Handle field)
 {
-    sheet.host().Show("Calculator");
+    for (const host::GrowthRow& row : spec().growth)
+        if (row.field == field)
+            setVisible(row.part, host::belongs(*this, row));
 }
 
-void showBarAsChosen(host::SheetHost& host)
+void DesignSheet::growWhole()
 {
-    host::Window* mainWindow = host.find("MDIForm1");
-    if (mainWindow == nullptr)
-        return;
-    host::EventArgs args;
-    args.control = mainWindow->named("mnudise");
-    if (args.control != host::noControl)
-        mainWindow->runSlot(args.control, host::Event::click, args);
+    for (const host::GrowthRow& row : spec().growth)
+        setVisible(row.part, host::belongs(*this, row));
 }
 
-void rearrange(host::SheetHost& host)
+void DesignSheet::clearDrawing()
 {
-    if (host.checked("mnuCas")) {
-        host.Arrange(0);
-    } else if (host.checked("mnuHoriz")) {
-        host.Arrange(1);
-    } else if (host.checked("mnuVert")) {
-        host.Arrange(2);
-    } else {
-        host.Arrange(0);
-        host.setChecked("mnuCas", true);
-    }
-}
-
-void openGuide(DesignSheet& sheet, std::string_view guide)
-{
-    host::SheetHost& host = sheet.host();
-    rearrange(host);
-    host.values().ArchivoGuia = guide;
-    host::Window* editor = host.NewInstance(host.pick({.es = "frmEdito1", .en = "frmEdito3"}));
-    if (editor == nullptr)
-        return;
-    host.Show(*editor);
-    host.SetWindowState(*editor, 0);
-}
-
-void openReport(DesignSheet& sheet, bool askFirst)
-{
-    using namespace steps_detail;
-    host::SheetHost& host = sheet.host();
-    host.Arrange(2);
-    if (!anyArrangementMark(host))
-        host.setChecked("mnuVert", true);
-    const std::string_view name = host.pick({.es = "frmEdito2", .en = "frmEdito3"});
-    const host::Window* open = host.find(name);
-    const bool isOpen = open != nullptr && open->shown();
-    const bool build = !isOpen || (askFirst && say(sheet, overwriteReport) == answerOk);
-    host::Window* editor = host.Show(name);
-    if (!isOpen && editor != nullptr)
-        host.SetWindowState(*editor, 0);
-    if (build)
-        host.setText(name, "txtEdit", sheet.reportText());
+    for (const host::GrowthRow& row : spec().growth)
+        hide(row.part);
 }
 
 } // namespace velmor::sheets

@@ -122,8 +122,12 @@ Complaints slots(const WindowSpec& window)
     for (std::size_t i = 0; i < window.slots.size(); ++i) {
         const host::SlotRow& row = window.slots[i];
         const std::string where = "slot " + std::to_string(i);
-        if (row.run == nullptr)
-            complaints.push_back(where + " has no function");
+        const auto earlier = std::span(window.slots).first(i);
+        const bool takesAway = std::any_of(earlier.begin(), earlier.end(), [&row](const host::SlotRow& other) {
+            return other.control == row.control && other.event == row.event && other.run != nullptr;
+        });
+        if (row.run == nullptr && !takesAway)
+            complaints.push_back(where + " has no function and takes none away");
         if (row.control == noControl) {
             if (!windowReceives(row.event))
                 complaints.push_back(where + " waits for an event that a window never gets");
@@ -162,8 +166,8 @@ Complaints shortcuts(const WindowSpec& window)
             complaints.push_back("the key " + quoted(row.keys) + " is given twice");
         if (row.control != noControl && !exists(window, row.control))
             complaints.push_back("the key " + quoted(row.keys) + " belongs to a control that does not exist");
-        if (row.action == host::KeyAction::dragTo && row.target != noControl && !exists(window, row.target))
-            complaints.push_back("the key " + quoted(row.keys) + " drags to a control that does not exist");
+        if (row.target != noControl && !exists(window, row.target))
+            complaints.push_back("the key " + quoted(row.keys) + " leads to a control that does not exist");
         if (row.action == host::KeyAction::run && !hasSlot(window, noControl, host::Event::shortcut))
             complaints.push_back("the key " + quoted(row.keys) + " runs a slot that is not there");
         if (row.meaning.es.empty() || row.meaning.en.empty())

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The small steps of which slots are made, each on its own.
-#include "sheets/steps.h"
+#include "sheets/design_sheet.h"
 
 #include <gtest/gtest.h>
 
@@ -38,7 +38,7 @@ TEST_F(Steps, AFilteredKeyLetsDigitsThroughAndMarksTheSheet)
 {
     program.engine.values().DecimalSeparator = ",";
     EventArgs args = key('7');
-    EXPECT_EQ(sheets::filteredKey(sheet, args), '7');
+    EXPECT_EQ(sheet.filteredKey(args), '7');
     EXPECT_EQ(args.key, '7');
     EXPECT_EQ(sheet.modificado(), -1);
     EXPECT_EQ(program.engine.values().DecimalSeparator, ".");
@@ -48,7 +48,7 @@ TEST_F(Steps, AFilteredKeyLetsDigitsThroughAndMarksTheSheet)
 TEST_F(Steps, AFilteredLetterIsSwallowedWithABeepAndMarksTheSheetAllTheSame)
 {
     EventArgs args = key('k');
-    EXPECT_EQ(sheets::filteredKey(sheet, args), 0);
+    EXPECT_EQ(sheet.filteredKey(args), 0);
     EXPECT_EQ(args.key, 0);
     EXPECT_EQ(sheet.modificado(), -1);
     EXPECT_EQ(program.screen.beeps, 1);
@@ -58,7 +58,7 @@ TEST_F(Steps, EnterGoesOnWithTheBareNumber)
 {
     sheet.setText(Text1, "12.50 V");
     EventArgs args = key(13);
-    EXPECT_EQ(sheets::pressed(sheet, args, box), Press::enter);
+    EXPECT_EQ(sheet.pressed(args, box), Press::enter);
     EXPECT_EQ(sheet.text(Text1), "12.5");
 }
 
@@ -66,7 +66,7 @@ TEST_F(Steps, EnterInAnEmptyFieldSaysTheBoxAndAsksNothing)
 {
     sheet.setText(Text1, "");
     EventArgs args = key(13);
-    EXPECT_EQ(sheets::pressed(sheet, args, box), Press::nothing);
+    EXPECT_EQ(sheet.pressed(args, box), Press::nothing);
     ASSERT_EQ(program.screen.boxes.size(), 1u);
     EXPECT_EQ(program.screen.boxes[0].text, "uno");
     EXPECT_EQ(sheet.text(Text1), "");
@@ -76,7 +76,7 @@ TEST_F(Steps, EscapeAsksForTheDefaultAlsoInAnEmptyField)
 {
     sheet.setText(Text1, "");
     EventArgs args = key(27);
-    EXPECT_EQ(sheets::pressed(sheet, args, box), Press::escape);
+    EXPECT_EQ(sheet.pressed(args, box), Press::escape);
     EXPECT_TRUE(program.screen.boxes.empty());
 }
 
@@ -84,51 +84,51 @@ TEST_F(Steps, AnyOtherKeyAsksNothing)
 {
     for (const std::int16_t code : {std::int16_t{'1'}, std::int16_t{'z'}, std::int16_t{8}, std::int16_t{9}}) {
         EventArgs args = key(code);
-        EXPECT_EQ(sheets::pressed(sheet, args, box), Press::nothing) << code;
+        EXPECT_EQ(sheet.pressed(args, box), Press::nothing) << code;
     }
 }
 
 TEST_F(Steps, ANumberIsReadFromTheBeginningOfAText)
 {
     EXPECT_EQ(text("10 mA"), "10 mA");
-    EXPECT_EQ(sheets::number(sheet, Text1), 10.0);
+    EXPECT_EQ(sheet.number(Text1), 10.0);
     text("Res");
-    EXPECT_EQ(sheets::number(sheet, Text1), 0.0);
+    EXPECT_EQ(sheet.number(Text1), 0.0);
 }
 
 TEST_F(Steps, AStrictNumberMakesItsFieldBareFirst)
 {
     text("4.70 K");
-    EXPECT_EQ(sheets::strictNumber(sheet, Text1), 4.7);
+    EXPECT_EQ(sheet.strictNumber(Text1), 4.7);
     EXPECT_EQ(sheet.text(Text1), "4.7");
     text("Res");
-    EXPECT_EQ(sheets::strictNumber(sheet, Text1), 0.0);
+    EXPECT_EQ(sheet.strictNumber(Text1), 0.0);
     EXPECT_EQ(sheet.text(Text1), "0");
 }
 
 // 1/3 with fifteen digits, and with the four decimals of a result; 2/3 rounds up.
 TEST_F(Steps, FieldsShowFifteenDigitsAndResultsFourDecimals)
 {
-    sheets::writeNumber(sheet, Text1, rules::Real(1) / 3.0);
+    sheet.writeNumber(Text1, rules::Real(1) / 3.0);
     EXPECT_EQ(sheet.text(Text1), "0.333333333333333");
-    EXPECT_EQ(sheets::digits(sheet, rules::Real(2) / 3.0), "0.666666666666667");
-    EXPECT_EQ(sheets::shown(sheet, rules::Real(2) / 3.0), "0.6667");
-    EXPECT_EQ(sheets::shown(sheet, 3.0), "3");
+    EXPECT_EQ(sheet.digits(rules::Real(2) / 3.0), "0.666666666666667");
+    EXPECT_EQ(sheet.shown(rules::Real(2) / 3.0), "0.6667");
+    EXPECT_EQ(sheet.shown(3.0), "3");
 }
 
 TEST_F(Steps, NumbersAreWrittenWithTheSeparatorOfTheMoment)
 {
     program.engine.values().DecimalSeparator = ",";
-    sheets::writeNumber(sheet, Text1, 2.5);
+    sheet.writeNumber(Text1, 2.5);
     EXPECT_EQ(sheet.text(Text1), "2,5");
-    EXPECT_EQ(sheets::shown(sheet, 2.5), "2,5");
+    EXPECT_EQ(sheet.shown(2.5), "2,5");
 }
 
 TEST_F(Steps, ARangeLeavesWhatLiesInItAsTyped)
 {
     for (const std::string_view typed : {"3", "30", "12.50", "3 V"}) {
         text(typed);
-        EXPECT_FALSE(sheets::correctToRange(sheet, Text1, 3, 30, 12)) << typed;
+        EXPECT_FALSE(sheet.correctToRange(Text1, 3, 30, 12)) << typed;
         EXPECT_EQ(sheet.text(Text1), typed);
     }
 }
@@ -137,7 +137,7 @@ TEST_F(Steps, ARangeCorrectsWhatLiesOutsideAndTheEmptyField)
 {
     for (const std::string_view typed : {"2.999999", "30.000001", "", "Es", "-5"}) {
         text(typed);
-        EXPECT_TRUE(sheets::correctToRange(sheet, Text1, 3, 30, 12.5)) << typed;
+        EXPECT_TRUE(sheet.correctToRange(Text1, 3, 30, 12.5)) << typed;
         EXPECT_EQ(sheet.text(Text1), "12.5");
     }
 }
@@ -145,18 +145,18 @@ TEST_F(Steps, ARangeCorrectsWhatLiesOutsideAndTheEmptyField)
 TEST_F(Steps, ALowerLimitCorrectsBelowItAlone)
 {
     text("0.1");
-    EXPECT_FALSE(sheets::correctFrom(sheet, Text1, 0.1, 10));
+    EXPECT_FALSE(sheet.correctFrom(Text1, 0.1, 10));
     text("100000");
-    EXPECT_FALSE(sheets::correctFrom(sheet, Text1, 0.1, 10));
+    EXPECT_FALSE(sheet.correctFrom(Text1, 0.1, 10));
     text("0.09999");
-    EXPECT_TRUE(sheets::correctFrom(sheet, Text1, 0.1, 10));
+    EXPECT_TRUE(sheet.correctFrom(Text1, 0.1, 10));
     EXPECT_EQ(sheet.text(Text1), "10");
 }
 
 TEST_F(Steps, GoingToAFieldShowsAndEnablesItFirst)
 {
     sheet.hide(Text4);
-    program.run([&] { sheets::goTo(sheet, Text4); });
+    program.run([&] { sheet.goTo(Text4); });
     EXPECT_TRUE(sheet.visible(Text4));
     EXPECT_TRUE(sheet.enabled(Text4));
     EXPECT_EQ(sheet.focus(), Text4);
@@ -165,9 +165,9 @@ TEST_F(Steps, GoingToAFieldShowsAndEnablesItFirst)
 TEST_F(Steps, ABoxSpeaksTheLanguageOfTheMomentAndReturnsItsAnswer)
 {
     program.screen.answers = {host::Answer::yes, host::Answer::no};
-    EXPECT_EQ(sheets::say(sheet, box), 6);
+    EXPECT_EQ(sheet.say(box), 6);
     program.english(true);
-    EXPECT_EQ(sheets::say(sheet, box), 7);
+    EXPECT_EQ(sheet.say(box), 7);
     EXPECT_EQ(program.screen.boxes[0].title, "dos");
     EXPECT_EQ(program.screen.boxes[1].text, "one");
     EXPECT_EQ(program.screen.boxes[1].title, "two");
@@ -176,9 +176,9 @@ TEST_F(Steps, ABoxSpeaksTheLanguageOfTheMomentAndReturnsItsAnswer)
 
 TEST_F(Steps, TheBoxOfAnEmptyField)
 {
-    sheets::say(sheet, sheets::placeANumber);
+    sheet.say(sheets::placeANumber);
     program.english(true);
-    sheets::say(sheet, sheets::placeANumber);
+    sheet.say(sheets::placeANumber);
     EXPECT_EQ(program.screen.boxes[0].text, "Debe colocar una cifra...");
     EXPECT_EQ(program.screen.boxes[1].text, " Place a number...");
     EXPECT_EQ(program.screen.boxes[1].title, "Error");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The catalogue with one sheet more, and playing walks on it.
+// The catalogue with the template and its twin, and playing walks on it.
 #include "sheets/template_program.h"
 
 #include <sstream>
@@ -7,6 +7,7 @@
 
 #include "program/catalogue.h"
 #include "sheets/template_sheet.h"
+#include "sheets/twin_sheet.h"
 
 namespace velmor::template_sheet {
 
@@ -15,6 +16,7 @@ host::Catalogue catalogue()
     static const std::vector<const host::WindowSpec*> windows = [] {
         std::vector<const host::WindowSpec*> all(program::catalogue().begin(), program::catalogue().end());
         all.push_back(&spec);
+        all.push_back(&twin_sheet::spec);
         return all;
     }();
     return windows;
