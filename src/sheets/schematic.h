@@ -171,6 +171,26 @@ constexpr host::ControlRow drawn(host::Handle id, std::string_view name, host::K
 {
     return {.id = id, .name = name, .kind = kind, .place = part.place, .drawing = part.marks};
 }
+/// The title of a drawing, in the lower right corner of its paper. Counted from the corner of the paper.
+constexpr std::array<host::Mark, 1> titleBlock(host::BiText title)
+{
+    return {host::Mark{.symbol = host::Symbol::text,
+                       .from = point(770, 505),
+                       .note = title,
+                       .side = host::Side::left,
+                       .ink = host::Ink::quiet,
+                       .size = 80}};
+}
+/// The paper under the drawing.
+constexpr host::ControlRow paper(host::Handle id, std::string_view name, std::span<const host::Mark> drawing)
+{
+    return {.id = id,
+            .name = name,
+            .kind = host::Kind::image,
+            .place = zones::paper,
+            .look = host::Look::paper,
+            .drawing = drawing};
+}
 /// A picture or image that acts as a button: an option of the sheet, an instrument.
 constexpr host::ControlRow option(host::Handle id, std::string_view name, host::Kind kind, const host::Place& place,
                                   host::BiText meaning, std::span<const host::Mark> drawing)

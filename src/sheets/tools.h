@@ -41,13 +41,15 @@ constexpr host::Place place(int index)
     return at(left + index % 2 * (width + gap), top + index / 2 * (height + gap), width, height);
 }
 
-/// An icon above its caption. Coordinates are those of the button.
-constexpr std::array<host::Mark, 2> face(host::Symbol icon, host::BiText caption)
+constexpr host::Mark caption(host::BiText text)
 {
-    return {
-        host::Mark{.symbol = icon, .from = {27, 6}, .to = {57, 36}},
-        host::Mark{
-            .symbol = host::Symbol::text, .from = {42, 37}, .note = caption, .side = host::Side::below, .size = 72}};
+    return {.symbol = host::Symbol::text, .from = {42, 37}, .note = text, .side = host::Side::below, .size = 72};
+}
+
+/// An icon above its caption. Coordinates are those of the button.
+constexpr std::array<host::Mark, 2> face(host::Symbol icon, host::BiText text)
+{
+    return {host::Mark{.symbol = icon, .from = {27, 6}, .to = {57, 36}}, caption(text)};
 }
 
 // clang-format off
@@ -59,12 +61,12 @@ inline constexpr auto helpOpenFace   = face(host::Symbol::lamp,       {.es = "Ay
 inline constexpr std::array cloneFace{
     host::Mark{.symbol = host::Symbol::page, .from = {23, 6},  .to = {49, 32}},
     host::Mark{.symbol = host::Symbol::page, .from = {36, 11}, .to = {62, 37}},
-    host::Mark{.symbol = host::Symbol::text, .from = {42, 37}, .note = {.es = "Clonar", .en = "Clone"}, .side = host::Side::below, .size = 72},
+    caption({.es = "Clonar", .en = "Clone"}),
 };
 inline constexpr std::array cloneAgainFace{
     host::Mark{.symbol = host::Symbol::page, .from = {36, 6},  .to = {62, 32}},
     host::Mark{.symbol = host::Symbol::page, .from = {23, 11}, .to = {49, 37}},
-    host::Mark{.symbol = host::Symbol::text, .from = {42, 37}, .note = {.es = "Clonar", .en = "Clone"}, .side = host::Side::below, .size = 72},
+    caption({.es = "Clonar", .en = "Clone"}),
 };
 // clang-format on
 

@@ -88,7 +88,7 @@ TEST_P(EveryTable, SaysWhatAPersonMayUseAndHasAPlaceForEachFieldBesideTheOthers)
         EXPECT_TRUE(keeps(places(*shown)));
         EXPECT_TRUE(keeps(overlaps(*shown, neverTogether)));
         if (const auto* sheet = dynamic_cast<const sheets::DesignSheet*>(shown)) {
-            EXPECT_TRUE(keeps(files(window(), sheet->circuitFiles())));
+            EXPECT_TRUE(keeps(files(window(), sheet->tables())));
         }
     }
 }

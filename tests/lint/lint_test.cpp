@@ -60,7 +60,7 @@ TEST(LintSlots, RejectSlotsThatCanNeverRun)
     WindowSpec window = windowOf(rows);
     window.slots = bad;
     EXPECT_EQ(slots(window), (Complaints{"slot 1 waits for an event that \"Label1\" never gets",
-                                         "slot 2 has no function", "slot 3 belongs to a control that does not exist",
+                                         "slot 2 has no function and takes none away", "slot 3 belongs to a control that does not exist",
                                          "slot 4 waits for an event that a window never gets",
                                          "slot 5 waits for an event that \"Text1\" never gets",
                                          "slot 6 waits for an event that \"Text1\" never gets"}));
@@ -92,7 +92,7 @@ TEST(LintShortcuts, RejectKeysThatAreGivenTwiceOrLeadNowhere)
     window.shortcuts = keys;
     EXPECT_EQ(shortcuts(window),
               (Complaints{"the key \"f1\" is given twice", "the key \"F2\" belongs to a control that does not exist",
-                          "the key \"F3\" drags to a control that does not exist",
+                          "the key \"F3\" leads to a control that does not exist",
                           "the key \"F4\" runs a slot that is not there",
                           "the key \"F5\" lacks its meaning in a language", "a shortcut has no key"}));
 }

@@ -223,12 +223,12 @@ TEST(ReportButton, WhereNothingIsAskedAnOpenEditorKeepsItsText)
 {
     SheetProgram program;
     TemplateSheet& sheet = program.newSheet();
-    program.run([&] { sheets::openReport(sheet, false); });
+    program.run([&] { sheet.clickReport(); });
     host::Window& open = *editor(program, "frmEdito2");
     EXPECT_NE(textOf(open).find("Elaboración de Informe"), std::string::npos);
     open.setText(open.named("txtEdit"), "own words");
     program.engine.userActivate(sheet);
-    program.run([&] { sheets::openReport(sheet, false); });
+    program.run([&] { sheet.clickReport(); });
     EXPECT_EQ(textOf(open), "own words");
     EXPECT_EQ(program.engine.current(), &open);
     EXPECT_TRUE(program.screen.boxes.empty());

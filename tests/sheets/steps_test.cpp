@@ -14,7 +14,7 @@ namespace steps_test {
 using host::EventArgs;
 using sheets::Press;
 
-constexpr sheets::BoxText box{.text = {"uno", "one"}, .title = {"dos", "two"}, .flags = 36};
+constexpr sheets::Saying box{.text = {"uno", "one"}, .title = {"dos", "two"}, .flags = 36};
 
 struct Steps : testing::Test {
     EventArgs key(std::int16_t code)
@@ -58,7 +58,7 @@ TEST_F(Steps, EnterGoesOnWithTheBareNumber)
 {
     sheet.setText(Text1, "12.50 V");
     EventArgs args = key(13);
-    EXPECT_EQ(sheet.pressed(args, box), Press::enter);
+    EXPECT_EQ(sheet.pressed(args), Press::enter);
     EXPECT_EQ(sheet.text(Text1), "12.5");
 }
 
@@ -66,9 +66,9 @@ TEST_F(Steps, EnterInAnEmptyFieldSaysTheBoxAndAsksNothing)
 {
     sheet.setText(Text1, "");
     EventArgs args = key(13);
-    EXPECT_EQ(sheet.pressed(args, box), Press::nothing);
+    EXPECT_EQ(sheet.pressed(args), Press::nothing);
     ASSERT_EQ(program.screen.boxes.size(), 1u);
-    EXPECT_EQ(program.screen.boxes[0].text, "uno");
+    EXPECT_EQ(program.screen.boxes[0].text, "Debe colocar una cifra...");
     EXPECT_EQ(sheet.text(Text1), "");
 }
 
@@ -76,7 +76,7 @@ TEST_F(Steps, EscapeAsksForTheDefaultAlsoInAnEmptyField)
 {
     sheet.setText(Text1, "");
     EventArgs args = key(27);
-    EXPECT_EQ(sheet.pressed(args, box), Press::escape);
+    EXPECT_EQ(sheet.pressed(args), Press::escape);
     EXPECT_TRUE(program.screen.boxes.empty());
 }
 
@@ -84,32 +84,32 @@ TEST_F(Steps, AnyOtherKeyAsksNothing)
 {
     for (const std::int16_t code : {std::int16_t{'1'}, std::int16_t{'z'}, std::int16_t{8}, std::int16_t{9}}) {
         EventArgs args = key(code);
-        EXPECT_EQ(sheet.pressed(args, box), Press::nothing) << code;
+        EXPECT_EQ(sheet.pressed(args), Press::nothing) << code;
     }
 }
 
 TEST_F(Steps, ANumberIsReadFromTheBeginningOfAText)
 {
     EXPECT_EQ(text("10 mA"), "10 mA");
-    EXPECT_EQ(sheet.number(Text1), 10.0);
+    EXPECT_EQ(sheet.at(Text1), 10.0);
     text("Res");
-    EXPECT_EQ(sheet.number(Text1), 0.0);
+    EXPECT_EQ(sheet.at(Text1), 0.0);
 }
 
 TEST_F(Steps, AStrictNumberMakesItsFieldBareFirst)
 {
     text("4.70 K");
-    EXPECT_EQ(sheet.strictNumber(Text1), 4.7);
+    EXPECT_EQ(sheet.take(Text1), 4.7);
     EXPECT_EQ(sheet.text(Text1), "4.7");
     text("Res");
-    EXPECT_EQ(sheet.strictNumber(Text1), 0.0);
+    EXPECT_EQ(sheet.take(Text1), 0.0);
     EXPECT_EQ(sheet.text(Text1), "0");
 }
 
 // 1/3 with fifteen digits, and with the four decimals of a result; 2/3 rounds up.
 TEST_F(Steps, FieldsShowFifteenDigitsAndResultsFourDecimals)
 {
-    sheet.writeNumber(Text1, rules::Real(1) / 3.0);
+    sheet.write(Text1, rules::Real(1) / 3.0);
     EXPECT_EQ(sheet.text(Text1), "0.333333333333333");
     EXPECT_EQ(sheet.digits(rules::Real(2) / 3.0), "0.666666666666667");
     EXPECT_EQ(sheet.shown(rules::Real(2) / 3.0), "0.6667");
@@ -119,7 +119,7 @@ TEST_F(Steps, FieldsShowFifteenDigitsAndResultsFourDecimals)
 TEST_F(Steps, NumbersAreWrittenWithTheSeparatorOfTheMoment)
 {
     program.engine.values().DecimalSeparator = ",";
-    sheet.writeNumber(Text1, 2.5);
+    sheet.write(Text1, 2.5);
     EXPECT_EQ(sheet.text(Text1), "2,5");
     EXPECT_EQ(sheet.shown(2.5), "2,5");
 }
@@ -128,7 +128,7 @@ TEST_F(Steps, ARangeLeavesWhatLiesInItAsTyped)
 {
     for (const std::string_view typed : {"3", "30", "12.50", "3 V"}) {
         text(typed);
-        EXPECT_FALSE(sheet.correctToRange(Text1, 3, 30, 12)) << typed;
+        EXPECT_FALSE(sheet.correct(Text1, 3, 30, 12)) << typed;
         EXPECT_EQ(sheet.text(Text1), typed);
     }
 }
@@ -137,7 +137,7 @@ TEST_F(Steps, ARangeCorrectsWhatLiesOutsideAndTheEmptyField)
 {
     for (const std::string_view typed : {"2.999999", "30.000001", "", "Es", "-5"}) {
         text(typed);
-        EXPECT_TRUE(sheet.correctToRange(Text1, 3, 30, 12.5)) << typed;
+        EXPECT_TRUE(sheet.correct(Text1, 3, 30, 12.5)) << typed;
         EXPECT_EQ(sheet.text(Text1), "12.5");
     }
 }
@@ -165,9 +165,9 @@ TEST_F(Steps, GoingToAFieldShowsAndEnablesItFirst)
 TEST_F(Steps, ABoxSpeaksTheLanguageOfTheMomentAndReturnsItsAnswer)
 {
     program.screen.answers = {host::Answer::yes, host::Answer::no};
-    EXPECT_EQ(sheet.say(box), 6);
+    EXPECT_EQ(sheet.tell(box), 6);
     program.english(true);
-    EXPECT_EQ(sheet.say(box), 7);
+    EXPECT_EQ(sheet.tell(box), 7);
     EXPECT_EQ(program.screen.boxes[0].title, "dos");
     EXPECT_EQ(program.screen.boxes[1].text, "one");
     EXPECT_EQ(program.screen.boxes[1].title, "two");
@@ -176,23 +176,25 @@ TEST_F(Steps, ABoxSpeaksTheLanguageOfTheMomentAndReturnsItsAnswer)
 
 TEST_F(Steps, TheBoxOfAnEmptyField)
 {
-    sheet.say(sheets::placeANumber);
+    sheet.tell(sheets::placeANumber);
     program.english(true);
-    sheet.say(sheets::placeANumber);
+    sheet.tell(sheets::placeANumber);
     EXPECT_EQ(program.screen.boxes[0].text, "Debe colocar una cifra...");
     EXPECT_EQ(program.screen.boxes[1].text, " Place a number...");
     EXPECT_EQ(program.screen.boxes[1].title, "Error");
     EXPECT_EQ(program.screen.boxes[1].flags, 48);
 }
 
-TEST_F(Steps, TheBarThatWasChosenComesBack)
+TEST_F(Steps, ARightPressOnThePictureBringsBackTheBarThatWasChosen)
 {
+    EventArgs rightPress;
+    rightPress.button = host::Button::right;
     program.check("mnuFija");
-    program.run([&] { sheets::showBarAsChosen(program.engine.host()); });
+    program.run([&] { sheet.pressPicture(rightPress, {Image35, Image34}); });
     EXPECT_TRUE(program.shownOnMain("Picture14"));
     program.check("mnuFija", false);
     program.check("mnuFlotante");
-    program.run([&] { sheets::showBarAsChosen(program.engine.host()); });
+    program.run([&] { sheet.pressPicture(rightPress, {Image35, Image34}); });
     EXPECT_FALSE(program.shownOnMain("Picture14"));
     EXPECT_TRUE(program.engine.defaultInstance("Form16")->shown());
 }

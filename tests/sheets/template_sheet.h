@@ -99,6 +99,7 @@ inline constexpr auto ownSlots = std::to_array<host::SlotRow>({
     {Text5,           host::Event::key,       host::slot<&TemplateSheet::keyText5>},
     {Text5,           host::Event::lostFocus, nullptr},
     {Text5,           host::Event::mouseDown, host::slot<&TemplateSheet::pressText5>},
+    {SSCommand3,      host::Event::click,     host::slot<&TemplateSheet::openReportAsking>},
     {Picture6,        host::Event::click,     host::slot<&TemplateSheet::clickPicture6>},
     {Picture1,        host::Event::click,     host::slot<&TemplateSheet::clickPicture1>},
 });

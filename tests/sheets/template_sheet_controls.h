@@ -47,6 +47,8 @@ using host::Mark;
 using host::Side;
 using host::Symbol;
 
+inline constexpr auto title = titleBlock({"Resistor de carga", "Load resistor"});
+
 // The schematic, counted from the corner of the sheet: one column at 620.
 inline constexpr auto supply = part({
     Mark{.symbol = Symbol::terminal, .from = {620, 140}, .name = "E_s", .side = Side::right, .value = Text1, .unit = "V", .field = Text1},
@@ -69,7 +71,7 @@ inline constexpr Mark noLampMarks[] = {wire(22, 22, 62, 22)};
 inline constexpr auto controls = [] {
     using namespace controls_detail; // NOLINT(google-build-using-namespace)
     return std::to_array<host::ControlRow>({
-        {.id = Image1, .name = "Image1", .kind = Kind::image, .place = zones::paper, .look = Look::paper},
+        paper(Image1, "Image1", title),
         label(Label11, "Label11", zones::group(94, 3), Look::group),
         label(Label6, "Label6", zones::group(212, 2), Look::group),
         hidden(drawn(Line1, "Line1", Kind::line, supply)),
@@ -83,8 +85,10 @@ inline constexpr auto controls = [] {
         result(ERL, "ERL", at(760, 200, 150, 22)),
         result(RL, "RL", at(760, 230, 150, 22)),
         hidden(label(status1, "status1", at(8, 306, 220, 60), Look::hint)),
-        option(Picture6, "Picture6", Kind::picture, zones::option(0), {"Diseñar con indicador", "Design with the indicator lamp"}, lampMarks),
-        hidden(option(Picture1, "Picture1", Kind::picture, zones::option(1), {"Diseñar sin indicador", "Design without the lamp"}, noLampMarks)),
+        option(Picture6, "Picture6", Kind::picture, zones::option(0),
+               {"Diseñar con indicador", "Design with the indicator lamp"}, lampMarks),
+        hidden(option(Picture1, "Picture1", Kind::picture, zones::option(1),
+                      {"Diseñar sin indicador", "Design without the lamp"}, noLampMarks)),
         guideTool(SSCommand1, "SSCommand1", Kind::button),
         calculatorTool(Image3, "Image3"),
         reportTool(SSCommand3, "SSCommand3", Kind::button),

@@ -15,7 +15,8 @@ namespace report_detail {
 constexpr BiText title{"Elaboración de Informe", "Report Design"};
 constexpr BiText design{"Resistor de carga", "  Load resistor"};
 constexpr BiText exercise{"Ejercicio N° 1 ", "Exercise N° 1 "};
-constexpr BiText statement{"Diseñe la carga de un transistor con los siguientes datos:", "Design the load of a transistor with these data:"};
+constexpr BiText statement{"Diseñe la carga de un transistor con los siguientes datos:",
+                           "Design the load of a transistor with these data:"};
 constexpr std::string_view data[] = {"Es =  12 V ", "Qic =  10 mA "};
 constexpr std::string_view spanishReminder[] = {
     "Recuerde salvar los resultados obtenidos para cada diseño en un archivo",

@@ -14,9 +14,11 @@ namespace template_sheet_test {
 TEST(TemplateSheetFormulas, TheLoadTakesWhatTheTransistorLeaves)
 {
     // (12 V - 6 V) / 10 mA = 0.6 K; 10 mA x 0.6 K = 6 V
-    EXPECT_DOUBLE_EQ(loadResistor(12, 6, 10).value(), 0.6);
+    EXPECT_DOUBLE_EQ(loadResistor(12, 6, 0, 10).value(), 0.6);
+    // with the lamp, (12 V - 6 V - 2 V) / 10 mA = 0.4 K
+    EXPECT_DOUBLE_EQ(loadResistor(12, 6, 2, 10).value(), 0.4);
     EXPECT_DOUBLE_EQ(loadVoltage(10, 0.6).value(), 6);
-    EXPECT_THROW(loadResistor(12, 6, 0), host::ProgramFailure);
+    EXPECT_THROW(loadResistor(12, 6, 0, 0), host::ProgramFailure);
 }
 
 TEST(TemplateSheetDesign, AWholeDesignInSpanish)

@@ -21,9 +21,11 @@ using sheets::When;
 // field, moment, place, Spanish, English
 inline constexpr auto sayings = std::to_array<Saying>({
     placeANumber,
-    {Text1, When::focus, SSPanel1, {"Coloque la tensión de alimentación, de 3 a 30 Volts.", "Place the supply voltage, from 3 to 30 Volts."}},
+    {Text1, When::focus, SSPanel1, {"Coloque la tensión de alimentación, de 3 a 30 Volts.",
+                                    "Place the supply voltage, from 3 to 30 Volts."}},
     {Text1, When::hover, status1,  {"Es, alimentación", "Es, supply"}},
-    {Text2, When::focus, SSPanel1, {"Coloque la temperatura ambiente en la que operará el circuito.", "Place the ambient temperature at which the circuit will work."}},
+    {Text2, When::focus, SSPanel1, {"Coloque la temperatura ambiente en la que operará el circuito.",
+                                    "Place the ambient temperature at which the circuit will work."}},
     {Text2, When::hover, status1,  {"T, temperatura", "T, temperature"}},
     {Text3, When::focus, SSPanel1, {"Coloque la corriente de reposo en mA.", "Place the quiescent current in mA."}},
     {Text3, When::hover, status1,  {"QIc, corriente de reposo", "QIc, quiescent current"}},
@@ -59,7 +61,8 @@ inline constexpr BiText helpText{"RL queda entre la alimentación y el colector.
 
 // Pages of the fields, in the order in which tags are tested.
 inline constexpr auto helpPages = std::to_array<HelpPage>({
-    {Text1, " Es...",  {"Es es la tensión de la fuente.\n\nSe acepta de 3 a 30 Volts.", "Es is the voltage of the supply.\n\nFrom 3 to 30 Volts is accepted."}},
+    {Text1, " Es...",  {"Es es la tensión de la fuente.\n\nSe acepta de 3 a 30 Volts.",
+                        "Es is the voltage of the supply.\n\nFrom 3 to 30 Volts is accepted."}},
     {Text3, " QIc...", {"QIc es la corriente de reposo.\n\nRL = (Es - Eq) / QIc", "QIc is the quiescent current.\n\nRL = (Es - Eq) / QIc"}},
 });
 // clang-format on
