@@ -9,7 +9,8 @@ namespace velmor::sheets::notation {
 
 // clang-format off
 // stability
-inline constexpr Quantity dQIc{"ΔQ_Ic", "%",     {"Variación admitida de la corriente de reposo", "Allowed change of the quiescent current"}};
+inline constexpr Quantity dQIc{"ΔQ_Ic", "%",     {"Variación admisible de la corriente de reposo",
+                                          "Allowed change of the quiescent current"}};
 inline constexpr Quantity T   {"T",     "°C",    {"Temperatura ambiente de trabajo", "Ambient temperature of work"}};
 inline constexpr Quantity dVbe{"ΔV_be", "mV/°C", {"Corrimiento de Vbe por grado", "Drift of Vbe per degree"}};
 inline constexpr Quantity S   {"S",     "",      {"Factor de estabilidad", "Stability factor"}};
