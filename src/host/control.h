@@ -82,6 +82,7 @@ struct ControlRow {
     bool checked = false;
     bool overlay = false;               ///< lies above the fields (help boxes, grown panels)
     bool clickableWhenDisabled = false; ///< the mouse counts on it even when it is disabled
+    bool chosenWhenDisabled = false;    ///< of a button: disabled says that it is in force, and it looks so
     std::int16_t fontSize = 8;          ///< points
     std::int32_t interval = 0;          ///< of a timer: milliseconds between two firings
     std::int32_t backColor = -1;        ///< 0xRRGGBB, -1 the look's own

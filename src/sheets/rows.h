@@ -26,6 +26,28 @@ consteval std::array<Row, (Counts + ...)> joined(const std::array<Row, Counts>&.
     return all;
 }
 
+/// The same slot for several controls.
+template <std::size_t Count>
+consteval std::array<host::SlotRow, Count> alike(const std::array<host::Handle, Count>& controls, host::Event event,
+                                                 host::SlotFunction run)
+{
+    std::array<host::SlotRow, Count> rows{};
+    for (std::size_t i = 0; i < Count; ++i)
+        rows[i] = {controls[i], event, run};
+    return rows;
+}
+
+/// The same slot for every field of a chain.
+template <std::size_t Count>
+consteval std::array<host::SlotRow, Count> alike(const std::array<ChainRow, Count>& chain, host::Event event,
+                                                 host::SlotFunction run)
+{
+    std::array<host::Handle, Count> fields{};
+    for (std::size_t i = 0; i < Count; ++i)
+        fields[i] = chain[i].field;
+    return alike(fields, event, run);
+}
+
 // What makes two rows the same row of two tables.
 constexpr bool sameRow(const ChainRow& one, const ChainRow& other)
 {

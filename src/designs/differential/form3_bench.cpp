@@ -43,30 +43,32 @@ std::string pageOf(const ProbeRow& row, std::int16_t language)
 
 } // namespace bench
 
-void Form3::hideFunctions()
+// --- on and off
+
+void Form3::hideMeter()
 {
     hide(Image3, c1, C3, c4, c5, SSPanel2, Option1, Option2);
+    hideReading();
 }
 
+void Form3::hideReading()
+{
+    hide(Shape12, Shape13, Shape14, Shape15, Shape16);
+}
+
+// The page stands where the fields are while these are hidden.
 void Form3::showFields(bool shown)
 {
     for (Handle field = Text1; field <= Text15; ++field)
         setVisible(field, shown);
-    for (const Handle ground : {Label6, Label11})
-        setVisible(ground, shown);
-    placePage();
-}
-
-void Form3::placePage()
-{
-    setPlaceOf(SSPanel4, !visible(Text1)   ? pageInsteadOfFields
-                         : visible(Image3) ? pageUnderInstrument
-                                           : pageBesidePicture);
+    setVisible(Label6, shown);
+    setVisible(Label11, shown);
+    setPlaceOf(SSPanel4, shown ? pageBelowTools : pageInsteadOfFields);
 }
 
 void Form3::HideBench()
 {
-    hideFunctions();
+    hideMeter();
     hide(Label36, SSPanel3, Image14, Image15, c6, c7, Label37);
     hide(Image16, Image17, Image18, Image19, Image20, Image21);
     showFields(true);
@@ -75,7 +77,7 @@ void Form3::HideBench()
 
 void Form3::powerOn(host::EventArgs& args)
 {
-    setText(SSPanel4, pick(finished() ? texts::meterPage : texts::benchPage));
+    write(SSPanel4, finished() ? texts::meterPage : texts::benchPage);
     hide(Image23, Image25);
     enable(c1, C3, c4, c5, c6, c7);
     setChecked(Option1, true);
@@ -95,10 +97,9 @@ void Form3::showMeter()
 {
     hide(Image24);
     for (const GeneratorPart& row : generatorParts)
-        setPlaceOf(row.part, row.underMeter);
+        setPlaceOf(row.part, row.besideMeter);
     borrowDrawing(Image3, Shape5);
     show(Image3, c1, c4, c5, C3, SSPanel2, Option1, Option2);
-    placePage();
 }
 
 void Form3::showGenerator()
@@ -113,10 +114,8 @@ void Form3::showGenerator()
 void Form3::powerOff()
 {
     HideBench();
-    if (finished()) {
-        hideFunctions();
+    if (finished())
         hide(SSPanel4);
-    }
 }
 
 // What the mouse does with a click and a double click on the instrument, and with a click on the sheet.
@@ -138,7 +137,7 @@ void Form3::runKey(host::EventArgs& args)
         }
 }
 
-// The function chosen is the one whose button is disabled.
+// The function in force cannot be pressed again.
 void Form3::selectFunction(host::EventArgs& args)
 {
     for (const bench::FunctionButton& row : bench::functionButtons)
@@ -168,20 +167,15 @@ void Form3::setInputs(const InputSignals& signals)
     }
 }
 
-void Form3::teach(const host::BiText& page)
-{
-    setText(SSPanel4, pick(page));
-}
-
 void Form3::dropOnInput1(host::EventArgs& args)
 {
     if (args.source != Image14 && args.source != Image15)
         return;
     enable(c6, c7);
     setInputs({args.source == Image14 ? Signal::A : Signal::B, Signal::ground});
-    setText(SSPanel3, pick(texts::testInOut));
+    write(SSPanel3, texts::testInOut);
     if (args.source == Image14)
-        teach(texts::teachingPage);
+        write(SSPanel4, texts::teachingPage);
 }
 
 void Form3::dropOnInput2(host::EventArgs& args)
@@ -194,7 +188,7 @@ void Form3::dropOnInput2(host::EventArgs& args)
     const bool joins = atInput1 == dropped || (atInput1 == Signal::A && dropped == Signal::B);
     setInputs({joins ? atInput1 : Signal::ground, dropped});
     if (atInput1 != dropped)
-        teach(texts::teachingPage);
+        write(SSPanel4, texts::teachingPage);
 }
 
 void Form3::clickPoint(host::EventArgs& args)
@@ -210,7 +204,7 @@ void Form3::probe(Handle point)
         return;
     const std::int16_t language = row->englishOnly ? host::trueValue : host().values().LanguageIsEnglish;
     setText(SSPanel4, bench::pageOf(*row, language));
-    setText(SSPanel3, pick(row->panel));
+    write(SSPanel3, row->panel);
     showWaves(row->waves, point);
 }
 
@@ -230,23 +224,30 @@ void Form3::showWaves(Waves waves, Handle point)
     setVisible(Image25, two || waves == Waves::Image25);
 }
 
+// The function in force is the one whose button is disabled.
+Function Form3::function() const
+{
+    for (const bench::FunctionButton& row : bench::functionButtons)
+        if (!enabled(row.button))
+            return row.function;
+    return Function::none;
+}
+
 void Form3::measure(Handle point)
 {
     if (!visible(SSPanel2) || !isMeterPoint(point))
         return;
-    Function function = Function::none;
-    for (const bench::FunctionButton& row : bench::functionButtons)
-        if (!enabled(row.button))
-            function = row.function;
-    const MeterRow* row = meterRow(point, checked(Option2) ? Current::dc : Current::ac, function);
     hide(Label37);
+    hideReading();
+    const MeterRow* row = meterRow(point, checked(Option2) ? Current::dc : Current::ac, function());
     if (row == nullptr || (row->finishedOnly && !finished())) {
         setText(SSPanel2, "");
         return;
     }
     const Real value = row->value(q_);
-    setText(SSPanel2, row->whole ? sheets::digits(*this, rules::TruncToInteger(value)) : sheets::shown(*this, value));
-    setText(SSPanel1, pick(row->unit));
+    setText(SSPanel2, row->whole ? whole(value) : shown(value));
+    show(row->unit.onFace);
+    write(SSPanel1, row->unit.prompt);
     if (!row->comment.empty()) {
         setText(Label37, row->comment);
         show(Label37);
@@ -261,9 +262,9 @@ void Form3::clickCommonMode(host::EventArgs& args)
         return;
     setEnabled(c6, args.control != c6);
     setEnabled(c7, args.control != c7);
-    setText(SSPanel3, pick(texts::testInEmitter));
+    write(SSPanel3, texts::testInEmitter);
     if (args.control == c7)
-        teach(texts::cmrrPage);
+        write(SSPanel4, texts::cmrrPage);
 }
 
 void Form3::clickEmitter(host::EventArgs& args)
@@ -277,10 +278,10 @@ void Form3::tellCommonMode()
 {
     if (!enabled(c6)) {
         setText(SSPanel3, "SMC = 2");
-        teach(texts::smcPage);
+        write(SSPanel4, texts::smcPage);
     } else if (!enabled(c7)) {
         setText(SSPanel3, "CMRR = 100");
-        teach(texts::cmrrMeasured);
+        write(SSPanel4, texts::cmrrMeasured);
     }
 }
 

@@ -3,84 +3,89 @@
 // it is left. The values that the student rounds come after them.
 #include "designs/differential/form3.h"
 #include "designs/differential/form3_texts.h"
+#include "sheets/formulas.h"
+
+#include <algorithm>
 
 namespace velmor::form3 {
 
 using host::Handle;
-using sheets::enterKey;
-using sheets::goTo;
-using sheets::isEmpty;
-using sheets::makeBare;
-using sheets::number;
-using sheets::writeNumber;
 
-void Form3::beginField(Handle field)
+namespace chain_detail {
+
+constexpr double silicon = 0.6; // V
+constexpr double germanium = 0.2;
+
+double defaultOf(Handle field)
 {
-    const texts::FieldRow* row = texts::fieldRow(field);
-    if (row != nullptr && isEmpty(*this, field))
-        writeNumber(*this, field, row->whenEmpty);
-    tellAbout(field);
-    if (field == Text1)
-        setText(SSPanel1, pick(texts::enterPrompt));
+    return std::find_if(defaults.begin(), defaults.end(), [field](const Default& row) { return row.field == field; })->value;
 }
+
+} // namespace chain_detail
+
+using namespace chain_detail;
+
+// --- every field
 
 void Form3::focusField(host::EventArgs& args)
 {
-    beginField(args.control);
+    if (isEmpty(args.control))
+        write(args.control, defaultOf(args.control));
+    tellAbout(args.control);
 }
 
-// What a key begins with. Enter also puts away the help on pointing that F2 has left there.
-bool Form3::isEnter(host::EventArgs& args)
+// What a key begins with. A key that the filter lets through changes the design; Enter makes the field bare and puts away the
+// help on pointing that F2 has left there.
+bool Form3::entered(host::EventArgs& args)
 {
-    if (sheets::filteredKey(*this, args) != enterKey)
+    const std::int16_t key = filteredKey(args);
+    if (key != sheets::enterKey) {
+        q_.passed = q_.passed && (key == 0 || key == sheets::escapeKey);
         return false;
-    endPointing();
+    }
+    hideNotes();
+    if (!isEmpty(args.control))
+        makeBare(args.control);
     return true;
 }
 
-// The sheet has no Esc key and no test at Enter: an empty field is passed, and leaving it puts its default in.
 void Form3::keyField(host::EventArgs& args)
 {
-    if (!isEnter(args))
-        return;
-    if (!isEmpty(*this, args.control))
-        makeBare(*this, args.control);
-    goTo(*this, texts::fieldRow(args.control)->next);
+    if (entered(args))
+        goTo(chainRow(args.control).next);
 }
 
 bool Form3::sayEmpty(Handle field)
 {
-    if (!isEmpty(*this, field))
+    if (!isEmpty(field))
         return false;
-    say(*this, sheets::placeANumber);
+    q_.passed = false;
+    tell(sheets::placeANumber);
     return true;
-}
-
-void Form3::settleField(Handle field)
-{
-    const texts::FieldRow& row = *texts::fieldRow(field);
-    if (sayEmpty(field))
-        writeNumber(*this, field, row.left);
-    sheets::correctToRange(*this, field, row.low, row.high, row.otherwise);
 }
 
 void Form3::leaveField(host::EventArgs& args)
 {
-    settleField(args.control);
-    if (args.control == Text1)
-        host().values().TemperaturaCompartida = texts::startTemperature;
+    if (sayEmpty(args.control))
+        write(args.control, defaultOf(args.control));
+    if (correct(args.control))
+        q_.passed = false;
 }
 
-void Form3::clickField(host::EventArgs&)
+// A click runs the field's slots anew on the sheet of the design.
+void Form3::clickField(host::EventArgs& args)
 {
     HideBench();
+    host().SetFocus(*this, args.control);
 }
 
+// --- T
+
 // Always what the conversion left, as a whole number.
-void Form3::focusTemperature()
+void Form3::focusTemperature(host::EventArgs& args)
 {
-    writeNumber(*this, Text6, static_cast<double>(rules::RoundToInt16(host().values().TemperaturaCompartida)));
-    beginField(Text6);
+    write(Text6, rules::RoundToInt16(host().values().TemperaturaCompartida));
+    focusField(args);
 }
 
 void Form3::pressTemperature(host::EventArgs& args)
@@ -89,10 +94,12 @@ void Form3::pressTemperature(host::EventArgs& args)
         host().Show("Form22");
 }
 
-void Form3::focusQIc()
+// --- QIc
+
+void Form3::focusQIc(host::EventArgs& args)
 {
     disable(Text10, Text11, Text12, Text13, Text14, Text15, Text2, Text3, Text4, Text5);
-    beginField(Text9);
+    focusField(args);
 }
 
 bool Form3::tooMuchQIc() const
@@ -102,36 +109,24 @@ bool Form3::tooMuchQIc() const
 
 void Form3::keyQIc(host::EventArgs& args)
 {
-    if (!isEnter(args))
+    if (!entered(args))
         return;
-    if (!isEmpty(*this, Text9))
-        makeBare(*this, Text9);
-    q_.QIc = number(*this, Text9);
-    q_.IcMax = number(*this, Text3);
+    q_.QIc = at(Text9);
+    q_.IcMax = at(Text3);
     if (tooMuchQIc())
-        say(*this, texts::stability);
+        tell(texts::stability);
     else
-        goTo(*this, Text10);
+        goTo(Text10);
 }
 
-void Form3::clickQIc()
-{
-    HideBench();
-    host().SetFocus(*this, Text9);
-}
+// --- Eopp and Ein
 
-void Form3::leaveEopp()
+void Form3::leaveEopp(host::EventArgs& args)
 {
-    settleField(Text14);
-    q_.Vg = number(*this, Text12);
-    q_.Eopp = number(*this, Text14);
+    leaveField(args);
+    q_.Vg = at(Text12);
+    q_.Eopp = at(Text14);
     fillEin();
-}
-
-void Form3::clickEopp()
-{
-    HideBench();
-    host().SetFocus(*this, Text14);
 }
 
 // Without a gain yet the field keeps its text.
@@ -139,8 +134,8 @@ void Form3::fillEin()
 {
     if (q_.Vg == Real(0.0))
         return;
-    q_.Ein = einOf(q_.Eopp, q_.Vg);
-    setText(Text15, sheets::shown(*this, q_.Ein));
+    q_.Ein = sheets::inputForOutput(q_.Eopp, q_.Vg);
+    setText(Text15, shown(q_.Ein));
 }
 
 void Form3::focusEin()
@@ -156,38 +151,42 @@ void Form3::clickEin()
 }
 
 // Passing through the field changes Eopp by 0.707 x 1.41 and the rounding: 10 at Vg 64 becomes 9.9625, as on the blackboard.
-void Form3::leaveEin()
+void Form3::leaveEin(host::EventArgs& args)
 {
     if (sayEmpty(Text15)) {
-        goTo(*this, Text1);
+        goTo(Text1);
         return;
     }
-    settleField(Text15);
-    q_.Vg = number(*this, Text12);
-    q_.Ein = number(*this, Text15);
-    q_.Eopp = eoppOf(q_.Ein, q_.Vg);
-    setText(Text14, sheets::shown(*this, q_.Eopp));
+    leaveField(args);
+    q_.Vg = at(Text12);
+    q_.Ein = at(Text15);
+    q_.Eopp = sheets::outputForInput(q_.Ein, q_.Vg);
+    setText(Text14, shown(q_.Eopp));
 }
+
+// --- Beta
 
 // The only place where Beta is read: a value typed and left without coming back is not used. What is no number, as an odd
 // file may bring it, counts as what leaving will make of it.
-void Form3::focusBeta()
+void Form3::focusBeta(host::EventArgs& args)
 {
-    beginField(Text5);
-    q_.Beta = number(*this, Text5);
+    focusField(args);
+    q_.Beta = at(Text5);
     if (q_.Beta == Real(0.0))
-        q_.Beta = texts::fieldRow(Text5)->otherwise;
+        q_.Beta = chainRow(Text5).otherwise;
 }
+
+// --- Vj
 
 void Form3::leaveVj()
 {
     if (sayEmpty(Text4))
-        writeNumber(*this, Text4, texts::silicon);
-    const Real vj = number(*this, Text4);
-    if (vj < texts::silicon)
-        writeNumber(*this, Text4, texts::germanium);
-    else if (vj > texts::silicon)
-        writeNumber(*this, Text4, texts::silicon);
+        write(Text4, silicon);
+    const Real vj = at(Text4);
+    if (vj < silicon)
+        write(Text4, germanium);
+    else if (vj > silicon)
+        write(Text4, silicon);
     proposeEbias();
 }
 

@@ -7,6 +7,7 @@
 
 #include "host/window.h"
 #include "sheets/design_sheet.h"
+#include "sheets/tools.h"
 
 namespace velmor::form3 {
 
@@ -14,9 +15,9 @@ namespace velmor::form3 {
 enum Control : host::Handle {
     // grounds, headings and pictures
     Label11, Label6, Image1, image2,
-    // parts of the picture, pale and as the chain reaches them: -Ebias, Res, both RL, Es
-    Line1, Line2, Line3, Line4, Shape1, Shape2, Shape3, Shape4,
-    // faces that `Image3` borrows, and the mark that the meter's points borrow
+    // parts of the didactic picture that come with the chain: -Ebias, Res, both RL, Es
+    Shape1, Shape2, Shape3, Shape4,
+    // the meter's face, which `Image3` borrows, and the ring that the meter's points borrow
     Shape5, Shape6, Image3,
     // results beside their parts
     Label22, Label28, Label29, Label30, Label31, Label32, Label33, Label35, Label38, Label39, Label40,
@@ -28,8 +29,8 @@ enum Control : host::Handle {
     Image4, Image5, Image6, Image7, Image8, Image9, Image10, Image11, Image12, Image22, Image24, Image26,
     // what stands at the inputs and outputs, and the two sinusoids
     Image16, Image17, Image18, Image19, Image20, Image21, Image23, Image25, Image14, Image15,
-    // the instrument
-    SSPanel2, c1, c4, c5, C3, Option1, Option2, Label37, c6, c7, Image30, Image33,
+    // the instrument; the reading with its unit: V, mA, W, mW, ohm
+    SSPanel2, Shape12, Shape13, Shape14, Shape15, Shape16, c1, c4, c5, C3, Option1, Option2, Label37, c6, c7, Image30, Image33,
     // the teacher's voice
     SSPanel1, SSPanel3, SSPanel4, StatusBar1, Label36,
     // help on pointing: its text, and the five formulas as they are drawn
@@ -42,8 +43,11 @@ enum Control : host::Handle {
 };
 // clang-format on
 
-/// The rows of the shortcut table that run a deed of their own.
-enum Shortcut : std::int16_t { powerKey = 0, backKey = 23 };
+inline constexpr sheets::Tools tools{
+    .guide = Image29, .calculator = Image27, .report = Image28, .clone = {Image32, Image31}, .help = {Image35, Image34}};
+
+/// The rows of the shortcut table that run a deed of their own; they stand before the others.
+enum Shortcut : std::int16_t { powerKey, backKey };
 
 /// Where a point lies in the didactic picture and where in the finished design.
 struct PointPlaces {
@@ -52,13 +56,6 @@ struct PointPlaces {
     host::Place finished{};
 };
 extern const std::span<const PointPlaces> pointPlaces;
-
-/// A part of the didactic picture: pale at first, in ink once the chain has reached it.
-struct GrowingPart {
-    host::Handle pale = host::noControl;
-    host::Handle inked = host::noControl;
-};
-extern const std::array<GrowingPart, 4> growingParts;
 
 /// Points that only the meter touches: they are marked once the design is finished.
 extern const std::array<host::Handle, 5> meterPoints;
@@ -70,19 +67,17 @@ struct WavePlaces {
 };
 extern const std::array<WavePlaces, 3> wavePlaces;
 
-/// The sinusoids and buttons of the generator: on its face, or under the meter when both are on.
+/// The sinusoids and buttons of the generator: on its face, or beside the picture when the meter has taken its place.
 struct GeneratorPart {
     host::Handle part = host::noControl;
     host::Place onFace{};
-    host::Place underMeter{};
+    host::Place besideMeter{};
 };
 extern const std::span<const GeneratorPart> generatorParts;
 
-/// The page `SSPanel4`: in the place of the fields while they are hidden, else beside the picture, under the instrument
-/// while it is on.
+/// The page `SSPanel4`: in the place of the fields while they are hidden, else below the tools.
 extern const host::Place pageInsteadOfFields;
-extern const host::Place pageUnderInstrument;
-extern const host::Place pageBesidePicture;
+extern const host::Place pageBelowTools;
 
 /// Where `Label43` goes when the design is finished.
 inline constexpr int finishedLeftOfLabel43 = 9040;

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
-// What `Form3` draws: the didactic picture, the parts that the chain inks in, the finished design, the instruments and the
+// What `Form3` draws: the didactic picture, the parts that come with the chain, the finished design, the instruments and the
 // formulas. Units are those of the drawing grid, from the left top corner of each control; tables alone.
 #pragma once
 
+#include <array>
+
 #include "designs/differential/form3_controls.h"
+#include "sheets/schematic.h"
 
 namespace velmor::form3::drawings {
 
@@ -15,38 +18,33 @@ using host::Mark;
 using host::Side;
 using host::Symbol;
 
+/// Corner of the circuit's own grid, on which both pictures stand, in units of the sheet.
+inline constexpr GridPoint circuit = sheets::point(260, 80);
+/// The paper below the circuit.
+inline constexpr host::Place paper = sheets::at(236, 94, 722, 518);
+
+/// Marks of the circuit's grid as the paper counts them.
+template <std::size_t Count>
+consteval std::array<Mark, Count> onPaper(const Mark (&marks)[Count])
+{
+    constexpr int right = circuit.x - paper.left / sheets::twipsPerUnit;
+    constexpr int down = circuit.y - paper.top / sheets::twipsPerUnit;
+    std::array<Mark, Count> moved = std::to_array(marks);
+    for (Mark& mark : moved) {
+        mark.from = sheets::point(mark.from.x + right, mark.from.y + down);
+        if (mark.to.x != 0 || mark.to.y != 0)
+            mark.to = sheets::point(mark.to.x + right, mark.to.y + down);
+    }
+    return moved;
+}
+
 // clang-format off
 
 // Both pictures stand on the same grid: the supply rail at 60, collectors at 240 and 440, bases at 250, the tail at 340.
 
-// What is still to be designed stands there pale and gives way to the part as the chain reaches it.
-
-constexpr Mark paleNegativeSupply[] = {
-    {.symbol = Symbol::wire, .from = {340, 390}, .to = {340, 440}, .ink = Ink::quiet},
-    {.symbol = Symbol::terminal, .from = {340, 440}, .name = "-E_bias", .side = Side::right, .ink = Ink::quiet},
-};
-constexpr Mark paleTail[] = {
-    {.symbol = Symbol::wire, .from = {340, 310}, .to = {340, 330}, .ink = Ink::quiet},
-    {.symbol = Symbol::resistor, .from = {340, 330}, .to = {340, 390}, .name = "R_es", .side = Side::right, .ink = Ink::quiet},
-};
-constexpr Mark paleCollectorResistors[] = {
-    {.symbol = Symbol::resistor, .from = {240, 80}, .to = {240, 140}, .name = "R_L", .side = Side::left, .ink = Ink::quiet},
-    {.symbol = Symbol::wire, .from = {240, 140}, .to = {240, 180}, .ink = Ink::quiet},
-    {.symbol = Symbol::resistor, .from = {440, 80}, .to = {440, 140}, .name = "R_L", .side = Side::right, .ink = Ink::quiet},
-    {.symbol = Symbol::wire, .from = {440, 140}, .to = {440, 180}, .ink = Ink::quiet},
-};
-constexpr Mark palePositiveSupply[] = {
-    {.symbol = Symbol::wire, .from = {240, 60}, .to = {440, 60}, .ink = Ink::quiet},
-    {.symbol = Symbol::wire, .from = {240, 60}, .to = {240, 80}, .ink = Ink::quiet},
-    {.symbol = Symbol::wire, .from = {440, 60}, .to = {440, 80}, .ink = Ink::quiet},
-    {.symbol = Symbol::wire, .from = {340, 36}, .to = {340, 60}, .ink = Ink::quiet},
-    {.symbol = Symbol::node, .from = {340, 60}, .ink = Ink::quiet},
-    {.symbol = Symbol::terminal, .from = {340, 36}, .name = "+E_s", .side = Side::right, .ink = Ink::quiet},
-};
-
-constexpr Mark didactic[] = {
+inline constexpr auto didactic = onPaper({
     // the pair
-    {.symbol = Symbol::npn, .from = {210, 250}, .name = "Q_1", .field = Text5},
+    Mark{.symbol = Symbol::npn, .from = {210, 250}, .name = "Q_1", .field = Text5},
     {.symbol = Symbol::npnLeft, .from = {470, 250}, .name = "Q_2", .field = Text5},
     {.symbol = Symbol::wire, .from = {240, 180}, .to = {240, 220}},
     {.symbol = Symbol::wire, .from = {440, 180}, .to = {440, 220}},
@@ -72,39 +70,39 @@ constexpr Mark didactic[] = {
     {.symbol = Symbol::node, .from = {440, 180}},
     {.symbol = Symbol::meter, .from = {240, 180}, .to = {440, 180}, .name = "V", .ink = Ink::quiet},
     {.symbol = Symbol::text, .from = {340, 156}, .name = "Out 3", .side = Side::above, .ink = Ink::quiet},
-    {.symbol = Symbol::text, .from = {20, 492}, .note = {.es = "Ejemplo de caracter didactico,  no apto para diseño...",
+    {.symbol = Symbol::text, .from = {14, 444}, .note = {.es = "Ejemplo de caracter didactico,  no apto para diseño...",
                                                          .en = "Example of didactic character, not capable for design."},
-     .ink = Ink::quiet},
-};
+     .ink = Ink::quiet, .size = 90},
+});
 
-// The parts as the chain reaches them. Their names serve the fields beside them, which bear none of their own.
+// The parts that come with the chain. Their names serve the fields beside them, which bear none of their own.
 
-constexpr Mark negativeSupply[] = {
-    {.symbol = Symbol::wire, .from = {340, 390}, .to = {340, 440}},
+inline constexpr auto negativeSupply = onPaper({
+    Mark{.symbol = Symbol::wire, .from = {340, 390}, .to = {340, 440}},
     {.symbol = Symbol::terminal, .from = {340, 440}, .name = "-E_bias", .side = Side::right, .field = Text8},
-};
-constexpr Mark tail[] = {
-    {.symbol = Symbol::wire, .from = {340, 310}, .to = {340, 330}},
+});
+inline constexpr auto tail = onPaper({
+    Mark{.symbol = Symbol::wire, .from = {340, 310}, .to = {340, 330}},
     {.symbol = Symbol::resistor, .from = {340, 330}, .to = {340, 390}, .name = "R_es", .side = Side::right, .field = Text16},
-};
-constexpr Mark collectorResistors[] = {
-    {.symbol = Symbol::resistor, .from = {240, 80}, .to = {240, 140}, .name = "R_L", .side = Side::left, .field = Text17},
+});
+inline constexpr auto collectorResistors = onPaper({
+    Mark{.symbol = Symbol::resistor, .from = {240, 80}, .to = {240, 140}, .name = "R_L", .side = Side::left, .field = Text17},
     {.symbol = Symbol::wire, .from = {240, 140}, .to = {240, 180}},
     {.symbol = Symbol::resistor, .from = {440, 80}, .to = {440, 140}, .name = "R_L", .side = Side::right, .field = Text17},
     {.symbol = Symbol::wire, .from = {440, 140}, .to = {440, 180}},
-};
-constexpr Mark positiveSupply[] = {
-    {.symbol = Symbol::wire, .from = {240, 60}, .to = {440, 60}},
+});
+inline constexpr auto positiveSupply = onPaper({
+    Mark{.symbol = Symbol::wire, .from = {240, 60}, .to = {440, 60}},
     {.symbol = Symbol::wire, .from = {240, 60}, .to = {240, 80}},
     {.symbol = Symbol::wire, .from = {440, 60}, .to = {440, 80}},
-    {.symbol = Symbol::wire, .from = {340, 36}, .to = {340, 60}},
+    {.symbol = Symbol::wire, .from = {340, 40}, .to = {340, 60}},
     {.symbol = Symbol::node, .from = {340, 60}},
-    {.symbol = Symbol::terminal, .from = {340, 36}, .name = "+E_s", .side = Side::right, .field = Text18},
-};
+    {.symbol = Symbol::terminal, .from = {340, 40}, .name = "+E_s", .side = Side::right, .field = Text18},
+});
 
-constexpr Mark finished[] = {
-    {.symbol = Symbol::terminal, .from = {340, 36}, .name = "+E_s", .side = Side::right, .field = Text18},
-    {.symbol = Symbol::wire, .from = {340, 36}, .to = {340, 60}},
+inline constexpr auto finished = onPaper({
+    Mark{.symbol = Symbol::terminal, .from = {340, 40}, .name = "+E_s", .side = Side::right, .field = Text18},
+    {.symbol = Symbol::wire, .from = {340, 40}, .to = {340, 60}},
     {.symbol = Symbol::wire, .from = {240, 60}, .to = {440, 60}},
     {.symbol = Symbol::node, .from = {340, 60}},
     {.symbol = Symbol::wire, .from = {240, 60}, .to = {240, 80}},
@@ -136,11 +134,11 @@ constexpr Mark finished[] = {
     {.symbol = Symbol::ground, .from = {180, 390}},
     {.symbol = Symbol::capacitor, .from = {110, 250}, .to = {160, 250}},
     {.symbol = Symbol::wire, .from = {160, 250}, .to = {180, 250}},
-    {.symbol = Symbol::wire, .from = {92, 250}, .to = {110, 250}},
-    {.symbol = Symbol::wire, .from = {92, 250}, .to = {92, 290}},
-    {.symbol = Symbol::generator, .from = {92, 290}, .to = {92, 350}, .field = Text15},
-    {.symbol = Symbol::wire, .from = {92, 350}, .to = {92, 390}},
-    {.symbol = Symbol::ground, .from = {92, 390}},
+    {.symbol = Symbol::wire, .from = {90, 250}, .to = {110, 250}},
+    {.symbol = Symbol::wire, .from = {90, 250}, .to = {90, 290}},
+    {.symbol = Symbol::generator, .from = {90, 290}, .to = {90, 350}, .field = Text15},
+    {.symbol = Symbol::wire, .from = {90, 350}, .to = {90, 390}},
+    {.symbol = Symbol::ground, .from = {90, 390}},
     {.symbol = Symbol::label, .from = {70, 296}, .name = "E_in", .side = Side::left, .field = Text15},
     // input 2
     {.symbol = Symbol::wire, .from = {470, 250}, .to = {500, 250}},
@@ -151,28 +149,28 @@ constexpr Mark finished[] = {
     {.symbol = Symbol::ground, .from = {500, 390}},
     {.symbol = Symbol::wire, .from = {500, 250}, .to = {520, 250}},
     {.symbol = Symbol::capacitor, .from = {520, 250}, .to = {570, 250}},
-    {.symbol = Symbol::wire, .from = {570, 250}, .to = {588, 250}},
-    {.symbol = Symbol::terminal, .from = {588, 250}},
-    {.symbol = Symbol::text, .from = {588, 262}, .name = "Ent 2", .side = Side::below},
+    {.symbol = Symbol::wire, .from = {570, 250}, .to = {590, 250}},
+    {.symbol = Symbol::terminal, .from = {590, 250}},
+    {.symbol = Symbol::text, .from = {590, 262}, .name = "Ent 2", .side = Side::below},
     // output 1
     {.symbol = Symbol::wire, .from = {200, 180}, .to = {240, 180}},
     {.symbol = Symbol::capacitor, .from = {150, 180}, .to = {200, 180}},
-    {.symbol = Symbol::wire, .from = {36, 180}, .to = {150, 180}},
-    {.symbol = Symbol::wire, .from = {36, 180}, .to = {36, 290}},
-    {.symbol = Symbol::resistor, .from = {36, 290}, .to = {36, 350}, .field = Text10},
-    {.symbol = Symbol::label, .from = {24, 278}, .name = "R_Lw", .side = Side::left, .field = Text10},
-    {.symbol = Symbol::wire, .from = {36, 350}, .to = {36, 390}},
-    {.symbol = Symbol::ground, .from = {36, 390}},
-    {.symbol = Symbol::text, .from = {36, 158}, .name = "Out 1", .side = Side::above, .field = Text14},
+    {.symbol = Symbol::wire, .from = {40, 180}, .to = {150, 180}},
+    {.symbol = Symbol::wire, .from = {40, 180}, .to = {40, 290}},
+    {.symbol = Symbol::resistor, .from = {40, 290}, .to = {40, 350}, .field = Text10},
+    {.symbol = Symbol::label, .from = {28, 278}, .name = "R_Lw", .side = Side::left, .field = Text10},
+    {.symbol = Symbol::wire, .from = {40, 350}, .to = {40, 390}},
+    {.symbol = Symbol::ground, .from = {40, 390}},
+    {.symbol = Symbol::text, .from = {40, 158}, .name = "Out 1", .side = Side::above, .field = Text14},
     // output 2
     {.symbol = Symbol::wire, .from = {440, 180}, .to = {480, 180}},
     {.symbol = Symbol::capacitor, .from = {480, 180}, .to = {530, 180}},
-    {.symbol = Symbol::wire, .from = {530, 180}, .to = {644, 180}},
-    {.symbol = Symbol::wire, .from = {644, 180}, .to = {644, 290}},
-    {.symbol = Symbol::resistor, .from = {644, 290}, .to = {644, 350}, .name = "R_Lw", .side = Side::left, .field = Text10},
-    {.symbol = Symbol::wire, .from = {644, 350}, .to = {644, 390}},
-    {.symbol = Symbol::ground, .from = {644, 390}},
-};
+    {.symbol = Symbol::wire, .from = {530, 180}, .to = {640, 180}},
+    {.symbol = Symbol::wire, .from = {640, 180}, .to = {640, 290}},
+    {.symbol = Symbol::resistor, .from = {640, 290}, .to = {640, 350}, .name = "R_Lw", .side = Side::left, .field = Text10},
+    {.symbol = Symbol::wire, .from = {640, 350}, .to = {640, 390}},
+    {.symbol = Symbol::ground, .from = {640, 390}},
+});
 
 // The bench. A sinusoid of the generator stands on a little screen of its own.
 
@@ -187,82 +185,82 @@ constexpr Mark markGround[] = {{.symbol = Symbol::wire, .from = {0, 20}, .to = {
                                {.symbol = Symbol::ground, .from = {20, 20}}};
 constexpr Mark groundLeft[] = {{.symbol = Symbol::wire, .from = {20, 20}, .to = {40, 20}},
                                {.symbol = Symbol::ground, .from = {20, 20}}};
-constexpr Mark screenA[] = {{.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {92, 78}},
-                            {.symbol = Symbol::text, .from = {8, 13}, .name = "A", .ink = Ink::accent},
-                            {.symbol = Symbol::sine, .from = {14, 18}, .to = {78, 66}}};
-constexpr Mark screenB[] = {{.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {92, 78}},
-                            {.symbol = Symbol::text, .from = {8, 13}, .name = "B", .ink = Ink::accent},
-                            {.symbol = Symbol::sineInverted, .from = {14, 18}, .to = {78, 66}}};
+constexpr Mark screenA[] = {{.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {72, 50}},
+                            {.symbol = Symbol::text, .from = {7, 12}, .name = "A", .ink = Ink::accent},
+                            {.symbol = Symbol::sine, .from = {16, 9}, .to = {64, 41}}};
+constexpr Mark screenB[] = {{.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {72, 50}},
+                            {.symbol = Symbol::text, .from = {7, 12}, .name = "B", .ink = Ink::accent},
+                            {.symbol = Symbol::sineInverted, .from = {16, 9}, .to = {64, 41}}};
 
 constexpr Mark generatorFace[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {228, 186}},
-    {.symbol = Symbol::text, .from = {114, 20}, .note = {.es = "GENERADOR", .en = "GENERATOR"}, .side = Side::above, .ink = Ink::quiet},
-    {.symbol = Symbol::circle, .from = {10, 8}, .to = {18, 16}, .ink = Ink::accent},
-    {.symbol = Symbol::terminal, .from = {59, 128}}, {.symbol = Symbol::terminal, .from = {169, 128}},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {610, 62}},
+    {.symbol = Symbol::circle, .from = {12, 9}, .to = {20, 17}, .ink = Ink::accent},
+    {.symbol = Symbol::text, .from = {28, 13}, .note = {.es = "GENERADOR", .en = "GENERATOR"}, .ink = Ink::quiet, .size = 80},
+    {.symbol = Symbol::wire, .from = {276, 31}, .to = {290, 31}}, {.symbol = Symbol::terminal, .from = {290, 31}},
 };
 constexpr Mark meterFace[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {228, 186}},
-    {.symbol = Symbol::circle, .from = {10, 8}, .to = {18, 16}, .ink = Ink::accent},
-    {.symbol = Symbol::text, .from = {114, 20}, .note = {.es = "MULTÍMETRO", .en = "MULTIMETER"}, .side = Side::above, .ink = Ink::quiet},
-    {.symbol = Symbol::terminal, .from = {180, 172}, .name = "-", .side = Side::left},
-    {.symbol = Symbol::terminal, .from = {204, 172}, .ink = Ink::accent},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {610, 62}},
+    {.symbol = Symbol::circle, .from = {12, 9}, .to = {20, 17}, .ink = Ink::accent},
+    {.symbol = Symbol::text, .from = {28, 13}, .note = {.es = "MULTÍMETRO", .en = "MULTIMETER"}, .ink = Ink::quiet, .size = 80},
+    {.symbol = Symbol::frame, .from = {12, 22}, .to = {232, 56}, .ink = Ink::quiet},
 };
+/// The reading in its display, the unit behind it.
+constexpr Mark readingIn(std::string_view unit)
+{
+    return {.symbol = Symbol::text, .from = {224, 39}, .side = Side::left, .value = SSPanel2, .unit = unit, .size = 170};
+}
+constexpr Mark readingV[]    = {readingIn("V")};
+constexpr Mark readingMa[]   = {readingIn("mA")};
+constexpr Mark readingW[]    = {readingIn("W")};
+constexpr Mark readingMw[]   = {readingIn("mW")};
+constexpr Mark readingOhms[] = {readingIn("Ω")};
+
 constexpr Mark generatorButton[] = {
-    {.symbol = Symbol::oscilloscope, .from = {12, 6}, .to = {40, 34}},
-    {.symbol = Symbol::text, .from = {52, 20}, .note = {.es = "Generador de señales", .en = "Signal generator"}},
+    {.symbol = Symbol::oscilloscope, .from = {27, 6}, .to = {57, 36}},
+    {.symbol = Symbol::text, .from = {42, 37}, .note = {.es = "Generador", .en = "Generator"}, .side = Side::below, .size = 72},
 };
 constexpr Mark meterButton[] = {
-    {.symbol = Symbol::multimeter, .from = {12, 6}, .to = {40, 34}},
-    {.symbol = Symbol::text, .from = {52, 20}, .note = {.es = "Multímetro", .en = "Multimeter"}},
+    {.symbol = Symbol::multimeter, .from = {27, 6}, .to = {57, 36}},
+    {.symbol = Symbol::text, .from = {42, 37}, .note = {.es = "Multímetro", .en = "Multimeter"}, .side = Side::below, .size = 72},
 };
 
 // Fractions as they stand on the blackboard.
 
 constexpr Mark formulaERes[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}, .ink = Ink::quiet},
-    {.symbol = Symbol::label, .from = {12, 26}, .name = "E_Res  ="},
-    {.symbol = Symbol::text, .from = {180, 16}, .name = "(Tamb. - 25°) x (dVbe) x 100", .side = Side::above, .size = 118},
-    {.symbol = Symbol::wire, .from = {66, 26}, .to = {294, 26}},
-    {.symbol = Symbol::text, .from = {180, 33}, .name = "(dQic)", .side = Side::below, .size = 118},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {220, 64}, .ink = Ink::quiet},
+    {.symbol = Symbol::label, .from = {8, 32}, .name = "E_Res  =", .size = 90},
+    {.symbol = Symbol::text, .from = {134, 22}, .name = "(Tamb. - 25°) x (dVbe) x 100", .side = Side::above, .size = 84},
+    {.symbol = Symbol::wire, .from = {58, 32}, .to = {210, 32}},
+    {.symbol = Symbol::text, .from = {134, 40}, .name = "(dQic)", .side = Side::below, .size = 84},
 };
 constexpr Mark formulaRes[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}, .ink = Ink::quiet},
-    {.symbol = Symbol::label, .from = {12, 26}, .name = "R_es  ="},
-    {.symbol = Symbol::text, .from = {92, 16}, .name = "Ebias", .side = Side::above, .size = 118},
-    {.symbol = Symbol::wire, .from = {60, 26}, .to = {124, 26}},
-    {.symbol = Symbol::text, .from = {92, 33}, .name = "2 x Qic", .side = Side::below, .size = 118},
-    {.symbol = Symbol::text, .from = {166, 26}, .name = "Ebias = Eres + 1", .size = 118},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {220, 64}, .ink = Ink::quiet},
+    {.symbol = Symbol::label, .from = {8, 32}, .name = "R_es  =", .size = 90},
+    {.symbol = Symbol::text, .from = {78, 22}, .name = "Ebias", .side = Side::above},
+    {.symbol = Symbol::wire, .from = {52, 32}, .to = {104, 32}},
+    {.symbol = Symbol::text, .from = {78, 40}, .name = "2 x Qic", .side = Side::below},
+    {.symbol = Symbol::text, .from = {118, 32}, .name = "Ebias = Eres + 1"},
 };
 constexpr Mark formulaRL[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}, .ink = Ink::quiet},
-    {.symbol = Symbol::text, .from = {10, 26}, .name = "RLac = Vg x 2.5 x r'e", .size = 108},
-    {.symbol = Symbol::text, .from = {168, 26}, .name = "Rl  =", .size = 108},
-    {.symbol = Symbol::text, .from = {250, 16}, .name = "RLw x RLac", .side = Side::above, .size = 108},
-    {.symbol = Symbol::wire, .from = {202, 26}, .to = {298, 26}},
-    {.symbol = Symbol::text, .from = {250, 33}, .name = "(RLw - RLac)", .side = Side::below, .size = 108},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {220, 64}, .ink = Ink::quiet},
+    {.symbol = Symbol::text, .from = {10, 12}, .name = "RLac = Vg x 2.5 x r'e", .size = 90},
+    {.symbol = Symbol::text, .from = {10, 42}, .name = "Rl  =", .size = 90},
+    {.symbol = Symbol::text, .from = {84, 33}, .name = "RLw x RLac", .side = Side::above, .size = 90},
+    {.symbol = Symbol::wire, .from = {42, 42}, .to = {126, 42}},
+    {.symbol = Symbol::text, .from = {84, 48}, .name = "(RLw - RLac)", .side = Side::below, .size = 90},
 };
 constexpr Mark formulaEs[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}, .ink = Ink::quiet},
-    {.symbol = Symbol::text, .from = {20, 16}, .name = "EQ(min) = 1 + Eopp", .size = 118},
-    {.symbol = Symbol::text, .from = {20, 37}, .name = "Es(min) = EQ(min) + ERl", .size = 118},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {220, 64}, .ink = Ink::quiet},
+    {.symbol = Symbol::text, .from = {12, 22}, .name = "EQ(min) = 1 + Eopp"},
+    {.symbol = Symbol::text, .from = {12, 43}, .name = "Es(min) = EQ(min) + ERl"},
 };
 constexpr Mark formulaRe[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {308, 52}, .ink = Ink::quiet},
-    {.symbol = Symbol::label, .from = {12, 26}, .name = "r'_e  ="},
-    {.symbol = Symbol::text, .from = {92, 16}, .name = "25 mV", .side = Side::above, .size = 118},
-    {.symbol = Symbol::wire, .from = {60, 26}, .to = {124, 26}},
-    {.symbol = Symbol::text, .from = {92, 33}, .name = "Qic", .side = Side::below, .size = 118},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {220, 64}, .ink = Ink::quiet},
+    {.symbol = Symbol::label, .from = {8, 32}, .name = "r'_e  =", .size = 90},
+    {.symbol = Symbol::text, .from = {78, 22}, .name = "25 mV", .side = Side::above},
+    {.symbol = Symbol::wire, .from = {52, 32}, .to = {104, 32}},
+    {.symbol = Symbol::text, .from = {78, 40}, .name = "Qic", .side = Side::below},
 };
-
-constexpr Mark calculatorMark[] = {{.symbol = Symbol::calculator, .from = {9, 7}, .to = {33, 31}}};
-constexpr Mark reportMark[]     = {{.symbol = Symbol::page, .from = {9, 7}, .to = {33, 31}}};
-constexpr Mark guideMark[]      = {{.symbol = Symbol::book, .from = {9, 7}, .to = {33, 31}}};
-constexpr Mark cloneMark[]      = {{.symbol = Symbol::frame, .from = {11, 9}, .to = {25, 23}},
-                                   {.symbol = Symbol::frame, .from = {17, 15}, .to = {31, 29}}};
-constexpr Mark cloneOtherMark[] = {{.symbol = Symbol::frame, .from = {17, 9}, .to = {31, 23}},
-                                   {.symbol = Symbol::frame, .from = {11, 15}, .to = {25, 29}}};
-constexpr Mark helpMark[]       = {{.symbol = Symbol::question, .from = {9, 7}, .to = {33, 31}}};
-constexpr Mark hideHelpMark[]   = {{.symbol = Symbol::lamp, .from = {9, 7}, .to = {33, 31}}};
 
 // clang-format on
 

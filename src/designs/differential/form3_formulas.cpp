@@ -3,6 +3,7 @@
 #include "designs/differential/form3_formulas.h"
 
 #include "rules/numbers.h"
+#include "sheets/formulas.h"
 
 namespace velmor::form3 {
 
@@ -11,24 +12,9 @@ Real leastERes(Real T, Real dVbe, Real dQic)
     return ((T - 20.0) * dVbe * 100.0 * 0.001) / dQic;
 }
 
-Real einOf(Real Eopp, Real Vg)
-{
-    return ((Eopp / 2.0) * 0.707) / Vg;
-}
-
-Real eoppOf(Real Ein, Real Vg)
-{
-    return ((Ein * 1.41) * 2.0) * Vg;
-}
-
 Real resOf(Real Ebias, Real QIc)
 {
     return Ebias / (QIc * 2.0);
-}
-
-Real dynamicRe(Real TailCurrent)
-{
-    return Real(25.0) / (TailCurrent / 2.0);
 }
 
 Real rlacOf(Real Vg, Real ReDyn)
@@ -41,11 +27,6 @@ bool loadEqualsRlac(Real RLw, Real RLac)
     return RLw * 1000.0 - RLac == Real(0.0);
 }
 
-Real rlOf(Real RLw, Real RLac)
-{
-    return ((RLw * 1000.0) * RLac) / ((RLw * 1000.0) - RLac);
-}
-
 Real rlForEopp(Real Eopp, Real QIc)
 {
     return rules::TruncToInteger(((Eopp / 2.0) + 1.0) / QIc);
@@ -56,11 +37,6 @@ Real zinOf(Real Beta, Real ReDyn)
     return (Beta * 2.0) * ReDyn;
 }
 
-Real cciOf(Real fo, Real Zin)
-{
-    return Real(1.0) / (((Real(6.28) * fo) * 0.1) * Zin);
-}
-
 Real ccoOf(Real fo, Real RLw)
 {
     return Real(1.0) / ((((Real(6.28) * fo) * 0.1) * RLw) * 1000.0);
@@ -68,9 +44,7 @@ Real ccoOf(Real fo, Real RLw)
 
 Real vgOf(Real RL, Real RLw, Real ReDyn)
 {
-    const Real rl = RL * 1000.0;
-    const Real rlw = RLw * 1000.0;
-    return ((rl * rlw) / (rl + rlw)) / (Real(2.5) * ReDyn);
+    return sheets::parallel(RL * 1000.0, RLw * 1000.0) / (2.5 * ReDyn);
 }
 
 Real vrms(const Quantities& q)
@@ -88,24 +62,9 @@ Real inputPower(const Quantities& q)
     return ((q.Ein * q.Ein) / q.Zin) * 1000.0;
 }
 
-Real collectorVoltage(const Quantities& q)
-{
-    return q.EQ;
-}
-
-Real collectorCurrent(const Quantities& q)
-{
-    return q.QIc;
-}
-
 Real bothCurrents(const Quantities& q)
 {
     return q.QIc * 2.0;
-}
-
-Real negativeSupply(const Quantities& q)
-{
-    return q.Ebias;
 }
 
 Real negativePower(const Quantities& q)
@@ -113,19 +72,9 @@ Real negativePower(const Quantities& q)
     return (q.Ebias * q.QIc * 2.0) / 1000.0;
 }
 
-Real positiveSupply(const Quantities& q)
-{
-    return q.Es;
-}
-
 Real positivePower(const Quantities& q)
 {
     return (q.Es * q.QIc * 2.0) / 1000.0;
-}
-
-Real emitterVoltage(const Quantities& q)
-{
-    return q.Vj;
 }
 
 Real baseVoltage(const Quantities& q)
@@ -136,16 +85,6 @@ Real baseVoltage(const Quantities& q)
 Real baseCurrent(const Quantities& q)
 {
     return q.QIc / q.Beta;
-}
-
-Real inputVoltage(const Quantities& q)
-{
-    return q.Ein;
-}
-
-Real inputImpedance(const Quantities& q)
-{
-    return q.Zin;
 }
 
 Real loadImpedance(const Quantities& q)

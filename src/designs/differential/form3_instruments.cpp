@@ -62,17 +62,17 @@ constexpr std::array<ProbeRow, 27> probeTable{{
     {Image4,  AB,      "Out 3 = 5 V",       Waves::Image23,   blank,          true},
 }};
 
-constexpr host::BiText volts         {.es = "   Tensión en Volts ",                       .en = "   Voltage in V     "};
-constexpr host::BiText current       {.es = "  Corriente  en mA  ",                       .en = "  Current in mA     "};
-constexpr host::BiText totalCurrent  {.es = "  Corriente total en mA  ",                  .en = "  Current in mA     "};
-constexpr host::BiText power         {.es = "   Potencia eficaz en Watts   ",             .en = "   Power (r.m.s.) in Watts    "};
-constexpr host::BiText milliPower    {.es = "   Potencia eficaz en mW   ",                .en = "   Power (r.m.s.) in mW    "};
-constexpr host::BiText currentOfBase {.es = " Corriente de base en mA ",                  .en = " Current Base in mA "};
-constexpr host::BiText entranceVolts {.es = " Tensión de entrada en valor eficaz ",       .en = " Entrance voltage (r.m.s.) "};
-constexpr host::BiText entranceOhms  {.es = "  Impedancia de entrada en Ohms. ",          .en = "  Entrance impedance ( Ohms ). "};
-constexpr host::BiText loadOhms      {.es = "  Impedancia de carga en Ohms. ",            .en = "  Load impedance ( Ohms ). "};
-constexpr host::BiText cutoffOhms    {.es = "  Impedancia de entrada en Ohms a la frecuencia de corte. ",
-                                      .en = "  Impedancia de entrada en Ohms a la frecuencia de corte. "};
+constexpr MeterUnit volts         {{"   Tensión en Volts ", "   Voltage in V     "}, Shape12};
+constexpr MeterUnit current       {{"  Corriente  en mA  ", "  Current in mA     "}, Shape13};
+constexpr MeterUnit totalCurrent  {{"  Corriente total en mA  ", "  Current in mA     "}, Shape13};
+constexpr MeterUnit power         {{"   Potencia eficaz en Watts   ", "   Power (r.m.s.) in Watts    "}, Shape14};
+constexpr MeterUnit milliPower    {{"   Potencia eficaz en mW   ", "   Power (r.m.s.) in mW    "}, Shape15};
+constexpr MeterUnit currentOfBase {{" Corriente de base en mA ", " Current Base in mA "}, Shape13};
+constexpr MeterUnit entranceVolts {{" Tensión de entrada en valor eficaz ", " Entrance voltage (r.m.s.) "}, Shape12};
+constexpr MeterUnit entranceOhms  {{"  Impedancia de entrada en Ohms. ", "  Entrance impedance ( Ohms ). "}, Shape16};
+constexpr MeterUnit loadOhms      {{"  Impedancia de carga en Ohms. ", "  Load impedance ( Ohms ). "}, Shape16};
+constexpr MeterUnit cutoffOhms    {{"  Impedancia de entrada en Ohms a la frecuencia de corte. ",
+                                    "  Impedancia de entrada en Ohms a la frecuencia de corte. "}, Shape16};
 
 constexpr auto dc = Current::dc;
 constexpr auto ac = Current::ac;
@@ -82,38 +82,38 @@ constexpr auto W = Function::W;
 constexpr auto Z = Function::Z;
 
 constexpr std::array<MeterRow, 31> meterTable{{
-    // point   current function value                     unit           comment     whole  finished only
-    {Image4,  dc, V, collectorVoltage,       volts,         "Guau !",   false, true},
-    {Image4,  dc, I, collectorCurrent,       current,       "",         false, true},
-    {Image4,  ac, V, vrms,                   volts},
-    {Image4,  ac, W, outputPower,            power},
-    {Image5,  dc, V, negativeSupply,         volts},
-    {Image5,  dc, I, bothCurrents,           totalCurrent},
-    {Image5,  dc, W, negativePower,          power},
-    {Image6,  dc, V, positiveSupply,         volts},
-    {Image6,  dc, I, bothCurrents,           totalCurrent},
-    {Image6,  dc, W, positivePower,          power},
-    {Image7,  dc, V, positiveSupply,         volts},
-    {Image7,  dc, I, collectorCurrent,       current},
-    {Image7,  dc, W, positivePower,          power},
-    {Image8,  dc, V, emitterVoltage,         volts,         "",         false, true},
-    {Image8,  dc, I, collectorCurrent,       current,       "",         false, true},
-    {Image9,  dc, V, baseVoltage,            volts,         "Ah ja.!"},
-    {Image9,  dc, I, baseCurrent,            currentOfBase},
-    {Image9,  ac, V, inputVoltage,           entranceVolts},
-    {Image9,  ac, W, inputPower,             milliPower},
-    {Image9,  ac, Z, inputImpedance,         entranceOhms,  "",         true},
-    {Image10, dc, V, baseVoltage,            volts},
-    {Image10, dc, I, baseCurrent,            currentOfBase},
-    {Image11, ac, V, outputAtCutoff,         volts,         "Hmm..."},
-    {Image11, ac, W, outputPowerAtCutoff,    power},
-    {Image11, ac, Z, loadImpedance,          loadOhms},
-    {Image26, ac, V, outputAtCutoff,         volts,         "Hmm..."},
-    {Image26, ac, W, outputPowerAtCutoff,    power},
-    {Image26, ac, Z, loadImpedance,          loadOhms},
-    {Image12, ac, V, inputAtCutoff,          entranceVolts},
-    {Image12, ac, W, inputPowerAtCutoff,     milliPower},
-    {Image12, ac, Z, inputImpedanceAtCutoff, cutoffOhms,    "",         true},
+    // point, current, function, value, unit, comment, whole, finished only
+    {Image4,  dc, V, reading<&Quantities::EQ>,    volts,         "Guau !",  false, true},
+    {Image4,  dc, I, reading<&Quantities::QIc>,   current,       "",        false, true},
+    {Image4,  ac, V, vrms,                        volts},
+    {Image4,  ac, W, outputPower,                 power},
+    {Image5,  dc, V, reading<&Quantities::Ebias>, volts},
+    {Image5,  dc, I, bothCurrents,                totalCurrent},
+    {Image5,  dc, W, negativePower,               power},
+    {Image6,  dc, V, reading<&Quantities::Es>,    volts},
+    {Image6,  dc, I, bothCurrents,                totalCurrent},
+    {Image6,  dc, W, positivePower,               power},
+    {Image7,  dc, V, reading<&Quantities::Es>,    volts},
+    {Image7,  dc, I, reading<&Quantities::QIc>,   current},
+    {Image7,  dc, W, positivePower,               power},
+    {Image8,  dc, V, reading<&Quantities::Vj>,    volts,         "",        false, true},
+    {Image8,  dc, I, reading<&Quantities::QIc>,   current,       "",        false, true},
+    {Image9,  dc, V, baseVoltage,                 volts,         "Ah ja.!"},
+    {Image9,  dc, I, baseCurrent,                 currentOfBase},
+    {Image9,  ac, V, reading<&Quantities::Ein>,   entranceVolts},
+    {Image9,  ac, W, inputPower,                  milliPower},
+    {Image9,  ac, Z, reading<&Quantities::Zin>,   entranceOhms,  "",        true},
+    {Image10, dc, V, baseVoltage,                 volts},
+    {Image10, dc, I, baseCurrent,                 currentOfBase},
+    {Image11, ac, V, outputAtCutoff,              volts,         "Hmm..."},
+    {Image11, ac, W, outputPowerAtCutoff,         power},
+    {Image11, ac, Z, loadImpedance,               loadOhms},
+    {Image26, ac, V, outputAtCutoff,              volts,         "Hmm..."},
+    {Image26, ac, W, outputPowerAtCutoff,         power},
+    {Image26, ac, Z, loadImpedance,               loadOhms},
+    {Image12, ac, V, inputAtCutoff,               entranceVolts},
+    {Image12, ac, W, inputPowerAtCutoff,          milliPower},
+    {Image12, ac, Z, inputImpedanceAtCutoff,      cutoffOhms,    "",        true},
 }};
 // clang-format on
 

@@ -42,12 +42,18 @@ std::span<const ProbeRow> probeRows();
 enum class Current : std::uint8_t { dc, ac };
 enum class Function : std::uint8_t { none, V, A, W, Z };
 
+/// What the meter says beside a number.
+struct MeterUnit {
+    host::BiText prompt{};                ///< for `SSPanel1`
+    host::Handle onFace = host::noControl; ///< shows the reading with its unit
+};
+
 struct MeterRow {
     host::Handle point = host::noControl;
     Current current = Current::dc;
     Function function = Function::none;
     Real (*value)(const Quantities&) = nullptr;
-    host::BiText unit{};        ///< for `SSPanel1`
+    MeterUnit unit{};
     std::string_view comment{}; ///< for `Label37`
     bool whole = false;         ///< cut to a whole number, not rounded to four decimals
     bool finishedOnly = false;  ///< there is nothing to measure in the didactic picture

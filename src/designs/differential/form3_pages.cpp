@@ -3,97 +3,7 @@
 // the bench is always Vg = 100 with 0.1 V at input 1.
 #include "designs/differential/form3_texts.h"
 
-#include "designs/differential/form3_controls.h"
-
 namespace velmor::form3::texts {
-
-namespace pages {
-
-// clang-format off
-constexpr StatusRow lessons[] = {
-    {Text1, {.es = "La estabilidad primero.\n\n"
-                   "¿Cuánto puede cambiar la corriente de reposo cuando la temperatura sube de 20 ºC a la de trabajo?\n\n"
-                   "Cuanto menos permita, mayor será la fuente negativa.",
-             .en = "Stability first.\n\n"
-                   "How much may the quiescent current change when the temperature rises from 20 ºC to that of work?\n\n"
-                   "The less you allow, the higher the negative supply."}},
-    {Text6, {.es = "La temperatura más alta en la que trabajará el equipo, adentro de su gabinete.\n\n"
-                   "Con el botón derecho puede convertirla desde Fahrenheit ó Kelvin.",
-             .en = "The highest temperature in which the equipment will work, inside its case.\n\n"
-                   "With the right button you can convert it from Fahrenheit or Kelvin."}},
-    {Text7, {.es = "La tensión Base - Emisor cae unos milivoltios por cada grado.\n\n"
-                   "En un par diferencial los dos transistores cambian juntos, y la diferencia se cancela. La corriente de reposo no: de ella cuida Res.",
-             .en = "The Base - Emitter voltage falls some millivolts for each degree.\n\n"
-                   "In a long tail pair both transistors change together, and the difference cancels. The quiescent current does not: Res takes care of it."}},
-    {Text9, {.es = "La corriente de cada transistor sin señal. Por Res circulan las dos.\n\n"
-                   "Fija r'e = 25 mV / Qic, y con ella la ganancia y la impedancia de entrada.\n\n"
-                   "Con cargas pequeñas deberá elevarla.",
-             .en = "The current of each transistor without a signal. In Res flow both.\n\n"
-                   "It fixes r'e = 25 mV / Qic, and with it the gain and the input impedance.\n\n"
-                   "With small loads you will have to raise it."}},
-    {Text10, {.es = "La resistencia que se conecta a cada salida, después de Cco.\n\n"
-                    "Debe ser mayor que RLac = Vg x 2.5 x r'e; si no, Qic es insuficiente.",
-              .en = "The resistance connected to each output, behind Cco.\n\n"
-                    "It must be larger than RLac = Vg x 2.5 x r'e; if not, Qic is insufficient."}},
-    {Text11, {.es = "Cuántas veces mayor que Res puede ser el resistor de base: Rb2 = S x Res.\n\n"
-                    "Con S = 1 la base queda firme; con S mayor sube la impedancia y baja la estabilidad.",
-              .en = "How many times larger than Res the resistor of the base may be: Rb2 = S x Res.\n\n"
-                    "With S = 1 the base stands firm; a larger S raises the impedance and lowers the stability."}},
-    {Text12, {.es = "La ganancia de tensión de una salida contra masa. Entre los dos colectores obtendrá el doble.\n\n"
-                    "Al final del diseño el cuadro muestra la ganancia que resulta con los valores comerciales.",
-              .en = "The voltage gain of one output against ground. Between the two collectors you get twice as much.\n\n"
-                    "At the end of the design the field shows the gain that comes out with the commercial values."}},
-    {Text13, {.es = "La frecuencia más baja de interés. En ella la ganancia cae un 10 %.\n\n"
-                    "De fo salen los capacitores: cuanto más baja, más grandes.",
-              .en = "The lowest frequency of interest. There the gain falls 10 %.\n\n"
-                    "From fo come the capacitors: the lower it is, the larger they are."}},
-    {Text14, {.es = "La tensión de salida pico a pico que debe entregar cada colector.\n\n"
-                    "EQ(min) = 1 + Eopp: la señal necesita lugar para moverse, y un voltio más.",
-              .en = "The output voltage peak to peak that each collector must deliver.\n\n"
-                    "EQ(min) = 1 + Eopp: the signal needs room to move, and one volt more."}},
-    {Text15, {.es = "La señal de entrada, en valor eficaz, que produce esa salida.\n\n"
-                    "Si la cambia, Eopp se calcula de nuevo.",
-              .en = "The input signal, r.m.s., that makes that output.\n\n"
-                    "If you change it, Eopp is worked out anew."}},
-    {Text5, {.es = "Beta (hFE) según el Manual del transistor, a la corriente Qic. Los dos deben ser apareados.\n\n"
-                   "Zin = Beta x 2 x r'e",
-             .en = "Beta (hFE) as the transistor's Manual gives it, at the current Qic. Both must be matched.\n\n"
-                   "Zin = Beta x 2 x r'e"}},
-    {Text2, {.es = "La tensión que soporta el transistor entre Colector y Emisor. EQ no debe superarla.",
-             .en = "The voltage that the transistor supports between Collector and Emitter. EQ should not pass it."}},
-    {Text3, {.es = "La corriente de Colector que soporta el transistor. Qic no debe superar el 40 %.",
-             .en = "The Collector current that the transistor supports. Qic should not pass 40 % of it."}},
-    {Text4, {.es = "La juntura Base - Emisor: 0.6 V en Silicio, 0.2 V en Germanio.\n\n"
-                   "Con este dato el programa calcula la mínima fuente negativa.",
-             .en = "The Base - Emitter junction: 0.6 V in Silicon, 0.2 V in Germanium.\n\n"
-                   "With it the program works out the least negative supply."}},
-    {Text8, {.es = "ERes = ((T - 20) x ΔVbe x 100) / % ΔQic\n\n"
-                   "El programa propone un voltio más. Coloque una fuente que tenga: 15, 24, 30 V.\n\n"
-                   "Con menos, el amplificador no cumple la estabilidad que pidió.",
-             .en = "ERes = ((T - 20) x ΔVbe x 100) / % ΔQic\n\n"
-                   "The program proposes one volt more. Place a supply that you have: 15, 24, 30 V.\n\n"
-                   "With less, the amplifier does not keep the stability you asked for."}},
-    {Text16, {.es = "Res = Ebias / (2 x Qic)\n\n"
-                    "Por Res circulan las corrientes de los dos transistores. Coloque el valor comercial más próximo: Qic se calcula de nuevo.",
-              .en = "Res = Ebias / (2 x Qic)\n\n"
-                    "In Res flow the currents of both transistors. Place the nearest commercial value: Qic is worked out anew."}},
-    {Text17, {.es = "RL y la carga RLw, en paralelo, forman RLac.\n\n"
-                    "Con el valor comercial el programa calcula ERl = Qic x RL, que debe llegar a la mitad de Eopp.",
-              .en = "RL and the load RLw, in parallel, make RLac.\n\n"
-                    "With the commercial value the program works out ERl = Qic x RL, which must reach half of Eopp."}},
-    {Text18, {.es = "Es = EQ + ERl\n\n"
-                    "Coloque una fuente que supere la mínima. Con Enter termina el diseño, y el multímetro espera.",
-              .en = "Es = EQ + ERl\n\n"
-                    "Place a supply that passes the least one. With Enter the design is finished, and the multimeter waits."}},
-};
-// clang-format on
-
-} // namespace pages
-
-std::span<const StatusRow> lessonRows()
-{
-    return pages::lessons;
-}
 
 // clang-format off
 const BiText benchPage{
@@ -112,13 +22,13 @@ const BiText benchPage{
 const BiText meterPage{
     .es = "Multímetro encendido.\n\n"
           "1. Elija CA (AC) ó CC (DC) y una función: V tensión, A corriente, W potencia, Z impedancia. La función "
-          "elegida queda apagada.\n"
+          "elegida queda marcada.\n"
           "2. Haga clic en un punto del circuito y lea.\n\n"
           "Con A aparece el punto entre colectores (Out 3). En las cargas y en la entrada se mide a la frecuencia de "
           "corte fo: difieren un 10 % de las frecuencias medias.",
     .en = "Multimeter on.\n\n"
-          "1. Choose AC or DC and a function: V voltage, A current, W power, Z impedance. The function chosen is the "
-          "one that is greyed.\n"
+          "1. Choose AC or DC and a function: V voltage, A current, W power, Z impedance. The function chosen "
+          "stands marked.\n"
           "2. Click on a point of the circuit and read.\n\n"
           "With A the point between the collectors (Out 3) appears. At the loads and at the input you measure at the "
           "cut-off frequency fo: 10 % off mid-band."};
@@ -209,7 +119,7 @@ const std::string_view englishHelp =
     "Ctrl+1, Ctrl+2: A to input 1, 2.\n"
     "Ctrl+3, Ctrl+4: B to input 1, 2.\n"
     "Ctrl+5, 6, 7, 8: Out 1, 2, 3 and the point of the meter.\n"
-    "F1 shows and hides this page.";
+    "Shift+F1 shows and hides this page.";
 const std::string_view spanishHelp =
     "  Que hay para hacer...?\n\n"
     "EL DISEÑO\n"
@@ -236,7 +146,7 @@ const std::string_view spanishHelp =
     "Ctrl+1, Ctrl+2: A a la entrada 1, 2.\n"
     "Ctrl+3, Ctrl+4: B a la entrada 1, 2.\n"
     "Ctrl+5, 6, 7, 8: Out 1, 2, 3 y el punto del multímetro.\n"
-    "F1 muestra y oculta esta página.";
+    "Shift+F1 muestra y oculta esta página.";
 const std::string_view commercialValues =
     "20%\t10%\t5%\n"
     "1\t1\t1\n"

@@ -158,8 +158,7 @@ std::string spanish(const Form3& sheet)
 
 std::string Form3::reportText() const
 {
-    const bool isEnglish = host().values().LanguageIsEnglish == host::trueValue;
-    return isEnglish ? report::english(*this) : report::spanish(*this);
+    return inEnglish() ? report::english(*this) : report::spanish(*this);
 }
 
 } // namespace velmor::form3

@@ -3,22 +3,20 @@
 // end of the design. Leaving one of them decides by itself where the focus goes on.
 #include "designs/differential/form3.h"
 #include "designs/differential/form3_texts.h"
+#include "sheets/formulas.h"
 
 namespace velmor::form3 {
 
-using host::BiText;
 using host::Handle;
-using sheets::digits;
-using sheets::isEmpty;
-using sheets::makeBare;
-using sheets::number;
-using sheets::writeNumber;
 
 namespace supply {
 
-constexpr double leastValue = 1e-08;
+constexpr double leastRL = 1e-08; // kohm
 constexpr double leastEs = 1.0;
-constexpr double leastRLcalc = 0.1; ///< ohm; below, the load is too heavy for the current
+constexpr double leastRLcalc = 0.1; // ohm; below, the load is too heavy for the current
+constexpr double emptiedEbias = 20.0;
+constexpr double emptiedRes = 22.0;
+constexpr double emptiedRL = 20.0;
 constexpr double perKilo = 1000.0;
 constexpr double microfarads = 1000000.0;
 constexpr std::int32_t white = 0xFFFFFF;
@@ -26,6 +24,8 @@ constexpr std::int32_t white = 0xFFFFFF;
 } // namespace supply
 
 using namespace supply;
+
+// --- what the four have in common
 
 // The slot of the field left always moves the focus, so any control that can take it serves to start the move.
 void Form3::leaveTo(Handle field)
@@ -39,243 +39,207 @@ void Form3::leaveTo(Handle field)
 
 void Form3::keyResult(host::EventArgs& args)
 {
-    if (!isEnter(args))
-        return;
-    if (!isEmpty(*this, args.control))
-        makeBare(*this, args.control);
-    leaveTo(args.control);
+    if (entered(args))
+        leaveTo(args.control);
 }
 
-void Form3::ink(const GrowingPart& part)
+// A field that was emptied gets a value and stays in hand.
+bool Form3::refilled(Handle field, double value)
 {
-    if (finished())
-        return;
-    hide(part.pale);
-    show(part.inked);
+    if (!sayEmpty(field))
+        return false;
+    write(field, value);
+    setBackColor(field, white);
+    host::EventArgs args{.control = field};
+    runSlot(field, host::Event::focus, args);
+    host().SetFocus(*this, field);
+    return true;
 }
+
+void Form3::offer(Handle field, const std::string& proposal)
+{
+    grow(field);
+    setText(field, proposal);
+    goTo(field);
+}
+
+// --- Ebias
 
 // Text4 left: the least negative supply, and 1 V more as the proposal.
 void Form3::proposeEbias()
 {
     enable(Text8, Text16, Text17, Text18);
-    q_.dQic = number(*this, Text1);
-    q_.T = number(*this, Text6);
-    q_.dVbe = number(*this, Text7);
+    q_.passed = false;
+    q_.dQic = at(Text1);
+    q_.T = at(Text6);
+    q_.dVbe = at(Text7);
     if (q_.dQic != Real(0.0))
         q_.EResMin = leastERes(q_.T, q_.dVbe, q_.dQic);
-    const std::string proposal = sheets::shown(*this, q_.EResMin + 1.0);
-    show(Text8);
-    ink(growingParts[0]);
-    setText(Text8, proposal);
-    focusEbias();
-    enable(Text8);
-    host().SetFocus(*this, Text8);
-    setText(SSPanel1, std::string(pick(texts::minimumSource)) + proposal + std::string(pick(texts::minimumSourceEnd)));
+    const std::string proposal = shown(q_.EResMin + 1.0);
+    offer(Text8, proposal);
+    setText(SSPanel1, words(texts::minimumSource) + proposal + words(texts::minimumSourceEnd));
 }
 
-void Form3::focusEbias()
+void Form3::focusEbias(host::EventArgs& args)
 {
     disable(Text16, Text17, Text18);
-    beginField(Text8);
+    focusField(args);
 }
 
 // The field stays enabled, although the bench that is put away disables it.
-void Form3::clickEbias()
+void Form3::clickEbias(host::EventArgs& args)
 {
     HideBench();
     enable(Text8);
-    focusEbias();
+    focusEbias(args);
 }
 
 void Form3::leaveEbias()
 {
-    if (sayEmpty(Text8)) {
-        setBackColor(Text8, white);
-        focusEbias();
-        host().SetFocus(*this, Text8);
-        writeNumber(*this, Text8, texts::fieldRow(Text8)->left);
-    }
-    if (!sheets::correctFrom(*this, Text8, leastValue, texts::fieldRow(Text8)->otherwise) &&
-        number(*this, Text8) < q_.EResMin)
-        say(*this, texts::belowEResMin);
-    makeBare(*this, Text8);
-    q_.Ebias = number(*this, Text8);
-    q_.QIc = number(*this, Text9);
+    refilled(Text8, emptiedEbias);
+    if (!correct(Text8) && at(Text8) < q_.EResMin)
+        tell(texts::belowEResMin);
+    makeBare(Text8);
+    q_.Ebias = at(Text8);
+    q_.QIc = at(Text9);
     proposeRes();
 }
 
+// --- Res
+
 void Form3::proposeRes()
 {
+    q_.passed = false;
     if (q_.QIc != Real(0.0))
         q_.ResCalc = resOf(q_.Ebias, q_.QIc);
-    const std::string proposal = sheets::shown(*this, q_.ResCalc);
-    setText(Label28, std::string(pick(texts::resValue)) + proposal + std::string(pick(texts::resValueEnd)));
-    setText(SSPanel1, pick(texts::pointAtResults));
-    ink(growingParts[1]);
-    show(Text16);
-    setText(Text16, proposal);
-    sheets::goTo(*this, Text16);
-}
-
-void Form3::focusRes()
-{
-    beginField(Text16);
-    setText(SSPanel1, pick(texts::resPrompt));
+    const std::string proposal = shown(q_.ResCalc);
+    setText(Label28, words(texts::resValue) + proposal + words(texts::resValueEnd));
+    write(SSPanel1, texts::pointAtResults);
+    offer(Text16, proposal);
 }
 
 void Form3::leaveRes()
 {
-    if (sayEmpty(Text16)) {
-        setBackColor(Text16, white);
-        focusRes();
-        host().SetFocus(*this, Text16);
+    if (refilled(Text16, emptiedRes))
         return;
-    }
-    sheets::correctFrom(*this, Text16, leastValue, texts::fieldRow(Text16)->otherwise);
-    makeBare(*this, Text16);
-    computeTail();
+    correct(Text16);
+    makeBare(Text16);
+    takeRes();
     if (tooMuchQIc()) {
-        say(*this, texts::stability);
-        sheets::goTo(*this, Text3);
+        tell(texts::stability);
+        goTo(Text3);
         return;
     }
-    if (!computeRL()) {
+    if (!takeRL()) {
         disable(Text17);
         hide(Text17);
-        say(*this, texts::insufficientQIc);
-        sheets::goTo(*this, Text9);
+        tell(texts::insufficientQIc);
+        goTo(Text9);
         return;
     }
-    setText(Label29, "Rlac = " + digits(*this, rules::TruncToInteger(q_.RLac)) + " ohms");
-    const std::string proposal = sheets::shown(*this, q_.RLcalc / perKilo);
-    setText(Label30, "RL=" + proposal + " K \n" + std::string(pick(texts::commercialRL)));
-    ink(growingParts[2]);
-    show(Text17);
-    enable(Text17);
-    setText(Text17, proposal);
-    focusRL();
-    host().SetFocus(*this, Text17);
+    setText(Label29, "Rlac = " + whole(q_.RLac) + " ohms");
+    const std::string proposal = shown(q_.RLcalc / perKilo);
+    setText(Label30, "RL=" + proposal + " K \n" + words(texts::commercialRL));
+    offer(Text17, proposal);
 }
 
 // The quiescent current follows from the resistor that the student chose.
-void Form3::computeTail()
+void Form3::takeRes()
 {
-    q_.Res = number(*this, Text16);
-    q_.Ebias = number(*this, Text8);
-    q_.Vj = number(*this, Text4);
+    q_.Res = at(Text16);
+    q_.Ebias = at(Text8);
+    q_.Vj = at(Text4);
     q_.TailCurrent = q_.Ebias / q_.Res;
-    q_.ReDyn = dynamicRe(q_.TailCurrent);
+    q_.ReDyn = sheets::junctionResistance(q_.TailCurrent / 2.0);
     q_.ERes = q_.Ebias - q_.Vj;
-    setText(Label22, "r'e = " + digits(*this, rules::TruncToInteger(q_.ReDyn)) + " ohms");
-    setText(Label28, "Res: " + digits(*this, q_.Res) + "  K\nERes: " + sheets::shown(*this, q_.ERes) + " V");
-    setText(Text9, sheets::shown(*this, q_.TailCurrent / 2.0));
-    q_.QIc = number(*this, Text9);
-    q_.IcMax = number(*this, Text3);
+    setText(Label22, "r'e = " + whole(q_.ReDyn) + " ohms");
+    setText(Label28, "Res: " + digits(q_.Res) + "  K\nERes: " + shown(q_.ERes) + " V");
+    setText(Text9, shown(q_.TailCurrent / 2.0));
+    q_.QIc = at(Text9);
+    q_.IcMax = at(Text3);
 }
 
-bool Form3::computeRL()
+// --- RL
+
+// False when the load is too heavy.
+bool Form3::takeRL()
 {
-    q_.RLw = number(*this, Text10);
+    q_.RLw = at(Text10);
     q_.RLac = rlacOf(q_.Vg, q_.ReDyn);
     if (loadEqualsRlac(q_.RLw, q_.RLac))
         return false;
-    q_.RLcalc = rlOf(q_.RLw, q_.RLac);
+    q_.RLcalc = sheets::collectorResistor(q_.RLw * perKilo, q_.RLac);
     return q_.RLcalc >= leastRLcalc;
 }
 
-void Form3::focusRL()
+void Form3::focusRL(host::EventArgs& args)
 {
-    beginField(Text17);
-    setText(Label44, pick(texts::nextField));
     show(Label44);
-    setText(SSPanel1, pick(texts::rlPrompt));
-}
-
-void Form3::clickRL()
-{
-    HideBench();
-    host().SetFocus(*this, Text17);
+    focusField(args);
 }
 
 void Form3::leaveRL()
 {
-    if (leavingRL_)
-        return;
     hide(Text21);
-    if (sayEmpty(Text17)) {
-        writeNumber(*this, Text17, texts::fieldRow(Text17)->left);
-        setBackColor(Text17, white);
-        focusRL();
-        host().SetFocus(*this, Text17);
+    if (refilled(Text17, emptiedRL))
         return;
-    }
-    leavingRL_ = true;
-    if (number(*this, Text17) < leastValue)
-        setText(Text17, sheets::shown(*this, q_.RLcalc / perKilo + 1.0));
-    q_.RL = number(*this, Text17);
-    q_.QIc = number(*this, Text9);
+    if (at(Text17) < leastRL)
+        setText(Text17, shown(q_.RLcalc / perKilo + 1.0));
+    q_.RL = at(Text17);
+    q_.QIc = at(Text9);
     q_.ERL = q_.QIc * q_.RL;
-    q_.Eopp = number(*this, Text14);
-    writeRlLabel();
+    q_.Eopp = at(Text14);
+    tellERL();
     if (q_.ERL < q_.Eopp / 2.0)
-        correctRL();
+        raiseRL();
     else
-        computeSource();
-    offerEs();
-    leavingRL_ = false;
+        takeEsMin();
+    offer(Text18, shown(q_.EsMin));
 }
 
-void Form3::writeRlLabel()
+void Form3::tellERL()
 {
-    setText(Label30, "Rl= " + digits(*this, q_.RL) + " K\n ERl = " + sheets::shown(*this, q_.ERL) + " Volts");
+    setText(Label30, "Rl= " + digits(q_.RL) + " K\n ERl = " + shown(q_.ERL) + " Volts");
 }
 
-// What follows is worked out from the rewritten value, which is a whole number and may even be 0.
-void Form3::correctRL()
+// The field is in hand for a moment, then Es is. What follows is worked out from the rewritten value, which is a whole number
+// and may even be 0.
+void Form3::raiseRL()
 {
-    say(*this, texts::lowERL);
+    tell(texts::lowERL);
     if (q_.QIc != Real(0.0))
-        writeNumber(*this, Text17, rlForEopp(q_.Eopp, q_.QIc));
-    host().SetFocus(*this, Text17);
-    q_.RL = number(*this, Text17);
+        write(Text17, rlForEopp(q_.Eopp, q_.QIc));
+    host::EventArgs args{.control = Text17};
+    focusRL(args);
+    q_.RL = at(Text17);
     q_.ERL = q_.QIc * q_.RL;
     q_.EQMin = Real(1.0) + q_.Eopp;
     q_.EsMin = q_.EQMin + q_.ERL;
 }
 
+// --- Es
+
 // The clamp of Eopp comes after EQMin: it reaches the bench alone.
-void Form3::computeSource()
+void Form3::takeEsMin()
 {
     q_.EQMin = Real(1.0) + q_.Eopp;
     if (q_.Eopp < leastBenchEopp)
         q_.Eopp = leastBenchEopp;
     q_.EsMin = q_.EQMin + q_.ERL;
-    setText(Label31, std::string(pick(texts::leastSource)) + sheets::shown(*this, q_.EsMin) + " V");
-}
-
-void Form3::offerEs()
-{
-    ink(growingParts[3]);
-    show(Text18);
-    enable(Text18);
-    setText(Text18, sheets::shown(*this, q_.EsMin));
-    host().SetFocus(*this, Text18);
+    setText(Label31, words(texts::leastSource) + shown(q_.EsMin) + " V");
 }
 
 void Form3::focusEs()
 {
     hide(Text21);
     tellAbout(Text18);
-    writeRlLabel();
+    tellERL();
 }
 
 void Form3::keyEs(host::EventArgs& args)
 {
-    if (!isEnter(args))
-        return;
-    if (!isEmpty(*this, Text18))
-        makeBare(*this, Text18);
-    host().SetFocus(*this, Text1);
+    if (entered(args))
+        host().SetFocus(*this, Text1);
 }
 
 void Form3::leaveEs()
@@ -283,78 +247,81 @@ void Form3::leaveEs()
     disable(Text17, Text16);
     if (sayEmpty(Text18)) {
         focusEs();
-        sheets::goTo(*this, Text17);
-    } else if (checkSupply()) {
+        goTo(Text17);
+    } else if (takeEs()) {
         finishDesign();
     }
     hide(Label44);
 }
 
 // False when a box has sent the student back.
-bool Form3::checkSupply()
+bool Form3::takeEs()
 {
-    q_.RL = number(*this, Text17);
-    q_.QIc = number(*this, Text9);
+    q_.passed = false;
+    q_.RL = at(Text17);
+    q_.QIc = at(Text9);
     q_.ERL = q_.QIc * q_.RL;
-    if (number(*this, Text18) < leastEs)
-        setText(Text18, sheets::shown(*this, q_.EsMin));
-    q_.Es = number(*this, Text18);
-    q_.EcMax = number(*this, Text2);
+    if (at(Text18) < leastEs)
+        setText(Text18, shown(q_.EsMin));
+    q_.Es = at(Text18);
+    q_.EcMax = at(Text2);
     q_.EQ = q_.Es - q_.ERL;
     if (q_.EQ > q_.EcMax) {
-        say(*this, texts::highEQ);
-        sheets::goTo(*this, Text2);
+        tell(texts::highEQ);
+        goTo(Text2);
         return false;
     }
-    setText(Label32, "EQ1=  " + sheets::shown(*this, q_.EQ) + "   V ");
-    setText(Label35, "EQ2=  " + sheets::shown(*this, q_.EQ) + "   V ");
-    q_.Eopp = number(*this, Text14);
+    setText(Label32, "EQ1=  " + shown(q_.EQ) + "   V ");
+    setText(Label35, "EQ2=  " + shown(q_.EQ) + "   V ");
+    q_.Eopp = at(Text14);
     q_.EQMin = Real(1.0) + q_.Eopp;
     q_.EsMin = q_.EQMin + q_.ERL;
-    setText(Label31, std::string(pick(texts::leastVoltage)) + digits(*this, q_.EsMin) + " V");
+    setText(Label31, words(texts::leastVoltage) + digits(q_.EsMin) + " V");
     if (q_.EQ < q_.EQMin) {
-        say(*this, texts::lowEQ);
-        writeNumber(*this, Text18, q_.EsMin);
-        sheets::goTo(*this, Text18);
+        tell(texts::lowEQ);
+        write(Text18, q_.EsMin);
+        goTo(Text18);
         return false;
     }
     return true;
 }
 
+// --- the end of the design
+
 void Form3::finishDesign()
 {
-    const std::string rl = " RL=" + digits(*this, q_.RL) + "  K\n ERl =" + sheets::shown(*this, q_.ERL) + "  Volts";
+    const std::string rl = " RL=" + digits(q_.RL) + "  K\n ERl =" + shown(q_.ERL) + "  Volts";
     setText(Label29, rl);
     setText(Label30, rl);
     showFinishedPicture();
     hide(Image30);
     show(Image33);
-    q_.S = number(*this, Text11);
-    q_.fo = number(*this, Text13);
+    q_.S = at(Text11);
+    q_.fo = at(Text13);
     q_.Rb2 = rules::CurrencyValue(q_.S * q_.Res).toDouble();
     q_.Zin = zinOf(q_.Beta, q_.ReDyn);
-    q_.Cci = cciOf(q_.fo, q_.Zin);
+    q_.Cci = sheets::couplingCapacitor(q_.fo, q_.Zin);
     q_.Cco = ccoOf(q_.fo, q_.RLw);
     q_.VgFinal = vgOf(q_.RL, q_.RLw, q_.ReDyn);
-    setText(Label33, "Rb2=\n" + sheets::shown(*this, q_.Rb2) + " K");
-    setText(Label38, "Cci = " + sheets::shown(*this, q_.Cci * microfarads) + " microF");
+    setText(Label33, "Rb2=\n" + shown(q_.Rb2) + " K");
+    setText(Label38, "Cci = " + shown(q_.Cci * microfarads) + " microF");
     setText(Label40, text(Label38));
-    setText(Label39, "Cco = " + sheets::shown(*this, q_.Cco * microfarads) + " microF");
+    setText(Label39, "Cco = " + shown(q_.Cco * microfarads) + " microF");
     show(Label33, Label38, Label39, Label40);
-    writeNumber(*this, Text12, q_.VgFinal);
+    write(Text12, q_.VgFinal);
     hide(Label42);
     host::Place place = placeOf(Label43);
     place.left = finishedLeftOfLabel43;
     setPlaceOf(Label43, place);
     if (q_.Eopp < leastBenchEopp)
         q_.Eopp = leastBenchEopp;
+    q_.passed = true;
 }
 
 void Form3::showFinishedPicture()
 {
     hide(Image1);
-    for (const GrowingPart& part : growingParts)
-        hide(part.pale, part.inked);
+    clearDrawing();
     show(image2);
     for (const PointPlaces& row : pointPlaces)
         setPlaceOf(row.point, row.finished);
