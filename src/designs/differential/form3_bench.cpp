@@ -143,6 +143,7 @@ void Form3::selectFunction(host::EventArgs& args)
     for (const bench::FunctionButton& row : bench::functionButtons)
         setEnabled(row.button, row.button != args.control);
     setText(SSPanel2, "");
+    hideReading();
     if (args.control == c4)
         show(Image4);
 }

@@ -18,7 +18,8 @@ constexpr double germanium = 0.2;
 
 double defaultOf(Handle field)
 {
-    return std::find_if(defaults.begin(), defaults.end(), [field](const Default& row) { return row.field == field; })->value;
+    return std::find_if(defaults.begin(), defaults.end(), [field](const Default& row) { return row.field == field; })
+        ->value;
 }
 
 } // namespace chain_detail

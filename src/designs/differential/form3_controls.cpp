@@ -40,7 +40,7 @@ constexpr Place spot(int x, int y)
 
 // The bench stands on the paper below the circuit: its switch, and the face of the instrument that is on.
 constexpr Place powerSwitch = at(246, 546, 84, 58);
-constexpr Place face        = at(338, 544, 610, 62);
+constexpr Place face = at(338, 544, 610, 62);
 constexpr Place onFace(int left, int top, int width, int height)
 {
     return at(338 + left, 544 + top, width, height);
@@ -49,16 +49,23 @@ constexpr Place note = at(8, 546, 220, 66);
 constexpr Place page = at(966, 286, 228, 326);
 constexpr Place help = at(898, 94, 296, 518);
 
-constexpr ControlRow picture(host::Handle id, std::string_view name, host::BiText meaning, std::span<const host::Mark> drawing)
+constexpr ControlRow picture(host::Handle id, std::string_view name, host::BiText meaning,
+                             std::span<const host::Mark> drawing)
 {
-    return {.id = id, .name = name, .kind = Kind::image, .place = drawings::paper, .meaning = meaning, .look = Look::paper,
+    return {.id = id,
+            .name = name,
+            .kind = Kind::image,
+            .place = drawings::paper,
+            .meaning = meaning,
+            .look = Look::paper,
             .drawing = drawing};
 }
 constexpr ControlRow part(host::Handle id, std::string_view name, std::span<const host::Mark> drawing)
 {
     return hidden({.id = id, .name = name, .kind = Kind::shape, .place = drawings::paper, .drawing = drawing});
 }
-constexpr ControlRow shape(host::Handle id, std::string_view name, const Place& place, std::span<const host::Mark> drawing)
+constexpr ControlRow shape(host::Handle id, std::string_view name, const Place& place,
+                           std::span<const host::Mark> drawing)
 {
     return hidden({.id = id, .name = name, .kind = Kind::shape, .place = place, .drawing = drawing});
 }
@@ -68,7 +75,8 @@ constexpr ControlRow touched(host::Handle id, std::string_view name, const Place
 {
     return {.id = id, .name = name, .kind = Kind::image, .place = place, .meaning = meaning, .drawing = drawing};
 }
-constexpr ControlRow wave(host::Handle id, std::string_view name, const Place& place, std::span<const host::Mark> drawing)
+constexpr ControlRow wave(host::Handle id, std::string_view name, const Place& place,
+                          std::span<const host::Mark> drawing)
 {
     return {.id = id, .name = name, .kind = Kind::image, .place = place, .drawing = drawing};
 }
@@ -76,13 +84,25 @@ constexpr ControlRow wave(host::Handle id, std::string_view name, const Place& p
 constexpr ControlRow function(host::Handle id, std::string_view name, const Place& place, std::string_view text,
                               host::BiText meaning)
 {
-    return hidden({.id = id, .name = name, .kind = Kind::button, .place = place, .text = text, .meaning = meaning,
-                   .chosenWhenDisabled = true, .fontSize = 10});
+    return hidden({.id = id,
+                   .name = name,
+                   .kind = Kind::button,
+                   .place = place,
+                   .text = text,
+                   .meaning = meaning,
+                   .chosenWhenDisabled = true,
+                   .fontSize = 10});
 }
 constexpr ControlRow choice(host::Handle id, std::string_view name, const Place& place, std::string_view text,
                             host::BiText meaning, bool checked)
 {
-    return hidden({.id = id, .name = name, .kind = Kind::option, .place = place, .text = text, .meaning = meaning, .checked = checked});
+    return hidden({.id = id,
+                   .name = name,
+                   .kind = Kind::option,
+                   .place = place,
+                   .text = text,
+                   .meaning = meaning,
+                   .checked = checked});
 }
 /// A field beside its part, where the drawing has the symbol.
 constexpr Quantity byItsPart(Quantity quantity, host::BiText meaning)

@@ -43,8 +43,11 @@ enum Control : host::Handle {
 };
 // clang-format on
 
-inline constexpr sheets::Tools tools{
-    .guide = Image29, .calculator = Image27, .report = Image28, .clone = {Image32, Image31}, .help = {Image35, Image34}};
+inline constexpr sheets::Tools tools{.guide = Image29,
+                                     .calculator = Image27,
+                                     .report = Image28,
+                                     .clone = {Image32, Image31},
+                                     .help = {Image35, Image34}};
 
 /// The rows of the shortcut table that run a deed of their own; they stand before the others.
 enum Shortcut : std::int16_t { powerKey, backKey };

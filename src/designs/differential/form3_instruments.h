@@ -44,7 +44,7 @@ enum class Function : std::uint8_t { none, V, A, W, Z };
 
 /// What the meter says beside a number.
 struct MeterUnit {
-    host::BiText prompt{};                ///< for `SSPanel1`
+    host::BiText prompt{};                 ///< for `SSPanel1`
     host::Handle onFace = host::noControl; ///< shows the reading with its unit
 };
 

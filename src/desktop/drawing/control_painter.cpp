@@ -40,6 +40,8 @@ struct Scene {
     /// Blanks alone are nothing to frame.
     bool speaks() const { return state().text.find_first_not_of(" \n") != std::string::npos; }
     bool enabled() const { return state().enabled; }
+    /// In force: it cannot be pressed again, and is anything but dead.
+    bool chosen() const { return row().chosenWhenDisabled && !enabled(); }
     bool focused() const { return !view.forPrint && window.focus() == control && takesFocus(row().kind); }
     bool hovered() const { return !view.forPrint && enabled() && view.hovered == control; }
     bool pressed() const { return !view.forPrint && enabled() && view.pressed == control; }
@@ -124,7 +126,7 @@ void paintDrawing(const Scene& scene)
     const auto drawing = scene.drawing();
     if (drawing.empty())
         return;
-    const bool faded = !scene.enabled() && scene.row().look == Look::toolButton;
+    const bool faded = !scene.enabled() && !scene.chosen() && scene.row().look == Look::toolButton;
     scene.painter.setOpacity(faded ? 0.45 : 1.0);
     paintMarks(scene.painter, scene.window, drawing, scene.box.topLeft(), scene.view);
     scene.painter.setOpacity(1.0);
@@ -251,8 +253,22 @@ QColor buttonGround(const Scene& scene)
     return groundOr(scene, scene.hovered() ? scene.inks().buttonHover : scene.inks().button);
 }
 
+/// In force: held down, framed in the accent, with a bar below its letters.
+void paintChosenButton(const Scene& scene)
+{
+    plate(scene, scene.inks().accentTint, scene.inks().accent, 5.0, 2.0 * hairline(scene));
+    const double edge = 6.0 * scene.unit();
+    const double height = 3.0 * scene.unit();
+    const QRectF bar(scene.box.left() + edge, scene.box.bottom() - edge, scene.box.width() - 2.0 * edge, height);
+    scene.painter.fillRect(crisp(scene, bar), scene.inks().accent);
+    paintDrawing(scene);
+    writeCaption(scene, scene.inks().ink, scene.inks().accentTint);
+}
+
 void paintButton(const Scene& scene)
 {
+    if (scene.chosen())
+        return paintChosenButton(scene);
     const QColor ground = buttonGround(scene);
     const QColor border = !scene.enabled()  ? scene.inks().rule
                           : scene.hovered() ? scene.inks().accent

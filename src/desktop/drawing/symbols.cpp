@@ -302,16 +302,19 @@ void drawTransistor(const Pen& pen)
     pen.curve(circleAt(axes.at(20.0, 0.0), axes.length(21.0)));
     pen.lead(axes.at(0.0, 0.0), axes.at(13.0, 0.0));
     pen.solid(axes.bar(13.0, 12.5, 3.0 * pen.stroke.factor()));
-    for (const double side : {up, -up}) {
-        const QPointF knee = axes.at(30.0, side * 18.7);
-        const QPointF end = pen.sketch.at(
+    const auto endOf = [&](double side) {
+        return pen.sketch.at(
             unitsOf(side == up ? host::upperEnd(symbol, pen.mark.from) : host::lowerEnd(symbol, pen.mark.from)));
-        pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.curveWeight(), {axes.at(13.0, side * 6.0), knee});
-        pen.lead({end.x(), knee.y()}, end);
+    };
+    // A knee stands exactly below its end: 30 u from the base, rounded apart, may be a pixel beside it.
+    const auto kneeOf = [&](double side) { return QPointF(endOf(side).x(), axes.at(30.0, side * 18.7).y()); };
+    for (const double side : {up, -up}) {
+        pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.curveWeight(), {axes.at(13.0, side * 6.0), kneeOf(side)});
+        pen.lead(kneeOf(side), endOf(side));
     }
     const double side = host::isPnp(symbol) ? up : -up;
     const QPointF foot = axes.at(13.0, side * 6.0);
-    const QPointF leg = axes.at(30.0, side * 18.7) - foot;
+    const QPointF leg = kneeOf(side) - foot;
     const double length = std::hypot(leg.x(), leg.y());
     const QPointF way = leg / length;
     const QPointF tip = host::isPnp(symbol) ? foot + way * (length * 0.30) : foot + way * (length * 0.78);

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "host/failure.h"
+#include "sheets/formulas.h"
 
 namespace velmor::form3_formulas_test {
 
@@ -23,9 +24,9 @@ TEST(Form3Formulas, TheLeastVoltageOverResIsCountedFromTwentyDegrees)
 TEST(Form3Formulas, PassingThroughTheInputChangesTheOutput)
 {
     // 5 x 0.707 / 64
-    EXPECT_DOUBLE_EQ(einOf(10.0, 64.0).value(), 0.055234375);
+    EXPECT_DOUBLE_EQ(sheets::inputForOutput(10.0, 64.0).value(), 0.055234375);
     // 0.0552 x 1.41 x 2 x 64
-    EXPECT_NEAR(eoppOf(0.0552, 64.0).value(), 9.962496, 1e-12);
+    EXPECT_NEAR(sheets::outputForInput(0.0552, 64.0).value(), 9.962496, 1e-12);
 }
 
 TEST(Form3Formulas, TheTailCarriesBothCurrents)
@@ -34,19 +35,19 @@ TEST(Form3Formulas, TheTailCarriesBothCurrents)
     EXPECT_DOUBLE_EQ(resOf(12.0, 1.0).value(), 6.0);
     EXPECT_THROW(resOf(12.0, 0.0), host::ProgramFailure);
     // 1 mA in the tail, 0.5 mA in each: 25 / 0.5
-    EXPECT_DOUBLE_EQ(dynamicRe(1.0).value(), 50.0);
+    EXPECT_DOUBLE_EQ(sheets::junctionResistance(1.0 / 2.0).value(), 50.0);
 }
 
 TEST(Form3Formulas, TheCollectorResistorFollowsFromGainAndLoad)
 {
     EXPECT_DOUBLE_EQ(rlacOf(64.0, 50.0).value(), 8000.0);
     // 16000 x 8000 / 8000
-    EXPECT_DOUBLE_EQ(rlOf(16.0, 8000.0).value(), 16000.0);
+    EXPECT_DOUBLE_EQ(sheets::collectorResistor(16000.0, 8000.0).value(), 16000.0);
     // a load smaller than RLac gives a negative resistor, one equal to it none
-    EXPECT_DOUBLE_EQ(rlOf(4.0, 8000.0).value(), -8000.0);
+    EXPECT_DOUBLE_EQ(sheets::collectorResistor(4000.0, 8000.0).value(), -8000.0);
     EXPECT_TRUE(loadEqualsRlac(8.0, 8000.0));
     EXPECT_FALSE(loadEqualsRlac(8.1, 8000.0));
-    EXPECT_THROW(rlOf(8.0, 8000.0), host::ProgramFailure);
+    EXPECT_THROW(sheets::collectorResistor(8000.0, 8000.0), host::ProgramFailure);
     // (9.9625 / 2 + 1) / 0.5 = 11.96, cut
     EXPECT_DOUBLE_EQ(rlForEopp(9.9625, 0.5).value(), 11.0);
 }
@@ -55,7 +56,7 @@ TEST(Form3Formulas, CapacitorsAndGainOfTheDefaults)
 {
     EXPECT_DOUBLE_EQ(zinOf(100.0, 50.0).value(), 10000.0);
     // 1 / (6.28 x 20 x 0.1 x 10000) = 1 / 125600
-    EXPECT_NEAR(cciOf(20.0, 10000.0).value(), 1.0 / 125600.0, 1e-18);
+    EXPECT_NEAR(sheets::couplingCapacitor(20.0, 10000.0).value(), 1.0 / 125600.0, 1e-18);
     // 1 / (6.28 x 20 x 0.1 x 16000) = 1 / 200960
     EXPECT_NEAR(ccoOf(20.0, 16.0).value(), 1.0 / 200960.0, 1e-18);
     // 8000 / 125
@@ -94,6 +95,7 @@ TEST(Form3Formulas, ReadingsOfTheMeter)
     EXPECT_DOUBLE_EQ(baseCurrent(q).value(), 0.005);
     EXPECT_DOUBLE_EQ(baseVoltage(q).value(), 0.1);
     EXPECT_DOUBLE_EQ(loadImpedance(q).value(), 16000.0);
+    EXPECT_DOUBLE_EQ(reading<&Quantities::EQ>(q).value(), 16.0);
 }
 
 TEST(Form3Formulas, AtTheCutOffEverythingIsATenthOff)

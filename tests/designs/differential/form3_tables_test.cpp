@@ -72,15 +72,18 @@ bool bothLanguages(const BiText& text)
     return !text.es.empty() && !text.en.empty();
 }
 
-Complaints aboutLines(std::span<const texts::StatusRow> rows, std::span<const Handle> due)
+Complaints aboutLines(std::span<const sheets::Saying> rows, std::span<const sheets::ChainRow> due, sheets::When when,
+                      Handle place)
 {
     Complaints found;
-    for (const Handle field : due)
-        if (std::count_if(rows.begin(), rows.end(), [field](const auto& row) { return row.field == field; }) != 1)
-            found.push_back("not one line for control " + std::to_string(field));
-    for (const texts::StatusRow& row : rows)
-        if (!bothLanguages(row.line))
-            found.push_back("one language for control " + std::to_string(row.field));
+    for (const sheets::ChainRow& field : due)
+        if (std::count_if(rows.begin(), rows.end(), [&](const sheets::Saying& row) {
+                return row.about == field.field && row.when == when && row.place == place;
+            }) != 1)
+            found.push_back("not one line for control " + std::to_string(field.field));
+    for (const sheets::Saying& row : rows)
+        if (row.text.es.empty() != row.text.en.empty())
+            found.push_back("one language for control " + std::to_string(row.about));
     return found;
 }
 
@@ -96,9 +99,6 @@ Complaints aboutKeys(std::span<const host::ShortcutRow> rows)
     }
     return found;
 }
-
-constexpr Handle chain[] = {Text1,  Text6, Text7, Text9, Text10, Text11, Text12, Text13, Text14,
-                            Text15, Text5, Text2, Text3, Text4,  Text8,  Text16, Text17, Text18};
 
 TEST(Form3Tables, EveryControlHasItsNameOnceAndLiesInsideTheSheet)
 {
@@ -123,9 +123,9 @@ TEST(Form3Tables, PlacesOfTheFinishedDesignAndOfTheBenchLieInsideTheSheet)
     }
     for (const GeneratorPart& row : generatorParts) {
         EXPECT_EQ(spec.controls[row.part].place, row.onFace) << row.part;
-        EXPECT_TRUE(inside(row.underMeter, spec.place)) << row.part;
+        EXPECT_TRUE(inside(row.besideMeter, spec.place)) << row.part;
     }
-    for (const host::Place& page : {pageInsteadOfFields, pageUnderInstrument, pageBesidePicture})
+    for (const host::Place& page : {pageInsteadOfFields, pageBelowTools})
         EXPECT_TRUE(inside(page, spec.place));
 }
 
@@ -139,36 +139,62 @@ TEST(Form3Tables, WhatTakesTheFocusOrIsAButtonSaysWhatItIs)
 
 TEST(Form3Tables, EveryFieldHasItsLineItsPageAndItsPlaceInTheTabOrder)
 {
-    EXPECT_EQ(aboutLines(texts::statusRows(), chain), Complaints{});
-    EXPECT_EQ(aboutLines(texts::lessonRows(), chain), Complaints{});
-    EXPECT_TRUE(std::equal(std::begin(chain), std::end(chain), spec.tabOrder.begin()));
-    const texts::StatusRow bad[] = {{Text1, {.es = "uno", .en = ""}}};
-    EXPECT_EQ(aboutLines(bad, chain).size(), std::size(chain));
+    using sheets::When;
+    EXPECT_EQ(aboutLines(texts::sayings, chain, When::focus, StatusBar1), Complaints{});
+    EXPECT_EQ(aboutLines(texts::sayings, chain, texts::lesson, SSPanel4), Complaints{});
+    for (std::size_t i = 0; i < chain.size(); ++i)
+        EXPECT_EQ(chain[i].field, spec.tabOrder[i]) << i;
+    const sheets::Saying bad[] = {{Text1, When::focus, StatusBar1, {"uno", ""}}};
+    EXPECT_EQ(aboutLines(bad, chain, When::focus, StatusBar1).size(), chain.size());
 }
 
 TEST(Form3Tables, EnterLeadsThroughTheWholeChain)
 {
-    for (std::size_t i = 0; i + 1 < std::size(chain); ++i) {
-        const texts::FieldRow* row = texts::fieldRow(chain[i]);
-        ASSERT_NE(row, nullptr) << i;
-        EXPECT_EQ(row->next, chain[i + 1]) << i;
-        EXPECT_LE(row->low, row->high) << i;
-        EXPECT_TRUE(row->otherwise >= row->low && row->otherwise <= row->high)
+    for (std::size_t i = 0; i + 1 < chain.size(); ++i) {
+        EXPECT_EQ(chain[i].next, chain[i + 1].field) << i;
+        EXPECT_LE(chain[i].from, chain[i].to) << i;
+        EXPECT_TRUE(chain[i].otherwise >= chain[i].from && chain[i].otherwise <= chain[i].to)
             << "the correction is out of range: " << i;
     }
-    EXPECT_EQ(texts::fieldRow(Text18), nullptr);
+    EXPECT_EQ(chain.back().next, host::noControl);
+}
+
+TEST(Form3Tables, EveryFieldHasADefaultButTheTwoThatTheSheetWorksOut)
+{
+    for (const sheets::ChainRow& row : chain) {
+        const bool workedOut = row.field == Text15 || row.field == Text18;
+        EXPECT_EQ(std::count_if(defaults.begin(), defaults.end(),
+                                [&](const Default& found) { return found.field == row.field; }),
+                  workedOut ? 0 : 1)
+            << row.field;
+    }
 }
 
 TEST(Form3Tables, HelpOnPointingDrawsWhatItSays)
 {
-    EXPECT_EQ(texts::pointingRows().size(), 5u);
-    for (const texts::PointingRow& row : texts::pointingRows()) {
-        EXPECT_FALSE(row.text.empty());
-        EXPECT_FALSE(spec.controls[row.drawing].drawing.empty());
-        EXPECT_EQ(spec.controls[row.drawing].place, spec.controls[Label34].place);
+    int drawings = 0;
+    for (const sheets::Saying& row : texts::sayings) {
+        if (row.when != sheets::When::hover || spec.controls[row.place].kind != Kind::shape)
+            continue;
+        ++drawings;
+        EXPECT_FALSE(spec.controls[row.place].drawing.empty());
+        EXPECT_EQ(spec.controls[row.place].place, spec.controls[Label34].place);
+        EXPECT_EQ(std::count_if(texts::sayings.begin(), texts::sayings.end(),
+                                [&](const sheets::Saying& text) {
+                                    return text.about == row.about && text.place == Label34 && !text.text.es.empty();
+                                }),
+                  1);
     }
-    for (const texts::PartRow& row : texts::partRows())
-        EXPECT_TRUE(bothLanguages(row.name)) << row.part;
+    EXPECT_EQ(drawings, 5);
+}
+
+TEST(Form3Tables, WhatComesWithTheChainGivesWayToTheFinishedPicture)
+{
+    ASSERT_EQ(spec.growth.size(), 4u);
+    for (const host::GrowthRow& row : spec.growth) {
+        EXPECT_EQ(row.unless, image2);
+        EXPECT_FALSE(spec.controls[row.part].visible) << spec.controls[row.part].name;
+    }
 }
 
 TEST(Form3Tables, EveryKeyStandsOnceAndSaysWhatItDoes)
@@ -180,8 +206,8 @@ TEST(Form3Tables, EveryKeyStandsOnceAndSaysWhatItDoes)
 
 TEST(Form3Tables, WhatTheMouseAloneReachesHasAKey)
 {
-    // The common keys serve the field in hand (hover, right press) and the help; Tab reaches the buttons.
-    const std::set<Handle> common{Text6, Image34, Image35, Text19, Text20, c1, c4, c5, C3, c6, c7};
+    // The common keys serve the field in hand (hover, right press); Tab reaches the buttons.
+    const std::set<Handle> common{Text6, Text19, Text20, c1, c4, c5, C3, c6, c7};
     std::set<Handle> reached;
     for (const host::ShortcutRow& row : spec.shortcuts)
         reached.insert({row.control, row.target});
@@ -211,7 +237,8 @@ TEST(Form3Tables, EveryCellOfTheBenchStandsOnce)
     for (const MeterRow& row : meterRows()) {
         EXPECT_EQ(meterRow(row.point, row.current, row.function), &row);
         EXPECT_NE(row.value, nullptr);
-        EXPECT_TRUE(bothLanguages(row.unit));
+        EXPECT_TRUE(bothLanguages(row.unit.prompt));
+        EXPECT_EQ(spec.controls[row.unit.onFace].kind, Kind::shape);
     }
     EXPECT_EQ(meterRow(Image5, Current::ac, Function::V), nullptr);
     EXPECT_EQ(meterRow(Image4, Current::dc, Function::none), nullptr);

@@ -151,6 +151,26 @@ TEST_F(Schematic, TransistorsEndWhereTheTablesSay)
     EXPECT_EQ(host::emitterEnd(Symbol::pnpLeft, {0, 0}).x, -30);
 }
 
+// The slanted leg ends where the lead begins, whatever the pixels: no ink beside the lead's outer edge.
+TEST_F(Schematic, TransistorsLeadsHaveNoJog)
+{
+    const auto outerEdge = [](const QImage& image, int y) {
+        int x = image.width() - 1;
+        while (x > 0 && qGray(at(image, x, y)) > 140)
+            --x;
+        return x;
+    };
+    const Mark marks[] = {{.symbol = Symbol::npn, .from = {50, 100}}};
+    for (int step = 0; step < 150; ++step) {
+        const double scale = 1.0 + step * 0.01;
+        const QImage image = test::imageOfMarks(window(), marks, scale, 1.0, QPointF(step * 0.37, 0.0));
+        // the collector's lead from 70 u down to its knee at 81.3
+        const int lead = outerEdge(image, static_cast<int>(74.0 * scale));
+        for (int y = static_cast<int>(76.0 * scale); y < static_cast<int>(81.0 * scale); ++y)
+            EXPECT_EQ(outerEdge(image, y), lead) << "scale " << scale << ", row " << y;
+    }
+}
+
 TEST_F(Schematic, TwoEndedSymbolsReachBothEnds)
 {
     for (int i = 0; i <= static_cast<int>(Symbol::colourBands); ++i) {

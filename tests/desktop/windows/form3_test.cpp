@@ -5,7 +5,9 @@
 
 #include "designs/differential/form3_controls.h"
 #include "desktop/desktop_fixture.h"
+#include "desktop/drawing/canvas_image.h"
 #include "desktop/drawing/control_painter.h"
+#include "desktop/drawing/schematic_painter.h"
 #include "program/catalogue.h"
 
 namespace velmor::test::form3_test {
@@ -136,6 +138,11 @@ TEST_P(Form3Test, everyPageOfTheGeneratorFits)
         on.click(*sheet, deed);
         expectTextsFit("common mode");
     }
+    // the longest page stays when the fields come back
+    on.engine.userDrag(*sheet, Image14, Image12);
+    on.engine.userClick(*sheet, host::noControl);
+    ASSERT_TRUE(sheet->visible(Text1));
+    expectTextsFit("bench off again");
 }
 
 TEST_P(Form3Test, aSinusoidIsDraggedWithTheMouseAndAnOutputMeasured)
@@ -191,6 +198,33 @@ TEST_P(Form3Test, theMeterReadsByMouseAndByKeyboard)
     EXPECT_FALSE(sheet->enabled(c4));
     Bench::keys("Shift+F5");
     EXPECT_EQ(sheet->text(SSPanel2), "0.5");
+    // the unit stands behind the number: 0.5 mA
+    EXPECT_TRUE(sheet->visible(Shape13));
+    EXPECT_FALSE(sheet->visible(Shape12));
+    ASSERT_EQ(sheet->drawing(Shape13).size(), 1u);
+    EXPECT_EQ(desktop::valueText(*sheet, sheet->drawing(Shape13)[0]), QStringLiteral("0.5\u00A0mA"));
+    // another function leaves nothing on the face
+    on.click(*sheet, c1);
+    EXPECT_FALSE(sheet->visible(Shape13));
+}
+
+TEST_P(Form3Test, aFunctionInForceLooksChosenNotDead)
+{
+    finish();
+    on.click(*sheet, Image33);
+    on.click(*sheet, c4);
+    const auto accents = [this](Handle button) {
+        const desktop::View view = viewAt(1.0);
+        const QImage image = imageOfControl(*sheet, button, view);
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                count += image.pixel(x, y) == view.inks->accent.rgb() ? 1 : 0;
+        return count;
+    };
+    EXPECT_FALSE(sheet->enabled(c4));
+    EXPECT_GT(accents(c4), 100) << "the bar below its letter, and the frame";
+    EXPECT_EQ(accents(c5), 0);
 }
 
 TEST_P(Form3Test, thePointerOverAFieldBringsItsFormulaAndTheTableOfValues)
@@ -211,11 +245,11 @@ TEST_P(Form3Test, thePointerOverAFieldBringsItsFormulaAndTheTableOfValues)
 
 TEST_P(Form3Test, theHelpPageOpensInsideTheSheet)
 {
-    Bench::key(Qt::Key_F1);
+    Bench::keys("Shift+F1");
     const Handle page = GetParam() ? Text19 : Text20;
     ASSERT_TRUE(sheet->visible(page));
     EXPECT_TRUE(on.viewOf(*sheet).canvas().rect().contains(on.widgetOf(*sheet, page)->geometry()));
-    Bench::key(Qt::Key_F1);
+    Bench::keys("Shift+F1");
     EXPECT_FALSE(sheet->visible(page));
 }
 
