@@ -50,7 +50,7 @@ public:
     void clickEin();
     void focusBeta(host::EventArgs& args);
     void leaveVj();
-    void clickVj();
+    void clickVj(host::EventArgs& args);
 
     // the values that the student rounds to what can be bought
     void keyResult(host::EventArgs& args);
@@ -99,9 +99,10 @@ private:
     void proposeRes();
     void takeRes();
     bool takeRL();
+    void takeERL();
+    void takeLeast();
     void tellERL();
     void raiseRL();
-    void takeEsMin();
     bool takeEs();
     void finishDesign();
     void showFinishedPicture();
@@ -109,7 +110,6 @@ private:
     // the bench
     bool finished() const { return visible(image2); }
     void HideBench();
-    void hideMeter();
     void hideReading();
     void showMeter();
     void showGenerator();

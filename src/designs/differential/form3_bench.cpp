@@ -45,12 +45,6 @@ std::string pageOf(const ProbeRow& row, std::int16_t language)
 
 // --- on and off
 
-void Form3::hideMeter()
-{
-    hide(Image3, c1, C3, c4, c5, SSPanel2, Option1, Option2);
-    hideReading();
-}
-
 void Form3::hideReading()
 {
     hide(Shape12, Shape13, Shape14, Shape15, Shape16);
@@ -68,8 +62,9 @@ void Form3::showFields(bool shown)
 
 void Form3::HideBench()
 {
-    hideMeter();
-    hide(Label36, SSPanel3, Image14, Image15, c6, c7, Label37);
+    hideReading();
+    hide(Image3, c1, C3, c4, c5, SSPanel2, Option1, Option2, Label37);
+    hide(Label36, SSPanel3, Image14, Image15, c6, c7);
     hide(Image16, Image17, Image18, Image19, Image20, Image21);
     showFields(true);
     disable(Text8);

@@ -191,11 +191,10 @@ void Form3::leaveVj()
     proposeEbias();
 }
 
-void Form3::clickVj()
+void Form3::clickVj(host::EventArgs& args)
 {
-    HideBench();
+    clickField(args);
     disable(Text8, Text16, Text17, Text18);
-    host().SetFocus(*this, Text4);
 }
 
 } // namespace velmor::form3

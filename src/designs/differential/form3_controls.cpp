@@ -201,13 +201,13 @@ constexpr auto controls = std::to_array<ControlRow>({
     choice(Option1, "Option1", onFace(246, 8, 54, 20),  "AC", {"corriente alterna", "alternating current"}, true),
     choice(Option2, "Option2", onFace(246, 34, 54, 20), "DC", {"corriente continua", "direct current"}, false),
     hidden(result(Label37, "Label37", onFace(508, 14, 96, 34))),
-    function(c6, "c6", onFace(304, 16, 64, 30), "SMC", {"señal de modo común", "signal of common mode"}),
-    function(c7, "c7", onFace(374, 16, 64, 30), "CMRR", {"rechazo de modo común", "common mode rejection"}),
+    function(c6, "c6", onFace(292, 16, 64, 30), "SMC", {"señal de modo común", "signal of common mode"}),
+    function(c7, "c7", onFace(362, 16, 64, 30), "CMRR", {"rechazo de modo común", "common mode rejection"}),
     option(Image30, "Image30", Kind::image, powerSwitch, {"generador: encender", "generator: switch on"}, drawings::generatorButton),
     hidden(option(Image33, "Image33", Kind::image, powerSwitch, {"multímetro: encender", "multimeter: switch on"}, drawings::meterButton)),
 
     {.id = SSPanel1, .name = "SSPanel1", .kind = Kind::panel, .place = zones::nextStep, .look = Look::hint},
-    hidden({.id = SSPanel3, .name = "SSPanel3", .kind = Kind::panel, .place = onFace(448, 14, 154, 34), .look = Look::balloon}),
+    hidden({.id = SSPanel3, .name = "SSPanel3", .kind = Kind::panel, .place = onFace(440, 14, 162, 34), .look = Look::balloon}),
     {.id = SSPanel4, .name = "SSPanel4", .kind = Kind::panel, .place = page, .look = Look::lesson, .fontSize = 11},
     {.id = StatusBar1, .name = "StatusBar1", .kind = Kind::label, .place = zones::voice, .look = Look::prompt, .overlay = true},
     hidden(label(Label36, "Label36", note, Look::hint)),
@@ -246,8 +246,8 @@ constexpr PointPlaces points[] = {
 constexpr GeneratorPart generator[] = {
     {Image14, onFace(112, 5, 74, 52), at(976, 300, 74, 52)},
     {Image15, onFace(196, 5, 74, 52), at(1060, 300, 74, 52)},
-    {c6,      onFace(304, 16, 64, 30), at(976, 362, 64, 30)},
-    {c7,      onFace(374, 16, 64, 30), at(1060, 362, 64, 30)},
+    {c6,      onFace(292, 16, 64, 30), at(976, 362, 64, 30)},
+    {c7,      onFace(362, 16, 64, 30), at(1060, 362, 64, 30)},
 };
 
 constexpr host::Handle tabOrder[] = {

@@ -185,21 +185,20 @@ constexpr Mark markGround[] = {{.symbol = Symbol::wire, .from = {0, 20}, .to = {
                                {.symbol = Symbol::ground, .from = {20, 20}}};
 constexpr Mark groundLeft[] = {{.symbol = Symbol::wire, .from = {20, 20}, .to = {40, 20}},
                                {.symbol = Symbol::ground, .from = {20, 20}}};
-constexpr Mark screenA[] = {{.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {72, 50}},
+constexpr Mark screenA[] = {{.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {72, 50}, .ink = Ink::quiet},
                             {.symbol = Symbol::text, .from = {7, 12}, .name = "A", .ink = Ink::accent},
                             {.symbol = Symbol::sine, .from = {16, 9}, .to = {64, 41}}};
-constexpr Mark screenB[] = {{.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {72, 50}},
+constexpr Mark screenB[] = {{.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {72, 50}, .ink = Ink::quiet},
                             {.symbol = Symbol::text, .from = {7, 12}, .name = "B", .ink = Ink::accent},
                             {.symbol = Symbol::sineInverted, .from = {16, 9}, .to = {64, 41}}};
 
 constexpr Mark generatorFace[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {610, 62}},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {610, 62}, .ink = Ink::quiet},
     {.symbol = Symbol::circle, .from = {12, 9}, .to = {20, 17}, .ink = Ink::accent},
     {.symbol = Symbol::text, .from = {28, 13}, .note = {.es = "GENERADOR", .en = "GENERATOR"}, .ink = Ink::quiet, .size = 80},
-    {.symbol = Symbol::wire, .from = {276, 31}, .to = {290, 31}}, {.symbol = Symbol::terminal, .from = {290, 31}},
 };
 constexpr Mark meterFace[] = {
-    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {610, 62}},
+    {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {610, 62}, .ink = Ink::quiet},
     {.symbol = Symbol::circle, .from = {12, 9}, .to = {20, 17}, .ink = Ink::accent},
     {.symbol = Symbol::text, .from = {28, 13}, .note = {.es = "MULTÍMETRO", .en = "MULTIMETER"}, .ink = Ink::quiet, .size = 80},
     {.symbol = Symbol::frame, .from = {12, 22}, .to = {232, 56}, .ink = Ink::quiet},

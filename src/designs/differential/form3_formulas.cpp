@@ -47,6 +47,12 @@ Real vgOf(Real RL, Real RLw, Real ReDyn)
     return sheets::parallel(RL * 1000.0, RLw * 1000.0) / (2.5 * ReDyn);
 }
 
+Real benchEopp(Real Eopp)
+{
+    constexpr double least = 3.0;
+    return Eopp < least ? Real(least) : Eopp;
+}
+
 Real vrms(const Quantities& q)
 {
     return (q.Eopp / 2.0) * 0.707;
@@ -90,31 +96,6 @@ Real baseCurrent(const Quantities& q)
 Real loadImpedance(const Quantities& q)
 {
     return q.RLw * 1000.0;
-}
-
-Real outputAtCutoff(const Quantities& q)
-{
-    return vrms(q) - vrms(q) / 10.0;
-}
-
-Real outputPowerAtCutoff(const Quantities& q)
-{
-    return outputPower(q) - outputPower(q) / 10.0;
-}
-
-Real inputAtCutoff(const Quantities& q)
-{
-    return q.Ein + q.Ein / 10.0;
-}
-
-Real inputPowerAtCutoff(const Quantities& q)
-{
-    return inputPower(q) + inputPower(q) / 10.0;
-}
-
-Real inputImpedanceAtCutoff(const Quantities& q)
-{
-    return q.Zin + q.Zin / 10.0;
 }
 
 } // namespace velmor::form3

@@ -76,8 +76,8 @@ Real vgOf(Real RL, Real RLw, Real ReDyn);
 /// The share of the transistor's largest current that may flow at rest.
 inline constexpr double stabilityShare = 0.4;
 
-/// The working Eopp is never below 3 V for the bench.
-inline constexpr double leastBenchEopp = 3.0;
+/// The working Eopp, V: never below 3 V for the bench. What the design asks of the supply is worked out before.
+Real benchEopp(Real Eopp);
 
 // Readings of the meter, each in the unit that its row names.
 
@@ -96,11 +96,16 @@ Real positivePower(const Quantities& q); ///< (Es x QIc x 2) / 1000, W
 Real baseVoltage(const Quantities& q);   ///< Rb2 x (QIc / Beta), V
 Real baseCurrent(const Quantities& q);   ///< QIc / Beta, mA
 Real loadImpedance(const Quantities& q); ///< RLw x 1000, ohm
-// At the cut-off frequency, 10 % off the value in mid-band.
-Real outputAtCutoff(const Quantities& q);         ///< V
-Real outputPowerAtCutoff(const Quantities& q);    ///< W
-Real inputAtCutoff(const Quantities& q);          ///< V
-Real inputPowerAtCutoff(const Quantities& q);     ///< mW
-Real inputImpedanceAtCutoff(const Quantities& q); ///< ohm
+// At the cut-off frequency: 10 % less at the output, 10 % more at the input, in the unit of the reading.
+template <Real (*midBand)(const Quantities&)>
+Real outputAtCutoff(const Quantities& q)
+{
+    return midBand(q) - midBand(q) / 10.0;
+}
+template <Real (*midBand)(const Quantities&)>
+Real inputAtCutoff(const Quantities& q)
+{
+    return midBand(q) + midBand(q) / 10.0;
+}
 
 } // namespace velmor::form3

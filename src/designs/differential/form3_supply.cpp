@@ -185,16 +185,30 @@ void Form3::leaveRL()
         return;
     if (at(Text17) < leastRL)
         setText(Text17, shown(q_.RLcalc / perKilo + 1.0));
+    takeERL();
+    q_.Eopp = at(Text14);
+    tellERL();
+    if (q_.ERL < q_.Eopp / 2.0) {
+        raiseRL();
+    } else {
+        takeLeast();
+        q_.Eopp = benchEopp(q_.Eopp);
+        setText(Label31, words(texts::leastSource) + shown(q_.EsMin) + " V");
+    }
+    offer(Text18, shown(q_.EsMin));
+}
+
+void Form3::takeERL()
+{
     q_.RL = at(Text17);
     q_.QIc = at(Text9);
     q_.ERL = q_.QIc * q_.RL;
-    q_.Eopp = at(Text14);
-    tellERL();
-    if (q_.ERL < q_.Eopp / 2.0)
-        raiseRL();
-    else
-        takeEsMin();
-    offer(Text18, shown(q_.EsMin));
+}
+
+void Form3::takeLeast()
+{
+    q_.EQMin = Real(1.0) + q_.Eopp;
+    q_.EsMin = q_.EQMin + q_.ERL;
 }
 
 void Form3::tellERL()
@@ -211,23 +225,11 @@ void Form3::raiseRL()
         write(Text17, rlForEopp(q_.Eopp, q_.QIc));
     host::EventArgs args{.control = Text17};
     focusRL(args);
-    q_.RL = at(Text17);
-    q_.ERL = q_.QIc * q_.RL;
-    q_.EQMin = Real(1.0) + q_.Eopp;
-    q_.EsMin = q_.EQMin + q_.ERL;
+    takeERL();
+    takeLeast();
 }
 
 // --- Es
-
-// The clamp of Eopp comes after EQMin: it reaches the bench alone.
-void Form3::takeEsMin()
-{
-    q_.EQMin = Real(1.0) + q_.Eopp;
-    if (q_.Eopp < leastBenchEopp)
-        q_.Eopp = leastBenchEopp;
-    q_.EsMin = q_.EQMin + q_.ERL;
-    setText(Label31, words(texts::leastSource) + shown(q_.EsMin) + " V");
-}
 
 void Form3::focusEs()
 {
@@ -258,9 +260,7 @@ void Form3::leaveEs()
 bool Form3::takeEs()
 {
     q_.passed = false;
-    q_.RL = at(Text17);
-    q_.QIc = at(Text9);
-    q_.ERL = q_.QIc * q_.RL;
+    takeERL();
     if (at(Text18) < leastEs)
         setText(Text18, shown(q_.EsMin));
     q_.Es = at(Text18);
@@ -274,8 +274,7 @@ bool Form3::takeEs()
     setText(Label32, "EQ1=  " + shown(q_.EQ) + "   V ");
     setText(Label35, "EQ2=  " + shown(q_.EQ) + "   V ");
     q_.Eopp = at(Text14);
-    q_.EQMin = Real(1.0) + q_.Eopp;
-    q_.EsMin = q_.EQMin + q_.ERL;
+    takeLeast();
     setText(Label31, words(texts::leastVoltage) + digits(q_.EsMin) + " V");
     if (q_.EQ < q_.EQMin) {
         tell(texts::lowEQ);
@@ -313,8 +312,7 @@ void Form3::finishDesign()
     host::Place place = placeOf(Label43);
     place.left = finishedLeftOfLabel43;
     setPlaceOf(Label43, place);
-    if (q_.Eopp < leastBenchEopp)
-        q_.Eopp = leastBenchEopp;
+    q_.Eopp = benchEopp(q_.Eopp);
     q_.passed = true;
 }
 

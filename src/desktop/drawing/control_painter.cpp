@@ -253,16 +253,16 @@ QColor buttonGround(const Scene& scene)
     return groundOr(scene, scene.hovered() ? scene.inks().buttonHover : scene.inks().button);
 }
 
-/// In force: held down, framed in the accent, with a bar below its letters.
+/// In force: filled with the accent, with a bar below its letters. A frame alone would be that of the keyboard's focus.
 void paintChosenButton(const Scene& scene)
 {
-    plate(scene, scene.inks().accentTint, scene.inks().accent, 5.0, 2.0 * hairline(scene));
-    const double edge = 6.0 * scene.unit();
-    const double height = 3.0 * scene.unit();
-    const QRectF bar(scene.box.left() + edge, scene.box.bottom() - edge, scene.box.width() - 2.0 * edge, height);
-    scene.painter.fillRect(crisp(scene, bar), scene.inks().accent);
+    plate(scene, scene.inks().accent, scene.inks().accent, 5.0, hairline(scene));
+    const double edge = 7.0 * scene.unit();
+    const QRectF bar(scene.box.left() + edge, scene.box.bottom() - 5.0 * scene.unit(), scene.box.width() - 2.0 * edge,
+                     2.0 * scene.unit());
+    scene.painter.fillRect(crisp(scene, bar), scene.inks().onAccent);
     paintDrawing(scene);
-    writeCaption(scene, scene.inks().ink, scene.inks().accentTint);
+    writeCaption(scene, scene.inks().onAccent, scene.inks().accent);
 }
 
 void paintButton(const Scene& scene)

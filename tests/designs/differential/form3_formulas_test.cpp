@@ -101,11 +101,11 @@ TEST(Form3Formulas, ReadingsOfTheMeter)
 TEST(Form3Formulas, AtTheCutOffEverythingIsATenthOff)
 {
     const Quantities q = defaults();
-    EXPECT_NEAR(outputAtCutoff(q).value(), 3.1815, 1e-12);
-    EXPECT_NEAR(outputPowerAtCutoff(q).value(), 0.9 * 12.496225 / 8000.0, 1e-15);
-    EXPECT_NEAR(inputAtCutoff(q).value(), 0.055, 1e-15);
-    EXPECT_NEAR(inputPowerAtCutoff(q).value(), 0.000275, 1e-15);
-    EXPECT_NEAR(inputImpedanceAtCutoff(q).value(), 11000.0, 1e-9);
+    EXPECT_NEAR(outputAtCutoff<vrms>(q).value(), 3.1815, 1e-12);
+    EXPECT_NEAR(outputAtCutoff<outputPower>(q).value(), 0.9 * 12.496225 / 8000.0, 1e-15);
+    EXPECT_NEAR(inputAtCutoff<reading<&Quantities::Ein>>(q).value(), 0.055, 1e-15);
+    EXPECT_NEAR(inputAtCutoff<inputPower>(q).value(), 0.000275, 1e-15);
+    EXPECT_NEAR(inputAtCutoff<reading<&Quantities::Zin>>(q).value(), 11000.0, 1e-9);
 }
 
 } // namespace velmor::form3_formulas_test

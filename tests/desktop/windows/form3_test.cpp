@@ -223,8 +223,8 @@ TEST_P(Form3Test, aFunctionInForceLooksChosenNotDead)
         return count;
     };
     EXPECT_FALSE(sheet->enabled(c4));
-    EXPECT_GT(accents(c4), 100) << "the bar below its letter, and the frame";
-    EXPECT_EQ(accents(c5), 0);
+    EXPECT_GT(accents(c4), 500) << "filled with the accent";
+    EXPECT_EQ(accents(C3), 0);
 }
 
 TEST_P(Form3Test, thePointerOverAFieldBringsItsFormulaAndTheTableOfValues)
