@@ -206,7 +206,7 @@ constexpr Mark meterFace[] = {
 /// The reading in its display, the unit behind it.
 constexpr Mark readingIn(std::string_view unit)
 {
-    return {.symbol = Symbol::text, .from = {224, 39}, .side = Side::left, .value = SSPanel2, .unit = unit, .size = 170};
+    return {.symbol = Symbol::label, .from = {224, 39}, .side = Side::left, .value = SSPanel2, .unit = unit, .size = 170};
 }
 constexpr Mark readingV[]    = {readingIn("V")};
 constexpr Mark readingMa[]   = {readingIn("mA")};
