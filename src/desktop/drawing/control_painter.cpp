@@ -12,6 +12,7 @@
 
 #include "desktop/drawing/caption_fit.h"
 #include "desktop/drawing/field_marks.h"
+#include "desktop/drawing/growth_plan.h"
 #include "desktop/drawing/plates.h"
 #include "desktop/drawing/schematic_painter.h"
 #include "desktop/drawing/typefaces.h"
@@ -114,7 +115,8 @@ void writeCaption(const Scene& scene, const QColor& ink, const QColor& ground)
     const CaptionSetting setting = setCaption(scene.window, scene.control, scene.view);
     if (setting.text.isEmpty())
         return;
-    const QColor wished = scene.state().foreColor >= 0 ? colorOf(scene.state().foreColor) : ink;
+    const QColor own = scene.state().foreColor >= 0 ? colorOf(scene.state().foreColor) : ink;
+    const QColor wished = scene.view.pale ? scene.inks().quiet : own;
     scene.painter.setFont(setting.font);
     scene.painter.setPen(readableOn(ground, wished));
     scene.painter.drawText(setting.room, setting.flags | Qt::TextDontClip, setting.text);
@@ -411,15 +413,26 @@ bool isWidget(Kind kind)
     return kind == Kind::field || kind == Kind::page || kind == Kind::editor || kind == Kind::list;
 }
 
-void paintLayer(QPainter& painter, const host::Window& window, const View& view, bool overlays)
+void paintExposed(QPainter& painter, const host::Window& window, Handle control, const View& view)
 {
-    for (Handle control = 0; control < window.controlCount(); ++control) {
-        if (!isPainted(window, control) || window.row(control).overlay != overlays)
-            continue;
-        if (!view.exposed.isEmpty() && !inkBounds(window, control, view).intersects(view.exposed))
-            continue;
+    if (isPainted(window, control) &&
+        (view.exposed.isEmpty() || inkBounds(window, control, view).intersects(view.exposed)))
         paintControl(painter, window, control, view);
+}
+
+void paintInTone(QPainter& painter, const host::Window& window, Handle control, const View& view)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Scene scene{painter, window, control, view, boxOf(window, control, view)};
+    if (isWidget(window.row(control).kind)) {
+        if (view.forPrint && window.row(control).kind == Kind::field)
+            paintPrintedField(scene);
+        paintFieldMarks(painter, window, control, view);
+    } else {
+        paintByLook(scene);
     }
+    painter.restore();
 }
 
 } // namespace painting
@@ -427,7 +440,9 @@ void paintLayer(QPainter& painter, const host::Window& window, const View& view,
 bool isPainted(const host::Window& window, Handle control)
 {
     const host::ControlRow& row = window.row(control);
-    for (Handle part = control; part != host::noControl; part = window.row(part).parent)
+    if (toneOf(GrowthPlan::of(window.spec()), window, control) == host::Tone::away)
+        return false;
+    for (Handle part = row.parent; part != host::noControl; part = window.row(part).parent)
         if (!window.visible(part))
             return false;
     return row.look != Look::invisible && row.kind != Kind::timer && row.kind != Kind::menu;
@@ -443,17 +458,11 @@ QRectF boxOf(const host::Window& window, Handle control, const View& view)
 
 void paintControl(QPainter& painter, const host::Window& window, Handle control, const View& view)
 {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    const painting::Scene scene{painter, window, control, view, boxOf(window, control, view)};
-    if (painting::isWidget(window.row(control).kind)) {
-        if (view.forPrint && window.row(control).kind == Kind::field)
-            painting::paintPrintedField(scene);
-        paintFieldMarks(painter, window, control, view);
-    } else {
-        painting::paintByLook(scene);
-    }
-    painter.restore();
+    if (view.pale || toneOf(GrowthPlan::of(window.spec()), window, control) != host::Tone::pale)
+        return painting::paintInTone(painter, window, control, view);
+    View faint = view;
+    faint.pale = true;
+    painting::paintInTone(painter, window, control, faint);
 }
 
 void paintWindow(QPainter& painter, const host::Window& window, const View& view)
@@ -461,8 +470,10 @@ void paintWindow(QPainter& painter, const host::Window& window, const View& view
     const host::Place& place = window.spec().place;
     const QRectF sheet(view.origin, QSizeF(place.width, place.height) * view.pixelsPerTwip);
     painter.fillRect(sheet, view.inks->paper);
-    painting::paintLayer(painter, window, view, false);
-    painting::paintLayer(painter, window, view, true);
+    inOrderOfPainting(window, [&](Handle control) { painting::paintExposed(painter, window, control, view); });
+    for (const host::ControlRow& row : window.spec().controls)
+        if (row.overlay)
+            painting::paintExposed(painter, window, row.id, view);
 }
 
 QRectF inkBounds(const host::Window& window, Handle control, const View& view)

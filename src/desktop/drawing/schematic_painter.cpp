@@ -101,6 +101,13 @@ bool isInline(Symbol symbol)
     return symbol == Symbol::terminal || symbol == Symbol::supplyUp || symbol == Symbol::supplyDown;
 }
 
+/// A pale part has no value yet, or keeps the one that it had: a placeholder would only say its name twice.
+bool beginsWithNumber(const QString& text)
+{
+    static const QRegularExpression number(QStringLiteral("^[+-]?\\.?\\d"));
+    return number.match(text).hasMatch();
+}
+
 std::vector<SymbolLabel> linesOf(const host::Window& window, const Mark& mark, double unit, const View& view)
 {
     const double letters = letterUnits * unit * mark.size / 100.0;
@@ -117,7 +124,7 @@ std::vector<SymbolLabel> linesOf(const host::Window& window, const Mark& mark, d
         lines.push_back(setLabel(mark.name, letters));
     }
     const QString value = valueText(window, mark);
-    if (value.isEmpty())
+    if (value.isEmpty() || (view.pale && !beginsWithNumber(value)))
         return lines;
     if (isInline(mark.symbol) && !lines.empty())
         append(lines.back(), setUpright(QStringLiteral("= ") + value, letters * valueSize), letters * 0.3);
@@ -189,6 +196,8 @@ Block blockOf(const host::Window& window, const Mark& mark, double unit, QPointF
 
 QColor inkOf(const Mark& mark, const View& view)
 {
+    if (view.pale)
+        return view.inks->quiet;
     const bool isSignal =
         mark.symbol == Symbol::arrow || mark.symbol == Symbol::sine || mark.symbol == Symbol::sineInverted;
     if (isSignal && mark.ink == host::Ink::normal)
@@ -229,7 +238,7 @@ void addMark(Sketch& sketch, QPointF origin, const host::Window& window, const M
 {
     const bool highlighted = inHand(window, mark, view);
     const QColor ink = inkOf(mark, view);
-    Stroke stroke{ink, highlighted ? view.inks->accent : ink, view.inks->paper, highlighted};
+    Stroke stroke{ink, highlighted ? view.inks->accent : ink, view.inks->paper, highlighted && !view.pale};
     const Block block = blockOf(window, mark, sketch.unit(), origin, view);
     if (highlighted)
         addHalo(sketch, mark, block, view);

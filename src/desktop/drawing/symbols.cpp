@@ -265,11 +265,16 @@ void drawTransformer(const Pen& pen)
 {
     const auto& axes = pen.axes;
     pen.leads(20.0);
-    const double half = std::hypot(pen.mark.to.x - pen.mark.from.x, pen.mark.to.y - pen.mark.from.y) / 2.0;
-    pen.lead(axes.at(-half, 40.0), axes.at(-20.0, 40.0));
-    pen.lead(axes.at(20.0, 40.0), axes.at(half, 40.0));
+    // The secondary has axes of its own: its ends lie on the grid, where wires join them.
+    const QPointF direction = directionOf(pen.mark);
+    const QPointF beside = QPointF(direction.y(), -direction.x()) * 40.0;
+    const QPointF from = unitsOf(pen.mark.from) + beside;
+    const QPointF to = unitsOf(pen.mark.to) + beside;
+    const Axes secondary(pen.sketch, (from + to) / 2.0, direction);
+    pen.lead(pen.sketch.at(from), secondary.at(-20.0, 0.0));
+    pen.lead(secondary.at(20.0, 0.0), pen.sketch.at(to));
     pen.wave(winding(axes, 20.0, 4, 0.0, 10.0));
-    pen.wave(winding(axes, 20.0, 4, 40.0, -10.0));
+    pen.wave(winding(secondary, 20.0, 4, 0.0, -10.0));
     pen.line(-22.0, 17.5, 22.0, 17.5);
     pen.line(-22.0, 22.5, 22.0, 22.5);
 }
@@ -303,11 +308,11 @@ void drawTransistor(const Pen& pen)
     pen.lead(axes.at(0.0, 0.0), axes.at(13.0, 0.0));
     pen.solid(axes.bar(13.0, 12.5, 3.0 * pen.stroke.factor()));
     for (const double side : {up, -up}) {
-        const QPointF knee = axes.at(30.0, side * 18.7);
         const QPointF end = pen.sketch.at(
             unitsOf(side == up ? host::upperEnd(symbol, pen.mark.from) : host::lowerEnd(symbol, pen.mark.from)));
+        const QPointF knee(end.x(), axes.at(30.0, side * 18.7).y());
         pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.curveWeight(), {axes.at(13.0, side * 6.0), knee});
-        pen.lead({end.x(), knee.y()}, end);
+        pen.lead(knee, end);
     }
     const double side = host::isPnp(symbol) ? up : -up;
     const QPointF foot = axes.at(13.0, side * 6.0);

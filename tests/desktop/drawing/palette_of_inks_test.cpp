@@ -30,6 +30,8 @@ std::vector<std::pair<QColor, QColor>> textPairs(const Inks& inks)
             {inks.ink, inks.hint},
             {inks.onBalloon, inks.balloon},
             {inks.fieldInk, inks.field},
+            {inks.quiet, inks.field},
+            {inks.quiet, inks.accentTint},
             {inks.fieldOffInk, inks.fieldOff},
             {inks.ink, inks.button},
             {inks.ink, inks.buttonHover},
