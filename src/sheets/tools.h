@@ -138,6 +138,27 @@ inline constexpr std::string_view cloneKey = "Ctrl+D";
 inline constexpr std::string_view helpKey = "Shift+F1";
 inline constexpr std::string_view checkKey = "Ctrl+T"; ///< kept for the sixth tool
 
+/// Keys that a sheet leaves alone: those of editing, of undo, between windows and of the main menu.
+inline constexpr auto reservedKeys = std::to_array<std::string_view>({
+    "F6",
+    "Ctrl+A",
+    "Ctrl+C",
+    "Ctrl+V",
+    "Ctrl+X",
+    "Ctrl+Z",
+    "Ctrl+Y",
+    "Alt+Backspace",
+    "Ctrl+F4",
+    "Alt+F4",
+    "Ctrl+Tab",
+    "Ctrl+Shift+Tab",
+    "Ctrl+S",
+    "Ctrl+Shift+S",
+    "Ctrl+W",
+    "Ctrl+Shift+I",
+    "Ctrl+Shift+E",
+});
+
 // clang-format off
 /// The keys that every sheet has, whatever its fields are.
 inline constexpr auto fieldKeys = std::to_array<host::ShortcutRow>({
