@@ -43,7 +43,7 @@ constexpr host::Place place(int index)
 
 constexpr host::Mark caption(host::BiText text)
 {
-    return {.symbol = host::Symbol::text, .from = {42, 37}, .note = text, .side = host::Side::below, .size = 72};
+    return {.symbol = host::Symbol::text, .from = {42, 41}, .note = text, .side = host::Side::below, .size = 90};
 }
 
 /// An icon above its caption. Coordinates are those of the button.

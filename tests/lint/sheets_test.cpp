@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The grammar of sheets, kept by every sheet of the program.
+// The grammar of sheets, kept by every sheet of the program and by the template and its twin.
 #include <gtest/gtest.h>
 
 #include "lint/grammar.h"

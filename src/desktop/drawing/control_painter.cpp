@@ -129,7 +129,9 @@ void paintDrawing(const Scene& scene)
         return;
     const bool faded = !scene.enabled() && !scene.chosen() && scene.row().look == Look::toolButton;
     scene.painter.setOpacity(faded ? 0.45 : 1.0);
-    paintMarks(scene.painter, scene.window, drawing, scene.box.topLeft(), scene.view);
+    View view = scene.view;
+    view.onButton = scene.row().look == Look::toolButton;
+    paintMarks(scene.painter, scene.window, drawing, scene.box.topLeft(), view);
     scene.painter.setOpacity(1.0);
 }
 

@@ -119,7 +119,7 @@ std::vector<SymbolLabel> linesOf(const host::Window& window, const Mark& mark, d
         const std::string_view note = mark.note.in(view.languageIsEnglish);
         const QString text = plain(note.empty() ? mark.name : note);
         for (const QString& line : text.split(QLatin1Char('\n')))
-            lines.push_back(setUpright(line, letters * valueSize));
+            lines.push_back((view.onButton ? setCaptionLine : setUpright)(line, letters * valueSize));
     } else if (!mark.name.empty() && mark.symbol != Symbol::meter) {
         lines.push_back(setLabel(mark.name, letters));
     }
@@ -197,7 +197,7 @@ Block blockOf(const host::Window& window, const Mark& mark, double unit, QPointF
 QColor inkOf(const Mark& mark, const View& view)
 {
     if (view.pale)
-        return view.inks->quiet;
+        return view.inks->pale;
     const bool isSignal =
         mark.symbol == Symbol::arrow || mark.symbol == Symbol::sine || mark.symbol == Symbol::sineInverted;
     if (isSignal && mark.ink == host::Ink::normal)
@@ -239,15 +239,17 @@ void addMark(Sketch& sketch, QPointF origin, const host::Window& window, const M
     const bool highlighted = inHand(window, mark, view);
     const QColor ink = inkOf(mark, view);
     Stroke stroke{ink, highlighted ? view.inks->accent : ink, view.inks->paper, highlighted && !view.pale};
+    // Letters are thinner than strokes: pale ones would not be readable.
+    const QColor letters = view.pale && !highlighted ? view.inks->quiet : stroke.body;
     const Block block = blockOf(window, mark, sketch.unit(), origin, view);
     if (highlighted)
         addHalo(sketch, mark, block, view);
     drawSymbol(sketch, mark, stroke);
     if (mark.symbol == Symbol::meter)
-        writeMeterLetter(sketch, mark, stroke.body);
+        writeMeterLetter(sketch, mark, letters);
     for (const Line& line : block.lines)
         for (const LabelRun& run : line.label.runs)
-            sketch.write(line.baseline + QPointF(run.offset, run.lowered), run.text, run.font, stroke.body);
+            sketch.write(line.baseline + QPointF(run.offset, run.lowered), run.text, run.font, letters);
 }
 
 bool canSnap(const QTransform& transform, const View& view)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The whole circuit stands there pale and is inked part by part: parts and values in the quiet shade before, in ink after, pale
+// The whole circuit stands there pale and is inked part by part: parts and values in the pale shade before, in ink after, pale
 // again after going back; what belongs to another circuit is not there.
 #include <QFile>
 #include <QTemporaryDir>
@@ -120,11 +120,11 @@ constexpr QPoint onArrow(190, 40);
 
 using namespace growth_tests;
 
-TEST_F(GrowingDrawing, StandsThereInTheQuietShadeFromTheStart)
+TEST_F(GrowingDrawing, StandsTherePaleFromTheStart)
 {
     for (const desktop::Inks* inks : {&desktop::lightInks(), &desktop::darkInks()}) {
-        EXPECT_EQ(colorAt(sheet, onSupply, *inks), inks->quiet);
-        EXPECT_EQ(colorAt(sheet, onLoad, *inks), inks->quiet);
+        EXPECT_EQ(colorAt(sheet, onSupply, *inks), inks->pale);
+        EXPECT_EQ(colorAt(sheet, onLoad, *inks), inks->pale);
     }
 }
 
@@ -132,16 +132,16 @@ TEST_F(GrowingDrawing, IsInkedPartByPartAndPaleAgainAfterGoingBack)
 {
     sheet.show(Line1);
     EXPECT_EQ(colorAt(sheet, onSupply), lightInks().ink);
-    EXPECT_EQ(colorAt(sheet, onLoad), lightInks().quiet);
+    EXPECT_EQ(colorAt(sheet, onLoad), lightInks().pale);
     sheet.hide(Line1);
-    EXPECT_EQ(colorAt(sheet, onSupply), lightInks().quiet);
+    EXPECT_EQ(colorAt(sheet, onSupply), lightInks().pale);
 }
 
 TEST_F(GrowingDrawing, HasThePartsOfItsOwnCircuitOnly)
 {
     EXPECT_EQ(colorAt(sheet, onLamp), lightInks().paper);
     sheet.show(Picture1);
-    EXPECT_EQ(colorAt(sheet, onLamp), lightInks().quiet);
+    EXPECT_EQ(colorAt(sheet, onLamp), lightInks().pale);
     sheet.show(Line3);
     EXPECT_EQ(colorAt(sheet, onLamp), lightInks().ink);
     sheet.hide(Picture1, Line3);
@@ -182,19 +182,19 @@ TEST_F(GrowingDrawing, GoesToPaperAndFilesAsItStands)
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
-    const QByteArray quietStroke = "stroke=\"" + desktop::printInks().quiet.name().toUtf8();
-    EXPECT_TRUE(svg().contains(quietStroke));
+    const QByteArray paleStroke = "stroke=\"" + desktop::printInks().pale.name().toUtf8();
+    EXPECT_TRUE(svg().contains(paleStroke));
     sheet.show(Line1, Line2);
-    EXPECT_FALSE(svg().contains(quietStroke)) << "every part of this circuit is inked";
+    EXPECT_FALSE(svg().contains(paleStroke)) << "every part of this circuit is inked";
     sheet.show(Picture1);
-    EXPECT_TRUE(svg().contains(quietStroke)) << "the lamp is not";
+    EXPECT_TRUE(svg().contains(paleStroke)) << "the lamp is not";
 }
 
 TEST_F(CrossingParts, LieBelowTheInkWhateverTheOrderOfTheTable)
 {
     window().show(Switch);
     const QImage image = imageOf(window());
-    EXPECT_EQ(QColor(image.pixel(onUpright)), lightInks().quiet);
+    EXPECT_EQ(QColor(image.pixel(onUpright)), lightInks().pale);
     EXPECT_EQ(QColor(image.pixel(crossing)), lightInks().ink);
     EXPECT_EQ(QColor(image.pixel(crossing + QPoint(1, 0))), lightInks().ink);
     EXPECT_EQ(QColor(image.pixel(crossing - QPoint(1, 0))), lightInks().ink);

@@ -65,6 +65,8 @@ TEST(PaletteOfInks, KeepsOutlinesVisible)
         EXPECT_GE(contrast(inks->edge, inks->paper), 3.0);
         EXPECT_GE(contrast(inks->edge, inks->field), 3.0);
         EXPECT_GE(contrast(inks->accent, inks->field), 3.0);
+        EXPECT_GE(contrast(inks->pale, inks->paper), 3.0);
+        EXPECT_LE(contrast(inks->pale, inks->paper) * 3.0, contrast(inks->ink, inks->paper)) << "told from ink";
     }
 }
 
