@@ -140,23 +140,9 @@ inline constexpr std::string_view checkKey = "Ctrl+T"; ///< kept for the sixth t
 
 /// Keys that a sheet leaves alone: those of editing, of undo, between windows and of the main menu.
 inline constexpr auto reservedKeys = std::to_array<std::string_view>({
-    "F6",
-    "Ctrl+A",
-    "Ctrl+C",
-    "Ctrl+V",
-    "Ctrl+X",
-    "Ctrl+Z",
-    "Ctrl+Y",
-    "Alt+Backspace",
-    "Ctrl+F4",
-    "Alt+F4",
-    "Ctrl+Tab",
-    "Ctrl+Shift+Tab",
-    "Ctrl+S",
-    "Ctrl+Shift+S",
-    "Ctrl+W",
-    "Ctrl+Shift+I",
-    "Ctrl+Shift+E",
+    "F6",           "Ctrl+F1", "Ctrl+N",        "Ctrl+O",       "Ctrl+A", "Ctrl+C",   "Ctrl+V",         "Ctrl+X",
+    "Ctrl+Z",       "Ctrl+Y",  "Alt+Backspace", "Ctrl+F4",      "Alt+F4", "Ctrl+Tab", "Ctrl+Shift+Tab", "Ctrl+S",
+    "Ctrl+Shift+S", "Ctrl+W",  "Ctrl+Shift+I",  "Ctrl+Shift+E",
 });
 
 // clang-format off
