@@ -62,7 +62,6 @@ class GrowingCanvas : public testing::Test {
 protected:
     GrowingCanvas()
     {
-        desk.engine = &engine;
         canvas.layOut(1.0, {300, 160});
         canvas.applyAll();
         canvas.show();
@@ -84,7 +83,11 @@ protected:
     host::MemorySettings settings;
     host::Engine engine{{}, screen, settings};
     host::Window window{engine.host(), spec};
-    desktop::Desk desk;
+    desktop::Desk desk = [this] {
+        desktop::Desk made;
+        made.engine = &engine;
+        return made;
+    }();
     desktop::Canvas canvas{desk, window};
 };
 
