@@ -3,6 +3,9 @@
 // measures a quantity in another unit says so with `in`.
 #pragma once
 
+#include <array>
+#include <string_view>
+
 #include "sheets/schematic.h"
 
 namespace velmor::sheets::notation {
@@ -39,6 +42,20 @@ inline constexpr Quantity Rb1{"R_b1", "kΩ", {"Preset, resistor superior de base
 inline constexpr Quantity Rb2{"R_b2", "kΩ", {"Resistor inferior de base", "Lower base resistor"}};
 inline constexpr Quantity Rg {"R_g",  "kΩ", {"Resistencia del generador", "Resistance of the generator"}};
 inline constexpr Quantity Cbp{"C_bp", "",   {"Capacitor de desacople de emisor", "Emitter bypass capacitor"}};
+
+/// All of them: what is measured on a sheet is measured under one of these symbols.
+inline constexpr auto all = std::to_array<Quantity>({
+    dQIc, T, dVbe, S,
+    Vg, fo, Eopp, Ein, Po,
+    Beta, EcMax, IcMax, Vj,
+    QIc, Es, Ebias, Eq, ERes,
+    Res, RL, RLw, Rb1, Rb2, Rg, Cbp,
+});
+
+/// Names on a drawing that no field measures: parts, and what is worked out beside them.
+inline constexpr auto partNames = std::to_array<std::string_view>({
+    "Q_1", "Q_2", "C_in", "C_out", "r'_e", "E_RL", "E_Rb1", "E_d",
+});
 // clang-format on
 
 /// The same quantity in another unit.

@@ -43,7 +43,7 @@ constexpr host::Place place(int index)
 
 constexpr host::Mark caption(host::BiText text)
 {
-    return {.symbol = host::Symbol::text, .from = {42, 37}, .note = text, .side = host::Side::below, .size = 72};
+    return {.symbol = host::Symbol::text, .from = {42, 41}, .note = text, .side = host::Side::below, .size = 90};
 }
 
 /// An icon above its caption. Coordinates are those of the button.
@@ -137,6 +137,13 @@ inline constexpr std::string_view reportKey = "Ctrl+R";
 inline constexpr std::string_view cloneKey = "Ctrl+D";
 inline constexpr std::string_view helpKey = "Shift+F1";
 inline constexpr std::string_view checkKey = "Ctrl+T"; ///< kept for the sixth tool
+
+/// Keys that a sheet leaves alone: those of editing, of undo, between windows and of the main menu.
+inline constexpr auto reservedKeys = std::to_array<std::string_view>({
+    "F6",           "Ctrl+F1", "Ctrl+N",        "Ctrl+O",       "Ctrl+A", "Ctrl+C",   "Ctrl+V",         "Ctrl+X",
+    "Ctrl+Z",       "Ctrl+Y",  "Alt+Backspace", "Ctrl+F4",      "Alt+F4", "Ctrl+Tab", "Ctrl+Shift+Tab", "Ctrl+S",
+    "Ctrl+Shift+S", "Ctrl+W",  "Ctrl+Shift+I",  "Ctrl+Shift+E",
+});
 
 // clang-format off
 /// The keys that every sheet has, whatever its fields are.

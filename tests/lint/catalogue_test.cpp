@@ -2,6 +2,7 @@
 // The rules of the house, kept by every window of the program and by the template sheet.
 #include <gtest/gtest.h>
 
+#include "lint/keeps.h"
 #include "lint/lint.h"
 #include "sheets/sheet_program.h"
 
@@ -23,16 +24,6 @@ class EveryTable : public testing::TestWithParam<const host::WindowSpec*> {
 protected:
     const host::WindowSpec& window() const { return *GetParam(); }
 };
-
-testing::AssertionResult keeps(const Complaints& complaints)
-{
-    if (complaints.empty())
-        return testing::AssertionSuccess();
-    testing::AssertionResult result = testing::AssertionFailure();
-    for (const std::string& complaint : complaints)
-        result << "\n  " << complaint;
-    return result;
-}
 
 TEST_P(EveryTable, HasItsRowsInOrder)
 {

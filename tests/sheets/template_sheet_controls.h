@@ -87,7 +87,7 @@ inline constexpr auto controls = [] {
         hidden(label(status1, "status1", at(8, 306, 220, 60), Look::hint)),
         option(Picture6, "Picture6", Kind::picture, zones::option(0),
                {"Diseñar con indicador", "Design with the indicator lamp"}, lampMarks),
-        hidden(option(Picture1, "Picture1", Kind::picture, zones::option(1),
+        hidden(option(Picture1, "Picture1", Kind::picture, zones::option(0),
                       {"Diseñar sin indicador", "Design without the lamp"}, noLampMarks)),
         guideTool(SSCommand1, "SSCommand1", Kind::button),
         calculatorTool(Image3, "Image3"),

@@ -90,7 +90,7 @@ constexpr ControlRow function(host::Handle id, std::string_view name, const Plac
                    .place = place,
                    .text = text,
                    .meaning = meaning,
-                   .chosenWhenDisabled = true,
+                   .chosen = host::Chosen::whenDisabled,
                    .fontSize = 10});
 }
 constexpr ControlRow choice(host::Handle id, std::string_view name, const Place& place, std::string_view text,

@@ -16,6 +16,7 @@
 #include "desktop/canvas/keyboard.h"
 #include "desktop/canvas/pointer.h"
 #include "desktop/drawing/control_painter.h"
+#include "desktop/drawing/growth_plan.h"
 #include "desktop/drawing/page_picture.h"
 #include "desktop/drawing/texts.h"
 
@@ -84,14 +85,26 @@ bool Canvas::belongs(Handle control) const
 
 // A panel that is the canvas itself is shown with it: while no sheet is open the welcome is there, even when a sheet has
 // sent it away before.
-bool Canvas::shows(Handle control) const
+bool Canvas::liesOpen(Handle control) const
 {
-    if (model_ == nullptr || !belongs(control))
-        return false;
     for (Handle part = control; part != noControl; part = model_->row(part).parent)
         if (!model_->visible(part) && !isGround(part))
             return false;
     return true;
+}
+
+bool Canvas::shows(Handle control) const
+{
+    return model_ != nullptr && belongs(control) && liesOpen(control);
+}
+
+// What is pale is seen, and is not there for mouse and keyboard.
+bool Canvas::paints(Handle control) const
+{
+    if (shows(control))
+        return true;
+    const bool pale = toneOf(GrowthPlan::of(model_->spec()), *model_, control) == host::Tone::pale;
+    return pale && belongs(control) && liesOpen(model_->row(control).parent);
 }
 
 const QRectF& Canvas::ink(Handle control) const
@@ -158,7 +171,8 @@ bool Canvas::isGround(Handle control) const
 
 void Canvas::paintOne(QPainter& painter, Handle control, const QRegion& clip)
 {
-    if (model_ == nullptr || !shows(control) || model_->row(control).look == host::Look::invisible || isGround(control))
+    if (model_ == nullptr || !paints(control) || model_->row(control).look == host::Look::invisible ||
+        isGround(control))
         return;
     // Measuring what a control paints on costs as much as painting it: a whole canvas is painted without asking.
     const bool everything = clip.rectCount() == 1 && clip.boundingRect().contains(rect());
@@ -176,9 +190,7 @@ void Canvas::paintEvent(QPaintEvent* event)
     painter.fillRect(event->rect(), view_.inks->paper);
     if (model_ == nullptr)
         return;
-    for (const host::ControlRow& row : model_->spec().controls)
-        if (!row.overlay && hasPlace(row.kind))
-            paintOne(painter, row.id, event->region());
+    inOrderOfPainting(*model_, [&](Handle control) { paintOne(painter, control, event->region()); });
 }
 
 void Canvas::repaintControl(Handle control)

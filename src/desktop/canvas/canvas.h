@@ -81,8 +81,11 @@ protected:
 private:
     bool belongs(host::Handle control) const;
     bool isGround(host::Handle control) const;
+    bool liesOpen(host::Handle control) const;
+    bool paints(host::Handle control) const;
     const QRectF& ink(host::Handle control) const;
     void refresh(host::Handle control);
+    void retone(host::Handle control);
     void refreshWidget(host::Handle control, bool shown);
     QWidget* makeWidget(host::Handle control);
     QWidget* makeField(host::Handle control);

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <map>
 
+#include "desktop/drawing/growth_plan.h"
+
 namespace velmor::desktop {
 
 namespace canvas_plan_detail {
@@ -48,6 +50,10 @@ void noteDrawings(CanvasPlan& plan, const host::WindowSpec& spec)
             note(mark.value, row.id);
             note(mark.field, row.id);
         }
+    const std::vector<GrowthPlan::Entry>& growth = GrowthPlan::of(spec).entries;
+    for (const host::ControlRow& row : spec.controls)
+        for (const Handle toned : growth[row.id].toning)
+            note(row.id, toned);
 }
 
 } // namespace canvas_plan_detail

@@ -14,7 +14,7 @@ struct CanvasPlan {
         bool clickable = false; ///< a click on it does something, so the pointer becomes a hand
         bool draggable = false; ///< a row of the shortcuts says where it may be dragged
         bool dropTarget = false;
-        std::vector<host::Handle> seenBy; ///< controls whose drawing shows this one's text or its being in hand
+        std::vector<host::Handle> seenBy; ///< controls that show this one's text, its being in hand or its being there
     };
     std::vector<Entry> entries;
 

@@ -11,6 +11,7 @@
 #include "desktop/canvas/document_store.h"
 #include "desktop/canvas/field_edit.h"
 #include "desktop/drawing/control_painter.h"
+#include "desktop/drawing/growth_plan.h"
 #include "desktop/drawing/texts.h"
 
 namespace velmor::desktop {
@@ -135,8 +136,10 @@ void Canvas::apply(const std::vector<Handle>& changes)
         refresh(control);
         overlays = overlays || model_->row(control).overlay;
         repaintControl(control);
-        for (const Handle other : plan_.entries[control].seenBy)
+        for (const Handle other : plan_.entries[control].seenBy) {
+            retone(other);
             repaintControl(other);
+        }
         if (model_->row(control).kind == Kind::panel)
             for (const host::ControlRow& row : model_->spec().controls)
                 if (row.parent == control) {
@@ -152,6 +155,12 @@ void Canvas::refresh(Handle control)
 {
     if (belongs(control))
         refreshWidget(control, shows(control) && model_->row(control).look != host::Look::invisible);
+}
+
+void Canvas::retone(Handle control)
+{
+    if (auto* field = dynamic_cast<FieldEdit*>(widgets_[control]))
+        field->setPale(toneOf(GrowthPlan::of(model_->spec()), *model_, control) == host::Tone::pale);
 }
 
 // A widget is made when its control is first seen: a sheet shows a third of its controls at its start.
@@ -173,6 +182,7 @@ void Canvas::refreshWidget(Handle control, bool shown)
             field->handTaken();
         field->showText(desktop::shown(state.text));
         field->setOwnColors(state.backColor, state.foreColor);
+        retone(control);
     } else if (auto* page = qobject_cast<QPlainTextEdit*>(widget)) {
         const QString text = desktop::shown(state.text);
         if (model_->row(control).kind == Kind::editor)

@@ -52,10 +52,19 @@ void FieldEdit::setOwnColors(std::int32_t ground, std::int32_t ink)
     recolor();
 }
 
+void FieldEdit::setPale(bool pale)
+{
+    if (pale == pale_)
+        return;
+    pale_ = pale;
+    recolor();
+}
+
 void FieldEdit::recolor()
 {
     const QColor ground = ground_ < 0 ? inks_->field : QColor::fromRgb(static_cast<QRgb>(ground_));
-    const QColor wished = ink_ < 0 ? inks_->fieldInk : QColor::fromRgb(static_cast<QRgb>(ink_));
+    const QColor own = ink_ < 0 ? inks_->fieldInk : QColor::fromRgb(static_cast<QRgb>(ink_));
+    const QColor wished = pale_ ? inks_->quiet : own;
     QPalette colors = palette();
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
         colors.setColor(group, QPalette::Base, ground);

@@ -23,6 +23,8 @@ public:
     void handTaken() { selectedWhole_ = false; }
     /// The colours a sheet gave the field; -1 the usual ones.
     void setOwnColors(std::int32_t ground, std::int32_t ink);
+    /// A value whose part the chain has not reached steps back, and stays readable.
+    void setPale(bool pale);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -36,6 +38,7 @@ private:
     const Inks* inks_;
     std::int32_t ground_ = -1;
     std::int32_t ink_ = -1;
+    bool pale_ = false;
     bool selectedWhole_ = false;
 };
 

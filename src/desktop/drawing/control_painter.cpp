@@ -12,6 +12,7 @@
 
 #include "desktop/drawing/caption_fit.h"
 #include "desktop/drawing/field_marks.h"
+#include "desktop/drawing/growth_plan.h"
 #include "desktop/drawing/plates.h"
 #include "desktop/drawing/schematic_painter.h"
 #include "desktop/drawing/typefaces.h"
@@ -40,9 +41,8 @@ struct Scene {
     /// Blanks alone are nothing to frame.
     bool speaks() const { return state().text.find_first_not_of(" \n") != std::string::npos; }
     bool enabled() const { return state().enabled; }
-    /// In force: it cannot be pressed again, and is anything but dead.
-    bool chosen() const { return row().chosenWhenDisabled && !enabled(); }
     bool focused() const { return !view.forPrint && window.focus() == control && takesFocus(row().kind); }
+    bool chosen() const { return host::isChosen(window, control); }
     bool hovered() const { return !view.forPrint && enabled() && view.hovered == control; }
     bool pressed() const { return !view.forPrint && enabled() && view.pressed == control; }
 };
@@ -115,7 +115,8 @@ void writeCaption(const Scene& scene, const QColor& ink, const QColor& ground)
     const CaptionSetting setting = setCaption(scene.window, scene.control, scene.view);
     if (setting.text.isEmpty())
         return;
-    const QColor wished = scene.state().foreColor >= 0 ? colorOf(scene.state().foreColor) : ink;
+    const QColor own = scene.state().foreColor >= 0 ? colorOf(scene.state().foreColor) : ink;
+    const QColor wished = scene.view.pale ? scene.inks().quiet : own;
     scene.painter.setFont(setting.font);
     scene.painter.setPen(readableOn(ground, wished));
     scene.painter.drawText(setting.room, setting.flags | Qt::TextDontClip, setting.text);
@@ -128,7 +129,9 @@ void paintDrawing(const Scene& scene)
         return;
     const bool faded = !scene.enabled() && !scene.chosen() && scene.row().look == Look::toolButton;
     scene.painter.setOpacity(faded ? 0.45 : 1.0);
-    paintMarks(scene.painter, scene.window, drawing, scene.box.topLeft(), scene.view);
+    View view = scene.view;
+    view.onButton = scene.row().look == Look::toolButton;
+    paintMarks(scene.painter, scene.window, drawing, scene.box.topLeft(), view);
     scene.painter.setOpacity(1.0);
 }
 
@@ -246,6 +249,8 @@ void paintPanel(const Scene& scene)
 
 QColor buttonGround(const Scene& scene)
 {
+    if (scene.chosen())
+        return scene.inks().accentTint;
     if (!scene.enabled())
         return scene.inks().buttonOff;
     if (scene.pressed())
@@ -253,29 +258,33 @@ QColor buttonGround(const Scene& scene)
     return groundOr(scene, scene.hovered() ? scene.inks().buttonHover : scene.inks().button);
 }
 
-/// In force: filled with the accent, with a bar below its letters. A frame alone would be that of the keyboard's focus.
-void paintChosenButton(const Scene& scene)
+QColor buttonBorder(const Scene& scene)
 {
-    plate(scene, scene.inks().accent, scene.inks().accent, 5.0, hairline(scene));
-    const double edge = 7.0 * scene.unit();
-    const QRectF bar(scene.box.left() + edge, scene.box.bottom() - 5.0 * scene.unit(), scene.box.width() - 2.0 * edge,
-                     2.0 * scene.unit());
-    scene.painter.fillRect(crisp(scene, bar), scene.inks().onAccent);
-    paintDrawing(scene);
-    writeCaption(scene, scene.inks().onAccent, scene.inks().accent);
+    if (scene.chosen() || scene.hovered())
+        return scene.inks().accent;
+    return scene.enabled() ? scene.inks().edge : scene.inks().rule;
+}
+
+/// A bar along the lower edge, as under the tab in front: the choice in force is told by its form, not by its colour alone.
+void chosenBar(const Scene& scene)
+{
+    const double height = std::min(3.0 * scene.unit(), scene.box.height() / 6.0);
+    const double inset = std::min(10.0 * scene.unit(), scene.box.width() / 6.0);
+    const QRectF bar(scene.box.left() + inset, scene.box.bottom() - 2.0 * height, scene.box.width() - 2.0 * inset,
+                     height);
+    scene.painter.setPen(Qt::NoPen);
+    scene.painter.setBrush(scene.inks().accent);
+    scene.painter.drawRoundedRect(bar, height / 2.0, height / 2.0);
 }
 
 void paintButton(const Scene& scene)
 {
-    if (scene.chosen())
-        return paintChosenButton(scene);
     const QColor ground = buttonGround(scene);
-    const QColor border = !scene.enabled()  ? scene.inks().rule
-                          : scene.hovered() ? scene.inks().accent
-                                            : scene.inks().edge;
-    plate(scene, ground, border, 5.0, hairline(scene));
+    plate(scene, ground, buttonBorder(scene), 5.0, hairline(scene) * (scene.chosen() ? 2.0 : 1.0));
     paintDrawing(scene);
-    writeCaption(scene, scene.enabled() ? scene.inks().ink : scene.inks().buttonOffInk, ground);
+    if (scene.chosen())
+        chosenBar(scene);
+    writeCaption(scene, scene.enabled() || scene.chosen() ? scene.inks().ink : scene.inks().buttonOffInk, ground);
     focusRing(scene);
 }
 
@@ -406,15 +415,26 @@ bool isWidget(Kind kind)
     return kind == Kind::field || kind == Kind::page || kind == Kind::editor || kind == Kind::list;
 }
 
-void paintLayer(QPainter& painter, const host::Window& window, const View& view, bool overlays)
+void paintExposed(QPainter& painter, const host::Window& window, Handle control, const View& view)
 {
-    for (Handle control = 0; control < window.controlCount(); ++control) {
-        if (!isPainted(window, control) || window.row(control).overlay != overlays)
-            continue;
-        if (!view.exposed.isEmpty() && !inkBounds(window, control, view).intersects(view.exposed))
-            continue;
+    if (isPainted(window, control) &&
+        (view.exposed.isEmpty() || inkBounds(window, control, view).intersects(view.exposed)))
         paintControl(painter, window, control, view);
+}
+
+void paintInTone(QPainter& painter, const host::Window& window, Handle control, const View& view)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Scene scene{painter, window, control, view, boxOf(window, control, view)};
+    if (isWidget(window.row(control).kind)) {
+        if (view.forPrint && window.row(control).kind == Kind::field)
+            paintPrintedField(scene);
+        paintFieldMarks(painter, window, control, view);
+    } else {
+        paintByLook(scene);
     }
+    painter.restore();
 }
 
 } // namespace painting
@@ -422,7 +442,9 @@ void paintLayer(QPainter& painter, const host::Window& window, const View& view,
 bool isPainted(const host::Window& window, Handle control)
 {
     const host::ControlRow& row = window.row(control);
-    for (Handle part = control; part != host::noControl; part = window.row(part).parent)
+    if (toneOf(GrowthPlan::of(window.spec()), window, control) == host::Tone::away)
+        return false;
+    for (Handle part = row.parent; part != host::noControl; part = window.row(part).parent)
         if (!window.visible(part))
             return false;
     return row.look != Look::invisible && row.kind != Kind::timer && row.kind != Kind::menu;
@@ -438,17 +460,11 @@ QRectF boxOf(const host::Window& window, Handle control, const View& view)
 
 void paintControl(QPainter& painter, const host::Window& window, Handle control, const View& view)
 {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    const painting::Scene scene{painter, window, control, view, boxOf(window, control, view)};
-    if (painting::isWidget(window.row(control).kind)) {
-        if (view.forPrint && window.row(control).kind == Kind::field)
-            painting::paintPrintedField(scene);
-        paintFieldMarks(painter, window, control, view);
-    } else {
-        painting::paintByLook(scene);
-    }
-    painter.restore();
+    if (view.pale || toneOf(GrowthPlan::of(window.spec()), window, control) != host::Tone::pale)
+        return painting::paintInTone(painter, window, control, view);
+    View faint = view;
+    faint.pale = true;
+    painting::paintInTone(painter, window, control, faint);
 }
 
 void paintWindow(QPainter& painter, const host::Window& window, const View& view)
@@ -456,8 +472,10 @@ void paintWindow(QPainter& painter, const host::Window& window, const View& view
     const host::Place& place = window.spec().place;
     const QRectF sheet(view.origin, QSizeF(place.width, place.height) * view.pixelsPerTwip);
     painter.fillRect(sheet, view.inks->paper);
-    painting::paintLayer(painter, window, view, false);
-    painting::paintLayer(painter, window, view, true);
+    inOrderOfPainting(window, [&](Handle control) { painting::paintExposed(painter, window, control, view); });
+    for (const host::ControlRow& row : window.spec().controls)
+        if (row.overlay)
+            painting::paintExposed(painter, window, row.id, view);
 }
 
 QRectF inkBounds(const host::Window& window, Handle control, const View& view)

@@ -14,15 +14,15 @@ class QPainter;
 
 namespace velmor::desktop {
 
-/// Paints one control in its present state, whether or not it is visible: the caller skips hidden ones and those of the
+/// Paints one control in its present state and tone, whether or not it is visible: the caller skips what is not there and the
 /// look `invisible`. Of fields, pages, editors and lists only symbol and unit are painted; their widgets show the rest.
 void paintControl(QPainter& painter, const host::Window& window, host::Handle control, const View& view);
 
-/// Paints a whole window: ground, then every visible control in table order, overlays last. Widgets are not painted,
+/// Paints a whole window: ground, pale parts, then every visible control in table order, overlays last. Widgets are not painted,
 /// unless `view.forPrint`, where fields show their text in a plain box.
 void paintWindow(QPainter& painter, const host::Window& window, const View& view);
 
-/// Visible, in visible panels, of a look and kind that show something.
+/// Visible or pale, in visible panels, of a look and kind that show something.
 bool isPainted(const host::Window& window, host::Handle control);
 
 /// Place of a control in the painter's coordinates.

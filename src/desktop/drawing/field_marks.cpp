@@ -156,7 +156,7 @@ void paintFieldMarks(QPainter& painter, const Window& window, Handle field, cons
     const bool inHand = !view.forPrint && window.focus() == field;
     const bool enabled = window.enabled(field) || view.forPrint;
     const marks::Setting symbol = marks::symbolOf(window, field, view);
-    painter.setPen(inHand ? view.inks->accent : enabled ? view.inks->ink : view.inks->quiet);
+    painter.setPen(inHand ? view.inks->accent : enabled && !view.pale ? view.inks->ink : view.inks->quiet);
     drawLabel(painter, symbol.label, symbol.baseline);
     const marks::Setting unit = marks::unitOf(window, field, view);
     painter.setPen(view.inks->quiet);

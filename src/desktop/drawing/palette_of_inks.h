@@ -18,6 +18,7 @@ struct Inks {
     QColor paper;      ///< the drawing sheet
     QColor ink;        ///< leads, symbols, texts
     QColor quiet;      ///< units, notes, what steps back
+    QColor pale;       ///< strokes of parts that are not reached yet, 3 to 1 against the paper
     QColor accent;     ///< the one accent: signals, focus, the part in hand
     QColor accentTint; ///< pale ground of what is in hand
     QColor onAccent;   ///< text on a ground of `accent`

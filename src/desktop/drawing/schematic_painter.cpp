@@ -101,6 +101,13 @@ bool isInline(Symbol symbol)
     return symbol == Symbol::terminal || symbol == Symbol::supplyUp || symbol == Symbol::supplyDown;
 }
 
+/// A pale part has no value yet, or keeps the one that it had: a placeholder would only say its name twice.
+bool beginsWithNumber(const QString& text)
+{
+    static const QRegularExpression number(QStringLiteral("^[+-]?\\.?\\d"));
+    return number.match(text).hasMatch();
+}
+
 std::vector<SymbolLabel> linesOf(const host::Window& window, const Mark& mark, double unit, const View& view)
 {
     const double letters = letterUnits * unit * mark.size / 100.0;
@@ -112,12 +119,12 @@ std::vector<SymbolLabel> linesOf(const host::Window& window, const Mark& mark, d
         const std::string_view note = mark.note.in(view.languageIsEnglish);
         const QString text = plain(note.empty() ? mark.name : note);
         for (const QString& line : text.split(QLatin1Char('\n')))
-            lines.push_back(setUpright(line, letters * valueSize));
+            lines.push_back((view.onButton ? setCaptionLine : setUpright)(line, letters * valueSize));
     } else if (!mark.name.empty() && mark.symbol != Symbol::meter) {
         lines.push_back(setLabel(mark.name, letters));
     }
     const QString value = valueText(window, mark);
-    if (value.isEmpty())
+    if (value.isEmpty() || (view.pale && !beginsWithNumber(value)))
         return lines;
     if (isInline(mark.symbol) && !lines.empty())
         append(lines.back(), setUpright(QStringLiteral("= ") + value, letters * valueSize), letters * 0.3);
@@ -189,6 +196,8 @@ Block blockOf(const host::Window& window, const Mark& mark, double unit, QPointF
 
 QColor inkOf(const Mark& mark, const View& view)
 {
+    if (view.pale)
+        return view.inks->pale;
     const bool isSignal =
         mark.symbol == Symbol::arrow || mark.symbol == Symbol::sine || mark.symbol == Symbol::sineInverted;
     if (isSignal && mark.ink == host::Ink::normal)
@@ -229,16 +238,18 @@ void addMark(Sketch& sketch, QPointF origin, const host::Window& window, const M
 {
     const bool highlighted = inHand(window, mark, view);
     const QColor ink = inkOf(mark, view);
-    Stroke stroke{ink, highlighted ? view.inks->accent : ink, view.inks->paper, highlighted};
+    Stroke stroke{ink, highlighted ? view.inks->accent : ink, view.inks->paper, highlighted && !view.pale};
+    // Letters are thinner than strokes: pale ones would not be readable.
+    const QColor letters = view.pale && !highlighted ? view.inks->quiet : stroke.body;
     const Block block = blockOf(window, mark, sketch.unit(), origin, view);
     if (highlighted)
         addHalo(sketch, mark, block, view);
     drawSymbol(sketch, mark, stroke);
     if (mark.symbol == Symbol::meter)
-        writeMeterLetter(sketch, mark, stroke.body);
+        writeMeterLetter(sketch, mark, letters);
     for (const Line& line : block.lines)
         for (const LabelRun& run : line.label.runs)
-            sketch.write(line.baseline + QPointF(run.offset, run.lowered), run.text, run.font, stroke.body);
+            sketch.write(line.baseline + QPointF(run.offset, run.lowered), run.text, run.font, letters);
 }
 
 bool canSnap(const QTransform& transform, const View& view)

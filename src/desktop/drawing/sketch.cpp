@@ -10,6 +10,20 @@
 
 namespace velmor::desktop {
 
+namespace strokes {
+
+// The same point of the sheet, counted from the corners of two controls, differs by the last bits of a double. Where grid
+// lines fall just between two pixels, these bits must not decide: a little more than nothing tips the scales. No grid line
+// of a window of whole pixels lies so close to the middle between two.
+constexpr double tip = 0.000317;
+
+double middleOfPixels(double exact, double phase)
+{
+    return std::floor(exact - phase + 0.5 + tip) + phase;
+}
+
+} // namespace strokes
+
 Sketch::Sketch(double unit, QPointF origin, bool snaps) : origin_(origin), unit_(unit), snaps_(snaps) {}
 
 double Sketch::weight(double units) const
@@ -38,7 +52,7 @@ QPointF Sketch::at(QPointF point) const
     const QPointF exact = exactly(point);
     if (!snaps_)
         return exact;
-    return {std::round(exact.x() - phase()) + phase(), std::round(exact.y() - phase()) + phase()};
+    return {strokes::middleOfPixels(exact.x(), phase()), strokes::middleOfPixels(exact.y(), phase())};
 }
 
 double Sketch::whole(double length) const

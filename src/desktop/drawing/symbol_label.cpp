@@ -146,6 +146,20 @@ SymbolLabel setUpright(const QString& text, double pixels)
     return labels::remembered(text.toUtf8(), pixels, [&] { return labels::setPlain(text, pixels); });
 }
 
+SymbolLabel setCaptionLine(const QString& text, double pixels)
+{
+    return labels::remembered(text.toUtf8(), pixels, [&] {
+        const QFont font = interfaceFont(pixels);
+        const QFontMetricsF metrics(font);
+        const QRectF ink = metrics.tightBoundingRect(text);
+        return SymbolLabel{.runs = {{.text = text, .font = font}},
+                           .width = metrics.horizontalAdvance(text),
+                           .capHeight = metrics.capHeight(),
+                           .ascent = -ink.top(),
+                           .descent = std::max(0.0, ink.bottom())};
+    });
+}
+
 void append(SymbolLabel& label, const SymbolLabel& next, double gap)
 {
     for (LabelRun run : next.runs) {

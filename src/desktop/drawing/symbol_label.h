@@ -37,6 +37,9 @@ SymbolLabel setLabel(std::string_view name, double pixels);
 /// Sets plain upright text of one line in the same type.
 SymbolLabel setUpright(const QString& text, double pixels);
 
+/// Sets plain text of one line in the type of buttons and headings.
+SymbolLabel setCaptionLine(const QString& text, double pixels);
+
 /// Appends `next` after `label` with a gap.
 void append(SymbolLabel& label, const SymbolLabel& next, double gap);
 

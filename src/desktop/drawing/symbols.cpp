@@ -265,11 +265,16 @@ void drawTransformer(const Pen& pen)
 {
     const auto& axes = pen.axes;
     pen.leads(20.0);
-    const double half = std::hypot(pen.mark.to.x - pen.mark.from.x, pen.mark.to.y - pen.mark.from.y) / 2.0;
-    pen.lead(axes.at(-half, 40.0), axes.at(-20.0, 40.0));
-    pen.lead(axes.at(20.0, 40.0), axes.at(half, 40.0));
+    // The secondary has axes of its own: its ends lie on the grid, where wires join them.
+    const QPointF direction = directionOf(pen.mark);
+    const QPointF beside = QPointF(direction.y(), -direction.x()) * 40.0;
+    const QPointF from = unitsOf(pen.mark.from) + beside;
+    const QPointF to = unitsOf(pen.mark.to) + beside;
+    const Axes secondary(pen.sketch, (from + to) / 2.0, direction);
+    pen.lead(pen.sketch.at(from), secondary.at(-20.0, 0.0));
+    pen.lead(secondary.at(20.0, 0.0), pen.sketch.at(to));
     pen.wave(winding(axes, 20.0, 4, 0.0, 10.0));
-    pen.wave(winding(axes, 20.0, 4, 40.0, -10.0));
+    pen.wave(winding(secondary, 20.0, 4, 0.0, -10.0));
     pen.line(-22.0, 17.5, 22.0, 17.5);
     pen.line(-22.0, 22.5, 22.0, 22.5);
 }
@@ -302,19 +307,16 @@ void drawTransistor(const Pen& pen)
     pen.curve(circleAt(axes.at(20.0, 0.0), axes.length(21.0)));
     pen.lead(axes.at(0.0, 0.0), axes.at(13.0, 0.0));
     pen.solid(axes.bar(13.0, 12.5, 3.0 * pen.stroke.factor()));
-    const auto endOf = [&](double side) {
-        return pen.sketch.at(
-            unitsOf(side == up ? host::upperEnd(symbol, pen.mark.from) : host::lowerEnd(symbol, pen.mark.from)));
-    };
-    // A knee stands exactly below its end: 30 u from the base, rounded apart, may be a pixel beside it.
-    const auto kneeOf = [&](double side) { return QPointF(endOf(side).x(), axes.at(30.0, side * 18.7).y()); };
     for (const double side : {up, -up}) {
-        pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.curveWeight(), {axes.at(13.0, side * 6.0), kneeOf(side)});
-        pen.lead(kneeOf(side), endOf(side));
+        const QPointF end = pen.sketch.at(
+            unitsOf(side == up ? host::upperEnd(symbol, pen.mark.from) : host::lowerEnd(symbol, pen.mark.from)));
+        const QPointF knee(end.x(), axes.at(30.0, side * 18.7).y());
+        pen.sketch.stroke(Layer::lead, pen.stroke.body, pen.curveWeight(), {axes.at(13.0, side * 6.0), knee});
+        pen.lead(knee, end);
     }
     const double side = host::isPnp(symbol) ? up : -up;
     const QPointF foot = axes.at(13.0, side * 6.0);
-    const QPointF leg = kneeOf(side) - foot;
+    const QPointF leg = axes.at(30.0, side * 18.7) - foot;
     const double length = std::hypot(leg.x(), leg.y());
     const QPointF way = leg / length;
     const QPointF tip = host::isPnp(symbol) ? foot + way * (length * 0.30) : foot + way * (length * 0.78);

@@ -23,6 +23,8 @@ struct View {
     host::Handle pressed = host::noControl; ///< button held down
     QRectF exposed{};      ///< painter's coordinates; `paintWindow` leaves out what lies outside; empty: all
     bool forPrint = false; ///< no snapping to pixels, no focus, no hover
+    bool pale = false;     ///< of a part that the chain has not reached, or a value on one: pale strokes, quiet letters
+    bool onButton = false; ///< of a button's drawing: its letters are those of captions
     std::int16_t languageIsEnglish = 0;
 
     double pixelsPerUnit() const { return pixelsPerTwip * twipsPerUnit; }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Renders windows to pictures, to be judged by eye, and names every text that does not fit:
 //     velmor_gallery FOLDER           the sample windows of the painters, also as PDF and SVG
-//     velmor_gallery FOLDER NAME ...  windows of the program, with all that is hidden shown under NAME-all
+//     velmor_gallery FOLDER NAME ...  windows of the program, with all that is hidden shown under NAME-all; of a sheet also
+//                                     how its drawing grows, under NAME-half and NAME-whole, and its tools
+//     velmor_gallery FOLDER NAME:CONTROL:CONTROL ...  the same, the controls clicked one after the other once the drawing is whole
 #include <cstdio>
 #include <string>
 
@@ -13,7 +15,8 @@
 #include "desktop/drawing/control_painter.h"
 #include "desktop/drawing/drawing_export.h"
 #include "desktop/drawing/painted_sheet.h"
-#include "program/catalogue.h"
+#include "sheets/schematic.h"
+#include "sheets/template_program.h"
 
 namespace velmor::test {
 
@@ -91,33 +94,99 @@ bool saveSamples(const QDir& folder)
     return written;
 }
 
-/// One window of the program as it first shows itself in a language; null when the program has none of that name.
-bool saveWindow(const QDir& folder, const std::string& name, std::int16_t languageIsEnglish)
-{
+/// A program with one window open.
+struct OpenWindow {
+    OpenWindow(const std::string& name, std::int16_t languageIsEnglish)
+        : engine(template_sheet::catalogue(), screen, settings)
+    {
+        engine.values().LanguageIsEnglish = languageIsEnglish;
+        engine.loadMainWindow();
+        engine.userRun([&] {
+            window = engine.host().NewInstance(name);
+            if (window != nullptr)
+                engine.host().Show(*window);
+        });
+    }
+
+    /// Takes the default of the field in hand, or goes on without it. False when the chain ends here.
+    bool step()
+    {
+        const host::Handle before = window->focus();
+        for (const std::int16_t key : {std::int16_t{27}, std::int16_t{13}})
+            if (before != host::noControl && window->focus() == before)
+                engine.userKey(*window, key);
+        return window->focus() != before;
+    }
+    int steps(int most)
+    {
+        int count = 0;
+        while (count < most && step())
+            ++count;
+        return count;
+    }
+
     SilentScreen screen;
     host::MemorySettings settings;
-    host::Engine engine(program::catalogue(), screen, settings);
-    engine.values().LanguageIsEnglish = languageIsEnglish;
-    engine.loadMainWindow();
+    host::Engine engine;
     host::Window* window = nullptr;
-    engine.userRun([&] {
-        window = engine.host().NewInstance(name);
-        if (window != nullptr)
-            engine.host().Show(*window);
-    });
-    if (window == nullptr)
+};
+
+constexpr int mostSteps = 60;
+
+/// The row of tools alone, twice as large.
+void saveTools(const host::Window& window, desktop::View view, const QString& path)
+{
+    constexpr host::Place room = sheets::at(sheets::zones::right - 6, 88, 184, 194);
+    view.pixelsPerTwip *= 2.0;
+    view.origin = QPointF(-room.left, -room.top) * view.pixelsPerTwip;
+    QImage image((QSizeF(room.width, room.height) * view.pixelsPerTwip).toSize(), QImage::Format_RGB32);
+    image.fill(view.inks->paper);
+    QPainter painter(&image);
+    desktop::paintWindow(painter, window, view);
+    painter.end();
+    image.save(path);
+}
+
+/// How a sheet's drawing grows when the defaults are taken: half of it, all of it, and what some clicks then show.
+void saveGrowth(const QString& stem, const QStringList& name, const desktop::View& view)
+{
+    const std::string kind = name.front().toStdString();
+    const int whole = OpenWindow(kind, view.languageIsEnglish).steps(mostSteps);
+    OpenWindow open(kind, view.languageIsEnglish);
+    open.steps(whole / 2);
+    savePicture(*open.window, view, 1.0, stem + QStringLiteral("-half.png"));
+    open.steps(mostSteps);
+    savePicture(*open.window, view, 1.0, stem + QStringLiteral("-whole.png"));
+    saveTools(*open.window, view, stem + QStringLiteral("-tools.png"));
+    for (const QString& control : name.mid(1))
+        if (const host::Handle found = open.window->named(control.toStdString()); found != host::noControl)
+            open.engine.userClick(*open.window, found);
+    if (name.size() > 1)
+        savePicture(*open.window, view, 1.0, stem + QStringLiteral("-clicked.png"));
+}
+
+/// One window of the program as it first shows itself in a language; false when the program has none of that name.
+bool saveWindow(const QDir& folder, const QStringList& name, std::int16_t languageIsEnglish)
+{
+    OpenWindow open(name.front().toStdString(), languageIsEnglish);
+    if (open.window == nullptr)
         return false;
+    host::Window& window = *open.window;
     const char* language = languageIsEnglish == host::trueValue ? "en" : "es";
-    const QString stem = folder.filePath(QString::fromStdString(name) + QLatin1Char('-') + QLatin1String(language));
+    const QString stem = folder.filePath(name.front() + QLatin1Char('-') + QLatin1String(language));
     const desktop::View view = galleryView(desktop::lightInks(), 1.4, languageIsEnglish);
-    savePicture(*window, view, 1.0, stem + QStringLiteral(".png"));
-    savePicture(*window, galleryView(desktop::darkInks(), 1.4, languageIsEnglish), 1.0,
-                stem + QStringLiteral("-dark.png"));
+    const desktop::View dark = galleryView(desktop::darkInks(), 1.4, languageIsEnglish);
+    savePicture(window, view, 1.0, stem + QStringLiteral(".png"));
+    savePicture(window, dark, 1.0, stem + QStringLiteral("-dark.png"));
     for (const double scale : {1.0, 1.4, 2.0})
-        reportMisfits(*window, galleryView(desktop::lightInks(), scale, languageIsEnglish), language);
-    for (host::Handle control = 0; control < window->controlCount(); ++control)
-        window->setVisible(control, true);
-    savePicture(*window, view, 1.0, stem + QStringLiteral("-all.png"));
+        reportMisfits(window, galleryView(desktop::lightInks(), scale, languageIsEnglish), language);
+    if (window.role() == host::Role::sheet) {
+        saveGrowth(stem, name, view);
+        saveGrowth(stem + QStringLiteral("-dark"), name, dark);
+    }
+    for (host::Handle control = 0; control < window.controlCount(); ++control)
+        window.setVisible(control, true);
+    savePicture(window, view, 1.0, stem + QStringLiteral("-all.png"));
     return true;
 }
 
@@ -133,7 +202,7 @@ int main(int argc, char** argv)
         done = test::saveSamples(folder);
     for (int i = 2; i < argc; ++i)
         for (const std::int16_t language : {std::int16_t{0}, host::trueValue})
-            if (!test::saveWindow(folder, argv[i], language)) {
+            if (!test::saveWindow(folder, QString::fromLocal8Bit(argv[i]).split(QLatin1Char(':')), language)) {
                 std::printf("%s: no such window\n", argv[i]);
                 done = false;
             }

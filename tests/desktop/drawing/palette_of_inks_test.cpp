@@ -30,6 +30,8 @@ std::vector<std::pair<QColor, QColor>> textPairs(const Inks& inks)
             {inks.ink, inks.hint},
             {inks.onBalloon, inks.balloon},
             {inks.fieldInk, inks.field},
+            {inks.quiet, inks.field},
+            {inks.quiet, inks.accentTint},
             {inks.fieldOffInk, inks.fieldOff},
             {inks.ink, inks.button},
             {inks.ink, inks.buttonHover},
@@ -63,6 +65,8 @@ TEST(PaletteOfInks, KeepsOutlinesVisible)
         EXPECT_GE(contrast(inks->edge, inks->paper), 3.0);
         EXPECT_GE(contrast(inks->edge, inks->field), 3.0);
         EXPECT_GE(contrast(inks->accent, inks->field), 3.0);
+        EXPECT_GE(contrast(inks->pale, inks->paper), 3.0);
+        EXPECT_LE(contrast(inks->pale, inks->paper) * 3.0, contrast(inks->ink, inks->paper)) << "told from ink";
     }
 }
 
