@@ -62,6 +62,13 @@ struct Place {
 /// Where a field's symbol stands.
 enum class SymbolSide : std::uint8_t { left, above };
 
+/// When a button, picture or image is the choice in force (a function, a mode, an option), and is to look chosen.
+enum class Chosen : std::uint8_t {
+    never,
+    whenDisabled, ///< it is disabled because it is in force already, not because it is dead
+    whenShown,    ///< it stands there only while it is in force
+};
+
 /// One row of a window's table: what a control is before anything happens.
 struct ControlRow {
     Handle id = noControl;
@@ -82,6 +89,7 @@ struct ControlRow {
     bool checked = false;
     bool overlay = false;               ///< lies above the fields (help boxes, grown panels)
     bool clickableWhenDisabled = false; ///< the mouse counts on it even when it is disabled
+    Chosen chosen = Chosen::never;      ///< of what acts as a button
     std::int16_t fontSize = 8;          ///< points
     std::int32_t interval = 0;          ///< of a timer: milliseconds between two firings
     std::int32_t backColor = -1;        ///< 0xRRGGBB, -1 the look's own

@@ -226,6 +226,19 @@ Place shownPlace(const Window& window, Handle control)
     return place == nullptr ? window.placeOf(control) : place(window, control);
 }
 
+bool isChosen(const Window& window, Handle control)
+{
+    switch (window.row(control).chosen) {
+    case Chosen::whenDisabled:
+        return !window.enabled(control);
+    case Chosen::whenShown:
+        return window.visible(control);
+    case Chosen::never:
+        break;
+    }
+    return false;
+}
+
 bool belongs(const Window& window, const GrowthRow& row)
 {
     return (row.when == noControl || window.visible(row.when)) &&

@@ -234,6 +234,9 @@ enum class Tone : std::uint8_t { ink, pale, away };
 /// it is visible.
 Tone toneOf(const Window& window, Handle control);
 
+/// True while the choice that the control stands for is in force (`ControlRow::chosen`).
+bool isChosen(const Window& window, Handle control);
+
 /// Where a screen shows a control: its place, unless the window's table says otherwise.
 Place shownPlace(const Window& window, Handle control);
 

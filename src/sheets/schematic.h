@@ -203,6 +203,12 @@ constexpr host::ControlRow option(host::Handle id, std::string_view name, host::
             .look = host::Look::toolButton,
             .drawing = drawing};
 }
+/// A button that looks chosen while its choice is in force.
+constexpr host::ControlRow chosen(host::ControlRow row, host::Chosen when)
+{
+    row.chosen = when;
+    return row;
+}
 
 constexpr host::ControlRow hidden(host::ControlRow row)
 {

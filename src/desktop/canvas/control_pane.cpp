@@ -51,6 +51,8 @@ public:
         result.focused = model->focus() == pane_->control();
         result.disabled = !model->enabled(pane_->control());
         result.checkable = kind == host::Kind::option || kind == host::Kind::check;
+        result.selectable = model->row(pane_->control()).chosen != host::Chosen::never;
+        result.selected = host::isChosen(*model, pane_->control());
         result.checked = result.checkable && model->checked(pane_->control());
         return result;
     }

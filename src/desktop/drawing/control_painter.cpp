@@ -41,6 +41,7 @@ struct Scene {
     bool speaks() const { return state().text.find_first_not_of(" \n") != std::string::npos; }
     bool enabled() const { return state().enabled; }
     bool focused() const { return !view.forPrint && window.focus() == control && takesFocus(row().kind); }
+    bool chosen() const { return host::isChosen(window, control); }
     bool hovered() const { return !view.forPrint && enabled() && view.hovered == control; }
     bool pressed() const { return !view.forPrint && enabled() && view.pressed == control; }
 };
@@ -124,7 +125,7 @@ void paintDrawing(const Scene& scene)
     const auto drawing = scene.drawing();
     if (drawing.empty())
         return;
-    const bool faded = !scene.enabled() && scene.row().look == Look::toolButton;
+    const bool faded = !scene.enabled() && !scene.chosen() && scene.row().look == Look::toolButton;
     scene.painter.setOpacity(faded ? 0.45 : 1.0);
     paintMarks(scene.painter, scene.window, drawing, scene.box.topLeft(), scene.view);
     scene.painter.setOpacity(1.0);
@@ -244,6 +245,8 @@ void paintPanel(const Scene& scene)
 
 QColor buttonGround(const Scene& scene)
 {
+    if (scene.chosen())
+        return scene.inks().accentTint;
     if (!scene.enabled())
         return scene.inks().buttonOff;
     if (scene.pressed())
@@ -251,15 +254,33 @@ QColor buttonGround(const Scene& scene)
     return groundOr(scene, scene.hovered() ? scene.inks().buttonHover : scene.inks().button);
 }
 
+QColor buttonBorder(const Scene& scene)
+{
+    if (scene.chosen() || scene.hovered())
+        return scene.inks().accent;
+    return scene.enabled() ? scene.inks().edge : scene.inks().rule;
+}
+
+/// A bar along the lower edge, as under the tab in front: the choice in force is told by its form, not by its colour alone.
+void chosenBar(const Scene& scene)
+{
+    const double height = std::min(3.0 * scene.unit(), scene.box.height() / 6.0);
+    const double inset = std::min(10.0 * scene.unit(), scene.box.width() / 6.0);
+    const QRectF bar(scene.box.left() + inset, scene.box.bottom() - 2.0 * height, scene.box.width() - 2.0 * inset,
+                     height);
+    scene.painter.setPen(Qt::NoPen);
+    scene.painter.setBrush(scene.inks().accent);
+    scene.painter.drawRoundedRect(bar, height / 2.0, height / 2.0);
+}
+
 void paintButton(const Scene& scene)
 {
     const QColor ground = buttonGround(scene);
-    const QColor border = !scene.enabled()  ? scene.inks().rule
-                          : scene.hovered() ? scene.inks().accent
-                                            : scene.inks().edge;
-    plate(scene, ground, border, 5.0, hairline(scene));
+    plate(scene, ground, buttonBorder(scene), 5.0, hairline(scene) * (scene.chosen() ? 2.0 : 1.0));
     paintDrawing(scene);
-    writeCaption(scene, scene.enabled() ? scene.inks().ink : scene.inks().buttonOffInk, ground);
+    if (scene.chosen())
+        chosenBar(scene);
+    writeCaption(scene, scene.enabled() || scene.chosen() ? scene.inks().ink : scene.inks().buttonOffInk, ground);
     focusRing(scene);
 }
 
