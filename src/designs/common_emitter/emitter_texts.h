@@ -243,24 +243,21 @@ inline constexpr BiText designApproach{.es = "Criterio de diseño...", .en = "De
 // Boxes, in the order in which a student may meet them.
 
 /// An empty field at Enter, where the sheet names no other box.
-inline constexpr Saying emptyField{
-    .when = When::empty,
-    .text = {.es = "Debe colocar una cifra", .en = "It should place a figure"},
-    .title = emitter_texts_detail::dataError};
+inline constexpr Saying emptyField{.when = When::empty,
+                                   .text = {.es = "Debe colocar una cifra", .en = "It should place a figure"},
+                                   .title = emitter_texts_detail::dataError};
 /// An empty field was left.
-inline constexpr Saying emptyLeft{
-    .text = {.es = "Debe colocar una cifra", .en = "It should place a value"},
-    .title = emitter_texts_detail::dataError};
+inline constexpr Saying emptyLeft{.text = {.es = "Debe colocar una cifra", .en = "It should place a value"},
+                                  .title = emitter_texts_detail::dataError};
 /// The empty field of the gain was left: a box without a text.
-inline constexpr Saying emptyGain{
-    .text = {.es = "", .en = ""},
-    .title = {.es = "Error de datos", .en = "Error of date"}};
+inline constexpr Saying emptyGain{.text = {.es = "", .en = ""},
+                                  .title = {.es = "Error de datos", .en = "Error of date"}};
 inline constexpr Saying bypassAssigned{.text = {.es = "El programa asignara la condicion DESACOPLADO..",
-                                          .en = "The program assigned the condition  BYPASS.."},
-                                 .title = {.es = "ATENCIÓN !!", .en = "ATTENTION !!"}};
+                                                .en = "The program assigned the condition  BYPASS.."},
+                                       .title = {.es = "ATENCIÓN !!", .en = "ATTENTION !!"}};
 inline constexpr Saying currentOverLimit{.text = {.es = "Corriente de colector no debe superar el 40% de la máxima...",
-                                            .en = "Collector current should not overcome 40% of the maxim..."},
-                                   .title = emitter_texts_detail::designApproach};
+                                                  .en = "Collector current should not overcome 40% of the maxim..."},
+                                         .title = emitter_texts_detail::designApproach};
 inline constexpr Saying loadTooLarge{
     .text = {.es = "No circula suficiente corriente..., pruebe elevar QIc o disminuir Vg..",
              .en = "Enough current doesn't circulate..., prove to elevate QIc or to diminish Vg.."},
@@ -273,11 +270,12 @@ inline constexpr BiText loadImpossibleText{
           "C.A. and C.C\n QIc diminishes or call to a new circuit"};
 inline constexpr Saying loadImpossible{.text = loadImpossibleText, .title = {.es = "Error ", .en = "Error "}};
 inline constexpr Saying raiseGain{.text = {.es = "Es aconsejable elevar el valor de la ganancia Vg",
-                                     .en = "It is advisable to elevate the value of the gain Vg"},
-                            .title = {.es = "Error ", .en = " Error "}};
-inline constexpr Saying lowerGain{.text = {.es = "Es aconsejable disminuir el valor de la ganancia Vg o elevar Qic",
-                                     .en = "It is advisable to diminish the value of the gain Vg or to elevate Qic"},
-                            .title = {.es = " Error ", .en = " Error "}};
+                                           .en = "It is advisable to elevate the value of the gain Vg"},
+                                  .title = {.es = "Error ", .en = " Error "}};
+inline constexpr Saying lowerGain{
+    .text = {.es = "Es aconsejable disminuir el valor de la ganancia Vg o elevar Qic",
+             .en = "It is advisable to diminish the value of the gain Vg or to elevate Qic"},
+    .title = {.es = " Error ", .en = " Error "}};
 inline constexpr Saying loadVoltageTooLow{
     .text = {.es = "Tensión mínima de RL debe ser la mitad de Eopp.            Solucion: Eleve Vg o disminuya Eopp",
              .en = "Minimum Voltage of RL should be half of Eopp.               Solution: Vg Rises or Eopp diminish"},
@@ -286,7 +284,7 @@ inline constexpr Saying raiseSupply{
     .text = {.es = "Aumentar tensión de fuente alimentacion", .en = "To increase voltage of source feeding (Es)"},
     .title = {.es = "tensión Colector - Emisor muy baja", .en = "Voltage Colector - Emitter very low "}};
 inline constexpr Saying lowerOutput{.text = {.es = "Disminuya Eopp, o Vg", .en = "Eopp, or Vg Diminishes"},
-                              .title = {.es = "tensión Eq muy baja", .en = " Very low Eq"}};
+                                    .title = {.es = "tensión Eq muy baja", .en = " Very low Eq"}};
 inline constexpr Saying overTransistorVoltage{
     .text = {.es = "tensión Colector Emisor no debe superar la máxima  que especifica el manual...",
              .en = "Voltage Collector-Emitter should not overcome the maxim that specifies the manual..."},
@@ -297,22 +295,23 @@ inline constexpr Saying overTransistorCurrent{
     .title = emitter_texts_detail::designApproach,
     .flags = 16};
 inline constexpr Saying baseResistorTooLow{.text = {.es = "Es conveniente que Rb2 no sea menor a Res...",
-                                              .en = "It is convenient that Rb2 are not smaller to Res..."},
-                                     .title = {.es = "Criterio de diseño", .en = "Design approach"}};
+                                                    .en = "It is convenient that Rb2 are not smaller to Res..."},
+                                           .title = {.es = "Criterio de diseño", .en = "Design approach"}};
 inline constexpr Saying adjustPreset{.text = {.es = "Corriente de Colector obtenida es diferente a QIc diseñada...",
-                                        .en = " Collector currents it's different to design.."},
-                               .title = {.es = "Ajuste valor de Rb1", .en = "Adjust Preset Rb1..."},
-                               .flags = 48};
+                                              .en = " Collector currents it's different to design.."},
+                                     .title = {.es = "Ajuste valor de Rb1", .en = "Adjust Preset Rb1..."},
+                                     .flags = 48};
 
 // Captions and prompts that belong to no single moment.
 inline constexpr BiText headingTransistor{.es = "Parámetros del transistor", .en = "Transistor Parameters"};
 inline constexpr BiText headingCircuit{.es = "Parámetros del Circuito", .en = "Circuit Parameters"};
-inline constexpr BiText tooLow{.es = " tensión muy baja Colector - Emisor", .en = "Voltage very low Collector - Emitter"};
+inline constexpr BiText tooLow{.es = " tensión muy baja Colector - Emisor",
+                               .en = "Voltage very low Collector - Emitter"};
 inline constexpr BiText presetAdvice{.es = "  Coloque valor comercial...", .en = "  Put normalized value..."};
 inline constexpr BiText adjustPresetAdvice{
     .es = "Pulse Click...   y ajuste el valor del preset hasta obtener la QIc deseada...",
     .en = "Click pulses... and adjust the value of the preset until obtaining the wanted QIc..."};
 inline constexpr BiText bypassHint{.es = " Pulsando DESACOPLADO, obtendra mas ganancia..",
-                            .en = "Pressing Bypass, you will obtain more gain.."};
+                                   .en = "Pressing Bypass, you will obtain more gain.."};
 
 } // namespace velmor::common_emitter

@@ -38,8 +38,11 @@ enum Control : host::Handle {
 };
 // clang-format on
 
-inline constexpr sheets::Tools tools{
-    .guide = SSCommand1, .calculator = Image3, .report = SSCommand3, .clone = {Image5, Image4}, .help = {Image35, Image34}};
+inline constexpr sheets::Tools tools{.guide = SSCommand1,
+                                     .calculator = Image3,
+                                     .report = SSCommand3,
+                                     .clone = {Image5, Image4},
+                                     .help = {Image35, Image34}};
 
 extern const std::span<const host::ControlRow> controls;
 /// The notes beside the fields: pointing at a field shows its own alone.

@@ -97,8 +97,7 @@ void Form2::clickPicture7()
 // stage to what is known of this one.
 void Form2::drawBootstrapping(bool drawn)
 {
-    for (const host::Handle control :
-         {Line20, Picture3, Picture5, Picture7, statu61, statu62, statu71, statu72})
+    for (const host::Handle control : {Line20, Picture3, Picture5, Picture7, statu61, statu62, statu71, statu72})
         setVisible(control, drawn);
     for (const host::Handle control :
          {Line15, Line16, Picture2, sta1, statu31, statu32, status5, status6, status7, status8, status9})

@@ -41,10 +41,10 @@ inline constexpr auto captions = std::to_array<Saying>({
 // clang-format on
 
 inline constexpr BiText fileFilter{.es = "Emisor Común Realimentado por Corriente (*.RPC)|*.RPC",
-                            .en = "Common Emitter Feedback Current (*.CEC)|*.CEC"};
+                                   .en = "Common Emitter Feedback Current (*.CEC)|*.CEC"};
 inline constexpr BiText noteWindowTitle{.es = "Ayuda,(no necesito a nadie..)", .en = "Help. (ain't got nobody)"};
 inline constexpr BiText beginHere{.es = " Para comenzar: \n CLICK en cuadro Delta QIc...\nDerecho del Mouse da Ayuda",
-                           .en = " Beginning with CLICK in Delta QIc..."};
+                                  .en = " Beginning with CLICK in Delta QIc..."};
 inline constexpr BiText startPrompt{
     .es =
         "Ingrese la variación mâxima de corriente de reposo admisible con los cambios de temperatura de trabajo. Para "
@@ -61,23 +61,25 @@ inline constexpr BiText varyRb1Prompt{
         "circutos criticos (electromedicina) utilice valores de 1 a 3. "};
 inline constexpr BiText helpTitle{.es = "Ayuda", .en = "Help"};
 inline constexpr BiText tooLowAtEscape{.es = " Tensión muy baja Colector - Emisor",
-                                .en = " Collector - Emitter Voltage very low "};
+                                       .en = " Collector - Emitter Voltage very low "};
 inline constexpr BiText noUpperResistorAtEnter{.es = " Sin resistor Rb1...pulse ENTER",
-                                        .en = "Without resister Rb1... press ENTER"};
+                                               .en = "Without resister Rb1... press ENTER"};
 inline constexpr BiText noUpperResistor{.es = "Without resistor Rb1... ENTER pulse",
-                                 .en = "Without resistor Rb1... ENTER pulse"};
+                                        .en = "Without resistor Rb1... ENTER pulse"};
 inline constexpr BiText bootstrapHint{
     .es = "Si desea mayor impedancia de entrada, pulse BOOTSTRAPPING. \nSalvo indicacion, "
           "capacitores en microFaradios        ",
     .en = "If you wants bigger entrance impedance, BOOTSTRAPPING pulse. \nExcept for indication, "
           "capacitors in microFarade"};
-inline constexpr BiText noBootstrapHint{.es = " No se puede  realizar Bootstrapping \n Salvo indicacion, capacitores en "
-                                       "microfaradios",
-                                 .en = "Bootstrapping can not be carried out\nExcept for indication, capacitors in "
-                                       "microfarade"};
-inline constexpr BiText archivedBase{.es = "Circuito de Archivo : Emisor Común", .en = "Archive Circuit : Common Emitter"};
+inline constexpr BiText noBootstrapHint{
+    .es = " No se puede  realizar Bootstrapping \n Salvo indicacion, capacitores en "
+          "microfaradios",
+    .en = "Bootstrapping can not be carried out\nExcept for indication, capacitors in "
+          "microfarade"};
+inline constexpr BiText archivedBase{.es = "Circuito de Archivo : Emisor Común",
+                                     .en = "Archive Circuit : Common Emitter"};
 inline constexpr BiText archivedEmitter{.es = "Circuito de Archivo : Polarizado por Emisor ",
-                                 .en = "Archive Circuit : Emmiter polarized"};
+                                        .en = "Archive Circuit : Emmiter polarized"};
 inline constexpr BiText guideByBase{.es = "guia1.Lab", .en = "Feedback Current.Lab"};
 inline constexpr BiText guideByEmitter{.es = "polemisor.Lab", .en = "Feedback Current.Lab"};
 
