@@ -130,21 +130,19 @@ inline constexpr auto bootstrapWires = part({
     wire(430, 310, 430, 350),
     Mark{.symbol = Symbol::resistor, .from = {430, 350}, .to = {430, 400}, .name = "R_b2/2", .side = Side::right},
     wire(430, 400, 430, 450),
-    node(430, 420),
+    node(430, 410),
     Mark{.symbol = Symbol::resistor, .from = {430, 450}, .to = {430, 510}, .name = "R_b2/2", .side = Side::left},
     wire(430, 510, 430, 520),
     ground(430, 520),
     wire(430, 230, 470, 230),
     wire(510, 230, 560, 230),
-    wire(560, 230, 560, 420),
-    node(560, 420),
-    wire(430, 420, 470, 420),
-    wire(510, 420, 590, 420),
-    wire(590, 420, 590, 410),
-    wire(590, 410, 620, 410),
+    wire(560, 230, 560, 410),
+    node(560, 410),
+    wire(430, 410, 470, 410),
+    wire(510, 410, 620, 410),
 });
 inline constexpr auto firstBootstrap = part({
-    Mark{.symbol = Symbol::capacitor, .from = {470, 420}, .to = {510, 420}},
+    Mark{.symbol = Symbol::capacitor, .from = {470, 410}, .to = {510, 410}},
 });
 inline constexpr auto secondBootstrap = part({
     Mark{.symbol = Symbol::capacitor, .from = {470, 230}, .to = {510, 230}},

@@ -51,30 +51,31 @@ constexpr Mark obtainedCurrentName[] = {
 };
 // The option pictures. Resistors and capacitors smaller than the drawing's own, so that a button holds a circuit.
 constexpr Mark bypassMarks[] = {
-    wire(10, 16, 20, 16), node(20, 16), wire(20, 8, 20, 26), wire(20, 8, 31, 8),
-    {.symbol = Symbol::frame, .from = {31, 3}, .to = {53, 13}},
-    wire(53, 8, 64, 8), wire(20, 26, 39, 26), wire(39, 20, 39, 32), wire(45, 20, 45, 32), wire(45, 26, 64, 26),
-    wire(64, 8, 64, 26), node(64, 16), wire(64, 16, 74, 16),
+    wire(10, 14, 20, 14), node(20, 14), wire(20, 7, 20, 22), wire(20, 7, 31, 7),
+    {.symbol = Symbol::frame, .from = {31, 3}, .to = {53, 11}},
+    wire(53, 7, 64, 7), wire(20, 22, 39, 22), wire(39, 16, 39, 28), wire(45, 16, 45, 28), wire(45, 22, 64, 22),
+    wire(64, 7, 64, 22), node(64, 14), wire(64, 14, 74, 14),
 };
 constexpr Mark partialMarks[] = {
-    wire(5, 10, 11, 10),
-    {.symbol = Symbol::frame, .from = {11, 5}, .to = {29, 15}},
-    wire(29, 10, 47, 10), node(38, 10),
-    {.symbol = Symbol::frame, .from = {47, 5}, .to = {65, 15}},
-    wire(65, 10, 79, 10), node(73, 10), wire(38, 10, 38, 26), wire(38, 26, 53, 26), wire(53, 20, 53, 32), wire(59, 20, 59, 32),
-    wire(59, 26, 73, 26), wire(73, 10, 73, 26),
+    wire(5, 8, 11, 8),
+    {.symbol = Symbol::frame, .from = {11, 4}, .to = {29, 12}},
+    wire(29, 8, 47, 8), node(38, 8),
+    {.symbol = Symbol::frame, .from = {47, 4}, .to = {65, 12}},
+    wire(65, 8, 79, 8), node(73, 8), wire(38, 8, 38, 22), wire(38, 22, 53, 22), wire(53, 16, 53, 28), wire(59, 16, 59, 28),
+    wire(59, 22, 73, 22), wire(73, 8, 73, 22),
 };
 constexpr Mark emitterSupplyMarks[] = {
-    wire(34, 3, 34, 7),
-    {.symbol = Symbol::frame, .from = {29, 7}, .to = {39, 23}},
-    wire(34, 23, 34, 28),
-    {.symbol = Symbol::terminal, .from = {34, 31}, .name = "-E_s", .side = Side::right},
+    wire(34, 2, 34, 5),
+    {.symbol = Symbol::frame, .from = {30, 5}, .to = {38, 19}},
+    wire(34, 19, 34, 23),
+    {.symbol = Symbol::terminal, .from = {34, 26}},
+    {.symbol = Symbol::label, .from = {42, 22}, .name = "-E_s", .size = 80},
 };
-constexpr host::GridPoint bootstrapLoop[] = {{17, 26}, {17, 6}, {67, 6}, {67, 26}};
+constexpr host::GridPoint bootstrapLoop[] = {{17, 26}, {17, 8}, {67, 8}, {67, 26}};
 constexpr Mark bootstrapMarks[] = {
     {.symbol = Symbol::polyline, .points = bootstrapLoop},
     {.symbol = Symbol::capacitor, .from = {17, 26}, .to = {67, 26}},
-    {.symbol = Symbol::arrow, .from = {31, 6}, .to = {55, 6}},
+    {.symbol = Symbol::arrow, .from = {31, 8}, .to = {55, 8}},
 };
 
 // --- rows that this table has several of
@@ -154,17 +155,17 @@ constexpr auto rows = std::to_array<ControlRow>({
     disabled(field(Text13, "Text13", at(910, 238, 66, 22), "1", notation::above(notation::Eopp))),
     disabled(field(Text14, "Text14", at(300, 414, 66, 22), "0.35", notation::above(notation::Ein))),
     hidden(disabled(field(Text15, "Text15", at(640, 459, 130, 22), "", notation::above(notation::Res)))),
-    disabled(field(Text16, "Text16", at(735, 119, 122, 22), "", notation::Es)),
+    disabled(field(Text16, "Text16", at(706, 119, 122, 22), "", notation::above(notation::Es))),
     disabled(field(Text17, "Text17", at(640, 162, 130, 22), "", notation::above(notation::RL))),
     hidden(disabled(field(Text18, "Text18", at(448, 459, 122, 22), "", notation::above(notation::Rb2)))),
     disabled(field(Text19, "Text19", at(448, 162, 122, 22), "", notation::above(notation::Rb1))),
-    hidden(disabled(field(Text20, "Text20", at(826, 400, 82, 22), "", notation::above(notation::Cbp)))),
+    hidden(disabled(field(Text20, "Text20", at(822, 430, 74, 22), "", notation::above(notation::Cbp)))),
     hidden(disabled(field(Text21, "Text21", at(640, 539, 100, 22), "  - Es = 20 V",
                       notation::above(notation::in(notation::EsNegative, ""))))),
     {.id = Voltaje, .name = "Voltaje", .kind = Kind::label, .place = at(102, 202, 66, 22), .enabled = false,
      .meaning = {"Tensión de estabilidad ERes", "Voltage of stability ERes"}, .look = Look::result, .drawing = emitterVoltageFrame,
      .clickableWhenDisabled = true},
-    marked(result(VRes, "VRes", at(690, 420, 104, 18)), emitterVoltageName),
+    marked(result(VRes, "VRes", at(676, 420, 104, 18)), emitterVoltageName),
     hidden(marked(result(ER, "ER", at(838, 162, 110, 20)), loadVoltageName)),
     hidden(result(res, "res", at(640, 484, 140, 18))),
     hidden(marked(result(Label24, "Label24", at(800, 222, 96, 18)), obtainedCurrentName)),
@@ -180,13 +181,13 @@ constexpr auto rows = std::to_array<ControlRow>({
     hidden(result(statu25, "statu25", at(672, 334, 196, 34))),
     hidden(marked(result(statu30, "statu30", at(292, 206, 130, 18)), upperVoltageName)),
     hidden(result(statu31, "statu31", at(244, 298, 106, 18))),
-    hidden(result(statu32, "statu32", at(308, 358, 114, 18))),
+    hidden(result(statu32, "statu32", at(308, 355, 114, 18))),
     hidden(result(statu33, "statu33", at(712, 296, 130, 16))),
     hidden(label(statu35, "statu35", at(912, 484, 100, 16), Look::note)),
     hidden(label(status40, "status40", at(244, 545, 350, 62), Look::warning)),
     hidden(result(statu61, "statu61", at(244, 232, 150, 36))),
-    hidden(result(statu62, "statu62", at(308, 376, 114, 18))),
-    hidden(result(statu71, "statu71", at(446, 388, 108, 18))),
+    hidden(result(statu62, "statu62", at(308, 371, 114, 18))),
+    hidden(result(statu71, "statu71", at(446, 422, 108, 18))),
     hidden(result(statu72, "statu72", at(446, 242, 106, 36))),
     hidden(label(sta1, "sta1", at(640, 420, 40, 18), Look::invisible, "ERes =")),
     hidden(label(sta2, "sta2", at(798, 162, 36, 20), Look::invisible, "ERL =")),
@@ -230,7 +231,7 @@ constexpr auto rows = std::to_array<ControlRow>({
     cloneTool(Image5, "Image5"),
     cloneToolAgain(Image4, "Image4"),
     helpTool(Image35, "Image35"),
-    meaning(helpToolOpen(Image34, "Image34"), {"Cambia el dibujo de la ayuda", "Exchanges the drawing of the help"}),
+    helpToolOpen(Image34, "Image34"),
     label(STA70, "STA70", zones::nextStep, Look::hint),
     {.id = SSPanel1, .name = "SSPanel1", .kind = Kind::panel, .place = zones::voice, .look = Look::prompt, .overlay = true},
 });
