@@ -242,7 +242,8 @@ bool isChosen(const Window& window, Handle control)
 bool belongs(const Window& window, const GrowthRow& row)
 {
     return (row.when == noControl || window.visible(row.when)) &&
-           (row.unless == noControl || !window.visible(row.unless));
+           (row.unless == noControl || !window.visible(row.unless)) &&
+           (row.norIf == noControl || !window.visible(row.norIf));
 }
 
 Tone toneOf(const Window& window, Handle control)

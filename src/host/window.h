@@ -47,6 +47,7 @@ struct GrowthRow {
     Handle field = noControl;
     Handle when = noControl;   ///< belongs to the circuit only while this control is visible
     Handle unless = noControl; ///< belongs to the circuit only while this control is hidden
+    Handle norIf = noControl;  ///< and this one
 };
 
 /// A text on the drawing that belongs to a part, and is pale while the part is.

@@ -21,15 +21,27 @@ void DesignSheet::focusField(host::EventArgs& args)
 
 void DesignSheet::keyField(host::EventArgs& args)
 {
-    const ChainRow& row = chainRow(args.control);
     const Press press = pressed(args);
-    if (press == Press::nothing || (press == Press::escape && row.esc.empty()))
-        return;
-    if (press == Press::escape)
-        setText(row.field, row.esc);
-    const bool otherWords = press == Press::escape && saying(row.field, When::escape) != nullptr;
-    tell(row.field, otherWords ? When::escape : When::enter);
-    goTo(row.next);
+    if (goesOn(args.control, press))
+        goOn(args.control, press);
+}
+
+bool DesignSheet::goesOn(Handle field, Press press)
+{
+    if (press != Press::escape)
+        return press == Press::enter;
+    const ChainRow& row = chainRow(field);
+    if (row.esc.empty())
+        return false;
+    setText(field, row.esc);
+    return true;
+}
+
+void DesignSheet::goOn(Handle field, Press press)
+{
+    const bool otherWords = press == Press::escape && saying(field, When::escape) != nullptr;
+    tell(field, otherWords ? When::escape : When::enter);
+    goTo(chainRow(field).next);
 }
 
 void DesignSheet::leaveField(host::EventArgs& args)

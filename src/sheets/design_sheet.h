@@ -165,6 +165,10 @@ public:
 
     // --- moving on
     const ChainRow& chainRow(host::Handle field) const;
+    /// True when the chain goes on from this field: Enter, or Esc where the row names a default, which the field takes.
+    bool goesOn(host::Handle field, Press press);
+    /// What the field says when the chain goes on, then to its next.
+    void goOn(host::Handle field, Press press);
     /// Shows and enables the control and gives it the focus.
     void goTo(host::Handle field);
 

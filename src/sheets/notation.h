@@ -32,6 +32,7 @@ inline constexpr Quantity Vj   {"V_j",      "V",  {"Tensión de juntura, Silicio
 inline constexpr Quantity QIc  {"Q_Ic",    "mA", {"Corriente de reposo de colector", "Quiescent collector current"}};
 inline constexpr Quantity Es   {"E_s",     "V",  {"Tensión de la fuente de alimentación", "Supply voltage"}};
 inline constexpr Quantity Ebias{"-E_bias", "V",  {"Fuente negativa", "Negative supply"}};
+inline constexpr Quantity EsNegative{"-E_s", "V", {"Fuente negativa de emisor", "Negative emitter supply"}};
 inline constexpr Quantity Eq   {"E_q",     "V",  {"Tensión Colector - Emisor", "Collector - Emitter voltage"}};
 inline constexpr Quantity ERes {"E_Res",   "V",  {"Tensión de estabilidad", "Voltage of stability"}};
 // parts

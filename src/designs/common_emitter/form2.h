@@ -1,21 +1,34 @@
 // SPDX-License-Identifier: MIT
-// `Form2`: the class A common-emitter stage stabilised by its emitter resistor. Its slots, in the order of the chain; what
-// they say stands in form2_texts, what they work out in form2_formulas.
+// `Form2`: the class A common-emitter stage stabilised by its emitter resistor. Its slots, in the order of the chain, as far as
+// they do more than the field's row says; what they say stands in form2_texts, what they work out in emitter_formulas.
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "designs/common_emitter/form2_controls.h"
-#include "designs/common_emitter/form2_formulas.h"
 #include "designs/common_emitter/form2_texts.h"
 #include "sheets/design_sheet.h"
-#include "sheets/report_text.h"
-#include "sheets/steps.h"
 
 namespace velmor::form2 {
 
+using rules::Real;
+using sheets::Press;
+
 extern const host::WindowSpec spec;
+
+/// The working numbers of one sheet.
+struct Quantities {
+    Real ERes;        ///< V
+    Real RLw;         ///< ohm
+    Real RLac;        ///< ohm
+    Real RLComputed;  ///< ohm
+    Real ERL;         ///< V
+    Real Rb1Computed; ///< kilohm
+    Real Zin;         ///< kilohm
+    Real ZinBoot;     ///< ohm
+    Real QIcCheck;    ///< mA
+    bool passed = false;
+};
 
 class Form2 : public sheets::DesignSheet {
 public:
@@ -26,85 +39,66 @@ public:
     void CDL_GuardarDatos() override {}
     void CDL_AbrirDatos() override;
     std::string reportText() const override;
+    const Quantities& quantities() const { return q_; }
 
-    // life of the sheet (form2.cpp)
+    // life of the sheet, and what all fields share (form2.cpp)
     void load();
     void activate();
     void unload();
     void hoverBackground();
+    void keyField(host::EventArgs& args);
+    void clickField(host::EventArgs& args);
     void hoverField(host::EventArgs& args);
-    void pressField(host::EventArgs& args);
+    void pressTemperature(host::EventArgs& args);
+    void pressResistor(host::EventArgs& args);
 
     // the chain (form2_chain.cpp)
-    void focusText1();
+    void focusText1(host::EventArgs& args);
     void clickText1();
     void keyText1(host::EventArgs& args);
     void lostText1();
-    void focusText3();
+    void focusText3(host::EventArgs& args);
     void keyText3(host::EventArgs& args);
-    void lostText3();
-    void focusText4();
     void keyText4(host::EventArgs& args);
     void lostText4();
-    void focusText8();
+    void focusText8(host::EventArgs& args);
     void keyText8(host::EventArgs& args);
     void lostText8();
-    void focusText21();
     void keyText21(host::EventArgs& args);
     void lostText21();
-    void focusText15();
     void keyText15(host::EventArgs& args);
-    void lostText15();
-    void focusText9();
-    void keyText9(host::EventArgs& args);
+    void focusText9(host::EventArgs& args);
     void lostText9();
-    void focusText10();
-    void keyText10(host::EventArgs& args);
     void lostText10();
-    void focusText11();
+    void focusText11(host::EventArgs& args);
     void keyText11(host::EventArgs& args);
     void lostText11();
 
     // load, signal and supply (form2_signal.cpp)
-    void focusText17();
+    void focusText17(host::EventArgs& args);
     void keyText17(host::EventArgs& args);
-    void lostText17();
-    void focusText12();
+    void focusText12(host::EventArgs& args);
     void keyText12(host::EventArgs& args);
-    void lostText12();
-    void focusText13();
     void keyText13(host::EventArgs& args);
-    void lostText13();
-    void focusText14();
     void keyText14(host::EventArgs& args);
     void lostText14();
-    void focusText16();
+    void focusText16(host::EventArgs& args);
     void keyText16(host::EventArgs& args);
     void lostText16();
 
     // transistor and base divider (form2_closing.cpp)
-    void focusText2();
-    void keyText2(host::EventArgs& args);
-    void lostText2();
-    void focusText5();
-    void clickText5();
+    void focusText2(host::EventArgs& args);
     void keyText5(host::EventArgs& args);
-    void lostText5();
-    void focusText6();
     void keyText6(host::EventArgs& args);
     void lostText6();
-    void focusText7();
     void keyText7(host::EventArgs& args);
-    void lostText7();
-    void focusText18();
     void keyText18(host::EventArgs& args);
     void lostText18();
-    void focusText19();
-    void clickText19();
+    void focusText19(host::EventArgs& args);
     void keyText19(host::EventArgs& args);
     void lostText19();
 
-    // option pictures and buttons (form2_options.cpp)
+    // option pictures and tools (form2_options.cpp)
     void hoverButton(host::EventArgs& args);
     void clickPicture6();
     void clickPicture4();
@@ -115,12 +109,9 @@ public:
     void clickPicture10();
     void clickPicture2();
     void clickPicture7();
-    void clickClone(host::EventArgs& args);
-    void clickImage3();
+    void clickGuide();
     void clickImage34();
     void clickImage35();
-    void clickSSCommand1();
-    void clickSSCommand3();
     void clickSSPanel1();
     void clickSTA70();
     void pressImage1(host::EventArgs& args);
@@ -133,70 +124,45 @@ private:
     bool bypassedByBase() const { return visible(Picture1) && !visible(Picture10); }
     bool polarisedByEmitter() const { return visible(Picture10) && !visible(Picture11); }
 
-    // what many slots begin with
-    void LimpiarTags();
-    void takeInHand(host::Handle field, std::string_view tag = "1");
-    void prompt(host::Handle field, Trigger trigger);
-    bool goesOn(host::EventArgs& args, std::string_view byDefault);
-    void write(host::Handle control, const host::BiText& text) { setText(control, pick(text)); }
-    void MostrarAyuda();
-    void hideNotes();
-    void grow(host::Handle field);
-    void showWholeDrawing();
-    void clearDrawing();
-    void drawBootstrapping(bool drawn);
+    Press pressed(host::EventArgs& args);
+    bool sentBack(host::Handle emptyField, const sheets::Saying& box, host::Handle target);
 
-    // quantities that stand in fields; those which must be plain numbers are made so
-    Real QIc() { return sheets::strictNumber(*this, Text8); }
-    Real Res() { return sheets::strictNumber(*this, Text15); }
-    Real RLwKilohm() { return sheets::strictNumber(*this, Text9); }
-    Real Vg() { return sheets::strictNumber(*this, Text11); }
-    Real Beta() { return sheets::strictNumber(*this, Text2); }
-    Real Rb2() { return sheets::strictNumber(*this, Text18); }
-    Real at(host::Handle field) const { return sheets::number(*this, field); }
+    // quantities that stand in fields; these are made plain numbers
+    Real takeQIc() { return take(Text8); }
+    Real takeRes() { return take(Text15); }
+    Real takeRLw() { return take(Text9); } ///< kilohm
+    Real takeVg() { return take(Text11); }
+    Real takeBeta() { return take(Text2); }
+    Real takeRb2() { return take(Text18); }
 
     // steps of the chain that stand on their own
-    std::string fourDecimals(Real value) const { return sheets::shown(*this, value); }
-    std::string digits(Real value) const { return sheets::digits(*this, value); }
     void workOutERes();
     void writeJunctionResistance();
-    void askForEmitterSupply(sheets::Press press);
-    void askForEmitterResistor(sheets::Press press);
+    void askForEmitterSupply(Press press);
+    void askForEmitterResistor(Press press);
     void takeStandardResistor();
-    void takeResistorOfSupply();
     bool workOutRLac();
     void refuseLoad(Real RL);
-    void refuseSupply();
-    bool supplyIsTooLow(Real Eq);
-    bool overTransistorLimit(Real Eq);
-    void acceptSupply(Trigger trigger);
     void enterSupplyByBase();
     void enterSupplyByEmitter();
     void escapeSupply();
-    void writeBaseCurrentPath(Real BRes);
-    void workOutDivider(Real BRes);
-    void writeInput();
+    bool supplyIsTooLow(Real Eq);
+    bool overTransistorLimit(Real Eq);
+    void writeEq(Real Eq);
+    void acceptSupply();
+    void workOutDivider(Real BRes, Real Rin);
     void writeCapacitors();
     void finishUnbypassed();
     void finishByEmitter();
     void finishBypassed();
     void closeByEmitter();
-    void checkCollectorCurrent();
+    bool obtainsItsCurrent();
     void openVariant(std::string_view sheetName, const host::BiText& title);
+    void drawBootstrapping(bool drawn);
     std::string englishReport() const;
     std::string spanishReport() const;
 
-    // working numbers, in the units of the formulas
-    Real ERes_;        ///< V
-    Real RLac_;        ///< ohm
-    Real RLw_;         ///< ohm
-    Real RLcomputed_;  ///< ohm
-    Real ERL_;         ///< V
-    Real Rin_;         ///< mixed, as the formula has it
-    Real Rb1Computed_; ///< kilohm
-    Real Zin_;         ///< kilohm
-    Real ZinBoot_;     ///< ohm
-    Real QIcCheck_;    ///< mA
+    Quantities q_;
 };
 
 } // namespace velmor::form2

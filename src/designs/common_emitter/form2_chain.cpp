@@ -1,28 +1,24 @@
 // SPDX-License-Identifier: MIT
-// The chain of `Form2` from the allowed drift to the gain: what stabilises the stage, and the test of its load.
+// The chain of `Form2` from the allowed drift to the gain: stability, emitter resistor, load, and the test of its load.
+#include "designs/common_emitter/emitter_formulas.h"
 #include "designs/common_emitter/form2.h"
+#include "sheets/formulas.h"
 
 namespace velmor::form2 {
 
-using sheets::correctFrom;
-using sheets::correctToRange;
-using sheets::goTo;
-using sheets::isEmpty;
-using sheets::Press;
-using sheets::say;
-using sheets::writeNumber;
+using namespace common_emitter; // NOLINT(google-build-using-namespace): formulas and texts of the family
+using sheets::emitterResistor;
+using sheets::When;
 
 // --- Delta QIc
 
-void Form2::focusText1()
+void Form2::focusText1(host::EventArgs& args)
 {
-    LimpiarTags();
-    setTag(Text1, "1");
+    focusField(args);
     clearDrawing();
     show(Picture6);
     hide(Label21);
     write(SSPanel1, enabled(Text19) ? varyRb1Prompt : startPrompt);
-    prompt(Text1, Trigger::focus);
     disable(Text2, Text3, Text4, Voltaje, Text8, Text15, Text9, Text10, Text11, Text12, Text16, Text13, Text14, Text5,
             Text6, Text7, Text21);
 }
@@ -36,26 +32,23 @@ void Form2::clickText1()
 
 void Form2::keyText1(host::EventArgs& args)
 {
-    const Press press = sheets::pressed(*this, args, sheets::placeANumber);
-    if (press == Press::nothing)
+    const Press press = pressed(args);
+    if (!goesOn(Text1, press))
         return;
-    if (press == Press::escape)
-        setText(Text1, "10");
     if (visible(Picture11)) {
         hide(Picture10, Picture11);
-        prompt(Text1, Trigger::enter);
-        enable(Text3);
+        tell(Text1, When::enter);
         host().Unload("Form21");
     } else if (press == Press::escape) {
         show(Picture10);
     }
-    goTo(*this, Text3);
+    goTo(Text3);
 }
 
 void Form2::lostText1()
 {
     hide(Label24);
-    correctToRange(*this, Text1, 1, 10, 10);
+    correct(Text1);
     if (!unbypassed()) {
         if (visible(Picture6))
             hide(Picture6);
@@ -69,10 +62,10 @@ void Form2::lostText1()
 
 // --- T
 
-void Form2::focusText3()
+void Form2::focusText3(host::EventArgs& args)
 {
-    takeInHand(Text3, "2");
-    writeNumber(*this, Text3, rules::RoundToInt16(host().values().TemperaturaCompartida));
+    focusField(args);
+    write(Text3, rules::RoundToInt16(host().values().TemperaturaCompartida));
     if (visible(Picture6))
         hide(Picture6, Picture1, Picture10);
     disable(Text18, Text19);
@@ -82,70 +75,52 @@ void Form2::focusText3()
 
 void Form2::keyText3(host::EventArgs& args)
 {
-    const Press press = sheets::pressed(*this, args, emptyField);
-    if (press == Press::nothing)
+    const Press press = pressed(args);
+    if (!goesOn(Text3, press))
         return;
-    if (press == Press::escape) {
-        setText(Text3, "70");
+    if (press == Press::escape)
         host().Unload("Form21");
-    }
-    prompt(Text3, Trigger::enter);
-    goTo(*this, Text4);
-}
-
-void Form2::lostText3()
-{
-    correctToRange(*this, Text3, 25, 200, 25);
+    goOn(Text3, press);
 }
 
 // --- Delta Vbe
 
-void Form2::focusText4()
-{
-    takeInHand(Text4, "2");
-}
-
 void Form2::keyText4(host::EventArgs& args)
 {
-    const Press press = sheets::pressed(*this, args, emptyField);
-    if (press == Press::nothing)
+    const Press press = pressed(args);
+    if (!goesOn(Text4, press))
         return;
-    if (press == Press::escape)
-        setText(Text4, "2.5");
-    prompt(Text4, press == Press::escape ? Trigger::escape : Trigger::enter);
-    goTo(*this, Text8);
+    goOn(Text4, press);
     host().Unload("Form21");
 }
 
 void Form2::lostText4()
 {
     enable(Voltaje);
-    correctToRange(*this, Text4, 2, 3, 2.5);
+    correct(Text4);
     workOutERes();
 }
 
 void Form2::workOutERes()
 {
-    ERes_ = stabilityVoltage(at(Text3), at(Text4), at(Text1));
-    setText(Voltaje, fourDecimals(ERes_));
+    q_.ERes = sheets::stabilityVoltage(at(Text3), at(Text4), at(Text1));
+    setText(Voltaje, shown(q_.ERes));
 }
 
 // --- QIc
 
-void Form2::focusText8()
+void Form2::focusText8(host::EventArgs& args)
 {
-    takeInHand(Text8);
+    focusField(args);
     disable(Text1, Text3, Text4);
 }
 
 void Form2::keyText8(host::EventArgs& args)
 {
-    const Press press = sheets::pressed(*this, args, emptyField);
-    if (press == Press::nothing)
+    const Press press = pressed(args);
+    if (!goesOn(Text8, press))
         return;
-    if (press == Press::escape)
-        setText(Text8, "1");
-    correctFrom(*this, Text8, 0.4, 1);
+    correct(Text8);
     if (polarisedByEmitter())
         askForEmitterSupply(press);
     else
@@ -156,204 +131,149 @@ void Form2::askForEmitterSupply(Press press)
 {
     if (press == Press::escape)
         show(Label19);
-    goTo(*this, Text21);
+    goTo(Text21);
     hide(res);
 }
 
 void Form2::askForEmitterResistor(Press press)
 {
     workOutERes();
-    const std::string ending = press == Press::escape ? " ohms, " : " ohms";
-    setText(res, fourDecimals(idealEmitterResistor(ERes_, QIc())) + ending);
+    const std::string_view ending = press == Press::escape ? " ohms, " : " ohms";
+    setText(res, shown(emitterResistor(q_.ERes, takeQIc())).append(ending));
     writeJunctionResistance();
     hide(sta1, status40);
     show(res);
-    goTo(*this, Text15);
-    prompt(Text8, Trigger::enter);
+    goOn(Text8, press);
 }
 
 void Form2::writeJunctionResistance()
 {
-    setText(statu17, " R'e =" + fourDecimals(junctionResistance(QIc())) + "     ohms");
+    setText(statu17, " R'e =" + shown(sheets::junctionResistance(takeQIc())) + "     ohms");
 }
 
 void Form2::lostText8()
 {
-    correctFrom(*this, Text8, 0.4, 1);
+    correct(Text8);
     show(Text15, Text18);
-    writeNumber(*this, Text15, idealEmitterResistor(ERes_, QIc()));
+    write(Text15, emitterResistor(q_.ERes, takeQIc()));
 }
 
 // --- -Es, of a stage polarised by emitter
 
-void Form2::focusText21()
-{
-    takeInHand(Text21);
-}
-
 void Form2::keyText21(host::EventArgs& args)
 {
-    if (sheets::filteredKey(*this, args) != sheets::enterKey)
+    const Press press = pressed(args);
+    if (!goesOn(Text21, press))
         return;
-    if (isEmpty(*this, Text21)) {
-        prompt(Text21, Trigger::empty);
-        return;
-    }
-    sheets::makeBare(*this, Text21);
-    correctFrom(*this, Text21, 1, 20);
-    const Real resistor = idealEmitterResistor(at(Text21), QIc());
-    setText(res, fourDecimals(resistor) + " ohms");
+    correct(Text21);
+    const Real resistor = emitterResistor(at(Text21), takeQIc());
+    setText(res, shown(resistor) + " ohms");
     writeJunctionResistance();
     show(res, statu17);
     hide(sta1);
-    prompt(Text21, Trigger::enter);
-    goTo(*this, Text15);
-    writeNumber(*this, Text15, resistor);
+    goOn(Text21, press);
+    write(Text15, resistor);
 }
 
 void Form2::lostText21()
 {
-    if (at(Text21) < ERes_)
-        writeNumber(*this, Text21, ERes_);
+    if (at(Text21) < q_.ERes)
+        write(Text21, q_.ERes);
 }
 
 // --- Res
 
-void Form2::focusText15()
-{
-    takeInHand(Text15);
-}
-
 void Form2::keyText15(host::EventArgs& args)
 {
-    if (sheets::pressed(*this, args, emptyField) != Press::enter)
+    const Press press = pressed(args);
+    if (!goesOn(Text15, press))
         return;
-    correctFrom(*this, Text15, 0.01, 0.01);
+    correctFrom(Text15, 0.01, 0.01);
     // What `Text21` shows after a finished design, or out of a file, is no supply to divide.
-    if (visible(Text21) && at(Text21) > 0)
-        takeResistorOfSupply();
-    else
+    if (visible(Text21) && at(Text21) > 0) {
+        write(Text8, quiescentCurrent(at(Text21), takeRes()));
+        goOn(Text15, press);
+    } else {
         takeStandardResistor();
+    }
 }
 
 // The standard resistor moves QIc, not ERes.
 void Form2::takeStandardResistor()
 {
-    const Real resistor = Res();
+    const Real resistor = takeRes();
     if (resistor > 0.01 && resistor < 1) {
         workOutERes();
-        setText(res, fourDecimals(idealEmitterResistor(ERes_, QIc())) + " ohms");
+        setText(res, shown(emitterResistor(q_.ERes, takeQIc())) + " ohms");
     } else {
         hide(Label19);
     }
     hide(res, statu17);
-    const Real current = quiescentCurrent(ERes_, resistor);
-    writeNumber(*this, Text8, current);
-    setText(VRes, digits(ERes_) + "  Volt");
+    const Real current = quiescentCurrent(q_.ERes, resistor);
+    write(Text8, current);
+    setText(VRes, digits(q_.ERes) + "  Volt");
     show(sta1);
     enable(Text6);
-    if (current > (40.0 / 100.0) * rules::RoundToInt16(at(Text6))) {
-        say(*this, currentOverLimit);
-        return;
-    }
-    prompt(Text15, Trigger::enter);
-    goTo(*this, Text9);
-}
-
-void Form2::takeResistorOfSupply()
-{
-    writeNumber(*this, Text8, quiescentCurrent(at(Text21), Res()));
-    prompt(Text15, Trigger::enter);
-    goTo(*this, Text9);
-}
-
-void Form2::lostText15()
-{
-    correctFrom(*this, Text15, 1E-08, 1);
+    if (current > (40.0 / 100.0) * rules::RoundToInt16(at(Text6)))
+        tell(currentOverLimit);
+    else
+        goOn(Text15, Press::enter);
 }
 
 // --- RLw
 
-void Form2::focusText9()
+void Form2::focusText9(host::EventArgs& args)
 {
-    takeInHand(Text9);
+    focusField(args);
     disable(Text6, Text16);
     enable(Text17);
 }
 
-void Form2::keyText9(host::EventArgs& args)
-{
-    if (!goesOn(args, "10"))
-        return;
-    prompt(Text9, Trigger::enter);
-    goTo(*this, Text10);
-}
-
 void Form2::lostText9()
 {
-    correctFrom(*this, Text9, 0.1, 10);
-    RLw_ = RLwKilohm() * 1000.0;
+    correct(Text9);
+    q_.RLw = takeRLw() * 1000.0;
     setText(statu35, "RLw " + text(Text9) + " K");
 }
 
 // --- S
 
-void Form2::focusText10()
-{
-    takeInHand(Text10);
-}
-
-void Form2::keyText10(host::EventArgs& args)
-{
-    if (!goesOn(args, "10"))
-        return;
-    prompt(Text10, Trigger::enter);
-    goTo(*this, Text11);
-}
-
 void Form2::lostText10()
 {
-    if (isEmpty(*this, Text10)) {
-        say(*this, emptyLeft);
-        goTo(*this, Text9);
-        return;
-    }
-    correctToRange(*this, Text10, 1, 20, 10);
+    if (!sentBack(Text10, emptyLeft, Text9))
+        correct(Text10);
 }
 
 // --- Vg, and the test of the load
 
-void Form2::focusText11()
+void Form2::focusText11(host::EventArgs& args)
 {
-    takeInHand(Text11);
+    focusField(args);
     host().setVisible("Form21", "SSCommand1", false);
     host().setText("Form21", "SSCommand1", " Vg..");
 }
 
 void Form2::keyText11(host::EventArgs& args)
 {
-    if (!goesOn(args, "5"))
+    const Press press = pressed(args);
+    if (!goesOn(Text11, press))
         return;
     hide(status40);
     show(ER, statu18, statu19);
-    prompt(Text11, Trigger::enter);
-    goTo(*this, Text17);
+    goOn(Text11, press);
 }
 
 void Form2::lostText11()
 {
-    if (isEmpty(*this, Text11)) {
-        say(*this, emptyGain);
-        goTo(*this, Text10);
+    if (sentBack(Text11, emptyGain, Text10))
         return;
-    }
-    correctFrom(*this, Text11, 1, 5);
+    correct(Text11);
     if (!workOutRLac())
         return;
-    RLcomputed_ = collectorResistor(RLw_, RLac_);
-    const Real kilohms = RLcomputed_ / 1000.0;
-    setText(statu19, "    " + digits(rules::TruncToInteger(kilohms)) + " K " + " ");
-    writeNumber(*this, Text17, kilohms);
+    q_.RLComputed = sheets::collectorResistor(q_.RLw, q_.RLac);
+    const Real kilohms = q_.RLComputed / 1000.0;
+    setText(statu19, "    " + whole(kilohms) + " K " + " ");
+    write(Text17, kilohms);
     if (kilohms < 0.501)
         refuseLoad(kilohms);
 }
@@ -362,14 +282,14 @@ void Form2::lostText11()
 bool Form2::workOutRLac()
 {
     if (unbypassed())
-        RLac_ = unbypassedLoad(Vg(), Res());
+        q_.RLac = unbypassedLoad(takeVg(), takeRes());
     else if (bypassedByBase() || polarisedByEmitter())
-        RLac_ = bypassedLoad(Vg(), QIc());
-    setText(statu18, " (Rlac)=           " + fourDecimals(RLac_) + "  ohms");
-    if (RLw_ - RLac_ >= 0.1)
+        q_.RLac = bypassedLoad(takeVg(), takeQIc());
+    setText(statu18, " (Rlac)=           " + shown(q_.RLac) + "  ohms");
+    if (q_.RLw - q_.RLac >= 0.1)
         return true;
-    say(*this, loadTooLarge);
-    goTo(*this, Text8);
+    tell(loadTooLarge);
+    goTo(Text8);
     return false;
 }
 
@@ -378,16 +298,16 @@ void Form2::refuseLoad(Real RL)
     hide(Text18, Text15);
     write(status40, loadImpossible.text);
     show(status40);
-    say(*this, loadImpossible);
-    goTo(*this, Text8);
+    tell(loadImpossible);
+    goTo(Text8);
     if (visible(Picture1) || (visible(Picture10) && RL > 0 && RL < 0.01))
-        say(*this, raiseGain);
+        tell(raiseGain);
     else if (visible(Picture10) && RL <= 0)
-        say(*this, lowerGain);
+        tell(lowerGain);
     else
         return;
     hide(status40);
-    goTo(*this, Text8);
+    goTo(Text8);
 }
 
 } // namespace velmor::form2

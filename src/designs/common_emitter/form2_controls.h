@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The controls of `Form2` by handle, and which parts of its drawing belong to which field. Knows no slot and no formula.
+// The controls of `Form2` by handle, which of them are its tools, and what of its drawing comes with which field. Knows no slot
+// and no formula.
 #pragma once
 
 #include <span>
 
 #include "host/window.h"
+#include "sheets/tools.h"
 
 namespace velmor::form2 {
 
@@ -26,28 +28,28 @@ enum Control : host::Handle {
     // notes on the field under the pointer; one at a time, but for `status4` and `status6`
     status1, status2, status3, status4, status5, status6, status7, status8, status9, status10, status11, status12,
     status13, status14, status15, status16, statu36, sta5, Label21,
-    // option pictures and buttons
+    // option pictures, and the name of what the pointer is on
     Boost, Picture6, Picture4, Picture11, Picture10, Picture2, Picture7, Picture1,
-    Image5, Image4, Image3, SSCommand3, SSCommand1, Image35, Image34,
+    // tools
+    SSCommand1, Image3, SSCommand3, Image5, Image4, Image35, Image34,
     // the teacher's voice
     STA70, SSPanel1,
     controlCount
 };
 // clang-format on
 
+inline constexpr sheets::Tools tools{.guide = SSCommand1,
+                                     .calculator = Image3,
+                                     .report = SSCommand3,
+                                     .clone = {Image5, Image4},
+                                     .help = {Image35, Image34}};
+
 extern const std::span<const host::ControlRow> controls;
-
-/// Every note that stands beside the fields. Showing one hides the others.
+/// The notes beside the fields: pointing at a field shows its own alone.
 extern const std::span<const host::Handle> notes;
-
-/// What of the drawing is there once a field has been reached.
-struct Growth {
-    host::Handle field;
-    std::span<const host::Handle> parts;
-};
-extern const std::span<const Growth> growths;
-
-/// Every part that comes and goes with the chain: what a new start takes away again.
-extern const std::span<const host::Handle> growingParts;
+/// What of the drawing comes with which field.
+extern const std::span<const host::GrowthRow> growth;
+/// What stands on the drawing and is pale while its part is.
+extern const std::span<const host::ValueRow> values;
 
 } // namespace velmor::form2

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 // The help pages of `Form2`, Spanish and English side by side. "¶" stands for pi, as on the course's blackboard.
-#include "designs/common_emitter/form2_help.h"
+#include "designs/common_emitter/form2_texts.h"
 
 namespace velmor::form2 {
 
+namespace help_detail {
+
 // clang-format off
-constexpr std::array<HelpPage, 19> helpPages{{
-    {.field = "Text1", .shortName = " Delta QIc...", .page = {
+constexpr auto pages = std::to_array<sheets::HelpPage>({
+    {.field = Text1, .shortName = " Delta QIc...", .page = {
         .es = "              Delta QIc\n\n"
               "En este cuadro Ud. asigna cuánto puede cambiar la corriente de reposo (QIc), en porcentaje, cuando la "
               "temperatura pasa de 20 °C a la de trabajo.\n\n"
@@ -21,7 +23,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "enough.\n\n"
               "The smaller the change you allow, the more voltage must stay on the emitter resistor (ERes) and the "
               "higher the supply: stability is paid for in volts."}},
-    {.field = "Text3", .shortName = " Temperatura...", .page = {
+    {.field = Text3, .shortName = " Temperatura...", .page = {
         .es = "            Temperatura\n\n"
               "En este cuadro Ud. coloca la temperatura ambiente más alta, en grados centígrados, en la que trabajará "
               "el equipo. No es la de su banco: adentro de un gabinete cerrado, al sol, 75 °C es un valor normal.\n\n"
@@ -34,7 +36,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "From 25 to 200 is accepted. If you have it in Fahrenheit or Kelvin, the conversion window turns it into "
               "centigrade and leaves it in the field.\n\n"
               "      ERes = ((T - 20) x Delta Vbe x 100) / Delta QIc"}},
-    {.field = "Text4", .shortName = " Delta Vbe...", .page = {
+    {.field = Text4, .shortName = " Delta Vbe...", .page = {
         .es = "              Delta Vbe\n\n"
               "La tensión Base - Emisor que necesita un transistor para una misma corriente baja unos 2.5 mV por cada "
               "grado. Si la tensión aplicada no cambia, es como si la polarización directa aumentara: sube la "
@@ -47,7 +49,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "rises, the transistor heats up more, and the current rises again (avalanche effect).\n\n"
               "For QIc below 10 mA put 2.5 to 3; for higher currents, 3. From 2 to 3 mV is accepted.\n\n"
               "When you leave this field the program works out ERes, the voltage that holds the avalanche back."}},
-    {.field = "Text8", .shortName = " QIc...", .page = {
+    {.field = Text8, .shortName = " QIc...", .page = {
         .es = "                 QIc\n\n"
               "QIc es la corriente de reposo: la que circula de Colector a Emisor sin señal de entrada. Es aconsejable "
               "asignar la corriente a la cual el fabricante probó los parámetros del transistor, según el Manual.\n\n"
@@ -63,7 +65,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "        r'e = 25 mV / QIc\n\n"
               "(with QIc in mA the result is in ohms). It should not pass 40 % of the maximum collector current, and "
               "with a small load (RLw) you will have to raise it. Less than 0.4 mA is not accepted."}},
-    {.field = "Text15", .shortName = " Res", .page = {
+    {.field = Text15, .shortName = " Res", .page = {
         .es = "          Resistor de Emisor\n\n"
               "Res desarrolla la tensión de estabilidad ERes. El programa propone el valor exacto, ERes / QIc: coloque "
               "el normalizado más cercano (pulse el botón derecho para ver la tabla).\n\n"
@@ -78,7 +80,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "out QIc = ERes / Res again.\n\n"
               "Without bypass, Res also fixes the gain:\n\n"
               "        Vg = RLac / Res"}},
-    {.field = "Text9", .shortName = " RLw..", .page = {
+    {.field = Text9, .shortName = " RLw..", .page = {
         .es = "                 RLw\n\n"
               "Es la carga del amplificador, en Kohm: el equipo, el parlante ó la etapa siguiente sobre la que se "
               "desarrolla la tensión de salida Eopp. Si lo que sigue es otra etapa, coloque su impedancia de entrada.\n\n"
@@ -90,7 +92,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "output voltage Eopp is developed. If another stage follows, put its input impedance.\n\n"
               "For small loads the circuit demands more current and offers less input impedance. If RLac comes to equal "
               "RLw there is no room left for the resistor RL and the design cannot go on: raise QIc or lower Vg."}},
-    {.field = "Text10", .shortName = " S..", .page = {
+    {.field = Text10, .shortName = " S..", .page = {
         .es = "          Estabilidad  ( S )\n\n"
               "El factor de estabilidad relaciona el resistor de base con el de emisor y fija Rb2:\n\n"
               "        Rb2 = S x Res\n\n"
@@ -105,7 +107,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "impedance falls. With 10 the circuit is less stable and asks less of the generator: a good value for "
               "audio.\n\n"
               "When you reach Rb1 the program works out S again with the standard Rb2 that you have chosen."}},
-    {.field = "Text11", .shortName = "...Vg", .page = {
+    {.field = Text11, .shortName = "...Vg", .page = {
         .es = "         Ganancia de tensión\n\n"
               "Vg son las veces que el circuito amplifica la señal de entrada:\n\n"
               "        Vg = Eopp/Ein\n\n"
@@ -125,7 +127,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "        Vg = RLac / Res\n\n"
               "The first is high and changes with QIc; the second is low and hardly changes at all. Try high values, as "
               "an exercise: the program will tell you why it cannot be."}},
-    {.field = "Text17", .shortName = "RL..", .page = {
+    {.field = Text17, .shortName = "RL..", .page = {
         .es = "         Resistor de Colector\n\n"
               "RLac es la carga que ve la señal: RL y RLw en paralelo. Conocidas RLac y RLw se despeja:\n\n"
               "   RL = (RLw x RLac) / (Rlw - RLac)\n\n"
@@ -138,7 +140,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "Put the nearest standard value, in Kohm; the program works out the real gain again.\n\n"
               "The d.c. voltage on this resistor, ERL = QIc x RL, must be at least half of the peak to peak output "
               "(Eopp): if it is less, the signal is clipped."}},
-    {.field = "Text12", .shortName = " fo...", .page = {
+    {.field = Text12, .shortName = " fo...", .page = {
         .es = "        Frecuencia de corte\n\n"
               "fo es la menor frecuencia de interés, en Hertz. A esta frecuencia cada capacitor de acoplamiento tendrá "
               "una reactancia igual a la décima parte de la resistencia que alimenta:\n\n"
@@ -151,7 +153,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "  Cout = 1 / (2 x ¶ x fo x 0.1 x Rlw )\n\n"
               "For Cin the sum is the same, with the input impedance (Zin) in the place of RLw. For audio, 20 Hz; if "
               "you only care for speech, with 300 Hz the capacitors will be fifteen times smaller."}},
-    {.field = "Text13", .shortName = " Eopp...", .page = {
+    {.field = Text13, .shortName = " Eopp...", .page = {
         .es = "          Tensión de salida\n\n"
               "Eopp es la tensión alterna, de pico a pico, que deberá manejar la carga. Si no posee el dato pulse Esc y "
               "coloque la señal de entrada: el programa calcula la salida con la ganancia.\n\n"
@@ -164,7 +166,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "Besides the swing, the transistor must keep one volt so as not to saturate:\n\n"
               "        Eq(min) = Eopp + 1 Volt\n\n"
               "and on RL there must be, at rest, at least Eopp / 2."}},
-    {.field = "Text16", .shortName = "Es...", .page = {
+    {.field = Text16, .shortName = "Es...", .page = {
         .es = "         Fuente de alimentación\n\n"
               "La fuente se reparte entre el resistor de emisor, el transistor y el resistor de colector:\n\n"
               "      Es(min) = ERes + EQ + ERL\n\n"
@@ -179,7 +181,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "will stay between Collector and Emitter (Eq). If the value is unusually high do not be afraid of it: it "
               "is you who manages the quiescent current.\n\n"
               "Take care that Eq neither passes the Ec(max) of the Manual nor falls below 3 Volts."}},
-    {.field = "Text21", .shortName = "-Es...", .page = {
+    {.field = Text21, .shortName = "-Es...", .page = {
         .es = "           Fuente negativa\n\n"
               "Cuando el circuito se polariza por emisor, Res no va a masa sino a una fuente negativa, y la base queda "
               "prácticamente a masa a través de Rb2. No hace falta Rb1.\n\n"
@@ -194,7 +196,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "        Res = -Es / QIc\n\n"
               "As that voltage is much greater than the change of Vbe, the current stays firm though the temperature "
               "changes. It must not be less than ERes."}},
-    {.field = "Text2", .shortName = "Beta...", .page = {
+    {.field = Text2, .shortName = "Beta...", .page = {
         .es = "             Beta  (hFE)\n\n"
               "Es la ganancia de corriente estática del transistor, Ic / Ib. El Manual la da según QIc, y de un "
               "transistor a otro del mismo tipo puede variar al doble ó al triple: tome el valor mínimo, ó mida el "
@@ -209,7 +211,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "Do not mistake it for hfe, which is the gain for small signals.\n\n"
               "A good design depends little on Beta: it comes into the input impedance and into Rb1, which is why a "
               "preset takes its place."}},
-    {.field = "Text5", .shortName = "Ec(max)", .page = {
+    {.field = Text5, .shortName = "Ec(max)", .page = {
         .es = "      Tensión máxima de colector\n\n"
               "Es la mayor tensión que soporta el transistor entre Colector y Emisor (VCEO en el Manual). A este cuadro "
               "se llega con un click.\n\n"
@@ -220,7 +222,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "You reach this field with a click.\n\n"
               "The voltage Eq of the circuit must be less; it is wise to stay 20 % below. If it is passed, change the "
               "transistor or lower the supply."}},
-    {.field = "Text6", .shortName = "Ic(max)", .page = {
+    {.field = Text6, .shortName = "Ic(max)", .page = {
         .es = "      Corriente máxima de colector\n\n"
               "Es dato del Manual, en mA. No se aceptan valores inferiores a 10 mA.\n\n"
               "La corriente de reposo no debe superar el 40 % de este valor: así queda lugar para la señal, que la hace "
@@ -231,7 +233,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "The quiescent current should not pass 40 % of this value: so there is room for the signal, which makes it "
               "rise and fall, and the transistor works cool. Above that limit the gain falls and the design becomes "
               "unstable."}},
-    {.field = "Text7", .shortName = "Si/Ge", .page = {
+    {.field = Text7, .shortName = "Si/Ge", .page = {
         .es = "         Tensión de juntura\n\n"
               "Es la tensión Base - Emisor con la que el transistor conduce: 0.6 Volt para silicio y 0.2 Volt para "
               "germanio. Se acepta de 0.2 a 0.7.\n\n"
@@ -240,7 +242,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "It is the Base - Emitter voltage with which the transistor conducts: 0.6 Volt for silicon and 0.2 Volt for "
               "germanium. From 0.2 to 0.7 is accepted.\n\n"
               "The program adds it to ERes to know what voltage there must be at the base, and works out Rb1 with it."}},
-    {.field = "Text18", .shortName = "Rb2", .page = {
+    {.field = Text18, .shortName = "Rb2", .page = {
         .es = "           Resistor Rb2\n\n"
               "Va de la base a masa y drena el excedente de corriente:\n\n"
               "        Rb2 = S x Res\n\n"
@@ -253,7 +255,7 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "Put a standard value, in Kohm. Lower than the calculated one gives better stability (S) but a smaller "
               "input impedance; higher, the other way round. It should not be less than Res.\n\n"
               "Here the judgement is yours: it depends on what the generator can give."}},
-    {.field = "Text19", .shortName = "Rb1", .page = {
+    {.field = Text19, .shortName = "Rb1", .page = {
         .es = "       Resistor Rb1  (preset)\n\n"
               "Va de la fuente a la base y provee la corriente de polarización. Como Beta y Vbe cambian de un transistor "
               "a otro, en el armado se coloca un preset del doble del valor y se ajusta hasta leer la corriente de "
@@ -268,7 +270,11 @@ constexpr std::array<HelpPage, 19> helpPages{{
               "Do the same here: vary the value by units until the current obtained differs from QIc by no more than "
               "10 %. Only then will the voltages be those calculated.\n\n"
               "On the bench do not open the collector to measure: read the voltage on Res and divide by its value."}},
-}};
+});
 // clang-format on
+
+} // namespace help_detail
+
+const std::span<const sheets::HelpPage> helpPages = help_detail::pages;
 
 } // namespace velmor::form2

@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The option pictures and buttons of `Form2`. Which pictures are visible says which circuit is being designed.
-#include <algorithm>
-
+// The option pictures and tools of `Form2`. Which pictures are visible says which circuit is being designed.
+#include "designs/common_emitter/emitter_formulas.h"
 #include "designs/common_emitter/form2.h"
+#include "sheets/sheet_titles.h"
 
 namespace velmor::form2 {
 
-using host::Handle;
-using sheets::goTo;
-using sheets::say;
-
 namespace options_detail {
 
-constexpr sheets::ClonePair clones{Image5, Image4};
 constexpr int smallPanel = 600;
 constexpr int largePanel = 8775;
 constexpr int minimised = 1;
@@ -23,11 +18,7 @@ using namespace options_detail;
 
 void Form2::hoverButton(host::EventArgs& args)
 {
-    const auto row = std::find_if(buttonNames.begin(), buttonNames.end(),
-                                  [&](const ButtonName& name) { return name.button == args.control; });
-    if (row == buttonNames.end())
-        return;
-    write(Boost, row->balloon);
+    tell(args.control, sheets::When::hover);
     show(Boost);
 }
 
@@ -39,29 +30,29 @@ void Form2::openVariant(std::string_view sheetName, const host::BiText& title)
         host().Show(*opened);
         host().SetWindowCaption(*opened, pick(title));
     }
-    goTo(*this, Text1);
+    goTo(Text1);
 }
 
 void Form2::clickPicture6()
 {
-    openVariant("desaco", desacoTitle);
+    openVariant("desaco", sheets::desacoFromForm2);
 }
 
 void Form2::lostPicture6()
 {
-    goTo(*this, Text1);
+    goTo(Text1);
 }
 
 void Form2::clickPicture4()
 {
-    openVariant("ParcDesac", parcDesacTitle);
+    openVariant("ParcDesac", sheets::parcDesacFromForm2);
 }
 
 void Form2::clickPicture1()
 {
     if (visible(Picture1)) {
-        goTo(*this, Text1);
-        write(STA70, bypassHint);
+        goTo(Text1);
+        write(STA70, common_emitter::bypassHint);
     }
     show(Picture6);
     hide(Picture1, Picture10, Picture11);
@@ -70,15 +61,15 @@ void Form2::clickPicture1()
 void Form2::lostPicture1()
 {
     hide(Image2);
-    goTo(*this, Text1);
+    goTo(Text1);
 }
 
 void Form2::clickPicture11()
 {
     show(Image2, Text21, Picture10);
     hide(Picture11, Picture6, Picture1);
-    say(*this, bypassAssigned);
-    goTo(*this, Text1);
+    tell(common_emitter::bypassAssigned);
+    goTo(Text1);
     setText(Text11, "55");
 }
 
@@ -91,28 +82,31 @@ void Form2::clickPicture10()
 void Form2::clickPicture2()
 {
     drawBootstrapping(true);
-    show(Picture7, statu61, statu62, statu71, statu72);
     if (at(Text19) != 0)
-        setText(statu72, "Cbp2=\n" + fourDecimals(secondBootstrapCapacitor(at(Text19), at(Text12))));
-    hide(Image2, Picture2, sta1, statu31, statu32, status5, status6, status7, status8, status9);
+        setText(statu72, "Cbp2=\n" + shown(common_emitter::secondBootstrapCapacitor(at(Text19), at(Text12))));
+    hide(Image2);
 }
 
 // The way back, but that `image2` stays as it is. The notes are shown until the pointer moves on.
 void Form2::clickPicture7()
 {
     drawBootstrapping(false);
-    hide(Picture7, statu61, statu62, statu71, statu72);
-    show(Picture2, sta1, statu31, statu32, status5, status6, status7, status8, status9);
 }
 
-void Form2::clickClone(host::EventArgs& args)
+// Bootstrapping divides both resistors of the base: their plain drawings give way to the halves, and what is known of the plain
+// stage to what is known of this one.
+void Form2::drawBootstrapping(bool drawn)
 {
-    sheets::clone(*this, clones, args.control);
+    for (const host::Handle control : {Line20, Picture3, Picture5, Picture7, statu61, statu62, statu71, statu72})
+        setVisible(control, drawn);
+    for (const host::Handle control :
+         {Line15, Line16, Picture2, sta1, statu31, statu32, status5, status6, status7, status8, status9})
+        setVisible(control, !drawn);
 }
 
-void Form2::clickImage3()
+void Form2::clickGuide()
 {
-    sheets::showCalculator(*this);
+    openGuide(visible(Image2) ? guideByEmitter : guideByBase);
 }
 
 void Form2::clickImage34()
@@ -123,26 +117,14 @@ void Form2::clickImage34()
 
 void Form2::clickImage35()
 {
-    const bool inEnglish = host().values().LanguageIsEnglish == host::trueValue;
     host::Window* page = host().Show("Form19");
     if (page == nullptr)
         return;
     host().SetWindowCaption(*page, pick(noteWindowTitle));
-    host().setVisible("Form19", "Text1", !inEnglish);
-    host().setVisible("Form19", "Text2", inEnglish);
+    host().setVisible("Form19", "Text1", !inEnglish());
+    host().setVisible("Form19", "Text2", inEnglish());
     if (page->windowState() == minimised)
         host().SetWindowState(*page, 0);
-}
-
-void Form2::clickSSCommand1()
-{
-    const host::BiText guide{.es = visible(Image2) ? "polemisor.Lab" : "guia1.Lab", .en = "Feedback Current.Lab"};
-    sheets::openGuide(*this, pick(guide));
-}
-
-void Form2::clickSSCommand3()
-{
-    sheets::openReport(*this, true);
 }
 
 void Form2::clickSSPanel1()
@@ -160,19 +142,9 @@ void Form2::clickSTA70()
     setVisible(STA70, !visible(STA70));
 }
 
-// Right button with Shift or Ctrl: the options; right button alone: the bar of circuits; left button: the files.
 void Form2::pressImage1(host::EventArgs& args)
 {
-    if (args.button == host::Button::left) {
-        host().PopupMenu("mnuArchivo");
-    } else if (args.button == host::Button::right && (args.shift == 1 || args.shift == 2)) {
-        host().PopupMenu("mnuOp");
-    } else if (args.button == host::Button::right && args.shift == 0) {
-        sheets::showBarAsChosen(host());
-        const bool first = visible(Image35);
-        setVisible(Image35, !first);
-        setVisible(Image34, first);
-    }
+    pressPicture(args, tools.help);
 }
 
 } // namespace velmor::form2

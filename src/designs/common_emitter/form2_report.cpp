@@ -2,6 +2,7 @@
 // The report of `Form2`: exercises, results and questions for the teacher. The circuit is read from `Text21` and `image2`, and
 // the two languages differ in more than their words.
 #include "designs/common_emitter/form2.h"
+#include "sheets/report_text.h"
 
 namespace velmor::form2 {
 
@@ -128,7 +129,7 @@ void writeSpanishExercises(ReportText& report, Circuit circuit)
 /// What the Spanish text adds under the heading of the results.
 void writeSpanishCurrent(ReportText& report, const Form2& sheet, Circuit circuit, Real obtained)
 {
-    const Real designed = sheets::number(sheet, Text8);
+    const Real designed = sheet.at(Text8);
     const Real low = obtained - obtained * 10.0 / 100.0;
     const Real high = obtained + obtained * 10.0 / 100.0;
     if (circuit == emitter) {
@@ -153,7 +154,7 @@ using namespace report_detail;
 
 std::string Form2::reportText() const
 {
-    return host().values().LanguageIsEnglish == host::trueValue ? englishReport() : spanishReport();
+    return inEnglish() ? englishReport() : spanishReport();
 }
 
 std::string Form2::englishReport() const
@@ -183,7 +184,7 @@ std::string Form2::spanishReport() const
     report.tabs(spanishClosing);
     if (circuit != unknown) {
         report.oneStep(spanish[circuit].results);
-        writeSpanishCurrent(report, *this, circuit, QIcCheck_);
+        writeSpanishCurrent(report, *this, circuit, q_.QIcCheck);
     }
     return report.rows(*this, designRows).rows(*this, spanishResults).tabs(spanishQuestions).text();
 }

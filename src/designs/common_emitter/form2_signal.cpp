@@ -1,150 +1,117 @@
 // SPDX-License-Identifier: MIT
 // The chain of `Form2` from RL to the supply: what the signal needs.
+#include "designs/common_emitter/emitter_formulas.h"
 #include "designs/common_emitter/form2.h"
+#include "sheets/formulas.h"
 
 namespace velmor::form2 {
 
-using sheets::correctFrom;
-using sheets::goTo;
-using sheets::isEmpty;
-using sheets::Press;
-using sheets::say;
-using sheets::writeNumber;
+using namespace common_emitter; // NOLINT(google-build-using-namespace): formulas and texts of the family
+using sheets::When;
 
 // --- RL
 
-void Form2::focusText17()
+void Form2::focusText17(host::EventArgs& args)
 {
-    takeInHand(Text17);
+    focusField(args);
     hide(sta2);
 }
 
 void Form2::keyText17(host::EventArgs& args)
 {
-    if (sheets::pressed(*this, args, emptyField) != Press::enter)
+    const Press press = pressed(args);
+    if (!goesOn(Text17, press))
         return;
     if (at(Text17) < 0.001)
-        writeNumber(*this, Text17, rules::TruncToInteger(RLcomputed_ / 1000.0));
+        setText(Text17, whole(q_.RLComputed / 1000.0));
     hide(statu19);
-    ERL_ = QIc() * at(Text17);
-    setText(ER, fourDecimals(ERL_) + "     Volts");
+    q_.ERL = takeQIc() * at(Text17);
+    setText(ER, shown(q_.ERL) + "     Volts");
     show(ER, sta2);
-    prompt(Text17, Trigger::enter);
-    goTo(*this, Text12);
-}
-
-void Form2::lostText17()
-{
-    correctFrom(*this, Text17, 0.1, 0.1);
+    goOn(Text17, press);
 }
 
 // --- fo, and the gain that the standard RL really gives
 
-void Form2::focusText12()
+void Form2::focusText12(host::EventArgs& args)
 {
-    takeInHand(Text12);
+    focusField(args);
     disable(Text16, Text2, Text5, Text6, Text7, Text19, Text18, Text13, Text14);
-    const Real realLoad = parallel(RLwKilohm(), at(Text17));
-    setText(statu18, "Rlac = " + fourDecimals(realLoad) + " K");
+    const Real realLoad = sheets::parallel(takeRLw(), at(Text17));
+    setText(statu18, "Rlac = " + shown(realLoad) + " K");
     show(statu18);
     setText(res, text(Text15));
-    setText(Text11, fourDecimals(realGain(realLoad, Res())));
+    setText(Text11, shown(realGain(realLoad, takeRes())));
 }
 
 void Form2::keyText12(host::EventArgs& args)
 {
-    if (!goesOn(args, "20"))
+    const Press press = pressed(args);
+    if (!goesOn(Text12, press))
         return;
     hide(statu18);
-    prompt(Text12, Trigger::enter);
-    goTo(*this, Text13);
-}
-
-void Form2::lostText12()
-{
-    correctFrom(*this, Text12, 1, 20);
+    goOn(Text12, press);
 }
 
 // --- Eopp
 
-void Form2::focusText13()
-{
-    takeInHand(Text13);
-}
-
 void Form2::keyText13(host::EventArgs& args)
 {
-    const Press press = sheets::pressed(*this, args, emptyField);
-    if (press == Press::nothing)
+    const Press press = pressed(args);
+    if (!goesOn(Text13, press))
         return;
+    setVisible(statu21, press == Press::enter);
     // Without an output voltage the student gives the input instead.
     if (press == Press::escape) {
-        hide(statu21);
-        setText(Text13, "1");
-        prompt(Text13, Trigger::escape);
-        goTo(*this, Text14);
+        tell(Text13, When::escape);
+        goTo(Text14);
         return;
     }
-    show(statu21);
-    correctFrom(*this, Text13, 0.00001, 1);
-    if (ERL_ < at(Text13) / 2.0) {
-        goTo(*this, Text12);
-        say(*this, loadVoltageTooLow);
+    correct(Text13);
+    if (q_.ERL < at(Text13) / 2.0) {
+        goTo(Text12);
+        tell(loadVoltageTooLow);
     } else {
-        goTo(*this, Text16);
+        goTo(Text16);
         // A gain that reads 0 after four decimals leaves the input as it is.
-        if (Vg() != 0)
-            setText(Text14, fourDecimals(inputForOutput(at(Text13), Vg())));
+        if (takeVg() != 0)
+            setText(Text14, shown(sheets::inputForOutput(at(Text13), takeVg())));
     }
-    prompt(Text13, Trigger::enter);
-}
-
-void Form2::lostText13()
-{
-    correctFrom(*this, Text13, 0.00001, 1);
+    tell(Text13, When::enter);
 }
 
 // --- Ein
 
-void Form2::focusText14()
-{
-    takeInHand(Text14);
-}
-
 void Form2::keyText14(host::EventArgs& args)
 {
-    if (sheets::pressed(*this, args, emptyField) != Press::enter)
+    const Press press = pressed(args);
+    if (!goesOn(Text14, press))
         return;
     if (at(Text14) < 0.000001)
-        writeNumber(*this, Text14, at(Text13) / 2.0 * 0.707);
+        write(Text14, at(Text13) / 2.0 * 0.707);
     show(statu21);
-    prompt(Text14, Trigger::enter);
-    setText(Text13, fourDecimals(outputForInput(at(Text14), Vg())));
-    goTo(*this, Text13);
+    setText(Text13, shown(sheets::outputForInput(at(Text14), takeVg())));
+    goOn(Text14, press);
 }
 
 void Form2::lostText14()
 {
-    if (isEmpty(*this, Text14)) {
-        say(*this, emptyLeft);
-        goTo(*this, Text13);
-        return;
-    }
-    correctFrom(*this, Text14, 1E-10, 0.001);
+    if (!sentBack(Text14, emptyLeft, Text13))
+        correct(Text14);
 }
 
 // --- Es
 
-void Form2::focusText16()
+void Form2::focusText16(host::EventArgs& args)
 {
-    takeInHand(Text16, "0");
-    writeNumber(*this, Text16, leastSupply(ERes_, ERL_, at(Text13)));
+    focusField(args);
+    write(Text16, leastSupply(q_.ERes, q_.ERL, at(Text13)));
     enable(Text5);
 }
 
 void Form2::keyText16(host::EventArgs& args)
 {
-    const Press press = sheets::pressed(*this, args, emptyField);
+    const Press press = pressed(args);
     if (press == Press::escape)
         escapeSupply();
     else if (press == Press::enter && polarisedByEmitter())
@@ -155,54 +122,29 @@ void Form2::keyText16(host::EventArgs& args)
 
 void Form2::enterSupplyByBase()
 {
-    correctFrom(*this, Text16, 0.001, 21);
-    const Real Eq = collectorEmitterVoltage(at(Text16), QIc(), Res(), at(Text17));
+    correct(Text16);
+    const Real Eq = collectorEmitterVoltage(at(Text16), takeQIc(), takeRes(), at(Text17));
     if (supplyIsTooLow(Eq)) {
-        goTo(*this, Text13);
+        goTo(Text13);
         // Leaving `Text16` has disabled it.
         enable(Text13);
         return;
     }
-    setText(statu25, " Eq=  " + fourDecimals(Eq) + " Volts");
+    writeEq(Eq);
     if (!overTransistorLimit(Eq))
-        acceptSupply(Trigger::enter);
+        acceptSupply();
 }
 
 void Form2::enterSupplyByEmitter()
 {
-    const Real Eq = collectorEmitterVoltageByEmitter(at(Text16), QIc(), at(Text17));
+    const Real Eq = collectorEmitterVoltageByEmitter(at(Text16), takeQIc(), at(Text17));
     const bool refused = supplyIsTooLow(Eq);
     if (refused)
-        goTo(*this, Text16);
+        goTo(Text16);
     else
-        setText(statu25, " Eq=  " + fourDecimals(Eq) + " Volts");
+        writeEq(Eq);
     if (!overTransistorLimit(Eq) && !refused)
-        acceptSupply(Trigger::enter);
-}
-
-bool Form2::supplyIsTooLow(Real Eq)
-{
-    if (Eq >= 3)
-        return false;
-    say(*this, raiseSupply);
-    write(statu25, tooLow);
-    say(*this, lowerOutput);
-    return true;
-}
-
-bool Form2::overTransistorLimit(Real Eq)
-{
-    if (Eq <= rules::RoundToInt16(at(Text5)))
-        return false;
-    say(*this, overTransistorVoltage);
-    return true;
-}
-
-void Form2::acceptSupply(Trigger trigger)
-{
-    show(statu25);
-    prompt(Text16, trigger);
-    goTo(*this, Text2);
+        acceptSupply();
 }
 
 void Form2::escapeSupply()
@@ -212,22 +154,51 @@ void Form2::escapeSupply()
         return;
     }
     setText(Text16, "25");
-    const Real Eq = collectorEmitterVoltage(25, QIc(), Res(), at(Text17));
+    const Real Eq = collectorEmitterVoltage(25, takeQIc(), takeRes(), at(Text17));
     if (Eq < 1) {
         write(statu25, tooLowAtEscape);
         return;
     }
-    setText(statu25, " Eq=  " + fourDecimals(Eq) + " Volts");
-    acceptSupply(Trigger::enter);
+    writeEq(Eq);
+    acceptSupply();
+}
+
+bool Form2::supplyIsTooLow(Real Eq)
+{
+    if (Eq >= 3)
+        return false;
+    tell(raiseSupply);
+    write(statu25, tooLow);
+    tell(lowerOutput);
+    return true;
+}
+
+bool Form2::overTransistorLimit(Real Eq)
+{
+    if (Eq <= rules::RoundToInt16(at(Text5)))
+        return false;
+    tell(overTransistorVoltage);
+    return true;
+}
+
+void Form2::writeEq(Real Eq)
+{
+    setText(statu25, " Eq=  " + shown(Eq) + " Volts");
+}
+
+void Form2::acceptSupply()
+{
+    show(statu25);
+    goOn(Text16, Press::enter);
 }
 
 void Form2::lostText16()
 {
     if (!polarisedByEmitter())
-        correctFrom(*this, Text16, 0.001, 21);
+        correct(Text16);
     disable(Text8, Text9, Text10, Text11, Text12, Text13, Text14, Text15, Text17);
-    const Real proposal = lowerBaseResistor(Res(), at(Text10)).toDouble();
-    setText(statu22, " Rb2= " + fourDecimals(proposal / 1000.0) + " K " + "        comercial...");
+    const Real proposal = lowerBaseResistor(takeRes(), at(Text10)).toDouble();
+    setText(statu22, " Rb2= " + shown(proposal / 1000.0) + " K " + "        comercial...");
 }
 
 } // namespace velmor::form2

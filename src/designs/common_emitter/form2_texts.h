@@ -1,85 +1,86 @@
 // SPDX-License-Identifier: MIT
-// Everything that `Form2` says: prompts by field and trigger, boxes, captions. Texts only; misprints are the course's.
+// What `Form2` says besides what its family says (emitter_texts.h): its prompts, captions and help pages. Texts only;
+// misprints are the course's.
 #pragma once
 
+#include <array>
 #include <span>
-#include <string_view>
 
+#include "designs/common_emitter/emitter_texts.h"
 #include "designs/common_emitter/form2_controls.h"
-#include "host/bitext.h"
-#include "sheets/steps.h"
+#include "sheets/chain.h"
+#include "sheets/saying.h"
 
 namespace velmor::form2 {
 
-enum class Trigger : std::uint8_t {
-    focus,
-    click,
-    empty,  ///< Enter in the empty field
-    enter,  ///< Enter, the chain goes on
-    escape, ///< Esc, where its prompt differs from that of Enter
-    hover,
-};
+using host::BiText;
+using sheets::Saying;
+using sheets::When;
 
-/// What is written where when something happens to a field. An empty text leaves the place as it is.
-struct Prompt {
-    host::Handle field;
-    Trigger trigger;
-    host::Handle place;
-    host::BiText text;
-};
-extern const std::span<const Prompt> prompts;
+/// Prompts by field and moment, the names of the buttons under the pointer among them.
+extern const std::span<const Saying> sayings;
+/// Pages of the fields, in the order in which tags are tested.
+extern const std::span<const sheets::HelpPage> helpPages;
 
-/// Name of a button in the balloon, and on the button itself.
-struct ButtonName {
-    host::Handle button;
-    host::BiText balloon;
-    host::BiText caption;
-};
-extern const std::span<const ButtonName> buttonNames;
+// clang-format off
+/// Captions that are written when the sheet is loaded.
+inline constexpr auto captions = std::to_array<Saying>({
+    {.place = Label6,    .text = common_emitter::headingTransistor},
+    {.place = Label11,   .text = common_emitter::headingCircuit},
+    {.place = Label19,   .text = {"Coloque -Es sin el signo", "Put -Es without its sign"}},
+    {.place = Label20,   .text = {"Sin resistor Rb1", "Without resistor Rb1"}},
+    {.place = sta4,      .text = {"Capacitores en microfaradios", "Capacitors in microfarads"}},
+    {.place = Picture6,  .text = {"Desacoplado", "Bypass"}},
+    {.place = Picture4,  .text = {"Parcialmente desacoplado", "Parcial Bypass"}},
+    {.place = Picture11, .text = {"Polarizado p/Emisor", "Polarized by Emitter"}},
+    {.place = Picture10, .text = {"Polarizado p/Emisor", "Polarized by Emitter"}},
+    {.place = Picture2,  .text = {"Bootstrapping", "Bootstrapping"}},
+    {.place = Picture7,  .text = {"Bootstrapping", "Bootstrapping"}},
+    {.place = Picture1,  .text = {"Desacoplado", "Bypass"}},
+});
+// clang-format on
 
-// Boxes, in the order in which a student may meet them.
-extern const sheets::BoxText emptyField; ///< Enter in an empty field
-extern const sheets::BoxText emptyLeft;  ///< an empty field was left
-extern const sheets::BoxText emptyGain;  ///< an empty `Text11` was left: a box without a text
-extern const sheets::BoxText bypassAssigned;
-extern const sheets::BoxText currentOverLimit;
-extern const sheets::BoxText loadTooLarge;
-extern const sheets::BoxText loadImpossible;
-extern const sheets::BoxText raiseGain;
-extern const sheets::BoxText lowerGain;
-extern const sheets::BoxText loadVoltageTooLow;
-extern const sheets::BoxText raiseSupply;
-extern const sheets::BoxText lowerOutput;
-extern const sheets::BoxText overTransistorVoltage;
-extern const sheets::BoxText overTransistorCurrent;
-extern const sheets::BoxText baseResistorTooLow;
-extern const sheets::BoxText adjustPreset;
-
-// Captions and prompts that belong to no single trigger.
-extern const host::BiText sheetTitle;
-extern const host::BiText desacoTitle;
-extern const host::BiText parcDesacTitle;
-extern const host::BiText noteWindowTitle;
-extern const host::BiText fileFilter;
-extern const host::BiText headingTransistor; ///< `Label6`
-extern const host::BiText headingCircuit;    ///< `Label11`
-extern const host::BiText captionLabel19;
-extern const host::BiText captionLabel20;
-extern const host::BiText captionSta4;
-extern const host::BiText beginHere;     ///< `status1` on activation
-extern const host::BiText startPrompt;   ///< `SSPanel1` on the focus of `Text1`, at the start
-extern const host::BiText varyRb1Prompt; ///< the same, once Rb1 has been in hand
-extern const host::BiText helpTitle;     ///< `SSPanel1` made small again
-extern const host::BiText bypassHint;
-extern const host::BiText tooLowAtEscape;
-extern const host::BiText tooLow;
-extern const host::BiText noUpperResistorAtEnter;
-extern const host::BiText noUpperResistor;
-extern const host::BiText presetAdvice;
-extern const host::BiText adjustPresetAdvice;
-extern const host::BiText bootstrapHint;
-extern const host::BiText noBootstrapHint;
-extern const host::BiText archivedBase;
-extern const host::BiText archivedEmitter;
+inline constexpr BiText fileFilter{.es = "Emisor Común Realimentado por Corriente (*.RPC)|*.RPC",
+                                   .en = "Common Emitter Feedback Current (*.CEC)|*.CEC"};
+inline constexpr BiText noteWindowTitle{.es = "Ayuda,(no necesito a nadie..)", .en = "Help. (ain't got nobody)"};
+inline constexpr BiText beginHere{.es = " Para comenzar: \n CLICK en cuadro Delta QIc...\nDerecho del Mouse da Ayuda",
+                                  .en = " Beginning with CLICK in Delta QIc..."};
+inline constexpr BiText startPrompt{
+    .es =
+        "Ingrese la variación mâxima de corriente de reposo admisible con los cambios de temperatura de trabajo. Para "
+        "circutos criticos (electromedicina) utilice valores de 1 a 3. \nDerecho del Mouse es Ayuda...",
+    .en = "it enters the maximum variation of quiescent current acceptable  with the changes of work temperature. For "
+          "critical circutos (electro medicine) used values of 1 at 3. "};
+// The English side speaks Spanish, and always did.
+inline constexpr BiText varyRb1Prompt{
+    .es =
+        "varíe de a valores unitarios el valor de Rb1 hasta obtener la QIc especificada en 'Parámetros del Circuito ' "
+        "cumpliendose así la distribución de tensiones...",
+    .en =
+        "Ingrese la variación máxima de corriente de reposo admisible con los cambios de temperatura de trabajo. Para "
+        "circutos criticos (electromedicina) utilice valores de 1 a 3. "};
+inline constexpr BiText helpTitle{.es = "Ayuda", .en = "Help"};
+inline constexpr BiText tooLowAtEscape{.es = " Tensión muy baja Colector - Emisor",
+                                       .en = " Collector - Emitter Voltage very low "};
+inline constexpr BiText noUpperResistorAtEnter{.es = " Sin resistor Rb1...pulse ENTER",
+                                               .en = "Without resister Rb1... press ENTER"};
+inline constexpr BiText noUpperResistor{.es = "Without resistor Rb1... ENTER pulse",
+                                        .en = "Without resistor Rb1... ENTER pulse"};
+inline constexpr BiText bootstrapHint{
+    .es = "Si desea mayor impedancia de entrada, pulse BOOTSTRAPPING. \nSalvo indicacion, "
+          "capacitores en microFaradios        ",
+    .en = "If you wants bigger entrance impedance, BOOTSTRAPPING pulse. \nExcept for indication, "
+          "capacitors in microFarade"};
+inline constexpr BiText noBootstrapHint{
+    .es = " No se puede  realizar Bootstrapping \n Salvo indicacion, capacitores en "
+          "microfaradios",
+    .en = "Bootstrapping can not be carried out\nExcept for indication, capacitors in "
+          "microfarade"};
+inline constexpr BiText archivedBase{.es = "Circuito de Archivo : Emisor Común",
+                                     .en = "Archive Circuit : Common Emitter"};
+inline constexpr BiText archivedEmitter{.es = "Circuito de Archivo : Polarizado por Emisor ",
+                                        .en = "Archive Circuit : Emmiter polarized"};
+inline constexpr BiText guideByBase{.es = "guia1.Lab", .en = "Feedback Current.Lab"};
+inline constexpr BiText guideByEmitter{.es = "polemisor.Lab", .en = "Feedback Current.Lab"};
 
 } // namespace velmor::form2

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Lint over the help pages of Form2: order, names and the formulas that the course demands on each page.
-#include "designs/common_emitter/form2_help.h"
+#include "designs/common_emitter/form2_texts.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +10,7 @@
 
 namespace velmor::form2_help_test {
 
+using form2::controls;
 using form2::helpPages;
 
 TEST(Form2Help, PagesStandInTheOrderOfTheTagsWithTheirShortNames)
@@ -25,7 +26,7 @@ TEST(Form2Help, PagesStandInTheOrderOfTheTagsWithTheirShortNames)
     }};
     ASSERT_EQ(helpPages.size(), order.size());
     for (std::size_t i = 0; i < order.size(); ++i) {
-        EXPECT_EQ(helpPages[i].field, order[i].first);
+        EXPECT_EQ(controls[helpPages[i].field].name, order[i].first);
         EXPECT_EQ(helpPages[i].shortName, order[i].second);
     }
 }
@@ -33,9 +34,9 @@ TEST(Form2Help, PagesStandInTheOrderOfTheTagsWithTheirShortNames)
 TEST(Form2Help, EveryPageExplainsInBothLanguages)
 {
     for (const auto& row : helpPages) {
-        EXPECT_GT(row.page.es.size(), 250U) << row.field;
-        EXPECT_GT(row.page.en.size(), 250U) << row.field;
-        EXPECT_NE(row.page.es, row.page.en) << row.field;
+        EXPECT_GT(row.page.es.size(), 250U) << row.shortName;
+        EXPECT_GT(row.page.en.size(), 250U) << row.shortName;
+        EXPECT_NE(row.page.es, row.page.en) << row.shortName;
     }
 }
 
@@ -55,7 +56,7 @@ TEST(Form2Help, EveryFormulaStandsOnThePageOfItsFieldInBothLanguages)
     for (const auto& [field, formula] : formulas) {
         bool found = false;
         for (const auto& row : helpPages) {
-            if (row.field != field)
+            if (controls[row.field].name != field)
                 continue;
             found = true;
             EXPECT_NE(row.page.es.find(formula), std::string_view::npos) << formula;

@@ -80,13 +80,14 @@ Complaints complaintsAboutStrokes(std::span<const ControlRow> rows)
     return found;
 }
 
-Complaints complaintsAboutPrompts(std::span<const Prompt> rows, std::size_t controlsInTable)
+Complaints complaintsAboutPrompts(std::span<const Saying> rows, std::size_t controlsInTable)
 {
+    const auto stands = [&](Handle control) { return control < controlsInTable; };
     Complaints found;
-    for (const Prompt& row : rows) {
-        if (row.field >= controlsInTable || row.place >= controlsInTable)
+    for (const Saying& row : rows) {
+        if (!(stands(row.about) || row.when == When::empty) || !(stands(row.place) || row.place == sheets::inBox))
             found.push_back("a prompt for nothing");
-        if (row.text.es.empty() || (row.text.en.empty() && !(row.field == Text8 && row.trigger == Trigger::hover)))
+        if (row.text.es.empty() || (row.text.en.empty() && !(row.about == Text8 && row.when == When::hover)))
             found.push_back("a prompt in one language: " + std::string(row.text.es));
     }
     return found;
@@ -123,8 +124,8 @@ TEST(Form2Tables, EveryLineShapeAndImageHasAStroke)
 
 TEST(Form2Tables, EveryPromptSpeaksBothLanguagesButForTheOneThatNeverDid)
 {
-    EXPECT_EQ(complaintsAboutPrompts(prompts, controls.size()), Complaints{});
-    const Prompt bad[] = {{Text1, Trigger::focus, SSPanel1, {"sólo", ""}}, {9999, Trigger::focus, STA70, {"a", "b"}}};
+    EXPECT_EQ(complaintsAboutPrompts(sayings, controls.size()), Complaints{});
+    const Saying bad[] = {{Text1, When::focus, SSPanel1, {"sólo", ""}}, {9999, When::focus, STA70, {"a", "b"}}};
     EXPECT_EQ(complaintsAboutPrompts(bad, controls.size()).size(), 2u);
 }
 
@@ -160,23 +161,23 @@ TEST(Form2Tables, AllThatOnlyAMouseReachesHasAKey)
     for (const ControlRow& row : controls) {
         const bool mouseOnly = !host::takesFocus(row.kind) && (program.sheet().hasSlot(row.id, host::Event::click) ||
                                                                program.sheet().hasSlot(row.id, host::Event::mouseDown));
-        const bool has = std::any_of(spec.shortcuts.begin(), spec.shortcuts.end(),
-                                     [&](const host::ShortcutRow& key) { return key.control == row.id; });
+        const bool has = std::any_of(spec.shortcuts.begin(), spec.shortcuts.end(), [&](const host::ShortcutRow& key) {
+            return key.control == row.id || key.target == row.id;
+        });
         if (mouseOnly) {
             EXPECT_TRUE(has) << row.name;
         }
     }
 }
 
-TEST(Form2Tables, EveryGrowingPartIsHiddenAtFirstAndComesWithSomeField)
+TEST(Form2Tables, EveryLineIsHiddenAtFirstAndComesWithSomeField)
 {
-    for (const Handle part : growingParts)
+    for (Handle part = Line1; part <= Line20; ++part) {
         EXPECT_FALSE(controls[part].visible) << controls[part].name;
-    std::set<Handle> coming{Line3, Line4, Line20}; // by mode: ground or supply under Res, and bootstrapping
-    for (const Growth& growth : growths)
-        coming.insert(growth.parts.begin(), growth.parts.end());
-    for (const Handle part : growingParts)
-        EXPECT_TRUE(coming.count(part)) << controls[part].name;
+        EXPECT_TRUE(std::any_of(growth.begin(), growth.end(), [part](const host::GrowthRow& row) {
+            return row.part == part;
+        })) << controls[part].name;
+    }
 }
 
 TEST(Form2Tables, OnlyTheFirstFieldIsEnabledAtTheStart)

@@ -164,8 +164,8 @@ TEST(Form2Drawing, ItGrowsWithTheChainAndStartsOverWithIt)
     EXPECT_FALSE(drawn(Line20));
     program.click(Picture4);
     EXPECT_EQ(program.focus(), "Text1");
-    for (const host::Handle part : growingParts)
-        EXPECT_FALSE(drawn(part)) << program.sheet().row(part).name;
+    for (const host::GrowthRow& row : growth)
+        EXPECT_FALSE(drawn(row.part)) << program.sheet().row(row.part).name;
 }
 
 TEST(Form2Drawing, AStageWithANegativeSupplyStandsOnItsTerminal)
@@ -178,6 +178,84 @@ TEST(Form2Drawing, AStageWithANegativeSupplyStandsOnItsTerminal)
     EXPECT_TRUE(program.sheet().visible(Line4));
     EXPECT_FALSE(program.sheet().visible(Line3));
     EXPECT_FALSE(program.sheet().visible(Line16));
+}
+
+TEST(Form2Drawing, TheWholeCircuitOfTheModeInForceStandsTherePaleFromTheStart)
+{
+    test::Form2Program program;
+    const auto tone = [&](host::Handle control) { return host::toneOf(program.sheet(), control); };
+    for (host::Handle part = Line1; part <= Line19; ++part)
+        EXPECT_EQ(tone(part), part == Line4 ? host::Tone::away : host::Tone::pale) << program.sheet().row(part).name;
+    EXPECT_EQ(tone(Shape3), host::Tone::pale);
+    EXPECT_EQ(tone(Line20), host::Tone::away);
+    program.playTo(Text8);
+    EXPECT_EQ(tone(Shape3), host::Tone::ink);
+    EXPECT_EQ(tone(Text17), host::Tone::pale);
+    program.playTo(Text17);
+    EXPECT_EQ(tone(Text17), host::Tone::ink);
+}
+
+TEST(Form2Drawing, PolarisedByEmitterItHasNoRb1ButATerminalAndABypass)
+{
+    test::Form2Program program;
+    program.click(Picture11);
+    const auto tone = [&](host::Handle control) { return host::toneOf(program.sheet(), control); };
+    EXPECT_EQ(tone(Line16), host::Tone::away);
+    EXPECT_EQ(tone(Line3), host::Tone::away);
+    EXPECT_EQ(tone(Line4), host::Tone::pale);
+    EXPECT_EQ(tone(Image2), host::Tone::pale);
+    EXPECT_TRUE(host::isChosen(program.sheet(), Picture10));
+}
+
+TEST(Form2Drawing, BootstrappedItStartsOverWithBothResistorsInHalves)
+{
+    test::Form2Program program;
+    program.playTo(Text19);
+    program.typeAndEnter("186.5");
+    program.click(Picture2);
+    EXPECT_TRUE(host::isChosen(program.sheet(), Picture7));
+    program.click(Picture4); // the focus goes to Text1
+    const auto tone = [&](host::Handle control) { return host::toneOf(program.sheet(), control); };
+    EXPECT_EQ(tone(Line20), host::Tone::pale);
+    EXPECT_EQ(tone(Picture3), host::Tone::pale);
+    EXPECT_EQ(tone(Line15), host::Tone::away);
+    EXPECT_EQ(tone(Line16), host::Tone::away);
+    program.playTo(Text18);
+    EXPECT_EQ(tone(Line20), host::Tone::ink);
+    EXPECT_EQ(tone(Line15), host::Tone::away);
+}
+
+// --- finished
+
+TEST(Form2Finished, ADesignHasPassedWhenThePresetGivesItsCurrentUntilAnEarlierFieldTakesAKey)
+{
+    test::Form2Program program;
+    program.playTo(Text19);
+    program.typeAndEnter("120"); // 8.85 mA instead of 1
+    EXPECT_FALSE(program.sheet().quantities().passed);
+    EXPECT_EQ(program.focus(), "Text19");
+    program.typeAndEnter("186.5");
+    EXPECT_EQ(program.focus(), "Picture4");
+    EXPECT_TRUE(program.sheet().quantities().passed);
+    program.engine.userFocus(program.sheet(), Text18);
+    EXPECT_TRUE(program.sheet().quantities().passed);
+    program.key('x'); // the filter takes it away
+    EXPECT_TRUE(program.sheet().quantities().passed);
+    program.key('1');
+    EXPECT_FALSE(program.sheet().quantities().passed);
+}
+
+TEST(Form2Finished, AStagePolarisedByEmitterHasPassedWhenRb1IsLeftAndAFileHasNot)
+{
+    test::Form2Program program;
+    program.supply = "12";
+    program.click(Picture11);
+    program.playTo(Text19);
+    EXPECT_FALSE(program.sheet().quantities().passed);
+    program.typeAndEnter("1");
+    EXPECT_TRUE(program.sheet().quantities().passed);
+    program.sheet().CDL_AbrirDatos();
+    EXPECT_FALSE(program.sheet().quantities().passed);
 }
 
 // --- files

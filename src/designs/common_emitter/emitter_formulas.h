@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The formulas of `Form2`: a class A stage stabilised by its emitter resistor. Each takes and gives the units that its
-// comment names; they know no control. The order of the operations is the course's: displayed digits depend on it.
+// The formulas of the common-emitter sheets stabilised by current, beyond those that all sheets share (sheets/formulas.h). Each
+// takes and gives the units that its comment names; they know no control. The order of the operations is the course's: displayed
+// digits depend on it.
 //
 // Constants of the course: 25 mV is the voltage of a junction, 6.28 two pi, 0.1 the tenth of the reactance rule (the
 // capacitor's reactance is a tenth of the resistance at the lowest frequency).
@@ -8,19 +9,10 @@
 
 #include "rules/numbers.h"
 
-namespace velmor::form2 {
+namespace velmor::common_emitter {
 
 using rules::CurrencyValue;
 using rules::Real;
-
-/// ERes in V = ((T - 20) x /\Vbe x 100) / %/\QIc, with T in degrees Celsius, /\Vbe in mV, %/\QIc in per cent.
-Real stabilityVoltage(Real temperature, Real drift, Real allowedChange);
-
-/// Res in ohm = ERes / QIc, with ERes in V, QIc in mA. Also -Es / QIc.
-Real idealEmitterResistor(Real emitterVoltage, Real QIc);
-
-/// r'e in ohm = 25 mV / QIc, with QIc in mA.
-Real junctionResistance(Real QIc);
 
 /// QIc in mA = ERes / Res x 1000, with ERes in V, Res in ohm: a standard resistor moves QIc, not ERes.
 Real quiescentCurrent(Real emitterVoltage, Real Res);
@@ -31,20 +23,8 @@ Real bypassedLoad(Real Vg, Real QIc);
 /// RLac in ohm = Vg x Res, the load of a stage without bypass; Res in ohm.
 Real unbypassedLoad(Real Vg, Real Res);
 
-/// RL in ohm = (RLw x RLac) / (RLw - RLac), all in ohm. RLw must be larger than RLac.
-Real collectorResistor(Real RLw, Real RLac);
-
-/// RLac in kilohm = (RLw x RL) / (RLw + RL), both in kilohm: the load that the standard RL really gives.
-Real parallel(Real one, Real other);
-
 /// Vg = RLac / Res, with RLac in kilohm, Res in ohm.
 Real realGain(Real RLac, Real Res);
-
-/// Ein in V r.m.s. = (Eopp / 2 x 0.707) / Vg, with Eopp in V peak to peak.
-Real inputForOutput(Real Eopp, Real Vg);
-
-/// Eopp in V peak to peak = Ein x 1.41 x 2 x Vg, with Ein in V r.m.s.
-Real outputForInput(Real Ein, Real Vg);
 
 /// Es in V = ERes + ERL + Eopp + 1, all in V: the least supply.
 Real leastSupply(Real ERes, Real ERL, Real Eopp);
@@ -93,7 +73,7 @@ Real inputImpedanceFirstBootstrap(Real Beta, Real Res, Real Rb2, Real Rb1);
 Real inputImpedanceBootstrapped(Real Beta, Real Res, Real Rb2, Real Rb1);
 
 /// C = (1 / (fo x 6.28 x 0.1 x R)) x 1000000: in microfarads for R in ohm, in nanofarads for R in kilohm. fo in Hz.
-Real couplingCapacitor(Real fo, Real R);
+Real couplingMicrofarads(Real fo, Real R);
 
 /// Cbp1 = (1 / ((Rb2 x fo x 6.28 x 0.1) / 2)) x 1000000 in microfarads, with Rb2 in kilohm.
 Real firstBootstrapCapacitor(Real Rb2, Real fo);
@@ -119,4 +99,4 @@ struct CurrentCheck {
 /// the junction voltage in the field is not read here.
 Real obtainedCurrent(const CurrentCheck& circuit);
 
-} // namespace velmor::form2
+} // namespace velmor::common_emitter

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The formulas, operation by operation as the course writes them.
-#include "designs/common_emitter/form2_formulas.h"
+#include "designs/common_emitter/emitter_formulas.h"
 
-namespace velmor::form2 {
+#include "sheets/formulas.h"
+
+namespace velmor::common_emitter {
 
 namespace formulas_detail {
 
-constexpr double junctionMillivolts = 25.0;
 constexpr double twoPi = 6.28;
 constexpr double tenth = 0.1;
 constexpr double million = 1000000.0;
@@ -15,21 +16,8 @@ constexpr double fixedJunction = 0.6;
 } // namespace formulas_detail
 
 using namespace formulas_detail;
-
-Real stabilityVoltage(Real temperature, Real drift, Real allowedChange)
-{
-    return ((temperature - 20.0) * (drift / 1000.0) * 100.0) / allowedChange;
-}
-
-Real idealEmitterResistor(Real emitterVoltage, Real QIc)
-{
-    return emitterVoltage / (QIc / 1000.0);
-}
-
-Real junctionResistance(Real QIc)
-{
-    return junctionMillivolts / QIc;
-}
+using sheets::junctionResistance;
+using sheets::parallel;
 
 Real quiescentCurrent(Real emitterVoltage, Real Res)
 {
@@ -46,29 +34,9 @@ Real unbypassedLoad(Real Vg, Real Res)
     return Vg * Res;
 }
 
-Real collectorResistor(Real RLw, Real RLac)
-{
-    return (RLw * RLac) / (RLw - RLac);
-}
-
-Real parallel(Real one, Real other)
-{
-    return (one * other) / (one + other);
-}
-
 Real realGain(Real RLac, Real Res)
 {
     return RLac / (Res / 1000.0);
-}
-
-Real inputForOutput(Real Eopp, Real Vg)
-{
-    return (Eopp / 2.0 * 0.707) / Vg;
-}
-
-Real outputForInput(Real Ein, Real Vg)
-{
-    return Ein * 1.41 * 2.0 * Vg;
 }
 
 Real leastSupply(Real ERes, Real ERL, Real Eopp)
@@ -144,9 +112,9 @@ Real inputImpedanceBootstrapped(Real Beta, Real Res, Real Rb2, Real Rb1)
     return Beta * parallel(Res, halves);
 }
 
-Real couplingCapacitor(Real fo, Real R)
+Real couplingMicrofarads(Real fo, Real R)
 {
-    return (1.0 / ((fo * twoPi * tenth) * R)) * million;
+    return sheets::couplingCapacitor(fo, R) * million;
 }
 
 Real firstBootstrapCapacitor(Real Rb2, Real fo)
@@ -173,4 +141,4 @@ Real obtainedCurrent(const CurrentCheck& circuit)
     return (upper - lower) * circuit.Beta * 1000.0;
 }
 
-} // namespace velmor::form2
+} // namespace velmor::common_emitter

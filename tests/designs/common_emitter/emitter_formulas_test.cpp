@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The formulas of Form2, against values worked out with pencil and paper; how stands beside each.
+// The formulas of the common-emitter sheets, their own and those that all sheets share, against values worked out with pencil and paper; how stands beside each.
 #include <gtest/gtest.h>
 
-#include "designs/common_emitter/form2_formulas.h"
+#include "designs/common_emitter/emitter_formulas.h"
 #include "host/failure.h"
+#include "sheets/formulas.h"
 
-namespace velmor::form2_formulas_test {
+namespace velmor::emitter_formulas_test {
 
-using namespace form2;
+using namespace common_emitter;
+using namespace sheets;
 
-TEST(Form2Formulas, StabilityVoltageOfTheDefaultsIs1375Millivolts)
+TEST(EmitterFormulas, StabilityVoltageOfTheDefaultsIs1375Millivolts)
 {
     // 55 degrees x 0.0025 V x 100 / 10
     EXPECT_DOUBLE_EQ(stabilityVoltage(75, 2.5, 10).value(), 1.375);
@@ -18,16 +20,16 @@ TEST(Form2Formulas, StabilityVoltageOfTheDefaultsIs1375Millivolts)
     EXPECT_DOUBLE_EQ(stabilityVoltage(20, 2.5, 10).value(), 0);
 }
 
-TEST(Form2Formulas, TheStandardResistorMovesTheCurrent)
+TEST(EmitterFormulas, TheStandardResistorMovesTheCurrent)
 {
-    EXPECT_DOUBLE_EQ(idealEmitterResistor(1.375, 1).value(), 1375);
+    EXPECT_DOUBLE_EQ(emitterResistor(1.375, 1).value(), 1375);
     EXPECT_DOUBLE_EQ(quiescentCurrent(1.375, 1375).value(), 1);
     EXPECT_DOUBLE_EQ(quiescentCurrent(1.5, 1500).value(), 1);
     EXPECT_DOUBLE_EQ(junctionResistance(1).value(), 25);
     EXPECT_DOUBLE_EQ(junctionResistance(2.5).value(), 10);
 }
 
-TEST(Form2Formulas, TheLoadFollowsTheGain)
+TEST(EmitterFormulas, TheLoadFollowsTheGain)
 {
     EXPECT_DOUBLE_EQ(unbypassedLoad(5, 1375).value(), 6875);
     EXPECT_DOUBLE_EQ(bypassedLoad(55, 1).value(), 1375);
@@ -39,7 +41,7 @@ TEST(Form2Formulas, TheLoadFollowsTheGain)
     EXPECT_DOUBLE_EQ(realGain(6.875, 1375).value(), 5);
 }
 
-TEST(Form2Formulas, OutputAndInputAreTwoSidesOfTheGain)
+TEST(EmitterFormulas, OutputAndInputAreTwoSidesOfTheGain)
 {
     // 1 / 2 x 0.707 / 5
     EXPECT_DOUBLE_EQ(inputForOutput(1, 5).value(), 0.0707);
@@ -47,7 +49,7 @@ TEST(Form2Formulas, OutputAndInputAreTwoSidesOfTheGain)
     EXPECT_DOUBLE_EQ(outputForInput(0.1, 5).value(), 1.41);
 }
 
-TEST(Form2Formulas, TheSupplyHoldsEveryDrop)
+TEST(EmitterFormulas, TheSupplyHoldsEveryDrop)
 {
     EXPECT_DOUBLE_EQ(leastSupply(1.375, 22, 1).value(), 25.375);
     // 35 - (0.001 x 1375 + 22 x 1)
@@ -55,7 +57,7 @@ TEST(Form2Formulas, TheSupplyHoldsEveryDrop)
     EXPECT_DOUBLE_EQ(collectorEmitterVoltageByEmitter(35, 1, 22).value(), 13);
 }
 
-TEST(Form2Formulas, TheDividerIsTheCoursesOwn)
+TEST(EmitterFormulas, TheDividerIsTheCoursesOwn)
 {
     EXPECT_EQ(lowerBaseResistor(1375, 10).scaled(), 137500000);
     // 1000 x 12 / 1375 = 8.7, without its fraction
@@ -69,7 +71,7 @@ TEST(Form2Formulas, TheDividerIsTheCoursesOwn)
     EXPECT_NEAR(upperBaseResistor(33.025, 11.9986910653, 1375, 1, 0.6).value(), 200.6363402, 1e-6);
 }
 
-TEST(Form2Formulas, ImpedancesAreParallels)
+TEST(EmitterFormulas, ImpedancesAreParallels)
 {
     EXPECT_DOUBLE_EQ(inputImpedance(12, 60).value(), 10);
     // 20 || 20 = 10 K, and 10 || 10 (of 10000 ohm) = 5 K
@@ -82,10 +84,10 @@ TEST(Form2Formulas, ImpedancesAreParallels)
     EXPECT_DOUBLE_EQ(inputImpedanceBootstrapped(80, 5, 20, 20).value(), 200);
 }
 
-TEST(Form2Formulas, CapacitorsUseTheRoundedTwoPiOfTheCourse)
+TEST(EmitterFormulas, CapacitorsUseTheRoundedTwoPiOfTheCourse)
 {
     // 1 / (20 x 6.28 x 0.1 x 10) = 0.0079617834...
-    EXPECT_NEAR(couplingCapacitor(20, 10).value(), 7961.7834395, 1e-6);
+    EXPECT_NEAR(couplingMicrofarads(20, 10).value(), 7961.7834395, 1e-6);
     // 2 / (12000 x 12.56) = 13.2696 millionths
     EXPECT_NEAR(firstBootstrapCapacitor(12, 20).value(), 13.2696391, 1e-6);
     EXPECT_NEAR(secondBootstrapCapacitor(120, 20).value(), 1.32696391, 1e-7);
@@ -93,18 +95,18 @@ TEST(Form2Formulas, CapacitorsUseTheRoundedTwoPiOfTheCourse)
     EXPECT_DOUBLE_EQ(bypassCapacitor(1, 20).value(), 318);
 }
 
-TEST(Form2Formulas, TheObtainedCurrentUsesTheFixedJunction)
+TEST(EmitterFormulas, TheObtainedCurrentUsesTheFixedJunction)
 {
     // I1 = (11.625 + 22 - 0.6) / 120000, I2 = 1.975 / 12000: (0.00027520833 - 0.00016458333) x 80000
     const CurrentCheck circuit{.Es = 35, .QIc = 1, .Res = 1375, .RL = 22, .Rb1 = 120, .Rb2 = 12, .Beta = 80};
     EXPECT_NEAR(obtainedCurrent(circuit).value(), 8.85, 1e-9);
 }
 
-TEST(Form2Formulas, NothingDividesByZeroInSilence)
+TEST(EmitterFormulas, NothingDividesByZeroInSilence)
 {
-    EXPECT_THROW(idealEmitterResistor(1, 0), host::ProgramFailure);
+    EXPECT_THROW(emitterResistor(1, 0), host::ProgramFailure);
     EXPECT_THROW(collectorResistor(10, 10), host::ProgramFailure);
-    EXPECT_THROW(couplingCapacitor(0, 10), host::ProgramFailure);
+    EXPECT_THROW(couplingMicrofarads(0, 10), host::ProgramFailure);
 }
 
-} // namespace velmor::form2_formulas_test
+} // namespace velmor::emitter_formulas_test
