@@ -94,7 +94,7 @@ bool saveSamples(const QDir& folder)
 /// One window of the program as it first shows itself in a language; null when the program has none of that name.
 bool saveWindow(const QDir& folder, const std::string& name, std::int16_t languageIsEnglish)
 {
-    SilentScreen screen;
+    QuietScreen screen;
     host::MemorySettings settings;
     host::Engine engine(program::catalogue(), screen, settings);
     engine.values().LanguageIsEnglish = languageIsEnglish;
