@@ -1,31 +1,29 @@
 // SPDX-License-Identifier: MIT
-// The whole program on a screen that draws nothing: every question is answered from what a test has put there, and all
-// that a screen is told is kept. For what no walk can reach or see.
+// The whole program on a screen that draws nothing, with a folder of its own. For what no walk can reach or see.
 #pragma once
 
-#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <optional>
 #include <stdlib.h>
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 #include "host/engine.h"
 #include "host/settings_store.h"
 #include "program/catalogue.h"
+#include "quiet_screen.h"
 
 namespace velmor::test {
 
-class DeskScreen final : public host::Screen {
+/// A screen with a folder of its own, on which no other program can be started.
+class DeskScreen final : public AskedScreen {
 public:
     DeskScreen()
     {
         std::string name = (std::filesystem::temp_directory_path() / "velmor-desk-XXXXXX").string();
         folder = ::mkdtemp(name.data());
+        startsPrograms = false;
     }
     ~DeskScreen() override
     {
@@ -35,59 +33,12 @@ public:
     DeskScreen(const DeskScreen&) = delete;
     DeskScreen& operator=(const DeskScreen&) = delete;
 
-    host::Answer messageBox(const host::MessageBox& box) override
-    {
-        boxes.push_back(box);
-        if (answers.empty())
-            return box.escape();
-        const host::Answer answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
-    std::optional<std::string> fileDialog(const host::FileDialog& dialog) override
-    {
-        dialogs.push_back(dialog);
-        return std::exchange(nextFile, std::nullopt);
-    }
-    std::optional<std::string> inputBox(const host::InputBox& box) override
-    {
-        inputs.push_back(box);
-        return std::exchange(nextInput, std::nullopt);
-    }
-    std::optional<std::int32_t> colourDialog(std::int32_t initial) override
-    {
-        colours.push_back(initial);
-        return std::exchange(nextColour, std::nullopt);
-    }
-    std::optional<host::Font> fontDialog(const host::Font& initial) override
-    {
-        fonts.push_back(initial);
-        return std::exchange(nextFont, std::nullopt);
-    }
-    std::string now() override { return "01/02/2026 10:20"; }
-    std::string date() override { return "01/02/2026"; }
-    std::string time() override { return "10:20"; }
-    std::string clipboardText() override { return clipboard; }
     int printedWidth(const host::Font& font, std::string_view text) override
     {
         ++measurings;
         measured = font;
-        return static_cast<int>(host::toCodePoints(text).size()) * 120;
+        return AskedScreen::printedWidth(font, text);
     }
-    std::string programFolder() override { return folder.string(); }
-    std::string executableName() override { return "velmor"; }
-    bool otherInstanceRunning() override { return false; }
-    void beep() override {}
-    void setClipboardText(std::string_view text) override { clipboard = text; }
-    void print(const host::PrintJob& job) override { printed.push_back(job); }
-    bool run(const std::string& program, const std::string& argument) override
-    {
-        runs.emplace_back(program, argument);
-        return false; // as a program that cannot be started
-    }
-    void popupMenu(host::Window&, host::Handle) override {}
-    void busyPointer(bool nowBusy) override { busy = nowBusy; }
-    void programFailed(std::string_view text) override { failures.emplace_back(text); }
 
     std::string put(std::string_view name, std::string_view bytes) const
     {
@@ -101,23 +52,8 @@ public:
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    std::filesystem::path folder;
-    std::deque<host::Answer> answers;
-    std::optional<std::string> nextFile, nextInput;
-    std::optional<std::int32_t> nextColour;
-    std::optional<host::Font> nextFont;
-    std::vector<host::MessageBox> boxes;
-    std::vector<host::FileDialog> dialogs;
-    std::vector<host::InputBox> inputs;
-    std::vector<std::int32_t> colours;
-    std::vector<host::Font> fonts;
-    std::vector<host::PrintJob> printed;
-    std::vector<std::pair<std::string, std::string>> runs;
-    std::vector<std::string> failures;
     host::Font measured;
-    std::string clipboard;
     int measurings = 0;
-    bool busy = false;
 };
 
 /// The program with its main window loaded.

@@ -40,7 +40,7 @@ void Walk::trace(std::string_view text)
 
 std::string Walk::place() const
 {
-    return file_ + ":" + std::to_string(line_) + ": ";
+    return file_ + ":" + std::to_string(line_) + ": " + (language_.empty() ? "" : "in " + language_ + ": ");
 }
 
 void Walk::fail(std::string_view reason)

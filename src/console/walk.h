@@ -47,6 +47,8 @@ public:
     std::ostream& out() { return out_; }
     WalkResult& result() { return result_; }
 
+    /// Reports name the language from now on: the walk is played in both.
+    void playedIn(std::string_view language) { language_ = language; }
     /// From now on reports name this line of the walk.
     void atLine(int number, std::string_view text);
     /// Flushes, so that nothing is lost should a slot crash.
@@ -79,6 +81,7 @@ private:
 
     const WalkedProgram& program_;
     std::string file_;
+    std::string language_;
     std::ostream& out_;
     bool trace_;
     int line_ = 0;

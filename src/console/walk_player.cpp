@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reading lines, looking up their commands, totals over several walks.
+// Looking up commands, playing a walk in one language or in both, totals over several walks.
 #include "console/walk_player.h"
 
 #include <algorithm>
@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "console/verbs.h"
+#include "console/walk_lines.h"
 
 namespace velmor::console {
 
@@ -17,16 +18,13 @@ namespace walk_player_detail {
 constexpr std::string_view usage = "velmor-walk [--trace] [FILE...]: plays each file in a fresh program; "
                                    "\"-\" or no file reads standard input";
 
-void playLine(Walk& walk, std::string_view line)
+void playCommand(Walk& walk, const Command& command)
 {
-    const std::vector<std::string> words = splitLine(line);
-    if (words.empty())
-        return;
-    walk.trace("> " + std::string(line));
-    const Verb* verb = verbOf(words.front());
+    walk.trace("> " + command.text);
+    const Verb* verb = verbOf(command.words.front());
     if (verb == nullptr)
-        throw WalkError("unknown command " + inQuotes(words.front()));
-    const Words arguments = Words(words).subspan(1);
+        throw WalkError("unknown command " + inQuotes(command.words.front()));
+    const Words arguments = Words(command.words).subspan(1);
     if (arguments.size() < verb->least || arguments.size() > verb->most)
         throw WalkError(std::string(verb->name) + " wants " + std::string(verb->usage));
     if (verb->kind != VerbKind::question && walk.engine().ended())
@@ -36,23 +34,33 @@ void playLine(Walk& walk, std::string_view line)
     verb->run(walk, arguments);
 }
 
-bool cleanedLine(std::istream& text, std::string& line, bool first)
-{
-    if (!std::getline(text, line))
-        return false;
-    if (!line.empty() && line.back() == '\r')
-        line.pop_back();
-    constexpr std::string_view mark = "\xEF\xBB\xBF";
-    if (first && line.starts_with(mark))
-        line.erase(0, mark.size());
-    return true;
-}
-
 void endWalk(Walk& walk, int lastLine)
 {
     walk.atLine(lastLine, "");
     if (walk.screen().answersLeft() > 0)
         walk.fail("answers left over at the end: " + std::to_string(walk.screen().answersLeft()));
+}
+
+WalkResult playOnce(const WalkedProgram& program, WalkLines& lines, Playing playing, const std::string& name,
+                    std::ostream& out, bool trace)
+{
+    Walk walk(program, name, out, trace);
+    walk.playedIn(languageName(playing));
+    lines.begin(playing);
+    std::string line;
+    try {
+        while (lines.next(line)) {
+            walk.atLine(lines.number(), line);
+            for (const Command& command : lines.commands()) {
+                walk.atLine(lines.number(), command.text);
+                playCommand(walk, command);
+            }
+        }
+        endWalk(walk, lines.number());
+    } catch (const std::exception& problem) {
+        walk.stop(problem.what());
+    }
+    return walk.result();
 }
 
 WalkResult playFile(const WalkedProgram& program, const std::string& name, std::istream& in, std::ostream& out,
@@ -83,20 +91,12 @@ const Verb* verbOf(std::string_view name)
 WalkResult playWalk(const WalkedProgram& program, std::istream& text, const std::string& name, std::ostream& out,
                     bool trace)
 {
-    using namespace walk_player_detail;
-    Walk walk(program, name, out, trace);
-    std::string line;
-    try {
-        int number = 0;
-        while (cleanedLine(text, line, number == 0)) {
-            walk.atLine(++number, line);
-            playLine(walk, line);
-        }
-        endWalk(walk, number);
-    } catch (const std::exception& problem) {
-        walk.stop(problem.what());
-    }
-    return walk.result();
+    WalkLines lines(text);
+    WalkResult total;
+    for (const Playing playing : lines.playings())
+        if (!total.unreadable)
+            total += walk_player_detail::playOnce(program, lines, playing, name, out, trace);
+    return total;
 }
 
 int runWalks(const WalkedProgram& program, std::span<const std::string> arguments, std::istream& in, std::ostream& out)

@@ -10,7 +10,8 @@
 
 namespace velmor::console {
 
-/// Plays one walk to its end or to the line that cannot be read. `name` stands for the file in reports.
+/// Plays one walk, in both languages if it is written so, to its end or to the line that cannot be read. `name` stands
+/// for the file in reports.
 WalkResult playWalk(const WalkedProgram& program, std::istream& text, const std::string& name, std::ostream& out,
                     bool trace);
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 #include "rules/code_page.h"
 
@@ -66,20 +67,39 @@ std::string bareWord(std::string_view line, std::size_t& at)
 
 } // namespace walk_text_detail
 
-std::vector<std::string> splitLine(std::string_view line)
+std::vector<Word> wordsOf(std::string_view line)
 {
     using namespace walk_text_detail;
     if (!rules::isValidUtf8(line))
         throw WalkError("the line is not UTF-8");
-    std::vector<std::string> words;
+    std::vector<Word> words;
     std::size_t at = line.find_first_not_of(blanks);
     if (at == std::string_view::npos || line[at] == '#')
         return words;
     while (at != std::string_view::npos) {
-        words.push_back(line[at] == '"' ? quotedWord(line, at) : bareWord(line, at));
+        const bool quoted = line[at] == '"';
+        words.push_back({quoted ? quotedWord(line, at) : bareWord(line, at), quoted});
         at = line.find_first_not_of(blanks, at);
     }
     return words;
+}
+
+std::vector<std::string> splitLine(std::string_view line)
+{
+    std::vector<std::string> texts;
+    for (Word& word : wordsOf(line))
+        texts.push_back(std::move(word.text));
+    return texts;
+}
+
+std::string lineOf(const std::vector<std::string>& words)
+{
+    std::string line;
+    for (const std::string& word : words) {
+        const bool bare = !word.empty() && word.find_first_of(" \t\r\n\"\\#|") == std::string::npos;
+        line += (line.empty() ? "" : " ") + (bare ? word : inQuotes(word));
+    }
+    return line;
 }
 
 std::string inQuotes(std::string_view text)

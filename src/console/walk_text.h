@@ -17,9 +17,21 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// A word of a line. In quotes it is always a text, never a sign of the language.
+struct Word {
+    std::string text;
+    bool quoted = false;
+};
+
 /// The words of a line: empty for an empty line and for a comment. Throws WalkError for bad quoting and for bytes that
 /// are not UTF-8.
+std::vector<Word> wordsOf(std::string_view line);
+
+/// The same words without their quotes.
 std::vector<std::string> splitLine(std::string_view line);
+
+/// A line that is read as these words.
+std::string lineOf(const std::vector<std::string>& words);
 
 /// A text as a walk would write it, always in quotes.
 std::string inQuotes(std::string_view text);

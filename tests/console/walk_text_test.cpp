@@ -74,6 +74,22 @@ TEST(WalkText, InQuotesIsReadBackAsTheSameWord)
     EXPECT_EQ(splitLine("x " + inQuotes(text)), (WordList{"x", text}));
 }
 
+TEST(WalkText, ALineMadeOfWordsIsReadBackAsTheSameWords)
+{
+    EXPECT_EQ(lineOf({"fill", "Text1", "10"}), "fill Text1 10");
+    EXPECT_EQ(lineOf({"type", "", "a b", "|", "#"}), R"(type "" "a b" "|" "#")");
+    const WordList words{"a\"b", "\\", "\n\r\t", "ñ€", "", "..caption", "Sheet1#2"};
+    EXPECT_EQ(splitLine(lineOf(words)), words);
+}
+
+TEST(WalkText, OnlyAWordInQuotesIsQuoted)
+{
+    const std::vector<Word> words = wordsOf(R"(a "b" | "|")");
+    ASSERT_EQ(words.size(), 4U);
+    EXPECT_FALSE(words[0].quoted || words[2].quoted);
+    EXPECT_TRUE(words[1].quoted && words[3].quoted);
+}
+
 TEST(WalkText, EveryLineBreakBecomesOneLineFeed)
 {
     EXPECT_EQ(withLineFeeds("a\r\nb\rc\nd\r"), "a\nb\nc\nd\n");

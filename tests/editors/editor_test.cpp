@@ -35,7 +35,7 @@ Editor& made(ProgramDesk& desk, std::string_view name)
 TEST(OlderTextEditor, RunsTheOpenDialogAtOnceAndReadsTheFile)
 {
     ProgramDesk desk;
-    desk.screen.nextFile = desk.screen.put("carta.txt", "Uno\r\nDos");
+    desk.screen.files.emplace_back(desk.screen.put("carta.txt", "Uno\r\nDos"));
     Editor& editor = shown(desk, "frmEditor");
     ASSERT_EQ(desk.screen.dialogs.size(), 1U);
     EXPECT_EQ(desk.screen.dialogs[0].kind, host::DialogKind::open);
@@ -89,7 +89,7 @@ TEST(OlderTextEditor, SavesANewTextThroughTheDialog)
     ProgramDesk desk;
     Editor& editor = shown(desk, "frmEditor");
     desk.write(editor, "txtEdit", "Hola");
-    desk.screen.nextFile = (desk.screen.folder / "hola.txt").string();
+    desk.screen.files.emplace_back((desk.screen.folder / "hola.txt").string());
     desk.click(editor, "mnuGuardar");
     EXPECT_EQ(desk.screen.dialogs.back().kind, host::DialogKind::save);
     EXPECT_EQ(desk.screen.content("hola.txt"), "Hola\r\n");
@@ -100,14 +100,14 @@ TEST(OlderTextEditor, SavesANewTextThroughTheDialog)
 TEST(OlderTextEditor, SavesAChangedTextToItsFileAndRunsTheOpenDialogAgain)
 {
     ProgramDesk desk;
-    desk.screen.nextFile = desk.screen.put("carta.txt", "Uno");
+    desk.screen.files.emplace_back(desk.screen.put("carta.txt", "Uno"));
     Editor& editor = shown(desk, "frmEditor");
     desk.click(editor, "mnuGuardar"); // not changed: nothing
     EXPECT_EQ(desk.screen.dialogs.size(), 1U);
     EXPECT_EQ(desk.screen.content("carta.txt"), "Uno");
 
     desk.write(editor, "txtEdit", "Dos");
-    desk.screen.nextFile = (desk.screen.folder / "carta.txt").string();
+    desk.screen.files.emplace_back((desk.screen.folder / "carta.txt").string());
     desk.click(editor, "mnuGuardar");
     EXPECT_EQ(desk.screen.content("carta.txt"), "Dos\r\n");
     ASSERT_EQ(desk.screen.dialogs.size(), 2U);
@@ -120,7 +120,7 @@ TEST(OlderTextEditor, ItsItemMakesANewDocumentAndTitlesGoToTheReportEditor)
 {
     ProgramDesk desk;
     host::Window& report = desk.show("frmEdito3");
-    desk.screen.nextFile = desk.screen.put("carta.txt", "Uno");
+    desk.screen.files.emplace_back(desk.screen.put("carta.txt", "Uno"));
     Editor& editor = shown(desk, "frmEditor");
     EXPECT_EQ(report.caption(), (desk.screen.folder / "carta.txt").string() + "Laboratorio Velmor");
     desk.write(editor, "txtEdit", "Dos");
@@ -167,7 +167,7 @@ TEST(OlderTextEditor, AsksInSpanishInBothLanguages)
     Editor& editor = shown(desk, "frmEditor");
     desk.write(editor, "txtEdit", "Hola");
     desk.click(editor, "mnuFileexit");
-    desk.screen.nextFile = desk.screen.put("viejo.txt", "v");
+    desk.screen.files.emplace_back(desk.screen.put("viejo.txt", "v"));
     desk.click(editor, "mnuFileSaveAs");
     ASSERT_EQ(desk.screen.boxes.size(), 2U);
     EXPECT_EQ(desk.screen.boxes[0].text, "Este documento ha cambiado\n¿Desea guardar los cambios?");
@@ -199,7 +199,7 @@ TEST(Editors, EachMenuCommandTakesTheCancelledActionBack)
     ProgramDesk desk;
     Editor& editor = shown(desk, "frmEdito2");
     editor.setAccionCancelada(true);
-    desk.screen.nextFile = desk.screen.put("carta.txt", "Uno");
+    desk.screen.files.emplace_back(desk.screen.put("carta.txt", "Uno"));
     desk.click(editor, "mnuFileOpen");
     EXPECT_EQ(desk.text(editor, "txtEdit"), "Uno\n");
 }
@@ -262,7 +262,7 @@ TEST(Editors, TheFourStatesOfADocument)
     desk.engine.userRun([&] { desk.engine.host().setText("frmEdito2", "txtEdit", "Informe"); });
     EXPECT_TRUE(editor.DocumentoNuevo() && editor.DocumentoCambiado());
     desk.screen.answers = {Answer::no};
-    desk.screen.nextFile = desk.screen.put("carta.txt", "Uno");
+    desk.screen.files.emplace_back(desk.screen.put("carta.txt", "Uno"));
     desk.click(editor, "mnuFileOpen");
     EXPECT_TRUE(!editor.DocumentoNuevo() && !editor.DocumentoCambiado());
     desk.write(editor, "txtEdit", "Dos");
@@ -273,7 +273,7 @@ TEST(Editors, AFailedOpenKeepsTheOldTextAndItsState)
 {
     ProgramDesk desk;
     Editor& editor = shown(desk, "frmEdito2");
-    desk.screen.nextFile = desk.screen.put("carta.txt", "Uno");
+    desk.screen.files.emplace_back(desk.screen.put("carta.txt", "Uno"));
     desk.click(editor, "mnuFileOpen");
     desk.write(editor, "txtEdit", "Uno y medio");
     const std::string title = editor.caption();
@@ -282,7 +282,7 @@ TEST(Editors, AFailedOpenKeepsTheOldTextAndItsState)
     std::filesystem::resize_file(desk.screen.folder / "enorme.txt", std::uintmax_t{65} * 1024 * 1024);
     for (const auto name : {"carpeta", "falta.txt", "enorme.txt"}) {
         desk.screen.answers = {Answer::no};
-        desk.screen.nextFile = (desk.screen.folder / name).string();
+        desk.screen.files.emplace_back((desk.screen.folder / name).string());
         desk.click(editor, "mnuFileOpen");
         EXPECT_EQ(desk.text(editor, "txtEdit"), "Uno y medio") << name;
         EXPECT_EQ(editor.caption(), title) << name;
@@ -301,7 +301,7 @@ TEST(Editors, AFailedSaveKeepsTextNameAndTitle)
     std::filesystem::create_directory(desk.screen.folder / "carpeta");
     desk.screen.answers.assign(8, Answer::ok);
     for (const auto name : {"no/hay.txt", "carpeta", "", "/dev/full"}) {
-        desk.screen.nextFile = (desk.screen.folder / name).string();
+        desk.screen.files.emplace_back((desk.screen.folder / name).string());
         desk.click(editor, "mnuFileSaveAs");
         EXPECT_EQ(desk.text(editor, "txtEdit"), "Ñandú") << name;
         EXPECT_EQ(editor.caption(), title) << name;
@@ -320,10 +320,10 @@ TEST(Editors, CharactersOfAnyScriptSurviveASaveAndAnOpen)
                                         "مقاومة", "e\u0301 \U0001F98B", "plain ASCII", "Ã± stands for ñ"}) {
         desk.write(editor, "txtEdit", text);
         desk.screen.answers.assign(1, Answer::ok);
-        desk.screen.nextFile = (desk.screen.folder / "texto.txt").string();
+        desk.screen.files.emplace_back((desk.screen.folder / "texto.txt").string());
         desk.click(editor, "mnuFileSaveAs");
         desk.screen.answers.assign(1, Answer::no);
-        desk.screen.nextFile = (desk.screen.folder / "texto.txt").string();
+        desk.screen.files.emplace_back((desk.screen.folder / "texto.txt").string());
         desk.click(editor, "mnuFileOpen");
         EXPECT_EQ(desk.text(editor, "txtEdit"), std::string(text) + "\n");
         desk.screen.answers.clear();
@@ -338,7 +338,7 @@ TEST(Editors, OpenABinaryFileWithoutHarm)
     for (int round = 0; round < 40; ++round)
         for (int byte = 0; byte < 256; ++byte)
             bytes.push_back(static_cast<char>((byte * 7 + round) % 256));
-    desk.screen.nextFile = desk.screen.put("figura.bmp", bytes);
+    desk.screen.files.emplace_back(desk.screen.put("figura.bmp", bytes));
     desk.click(editor, "mnuFileOpen");
     EXPECT_FALSE(editor.DocumentoNuevo());
     EXPECT_GT(editor.store(txtEdit).length(), 9000U);
@@ -361,7 +361,7 @@ TEST(Editors, ReadLinesHoweverTheyEnd)
                                                                     "ñ",
                                                                     "ñ\n"}};
     for (const auto& [bytes, text] : files) {
-        desk.screen.nextFile = desk.screen.put("a.txt", bytes);
+        desk.screen.files.emplace_back(desk.screen.put("a.txt", bytes));
         desk.click(editor, "mnuFileOpen");
         EXPECT_EQ(desk.text(editor, "txtEdit"), text);
     }

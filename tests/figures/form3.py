@@ -67,11 +67,11 @@ class Design:
         return float(self.field[field])
 
     def enter(self, field):
-        print(f"expect-focus {field}")
         if field in self.entries:
             self.field[field] = digits(float(self.entries[field]))
-            print(f"fill {field} {self.entries[field]}")
-        print("enter")
+            print(f"enter {field} {self.entries[field]}")
+        else:
+            print(f"enter {field}")
 
     @staticmethod
     def expect(control, text, kind="caption"):
@@ -178,7 +178,7 @@ class Design:
         self.expect("Label39", "Cco = " + shown(cco * 1000000) + " microF")
         rl, rlw = self.RL * 1000, self.RLw * 1000
         self.expect("Text12", digits(((rl * rlw) / (rl + rlw)) / (2.5 * self.re)), "text")
-        print("expect image2.visible true\nexpect-no-box")
+        print("expect-shown image2\nexpect-no-box")
         self.Eopp = max(self.Eopp, 3.0)
         self.meter()
 
@@ -195,7 +195,7 @@ class Design:
                 for point in points:
                     print(f"click {point}")
                     self.expect("SSPanel2", readings.get((point, current, function), ""))
-        print("doubleclick Image33\nexpect SSPanel2.visible false")
+        print("doubleclick Image33\nexpect-hidden SSPanel2")
 
     def readings(self):
         vrms = (self.Eopp / 2) * 0.707

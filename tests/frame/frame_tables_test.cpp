@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Lint over the tables of the main window and of the palette. Each check is seen to refuse a bad table.
+// What the tables of the main window and of the palette hold beside the rules that every window keeps. Each check is seen to
+// refuse a bad table.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -27,16 +28,6 @@ using host::Kind;
 bool bothOrNone(const BiText& text)
 {
     return text.es.empty() == text.en.empty();
-}
-
-std::vector<std::string> doubleNames(std::span<const ControlRow> rows)
-{
-    std::vector<std::string> found;
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        for (std::size_t other = 0; other < i; ++other)
-            if (host::sameName(rows[i].name, rows[other].name))
-                found.emplace_back(rows[i].name);
-    return found;
 }
 
 /// Marks that leave the box of `width` by `height` units.
@@ -104,20 +95,12 @@ std::vector<std::size_t> looseWires(std::span<const host::Mark> marks)
 
 TEST(FrameTables, TheChecksRefuseABadTable)
 {
-    constexpr ControlRow twice[] = {{.id = 0, .name = "Text1"}, {.id = 1, .name = "text1"}};
-    EXPECT_EQ(doubleNames(twice).size(), 1U);
     EXPECT_FALSE(bothOrNone({.es = "uno", .en = ""}));
     constexpr host::Mark far[] = {{.symbol = host::Symbol::wire, .from = {0, 0}, .to = {541, 5}}};
     EXPECT_EQ(outside(far, 540, 313).size(), 1U);
     constexpr host::Mark loose[] = {{.symbol = host::Symbol::wire, .from = {0, 0}, .to = {50, 0}},
                                     {.symbol = host::Symbol::resistor, .from = {50, 0}, .to = {110, 0}}};
     EXPECT_EQ(looseWires(loose).size(), 1U);
-}
-
-TEST(FrameTables, NoControlHasTheNameOfAnother)
-{
-    EXPECT_TRUE(doubleNames(main_window::spec.controls).empty());
-    EXPECT_TRUE(doubleNames(palette::spec.controls).empty());
 }
 
 TEST(FrameTables, EveryMenuItemGetsOneCaption)
@@ -148,8 +131,6 @@ TEST(FrameTables, CaptionsHaveBothLanguages)
         EXPECT_TRUE(bothOrNone(design.itemCaption)) << design.sheet;
         EXPECT_TRUE(bothOrNone(design.windowCaption)) << design.sheet;
     }
-    for (const ControlRow& row : palette::spec.controls)
-        EXPECT_TRUE(bothOrNone(row.meaning)) << row.name;
 }
 
 TEST(FrameTables, EveryItemWithoutItemsBelowItDoesSomething)
@@ -270,26 +251,6 @@ TEST(FrameTables, NothingOnTheShownPageOverlaps)
         EXPECT_LE(place(one).top + place(one).height, circuitBar.height);
         for (host::Handle other = imgButton0; other < one; ++other)
             EXPECT_TRUE(apart(place(one), place(other))) << spec.controls[one].name;
-    }
-}
-
-TEST(FrameTables, EveryMouseSlotOfBarPanelAndPaletteHasAKey)
-{
-    for (const host::WindowSpec* spec : {&main_window::spec, &palette::spec}) {
-        for (const host::SlotRow& slot : spec->slots) {
-            if (slot.control == host::noControl || spec->controls[slot.control].kind == Kind::menu)
-                continue;
-            const bool hover = slot.event == host::Event::hover;
-            if (!hover && slot.event != host::Event::click)
-                continue;
-            const auto action = hover ? host::KeyAction::hover : host::KeyAction::click;
-            EXPECT_TRUE(std::any_of(spec->shortcuts.begin(), spec->shortcuts.end(), [&](const host::ShortcutRow& row) {
-                return row.control == slot.control && row.action == action;
-            })) << spec->controls[slot.control].name;
-        }
-        std::set<std::string_view> keys;
-        for (const host::ShortcutRow& row : spec->shortcuts)
-            EXPECT_TRUE(keys.insert(row.keys).second) << row.keys;
     }
 }
 

@@ -62,7 +62,7 @@ TEST(MainWindow, EveryOpenItemMakesTheSheetAndRunsItsOpenDialog)
 {
     for (const Told& row : told) {
         Program program;
-        program.screen.nextFile = "/there/Mi circuito.RPC";
+        program.screen.files.emplace_back("/there/Mi circuito.RPC");
         program.menu(row.openItem);
         ASSERT_EQ(program.count(row.sheet), 1) << row.openItem;
         const std::string sheet(row.sheet);
@@ -133,7 +133,7 @@ TEST(MainWindow, SaveAsksForAPathOnlyWhenThereIsNone)
 {
     Program program;
     program.menu("uno");
-    program.screen.nextFile = "/there/one.CDS";
+    program.screen.files.emplace_back("/there/one.CDS");
     program.menu("mnuFile(1)");
     EXPECT_EQ(program.takeLog(), (std::vector<std::string>{"Form3 CDL_GuardarDatos", "Form3 Guardar"}));
     program.menu("mnuFile(1)");
@@ -145,7 +145,7 @@ TEST(MainWindow, SaveAsAsksEveryTimeAndSavesEvenAfterACancel)
 {
     Program program;
     program.menu("uno");
-    program.screen.nextFile = "/there/one.CDS";
+    program.screen.files.emplace_back("/there/one.CDS");
     program.menu("mnuFile(2)");
     program.menu("mnuFile(2)");
     EXPECT_EQ(program.takeLog(), (std::vector<std::string>{"Form3 CDL_GuardarDatos", "Form3 Guardar",

@@ -2,7 +2,6 @@
 // A small program made for the engine's tests: a main window, a sheet whose slots are set by each test, a tool, a palette.
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <map>
 #include <memory>
@@ -11,58 +10,9 @@
 #include <vector>
 
 #include "host/engine.h"
+#include "quiet_screen.h"
 
 namespace velmor::test {
-
-/// A screen that answers from queues and remembers what it was asked.
-class FixtureScreen final : public host::Screen {
-public:
-    host::Answer messageBox(const host::MessageBox& box) override
-    {
-        boxes.push_back(box);
-        if (duringBox)
-            duringBox();
-        if (answers.empty())
-            return box.escape();
-        const host::Answer answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
-    std::optional<std::string> fileDialog(const host::FileDialog& dialog) override
-    {
-        dialogs.push_back(dialog);
-        return std::exchange(nextFile, std::nullopt);
-    }
-    std::optional<std::string> inputBox(const host::InputBox&) override { return std::nullopt; }
-    std::optional<std::int32_t> colourDialog(std::int32_t) override { return std::nullopt; }
-    std::optional<host::Font> fontDialog(const host::Font&) override { return std::nullopt; }
-    std::string now() override { return "01/02/2026 10:20"; }
-    std::string date() override { return "01/02/2026"; }
-    std::string time() override { return "10:20"; }
-    std::string clipboardText() override { return clipboard; }
-    int printedWidth(const host::Font&, std::string_view text) override { return static_cast<int>(text.size()) * 120; }
-    std::string programFolder() override { return "."; }
-    std::string executableName() override { return "velmor"; }
-    bool otherInstanceRunning() override { return false; }
-    void beep() override { ++beeps; }
-    void setClipboardText(std::string_view text) override { clipboard = text; }
-    void print(const host::PrintJob&) override {}
-    bool run(const std::string&, const std::string&) override { return true; }
-    void popupMenu(host::Window&, host::Handle) override { ++popups; }
-    void programFailed(std::string_view text) override { failures.emplace_back(text); }
-    void windowGone(host::Window& window) override { gone.emplace_back(window.name()); }
-
-    std::deque<host::Answer> answers;
-    std::vector<host::MessageBox> boxes;
-    std::vector<host::FileDialog> dialogs;
-    std::optional<std::string> nextFile;
-    std::vector<std::string> failures;
-    std::vector<std::string> gone;
-    std::function<void()> duringBox;
-    std::string clipboard;
-    int beeps = 0;
-    int popups = 0;
-};
 
 enum FixtureControl : host::Handle { First, Second, Third, Press, Photo, Still, Words, ItemMenu, Item };
 
@@ -107,7 +57,7 @@ struct FixtureProgram {
     FixtureWindow& sheet() { return static_cast<FixtureWindow&>(*engine.instance("Sheet", 0)); }
     std::vector<std::string> takeLog() { return std::exchange(FixtureWindow::log, {}); }
 
-    FixtureScreen screen;
+    AskedScreen screen;
     host::MemorySettings settings;
     host::Engine engine;
 };

@@ -20,6 +20,25 @@ constexpr Spot spots[] = {
     {"Form3", "Image5"}, {"Form3", "Image6"}, {"Form3", "Image7"}, {"Form3", "Image9"}, {"Form3", "Image10"},
 };
 
+// Fields in the drawing itself, beside the part that bears their symbol.
+constexpr Spot withoutSymbol[] = {
+    {"Form3", "Text8"},
+    {"Form3", "Text16"},
+    {"Form3", "Text17"},
+    {"Form3", "Text18"},
+};
+
+// What has no key of its own, and how it is reached.
+constexpr Spot reachedOtherwise[] = {
+    {"MDIForm1", "Picture14"}, // the menu of options shows the bar and puts it away
+    {"Form3", "Image1"},       // its pop-ups are menus of the main window
+    {"Form3", "image2"},       // the same
+    {"Form3", "Image30"},      // Ctrl+B switches the bench, Ctrl+E goes back
+    {"Form3", "Image33"},      // the same for the meter
+    {"Form3", "Image34"},      // F1 is help everywhere
+    {"Form3", "Image35"},      // the same
+};
+
 class EveryTable : public testing::TestWithParam<const host::WindowSpec*> {
 protected:
     const host::WindowSpec& window() const { return *GetParam(); }
@@ -58,6 +77,21 @@ TEST_P(EveryTable, HangsItemsBelowMenusAndControlsIntoPanels)
 TEST_P(EveryTable, DrawsEveryLineShapeAndImageOfASheet)
 {
     EXPECT_TRUE(keeps(strokes(window(), spots)));
+}
+
+TEST_P(EveryTable, GivesEachFieldItsSymbolAndEachButtonItsMeaning)
+{
+    EXPECT_TRUE(keeps(symbols(window(), withoutSymbol)));
+}
+
+TEST_P(EveryTable, KeepsTheControlsOfASheetInside)
+{
+    EXPECT_TRUE(keeps(stayInside(window())));
+}
+
+TEST_P(EveryTable, GivesAKeyToWhatTheMouseReaches)
+{
+    EXPECT_TRUE(keeps(keysForTheMouse(window(), reachedOtherwise)));
 }
 
 TEST_P(EveryTable, IsWholeAsAWindow)

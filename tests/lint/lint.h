@@ -29,13 +29,21 @@ Complaints tabOrder(const host::WindowSpec& window);
 Complaints shortcuts(const host::WindowSpec& window);
 /// Items hang below menus; whatever lies in something lies in a panel or picture. No control is its own ancestor.
 Complaints parents(const host::WindowSpec& window);
-/// A control that draws nothing by itself: a spot upon another one's drawing.
+/// A control to which a rule does not apply, for a reason that stands beside it.
 struct Spot {
     std::string_view window;
     std::string_view control;
 };
 /// Every line, shape and image of a sheet has something to draw, but for the spots told.
 Complaints strokes(const host::WindowSpec& window, std::span<const Spot> spots);
+/// On a sheet whatever takes the focus and each tool button says what it is in both languages, and each field has its
+/// symbol, but for the fields told.
+Complaints symbols(const host::WindowSpec& window, std::span<const Spot> withoutSymbol);
+/// Every control of a sheet lies inside it, seen or not.
+Complaints stayInside(const host::WindowSpec& window);
+/// Whatever a sheet, the main window or the palette does for the mouse on a control that takes no focus has a key too, but
+/// for the controls told, which are reached in another way.
+Complaints keysForTheMouse(const host::WindowSpec& window, std::span<const Spot> reachedOtherwise);
 /// What belongs to the window as a whole: name, size, a function that makes it, a sheet's title in both languages.
 Complaints wholeWindow(const host::WindowSpec& window);
 /// The lines of the file name controls that exist, and both filters are there.

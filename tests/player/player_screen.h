@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "host/screen.h"
 #include "player/chance.h"
+#include "quiet_screen.h"
 
 namespace velmor::player {
 
@@ -30,7 +30,7 @@ private:
     std::vector<std::string> files_;
 };
 
-class PlayerScreen final : public host::Screen {
+class PlayerScreen final : public test::QuietScreen {
 public:
     PlayerScreen(Chance& chance, const Playground& ground) : chance_(chance), ground_(ground) {}
 
@@ -47,17 +47,10 @@ public:
     std::optional<std::string> inputBox(const host::InputBox& box) override;
     std::optional<std::int32_t> colourDialog(std::int32_t initial) override;
     std::optional<host::Font> fontDialog(const host::Font& initial) override;
-    std::string now() override { return "01/02/2026 10:20"; }
-    std::string date() override { return "01/02/2026"; }
-    std::string time() override { return "10:20"; }
     std::string clipboardText() override { return clipboard_; }
     int printedWidth(const host::Font& font, std::string_view text) override;
     std::string programFolder() override { return ground_.path().string(); }
-    std::string executableName() override { return "velmor"; }
-    bool otherInstanceRunning() override { return false; }
-    void beep() override {}
     void setClipboardText(std::string_view text) override;
-    void print(const host::PrintJob&) override {}
     bool run(const std::string&, const std::string&) override { return chance_.in(50); }
     void popupMenu(host::Window& owner, host::Handle menu) override;
     void programFailed(std::string_view text) override { failure = text; }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Playing walks line by line, with something more between the lines.
+// Playing walks command by command, with something more between the commands.
 #include "replay/replay.h"
 
 #include <charconv>
@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "console/verbs.h"
+#include "console/walk_lines.h"
 #include "sheets/design_sheet.h"
 
 namespace velmor::replay {
@@ -34,10 +35,10 @@ public:
         : manner_(manner), walk_(program, file, out_, false)
     {}
 
-    Outcome play(std::istream& text);
+    Outcome play(console::WalkLines& lines, console::Playing playing);
 
 private:
-    void playLine(const std::string& line);
+    void playCommand(std::vector<std::string> words);
     void openBlankSheet(const std::string& sheet);
     void switchLanguageToAndFro();
     void collectTexts();
@@ -86,11 +87,8 @@ bool Player::leftToTheBlankSheet()
                                  walk_.engine().activeChild() == blank_);
 }
 
-void Player::playLine(const std::string& line)
+void Player::playCommand(std::vector<std::string> words)
 {
-    std::vector<std::string> words = console::splitLine(line);
-    if (words.empty())
-        return;
     const Verb* verb = console::verbOf(words.front());
     if (verb == nullptr || words.size() - 1 < verb->least || words.size() - 1 > verb->most)
         throw console::WalkError("the line cannot be played again");
@@ -127,14 +125,18 @@ void Player::collectTexts()
             outcome_.disturbed = now[i];
 }
 
-Outcome Player::play(std::istream& text)
+Outcome Player::play(console::WalkLines& lines, console::Playing playing)
 {
-    int number = 0;
+    walk_.playedIn(console::languageName(playing));
+    lines.begin(playing);
     try {
-        for (std::string line; !outcome_.cutShort && std::getline(text, line);) {
-            walk_.atLine(++number, line);
-            playLine(line);
-            outcome_.cutShort = leftToTheBlankSheet();
+        for (std::string line; !outcome_.cutShort && lines.next(line);) {
+            walk_.atLine(lines.number(), line);
+            for (const console::Command& command : lines.commands())
+                if (!outcome_.cutShort) {
+                    playCommand(command.words);
+                    outcome_.cutShort = leftToTheBlankSheet();
+                }
         }
     } catch (const std::exception& problem) {
         walk_.stop(problem.what());
@@ -176,10 +178,14 @@ std::vector<std::string> withOneSheetMore(std::vector<std::string> words, std::s
     return words;
 }
 
-Outcome replayed(const console::WalkedProgram& program, const std::string& file, Manner manner)
+std::vector<Outcome> replayed(const console::WalkedProgram& program, const std::string& file, Manner manner)
 {
     std::ifstream text(file, std::ios::binary);
-    return replay_detail::Player(program, file, manner).play(text);
+    console::WalkLines lines(text);
+    std::vector<Outcome> outcomes;
+    for (const console::Playing playing : lines.playings())
+        outcomes.push_back(replay_detail::Player(program, file, manner).play(lines, playing));
+    return outcomes;
 }
 
 } // namespace velmor::replay

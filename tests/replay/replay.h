@@ -23,7 +23,8 @@ struct Outcome {
     std::string disturbed{}; ///< a field of the blank sheet that changed although nobody touched it
 };
 
-Outcome replayed(const console::WalkedProgram& program, const std::string& file, Manner manner);
+/// One outcome for each language in which the walk is played.
+std::vector<Outcome> replayed(const console::WalkedProgram& program, const std::string& file, Manner manner);
 
 /// A line of a walk on windows named `sheet`, of which one more is open than the walk knows, before its own.
 std::vector<std::string> withOneSheetMore(std::vector<std::string> words, std::string_view sheet);

@@ -3,73 +3,21 @@
 // and keeps every question whole, a scratch folder, and the engine itself.
 #pragma once
 
-#include <deque>
-#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "host/engine.h"
+#include "quiet_screen.h"
 #include "rules/scratch_folder.h"
 #include "sheets/template_program.h"
 #include "sheets/template_sheet.h"
 
 namespace velmor::template_sheet {
 
-class SheetScreen final : public host::Screen {
-public:
-    explicit SheetScreen(std::string folder) : folder_(std::move(folder)) {}
-
-    host::Answer messageBox(const host::MessageBox& box) override
-    {
-        boxes.push_back(box);
-        if (answers.empty())
-            return box.escape();
-        const host::Answer answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
-    std::optional<std::string> fileDialog(const host::FileDialog& dialog) override
-    {
-        dialogs.push_back(dialog);
-        if (files.empty())
-            return std::nullopt;
-        const std::optional<std::string> file = files.front();
-        files.pop_front();
-        return file;
-    }
-    std::optional<std::string> inputBox(const host::InputBox&) override { return std::nullopt; }
-    std::optional<std::int32_t> colourDialog(std::int32_t) override { return std::nullopt; }
-    std::optional<host::Font> fontDialog(const host::Font&) override { return std::nullopt; }
-    std::string now() override { return "01/02/2026 10:20"; }
-    std::string date() override { return "01/02/2026"; }
-    std::string time() override { return "10:20"; }
-    std::string clipboardText() override { return {}; }
-    int printedWidth(const host::Font&, std::string_view text) override { return static_cast<int>(text.size()) * 120; }
-    std::string programFolder() override { return folder_; }
-    std::string executableName() override { return "velmor"; }
-    bool otherInstanceRunning() override { return false; }
-    void beep() override { ++beeps; }
-    void setClipboardText(std::string_view) override {}
-    void print(const host::PrintJob&) override {}
-    bool run(const std::string&, const std::string&) override { return true; }
-    void popupMenu(host::Window&, host::Handle) override {}
-    void programFailed(std::string_view text) override { failures.emplace_back(text); }
-
-    std::deque<host::Answer> answers;
-    std::deque<std::optional<std::string>> files; ///< nothing stands for a dialog that is cancelled
-    std::vector<host::MessageBox> boxes;
-    std::vector<host::FileDialog> dialogs;
-    std::vector<std::string> failures;
-    int beeps = 0;
-
-private:
-    std::string folder_;
-};
-
 struct SheetProgram {
-    SheetProgram() : screen(folder.path().string()), engine(catalogue(), screen, settings)
+    SheetProgram() : engine(catalogue(), screen, settings)
     {
+        screen.folder = folder.path();
         engine.loadMainWindow();
         engine.setTrace([this](std::string_view line) { trace.emplace_back(line); });
     }
@@ -109,7 +57,7 @@ struct SheetProgram {
     std::string path(std::string_view name) { return (folder / name).string(); }
 
     rules::ScratchFolder folder;
-    SheetScreen screen;
+    test::AskedScreen screen;
     host::MemorySettings settings;
     host::Engine engine;
     std::vector<std::string> trace;

@@ -5,8 +5,9 @@
 #include <string>
 
 #include "designs/common_emitter/form2.h"
-#include "host/fixture.h"
+#include "host/engine.h"
 #include "program/catalogue.h"
+#include "quiet_screen.h"
 
 namespace velmor::test {
 
@@ -53,7 +54,7 @@ public:
         }
     }
 
-    FixtureScreen screen;
+    AskedScreen screen;
     host::MemorySettings settings;
     host::Engine engine;
     std::string supply = "35"; ///< V, what `playTo` enters

@@ -15,6 +15,7 @@
 #include "desktop/drawing/control_painter.h"
 #include "desktop/drawing/drawing_export.h"
 #include "desktop/drawing/painted_sheet.h"
+#include "quiet_screen.h"
 #include "sheets/schematic.h"
 #include "sheets/template_program.h"
 
@@ -125,7 +126,7 @@ struct OpenWindow {
         return count;
     }
 
-    SilentScreen screen;
+    QuietScreen screen;
     host::MemorySettings settings;
     host::Engine engine;
     host::Window* window = nullptr;
