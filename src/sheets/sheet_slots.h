@@ -12,20 +12,21 @@
 
 namespace velmor::sheets {
 
+/// What every sheet does as a window, whatever its fields are.
+inline constexpr std::array frameSlots{
+    host::SlotRow{host::noControl, host::Event::activate, host::slot<&DesignSheet::frameActivate>},
+    host::SlotRow{host::noControl, host::Event::comeBack, host::slot<&DesignSheet::frameComeBack>},
+    host::SlotRow{host::noControl, host::Event::repaint, host::slot<&DesignSheet::frameRepaint>},
+    host::SlotRow{host::noControl, host::Event::resize, host::slot<&DesignSheet::frameResize>},
+    host::SlotRow{host::noControl, host::Event::queryClose, host::slot<&DesignSheet::frameQueryClose>},
+};
+
 namespace slots_detail {
 
 using host::Event;
 using host::noControl;
 using host::slot;
 using host::SlotRow;
-
-inline constexpr std::array frameRows{
-    SlotRow{noControl, Event::activate, slot<&DesignSheet::frameActivate>},
-    SlotRow{noControl, Event::comeBack, slot<&DesignSheet::frameComeBack>},
-    SlotRow{noControl, Event::repaint, slot<&DesignSheet::frameRepaint>},
-    SlotRow{noControl, Event::resize, slot<&DesignSheet::frameResize>},
-    SlotRow{noControl, Event::queryClose, slot<&DesignSheet::frameQueryClose>},
-};
 
 // A sheet that declares one of the five itself gets its own.
 template <class Sheet, std::size_t Count>
@@ -68,7 +69,7 @@ template <class Sheet, Tools tools, std::size_t Fields, std::size_t Own>
 consteval auto sheetSlots(const std::array<ChainRow, Fields>& chain, const std::array<host::SlotRow, Own>& own)
 {
     using namespace slots_detail;
-    return joined(frameRows, chainRows<Sheet>(chain), toolRows<Sheet, tools>(), own);
+    return joined(frameSlots, chainRows<Sheet>(chain), toolRows<Sheet, tools>(), own);
 }
 
 } // namespace velmor::sheets

@@ -23,7 +23,6 @@ constexpr host::ControlRow noteControls[] = {
     {.id = 2, .name = "Label1", .kind = Kind::label, .visible = false},
     {.id = 3, .name = "Label2", .kind = Kind::label},
 };
-constexpr auto sheetSlots = sheets::withSheetFrame(std::array<host::SlotRow, 0>{});
 const sheets::SheetSpec sheetSpec{.filter = {.es = "Hoja|*.HOJ", .en = "Sheet|*.SHT"}};
 
 constexpr std::array<std::string_view, 15> sheetNames{"Form2",  "desaco", "ParcDesac", "Form8",  "Form18",
@@ -56,7 +55,7 @@ void fillSheets(std::index_sequence<Index...>)
                        .role = Role::sheet,
                        .caption = "stored",
                        .controls = sheetControls,
-                       .slots = sheetSlots,
+                       .slots = sheets::frameSlots,
                        .create = createSheet<Index>}),
      ...);
 }

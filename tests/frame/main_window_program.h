@@ -11,7 +11,7 @@
 #include "frame/mdi_form1.h"
 #include "host/engine.h"
 #include "quiet_screen.h"
-#include "sheets/design_sheet.h"
+#include "sheets/sheet_slots.h"
 
 namespace velmor::main_window_test {
 
