@@ -49,7 +49,7 @@ inline constexpr auto all = std::to_array<Quantity>({
     dQIc, T, dVbe, S,
     Vg, fo, Eopp, Ein, Po,
     Beta, EcMax, IcMax, Vj,
-    QIc, Es, Ebias, Eq, ERes,
+    QIc, Es, Ebias, EsNegative, Eq, ERes,
     Res, RL, RLw, Rb1, Rb2, Rg, Cbp,
 });
 

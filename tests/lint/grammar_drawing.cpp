@@ -97,7 +97,7 @@ void lookAtPart(const Sheet& sheet, const host::GrowthRow& row, Complaints& comp
         complaints.push_back(sheet.named(row.part) + " grows and lies above the drawing");
     if (!sheet.isInChain(row.field))
         complaints.push_back(sheet.named(row.part) + " comes with what is no field of the chain");
-    for (const Handle control : {row.when, row.unless})
+    for (const Handle control : {row.when, row.unless, row.norIf})
         if (control != noControl && (!sheet.has(control) || grows(sheet, control)))
             complaints.push_back(sheet.named(row.part) + " hangs on a control that says nothing of the circuit");
 }

@@ -21,7 +21,7 @@ void noteParts(GrowthPlan& plan, const host::WindowSpec& spec)
 {
     for (const host::GrowthRow& row : spec.growth) {
         plan.entries[row.part].grows = true;
-        for (const Handle switching : {row.when, row.unless})
+        for (const Handle switching : {row.when, row.unless, row.norIf})
             if (switching != noControl)
                 addOnce(plan.entries[switching].toning, row.part);
         if (!spec.controls[row.part].overlay)
