@@ -134,20 +134,20 @@ constexpr Handle tabOrder[] = {
 
 using host::KeyAction;
 constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), std::to_array<host::ShortcutRow>({
-    {"Shift+F2",  Image1,    KeyAction::hover,      noControl, {"Borrar las notas","Take the notes away"}},
-    {"F5",        Voltaje,   KeyAction::hover,      noControl, {"Fórmula de ERes","Formula of ERes"}},
-    {"F7",        statu17,   KeyAction::hover,      noControl, {"Nota de r'e","Note on r'e"}},
-    {"F8",        statu18,   KeyAction::hover,      noControl, {"Nota de RLac","Note on RLac"}},
-    {"F9",        statu23,   KeyAction::hover,      noControl, {"Nota de Rin","Note on Rin"}},
-    {"F11",       SSPanel1,  KeyAction::click,      noControl, {"Agrandar el panel de ayuda","Enlarge the help panel"}},
-    {"Shift+F11", STA70,     KeyAction::click,      noControl, {"Ocultar el próximo paso","Hide the next step"}},
-    {"Ctrl+1",    Picture6,  KeyAction::click,      noControl, {"Desacoplado","Bypass"}},
-    {"Ctrl+2",    Picture4,  KeyAction::click,      noControl, {"Parcialmente desacoplado","Parcial Bypass"}},
-    {"Ctrl+3",    Picture11, KeyAction::click,      Picture10, {"Polarizado p/Emisor, o p/Base","Polarized by Emitter, or by Base"}},
-    {"Ctrl+4",    Picture2,  KeyAction::click,      Picture7,  {"Bootstrapping, o sin él","Bootstrapping, or without"}},
-    {"Ctrl+5",    Picture1,  KeyAction::click,      noControl, {"Volver al comienzo","Back to the beginning"}},
-    {"Ctrl+M",    Image1,    KeyAction::click,      noControl, {"Menú de archivos","Menu of files"}},
-    {"Ctrl+B",    Image1,    KeyAction::rightPress, noControl, {"Barra de circuitos","Circuit bar"}},
+    {"Shift+F2",  Image1,    KeyAction::hover,      noControl, {"Borrar las notas", "Take the notes away"}},
+    {"F5",        Voltaje,   KeyAction::hover,      noControl, {"Fórmula de ERes", "Formula of ERes"}},
+    {"F7",        statu17,   KeyAction::hover,      noControl, {"Nota de r'e", "Note on r'e"}},
+    {"F8",        statu18,   KeyAction::hover,      noControl, {"Nota de RLac", "Note on RLac"}},
+    {"F9",        statu23,   KeyAction::hover,      noControl, {"Nota de Rin", "Note on Rin"}},
+    {"F11",       SSPanel1,  KeyAction::click,      noControl, {"Agrandar el panel de ayuda", "Enlarge the help panel"}},
+    {"Shift+F11", STA70,     KeyAction::click,      noControl, {"Ocultar el próximo paso", "Hide the next step"}},
+    {"Ctrl+1",    Picture6,  KeyAction::click,      noControl, {"Desacoplado", "Bypass"}},
+    {"Ctrl+2",    Picture4,  KeyAction::click,      noControl, {"Parcialmente desacoplado", "Parcial Bypass"}},
+    {"Ctrl+3",    Picture11, KeyAction::click,      Picture10, {"Polarizado p/Emisor, o p/Base", "Polarized by Emitter, or by Base"}},
+    {"Ctrl+4",    Picture2,  KeyAction::click,      Picture7,  {"Bootstrapping, o sin él", "Bootstrapping, or without"}},
+    {"Ctrl+5",    Picture1,  KeyAction::click,      noControl, {"Volver al comienzo", "Back to the beginning"}},
+    {"Ctrl+M",    Image1,    KeyAction::click,      noControl, {"Menú de archivos", "Menu of files"}},
+    {"Ctrl+B",    Image1,    KeyAction::rightPress, noControl, {"Barra de circuitos", "Circuit bar"}},
 }));
 // clang-format on
 
