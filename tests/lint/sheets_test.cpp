@@ -10,8 +10,14 @@ namespace velmor::lint {
 
 namespace sheets_test {
 
-constexpr std::span<const Unreached> unreached{};
-constexpr std::span<const OneLanguage> oneLanguage{};
+constexpr Unreached unreached[] = {
+    {"Form2", "Text21", "the negative supply, asked for by QIc when the stage is polarised by emitter"},
+    {"Form2", "Text14", "the input, given by Esc in the output"},
+    {"Form2", "Text5", "the transistor's voltage, reached by a click"},
+};
+constexpr OneLanguage oneLanguage[] = {
+    {"Form2", "Text8", "its prompt under the pointer was never told in English"},
+};
 
 std::vector<const host::WindowSpec*> allSheets()
 {
