@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The formulas of the common-emitter sheets, their own and those that all sheets share, against values worked out with pencil and paper; how stands beside each.
+// The formulas of the common-emitter sheets, their own and those that all sheets share, against values worked out with pencil and
+// paper; how stands beside each.
 #include <gtest/gtest.h>
 
 #include "designs/common_emitter/emitter_formulas.h"
