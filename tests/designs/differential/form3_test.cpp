@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/fixture.h"
+#include "quiet_screen.h"
 #include "program/catalogue.h"
 #include "rules/scratch_folder.h"
 
@@ -34,7 +34,7 @@ protected:
         key(sheets::enterKey);
     }
 
-    test::FixtureScreen screen;
+    test::QuietScreen screen;
     host::MemorySettings settings;
     host::Engine engine;
     host::Window* window = nullptr;
