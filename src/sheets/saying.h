@@ -22,6 +22,7 @@ enum class When : std::uint8_t {
     enter,  ///< the chain goes on
     escape, ///< the chain goes on after Esc, where that is said in other words than after Enter
     hover,
+    lesson, ///< a short page about the field in hand, which its slot tells when there is room for it
 };
 
 /// One thing that a sheet says. Prompt rows stand in the sheet's table by field and moment; what a step says by itself is a

@@ -34,6 +34,14 @@ constexpr Place voiceAndStep = sheets::at(0, 0, 1200, 90);
 constexpr Place parameters = sheets::at(sheets::zones::left, 94, sheets::zones::width, 518);
 constexpr Place toolRow = sheets::at(sheets::zones::right, 94, 172, 182);
 
+/// A paper may leave room at its right for pages that need more than the tools' breadth.
+bool isInTheMiddle(const host::Place& place)
+{
+    constexpr host::Place middle = sheets::zones::paper;
+    return place.left == middle.left && place.top == middle.top && place.height == middle.height &&
+           place.width <= middle.width;
+}
+
 bool isTool(const sheets::Tools& tools, Handle control)
 {
     for (const Handle tool : {tools.guide, tools.calculator, tools.report, tools.clone.first, tools.clone.second,
@@ -156,7 +164,7 @@ Complaints zones(const Sheet& sheet)
     int papers = 0;
     for (const ControlRow& row : sheet.window.controls) {
         const bool placed = row.kind != Kind::menu && row.kind != Kind::timer && row.look != Look::invisible;
-        if (row.look == Look::paper && ++papers > 0 && !(row.place == sheets::zones::paper))
+        if (row.look == Look::paper && ++papers > 0 && !isInTheMiddle(row.place))
             complaints.push_back(sheet.named(row.id) + " is paper and does not lie in the middle");
         if (!placed || row.overlay)
             continue;
@@ -169,8 +177,8 @@ Complaints zones(const Sheet& sheet)
         if (besideItsSymbol && !contains(parameters, row.place))
             complaints.push_back(sheet.named(row.id) + " does not stand among the parameters");
     }
-    if (papers != 1)
-        complaints.push_back("the sheet has " + std::to_string(papers) + " papers");
+    if (papers == 0)
+        complaints.emplace_back("the sheet has no paper");
     return complaints;
 }
 

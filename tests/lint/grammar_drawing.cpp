@@ -143,7 +143,10 @@ Complaints growth(const Sheet& sheet)
             complaints.push_back(sheet.named(row.value) + " is a value on what does not grow");
     }
     for (const ControlRow& row : sheet.window.controls) {
-        const bool isStroke = (row.kind == Kind::line || row.kind == Kind::shape) && !row.drawing.empty();
+        const bool isNote =
+            std::find(sheet.tables.notes.begin(), sheet.tables.notes.end(), row.id) != sheet.tables.notes.end();
+        const bool isStroke = (row.kind == Kind::line || row.kind == Kind::shape) && row.look == host::Look::plain &&
+                              !row.drawing.empty() && !isNote;
         if (isStroke && !row.visible && !row.overlay && !grows(sheet, row.id))
             complaints.push_back(sheet.named(row.id) + " is neither there from the start nor grows");
     }

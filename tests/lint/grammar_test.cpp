@@ -103,7 +103,7 @@ TEST_F(GrammarZones, RejectAPaperThatIsMissingOrElsewhere)
     EXPECT_EQ(zones(sheet()), Complaints{"\"Image1\" is paper and does not lie in the middle"});
     rows[Image1] = template_sheet::spec.controls[Image1];
     rows[Image1].look = host::Look::plain;
-    EXPECT_EQ(zones(sheet()), Complaints{"the sheet has 0 papers"});
+    EXPECT_EQ(zones(sheet()), Complaints{"the sheet has no paper"});
 }
 
 // --- tools

@@ -60,7 +60,8 @@ TEST(LintSlots, RejectSlotsThatCanNeverRun)
     WindowSpec window = windowOf(rows);
     window.slots = bad;
     EXPECT_EQ(slots(window), (Complaints{"slot 1 waits for an event that \"Label1\" never gets",
-                                         "slot 2 has no function and takes none away", "slot 3 belongs to a control that does not exist",
+                                         "slot 2 has no function and takes none away",
+                                         "slot 3 belongs to a control that does not exist",
                                          "slot 4 waits for an event that a window never gets",
                                          "slot 5 waits for an event that \"Text1\" never gets",
                                          "slot 6 waits for an event that \"Text1\" never gets"}));

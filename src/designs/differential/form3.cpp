@@ -65,7 +65,7 @@ void Form3::tellAbout(Handle field)
 {
     tell(field, When::focus);
     if (!visible(Image3))
-        tell(field, texts::lesson);
+        tell(field, When::lesson);
 }
 
 // The line goes back to the field in hand; what is in hand without a line of its own leaves it empty.

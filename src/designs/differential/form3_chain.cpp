@@ -61,7 +61,7 @@ bool Form3::sayEmpty(Handle field)
     if (!isEmpty(field))
         return false;
     q_.passed = false;
-    tell(sheets::placeANumber);
+    tell(field, sheets::When::empty);
     return true;
 }
 

@@ -69,6 +69,21 @@ constexpr ControlRow shape(host::Handle id, std::string_view name, const Place& 
 {
     return hidden({.id = id, .name = name, .kind = Kind::shape, .place = place, .drawing = drawing});
 }
+/// A face that other controls borrow; by itself it is never seen.
+constexpr ControlRow lent(host::Handle id, std::string_view name, const Place& place,
+                          std::span<const host::Mark> drawing)
+{
+    ControlRow row = shape(id, name, place, drawing);
+    row.look = Look::invisible;
+    return row;
+}
+/// What the meter reads, with its unit.
+constexpr ControlRow reading(host::Handle id, std::string_view name, std::span<const host::Mark> drawing)
+{
+    ControlRow row = shape(id, name, face, drawing);
+    row.look = Look::result;
+    return row;
+}
 /// A point of the circuit that the bench touches; without a drawing until the design is finished.
 constexpr ControlRow touched(host::Handle id, std::string_view name, const Place& place, host::BiText meaning,
                              std::span<const host::Mark> drawing = {})
@@ -126,8 +141,8 @@ constexpr auto controls = std::to_array<ControlRow>({
     part(Shape2, "Shape2", drawings::tail),
     part(Shape3, "Shape3", drawings::collectorResistors),
     part(Shape4, "Shape4", drawings::positiveSupply),
-    shape(Shape5, "Shape5", face, drawings::meterFace),
-    shape(Shape6, "Shape6", spot(340, 180), drawings::point),
+    lent(Shape5, "Shape5", face, drawings::meterFace),
+    lent(Shape6, "Shape6", spot(340, 180), drawings::point),
     hidden({.id = Image3, .name = "Image3", .kind = Kind::image, .place = face, .drawing = drawings::generatorFace}),
 
     result(Label22, "Label22", in(288, 276, 104, 24)),
@@ -189,11 +204,11 @@ constexpr auto controls = std::to_array<ControlRow>({
     hidden(touched(Image15, "Image15", onFace(196, 5, 74, 52), {"senoide B", "sinusoid B"}, drawings::screenB)),
 
     hidden({.id = SSPanel2, .name = "SSPanel2", .kind = Kind::panel, .place = onFace(12, 22, 220, 34), .look = Look::invisible}),
-    shape(Shape12, "Shape12", face, drawings::readingV),
-    shape(Shape13, "Shape13", face, drawings::readingMa),
-    shape(Shape14, "Shape14", face, drawings::readingW),
-    shape(Shape15, "Shape15", face, drawings::readingMw),
-    shape(Shape16, "Shape16", face, drawings::readingOhms),
+    reading(Shape12, "Shape12", drawings::readingV),
+    reading(Shape13, "Shape13", drawings::readingMa),
+    reading(Shape14, "Shape14", drawings::readingW),
+    reading(Shape15, "Shape15", drawings::readingMw),
+    reading(Shape16, "Shape16", drawings::readingOhms),
     function(c1, "c1", onFace(310, 16, 42, 30), "V", {"tensión", "voltage"}),
     function(c4, "c4", onFace(358, 16, 42, 30), "A", {"corriente", "current"}),
     function(c5, "c5", onFace(406, 16, 42, 30), "W", {"potencia", "power"}),

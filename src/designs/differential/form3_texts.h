@@ -15,9 +15,6 @@ using host::BiText;
 using sheets::Saying;
 using sheets::When;
 
-/// The short page of `SSPanel4` about the field in hand is told by its slot, since the bench may have taken its place.
-inline constexpr When lesson = When::named;
-
 // clang-format off
 // Formulas as text, for whoever reads the sheet by ear; on the screen they are drawn.
 inline constexpr std::string_view formulaOfERes =
@@ -44,10 +41,11 @@ inline constexpr std::string_view formulaOfRe =
 
 // about, moment, place, Spanish, English
 inline constexpr auto sayings = std::to_array<Saying>({
+    sheets::placeANumber,
     // the fields in chain order: the line, the page, the prompt, the help on pointing
     {Text1, When::focus, StatusBar1, {"% ΔQic: variación admisible de la corriente de reposo con la temperatura, de 1 a 10 %.",
                                       "% ΔQic: allowed change of the quiescent current with the temperature, from 1 to 10 %."}},
-    {Text1, lesson, SSPanel4, {"La estabilidad primero.\n\n"
+    {Text1, When::lesson, SSPanel4, {"La estabilidad primero.\n\n"
                                "¿Cuánto puede cambiar la corriente de reposo cuando la temperatura sube de 20 ºC a la de trabajo?\n\n"
                                "Cuanto menos permita, mayor será la fuente negativa.",
                                "Stability first.\n\n"
@@ -58,12 +56,12 @@ inline constexpr auto sayings = std::to_array<Saying>({
                                       "Kelvin.",
                                       "Ambient temperature of work, from 20 to 200 ºC. Right button: conversion from Fahrenheit and "
                                       "Kelvin."}},
-    {Text6, lesson, SSPanel4, {"La temperatura más alta en la que trabajará el equipo, adentro de su gabinete.\n\n"
+    {Text6, When::lesson, SSPanel4, {"La temperatura más alta en la que trabajará el equipo, adentro de su gabinete.\n\n"
                                "Con el botón derecho puede convertirla desde Fahrenheit ó Kelvin.",
                                "The highest temperature in which the equipment will work, inside its case.\n\n"
                                "With the right button you can convert it from Fahrenheit or Kelvin."}},
     {Text7, When::focus, StatusBar1, {"Para  Ic=1 mA, corresponde 2.5 mV por °C.", "For Ic=1 MA, it corresponds 2.5 mV for °C."}},
-    {Text7, lesson, SSPanel4, {"La tensión Base - Emisor cae unos milivoltios por cada grado.\n\n"
+    {Text7, When::lesson, SSPanel4, {"La tensión Base - Emisor cae unos milivoltios por cada grado.\n\n"
                                "En un par diferencial los dos transistores cambian juntos, y la diferencia se cancela. La corriente de "
                                "reposo no: de ella cuida Res.",
                                "The Base - Emitter voltage falls some millivolts for each degree.\n\n"
@@ -71,70 +69,70 @@ inline constexpr auto sayings = std::to_array<Saying>({
                                "does not: Res takes care of it."}},
     {Text9, When::focus, StatusBar1, {"Qic: corriente de reposo de cada transistor, en mA. Por Res circula el doble.",
                                       "Qic: quiescent current of each transistor, in mA. Twice as much flows in Res."}},
-    {Text9, lesson, SSPanel4, {"La corriente de cada transistor sin señal. Por Res circulan las dos.\n\n"
+    {Text9, When::lesson, SSPanel4, {"La corriente de cada transistor sin señal. Por Res circulan las dos.\n\n"
                                "Fija r'e = 25 mV / Qic, y con ella la ganancia y la impedancia de entrada.\n\n"
                                "Con cargas pequeñas deberá elevarla.",
                                "The current of each transistor without a signal. In Res flow both.\n\n"
                                "It fixes r'e = 25 mV / Qic, and with it the gain and the input impedance.\n\n"
                                "With small loads you will have to raise it."}},
     {Text10, When::focus, StatusBar1, {"RLw: carga de cada salida, en Kohms.", "RLw: load of each output, in Kohms."}},
-    {Text10, lesson, SSPanel4, {"La resistencia que se conecta a cada salida, después de Cco.\n\n"
+    {Text10, When::lesson, SSPanel4, {"La resistencia que se conecta a cada salida, después de Cco.\n\n"
                                 "Debe ser mayor que RLac = Vg x 2.5 x r'e; si no, Qic es insuficiente.",
                                 "The resistance connected to each output, behind Cco.\n\n"
                                 "It must be larger than RLac = Vg x 2.5 x r'e; if not, Qic is insufficient."}},
     {Text11, When::focus, StatusBar1, {"S: factor de estabilidad, de 1 a 200.   Rb2 = S x Res",
                                        "S: stability factor, from 1 to 200.   Rb2 = S x Res"}},
-    {Text11, lesson, SSPanel4, {"Cuántas veces mayor que Res puede ser el resistor de base: Rb2 = S x Res.\n\n"
+    {Text11, When::lesson, SSPanel4, {"Cuántas veces mayor que Res puede ser el resistor de base: Rb2 = S x Res.\n\n"
                                 "Con S = 1 la base queda firme; con S mayor sube la impedancia y baja la estabilidad.",
                                 "How many times larger than Res the resistor of the base may be: Rb2 = S x Res.\n\n"
                                 "With S = 1 the base stands firm; a larger S raises the impedance and lowers the stability."}},
     {Text12, When::focus, StatusBar1, {"Vg= RLac / 2.5 x r'e          Vg= Eopp / Ein(pp)",
                                        "Vg= RLac / 2.5 x r'e          Vg= Eopp / Ein(pp)"}},
-    {Text12, lesson, SSPanel4, {"La ganancia de tensión de una salida contra masa. Entre los dos colectores obtendrá el doble.\n\n"
+    {Text12, When::lesson, SSPanel4, {"La ganancia de tensión de una salida contra masa. Entre los dos colectores obtendrá el doble.\n\n"
                                 "Al final del diseño el cuadro muestra la ganancia que resulta con los valores comerciales.",
                                 "The voltage gain of one output against ground. Between the two collectors you get twice as much.\n\n"
                                 "At the end of the design the field shows the gain that comes out with the commercial values."}},
     {Text13, When::focus, StatusBar1, {"fo: frecuencia de corte inferior, donde la ganancia cae un 10 %.",
                                        "fo: lower cut-off frequency, where the gain falls 10 %."}},
-    {Text13, lesson, SSPanel4, {"La frecuencia más baja de interés. En ella la ganancia cae un 10 %.\n\n"
+    {Text13, When::lesson, SSPanel4, {"La frecuencia más baja de interés. En ella la ganancia cae un 10 %.\n\n"
                                 "De fo salen los capacitores: cuanto más baja, más grandes.",
                                 "The lowest frequency of interest. There the gain falls 10 %.\n\n"
                                 "From fo come the capacitors: the lower it is, the larger they are."}},
     {Text14, When::focus, StatusBar1, {"Eopp: tensión de salida pico a pico, en Volts.   Ein = ((Eopp / 2) x 0.707) / Vg",
                                        "Eopp: output voltage peak to peak, in Volts.   Ein = ((Eopp / 2) x 0.707) / Vg"}},
-    {Text14, lesson, SSPanel4, {"La tensión de salida pico a pico que debe entregar cada colector.\n\n"
+    {Text14, When::lesson, SSPanel4, {"La tensión de salida pico a pico que debe entregar cada colector.\n\n"
                                 "EQ(min) = 1 + Eopp: la señal necesita lugar para moverse, y un voltio más.",
                                 "The output voltage peak to peak that each collector must deliver.\n\n"
                                 "EQ(min) = 1 + Eopp: the signal needs room to move, and one volt more."}},
     {Text15, When::focus, StatusBar1, {"Ein: tensión de entrada en valor eficaz.   Eopp = ((Ein x 1.41) x 2) x Vg",
                                        "Ein: input voltage (r.m.s.).   Eopp = ((Ein x 1.41) x 2) x Vg"}},
-    {Text15, lesson, SSPanel4, {"La señal de entrada, en valor eficaz, que produce esa salida.\n\n"
+    {Text15, When::lesson, SSPanel4, {"La señal de entrada, en valor eficaz, que produce esa salida.\n\n"
                                 "Si la cambia, Eopp se calcula de nuevo.",
                                 "The input signal, r.m.s., that makes that output.\n\n"
                                 "If you change it, Eopp is worked out anew."}},
     {Text5, When::focus, StatusBar1, {"Beta (hFE): ganancia de corriente del transistor, según el Manual.   Zin = Beta x 2 x r'e",
                                       "Beta (hFE): current gain of the transistor, as in the Manual.   Zin = Beta x 2 x r'e"}},
-    {Text5, lesson, SSPanel4, {"Beta (hFE) según el Manual del transistor, a la corriente Qic. Los dos deben ser apareados.\n\n"
+    {Text5, When::lesson, SSPanel4, {"Beta (hFE) según el Manual del transistor, a la corriente Qic. Los dos deben ser apareados.\n\n"
                                "Zin = Beta x 2 x r'e",
                                "Beta (hFE) as the transistor's Manual gives it, at the current Qic. Both must be matched.\n\n"
                                "Zin = Beta x 2 x r'e"}},
     {Text2, When::focus, StatusBar1, {"Ec(máx): tensión Colector - Emisor máxima que soporta el transistor, en Volts.",
                                       "Ec(max): largest Collector - Emitter voltage that the transistor supports, in Volts."}},
-    {Text2, lesson, SSPanel4, {"La tensión que soporta el transistor entre Colector y Emisor. EQ no debe superarla.",
+    {Text2, When::lesson, SSPanel4, {"La tensión que soporta el transistor entre Colector y Emisor. EQ no debe superarla.",
                                "The voltage that the transistor supports between Collector and Emitter. EQ should not pass it."}},
     {Text3, When::focus, StatusBar1, {"Ic(máx): corriente máxima de Colector, en mA. Qic no debe superar su 40 %.",
                                       "Ic(max): largest Collector current, in mA. Qic should not pass 40 % of it."}},
-    {Text3, lesson, SSPanel4, {"La corriente de Colector que soporta el transistor. Qic no debe superar el 40 %.",
+    {Text3, When::lesson, SSPanel4, {"La corriente de Colector que soporta el transistor. Qic no debe superar el 40 %.",
                                "The Collector current that the transistor supports. Qic should not pass 40 % of it."}},
     {Text4, When::focus, StatusBar1, {"Tensión de juntura: 0.6 V para Silicio, 0.2 V para Germanio.",
                                       "Junction voltage: 0.6 V for Silicon, 0.2 V for Germanium."}},
-    {Text4, lesson, SSPanel4, {"La juntura Base - Emisor: 0.6 V en Silicio, 0.2 V en Germanio.\n\n"
+    {Text4, When::lesson, SSPanel4, {"La juntura Base - Emisor: 0.6 V en Silicio, 0.2 V en Germanio.\n\n"
                                "Con este dato el programa calcula la mínima fuente negativa.",
                                "The Base - Emitter junction: 0.6 V in Silicon, 0.2 V in Germanium.\n\n"
                                "With it the program works out the least negative supply."}},
     {Text8, When::focus, StatusBar1, {"-Ebias: fuente negativa, en Volts. Coloque un valor disponible, igual o superior al propuesto.",
                                       "-Ebias: negative supply, in Volts. Place an available value, equal to the proposed one or higher."}},
-    {Text8, lesson, SSPanel4, {"ERes = ((T - 20) x ΔVbe x 100) / % ΔQic\n\n"
+    {Text8, When::lesson, SSPanel4, {"ERes = ((T - 20) x ΔVbe x 100) / % ΔQic\n\n"
                                "El programa propone un voltio más. Coloque una fuente que tenga: 15, 24, 30 V.\n\n"
                                "Con menos, el amplificador no cumple la estabilidad que pidió.",
                                "ERes = ((T - 20) x ΔVbe x 100) / % ΔQic\n\n"
@@ -144,7 +142,7 @@ inline constexpr auto sayings = std::to_array<Saying>({
     {Text8, When::hover, Shape7},
     {Text16, When::focus, StatusBar1, {"Res: resistor común de emisores, en Kohms. Coloque el valor comercial más próximo.",
                                        "Res: common resistor of the emitters, in Kohms. Place the nearest commercial value."}},
-    {Text16, lesson, SSPanel4, {"Res = Ebias / (2 x Qic)\n\n"
+    {Text16, When::lesson, SSPanel4, {"Res = Ebias / (2 x Qic)\n\n"
                                 "Por Res circulan las corrientes de los dos transistores. Coloque el valor comercial más próximo: Qic se "
                                 "calcula de nuevo.",
                                 "Res = Ebias / (2 x Qic)\n\n"
@@ -156,7 +154,7 @@ inline constexpr auto sayings = std::to_array<Saying>({
     {Text16, When::hover, Text21},
     {Text17, When::focus, StatusBar1, {"RL: resistor de cada Colector, en Kohms. Coloque el valor comercial más próximo.",
                                        "RL: resistor of each Collector, in Kohms. Place the nearest commercial value."}},
-    {Text17, lesson, SSPanel4, {"RL y la carga RLw, en paralelo, forman RLac.\n\n"
+    {Text17, When::lesson, SSPanel4, {"RL y la carga RLw, en paralelo, forman RLac.\n\n"
                                 "Con el valor comercial el programa calcula ERl = Qic x RL, que debe llegar a la mitad de Eopp.",
                                 "RL and the load RLw, in parallel, make RLac.\n\n"
                                 "With the commercial value the program works out ERl = Qic x RL, which must reach half of Eopp."}},
@@ -167,7 +165,7 @@ inline constexpr auto sayings = std::to_array<Saying>({
     {Text17, When::hover, Text21},
     {Text18, When::focus, StatusBar1, {"Es: fuente positiva, en Volts. Debe alcanzar para EQ(min) y ERl.",
                                        "Es: positive supply, in Volts. It must do for EQ(min) and ERl."}},
-    {Text18, lesson, SSPanel4, {"Es = EQ + ERl\n\n"
+    {Text18, When::lesson, SSPanel4, {"Es = EQ + ERl\n\n"
                                 "Coloque una fuente que supere la mínima. Con Enter termina el diseño, y el multímetro espera.",
                                 "Es = EQ + ERl\n\n"
                                 "Place a supply that passes the least one. With Enter the design is finished, and the multimeter waits."}},
