@@ -134,7 +134,8 @@ const host::WindowSpec mainSpec{.name = "MDIForm1",
                                 .place = {0, 0, 20250, 10125},
                                 .controls = mainRows,
                                 .slots = mainSlots,
-                                .create = make<mainSpec>};
+                                .create = make<mainSpec>,
+                                .mainParts = {.welcome = SSPanel1}};
 const host::WindowSpec sheetSpec{.name = "Hoja",
                                  .role = host::Role::sheet,
                                  .caption = "Hoja [*] & <b>",

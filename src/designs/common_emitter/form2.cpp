@@ -181,7 +181,8 @@ const host::WindowSpec spec{.name = "Form2",
                             .shortcuts = form2_tables::shortcuts,
                             .create = form2_tables::create,
                             .sheetTitle = sheetTitle,
-                            .shownPlace = form2_tables::shownPlace};
+                            .shownPlace = form2_tables::shownPlace,
+                            .helpPair = {Image35, Image34}};
 
 Form2::Form2(host::SheetHost& host) : DesignSheet(host, form2::spec, form2_tables::sheetSpec) {}
 

@@ -514,6 +514,7 @@ const host::WindowSpec spec{
     .create = create,
     .sheetTitle = {.es = "  Diferencial Simple", .en = "  Long Tail Pairs  -  Differential Amplifier"},
     .shownPlace = table::shown,
+    .helpPair = {Image35, Image34},
 };
 
 } // namespace velmor::form3

@@ -221,13 +221,11 @@ bool Keyboard::closeTool()
 bool Keyboard::toggleHelp()
 {
     host::Window& model = *canvas_.model();
-    for (const std::string_view name : {"Image35", "Image34"}) {
-        const Handle picture = model.named(name);
+    for (const Handle picture : model.spec().helpPair)
         if (picture != noControl && model.visible(picture)) {
             canvas_.desk().engine->userClick(model, picture);
             return true;
         }
-    }
     return false;
 }
 

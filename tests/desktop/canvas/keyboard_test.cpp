@@ -8,8 +8,8 @@
 
 #include "desktop/canvas/keyboard.h"
 #include "desktop/desktop_fixture.h"
-#include "desktop/windows/menus.h"
 #include "places.h"
+#include "program/catalogue.h"
 
 namespace velmor::test::keyboard_test {
 
@@ -280,8 +280,12 @@ TEST_F(KeyboardTest, thePageOnKeysNamesThemAll)
     };
     for (const desktop::CommonKeyRow& row : desktop::commonKeys())
         EXPECT_TRUE(names(row.keys)) << row.keys;
-    for (const desktop::MenuKeys& row : desktop::mainMenuKeys())
-        EXPECT_TRUE(names(row.keys)) << row.keys;
+    const host::WindowSpec& main = *program::catalogue().front();
+    ASSERT_EQ(main.role, host::Role::mainWindow);
+    for (const host::ShortcutRow& row : main.shortcuts)
+        EXPECT_TRUE(row.control == host::noControl || main.controls[row.control].kind != host::Kind::menu ||
+                    names(row.keys))
+            << row.keys;
 }
 
 TEST_F(KeyboardTest, aKeyTheTextBoxLeavesOverIsHeardOnce)
