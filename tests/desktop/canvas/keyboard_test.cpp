@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
+#include <QInputMethodEvent>
+#include <QTest>
 
 #include "desktop/canvas/keyboard.h"
 #include "desktop/desktop_fixture.h"
@@ -203,6 +205,60 @@ TEST_F(KeyboardTest, theHoverKeysSayWhatTheMouseOverTheFieldSays)
     EXPECT_EQ(on.sheet().log, (std::vector<std::string>{"Text1 hover", "Text1 hover"}));
 }
 
+TEST_F(KeyboardTest, f1ClicksThePictureOfTheHelpThatIsVisible)
+{
+    on.sheet().log.clear();
+    on.keys("F1");
+    on.engine.userRun([this] { on.sheet().hide(Image1); });
+    on.keys("F1");
+    EXPECT_EQ(on.sheet().log, (std::vector<std::string>{"Image1 down", "Image1 click", "Label1 down", "Label1 click"}));
+}
+
+TEST_F(KeyboardTest, aToolWhoseFieldKeepsEscapeToItselfStaysOpen)
+{
+    auto& tool = static_cast<BenchWindow&>(on.show("Herramienta"));
+    tool.deeds[{ToolText, Event::key}] = [](host::EventArgs& args) { args.key = 0; };
+    on.keys("Esc");
+    EXPECT_NE(on.engine.defaultInstance("Herramienta"), nullptr);
+}
+
+TEST_F(KeyboardTest, composedTextPassesTheFilterToo)
+{
+    QInputMethodEvent event;
+    event.setCommitString(QStringLiteral("1,a5"));
+    QCoreApplication::sendEvent(&on.field(Text1), &event);
+    on.settle();
+    EXPECT_EQ(on.sheet().text(Text1), "1.5");
+    EXPECT_EQ(keys, (std::vector<int>{'1', ',', 'a', '5'}));
+}
+
+TEST_F(KeyboardTest, aCharacterOfTheThirdLevelPassesTheFilterToo)
+{
+    // AltGr reaches some programs as Ctrl and Alt.
+    for (const QString& letter : {QStringLiteral("2"), QStringLiteral("@")})
+        QTest::simulateEvent(QGuiApplication::focusWindow(), true, Qt::Key_2, Qt::ControlModifier | Qt::AltModifier,
+                             letter, false);
+    on.settle();
+    EXPECT_EQ(on.sheet().text(Text1), "2");
+    EXPECT_EQ(keys, (std::vector<int>{'2', '@'}));
+}
+
+TEST_F(KeyboardTest, escapeIsHeardByAButtonAndAPageInHand)
+{
+    std::vector<int> codes;
+    for (const host::Handle control : {Command1, Page1})
+        on.sheet().deeds[{control, Event::key}] = [&](host::EventArgs& args) { codes.push_back(args.key); };
+    on.click(Command1);
+    on.key(Qt::Key_Escape);
+    on.engine.userRun([this] {
+        on.sheet().show(Page1);
+        on.engine.host().SetFocus(on.sheet(), Page1);
+    });
+    on.settle();
+    on.key(Qt::Key_Escape);
+    EXPECT_EQ(codes, (std::vector<int>{27, 27}));
+}
+
 TEST_F(KeyboardTest, everyRowOfTheSheetsTableDoesItsDeed)
 {
     on.sheet().log.clear();
@@ -248,6 +304,22 @@ TEST_F(KeyboardTest, escapeClosesATool)
     on.settle();
     on.keys("Esc");
     EXPECT_EQ(on.engine.defaultInstance("Herramienta"), nullptr);
+}
+
+TEST_F(KeyboardTest, enterInAFieldOfAToolGoesToItsSlotAloneWhereItHasOne)
+{
+    auto& tool = static_cast<BenchWindow&>(on.show("Herramienta"));
+    tool.log.clear();
+    on.key(Qt::Key_Return);
+    EXPECT_EQ(tool.log, (std::vector<std::string>{"Text1 key"})) << "the button is not pressed besides";
+}
+
+TEST_F(KeyboardTest, enterInAFieldOfAToolThatKnowsNothingOfItPressesTheFirstButton)
+{
+    auto& tool = static_cast<BenchWindow&>(on.show("Pregunta"));
+    tool.log.clear();
+    on.key(Qt::Key_Return);
+    EXPECT_EQ(tool.log, (std::vector<std::string>{"Command1 down", "Command1 click"}));
 }
 
 TEST_F(KeyboardTest, escapeInThePaletteGivesTheKeyboardBackAndEndsNothing)

@@ -188,6 +188,69 @@ TEST_F(ViewTest, aDoubleClickOnWhatKnowsNoneIsTwoClicks)
     EXPECT_EQ(std::count(log().begin(), log().end(), "Image1 click"), 2);
 }
 
+TEST_F(ViewTest, thePointerIsAHandOverWhatCanBeClickedAndNothingDisabledAnswersIt)
+{
+    const desktop::Canvas& canvas = on.viewOf(on.sheet()).canvas();
+    on.moveTo(Image14); // a move to where the pointer is already would be none
+    on.moveTo(Image1);
+    EXPECT_EQ(canvas.cursor().shape(), Qt::PointingHandCursor);
+    EXPECT_EQ(canvas.view().hovered, Image1);
+    on.engine.userRun([this] { on.sheet().disable(Image12); });
+    on.moveTo(Image12);
+    EXPECT_EQ(canvas.cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(canvas.view().hovered, host::noControl);
+}
+
+TEST_F(ViewTest, aButtonLooksPressedWhileTheMouseIsDown)
+{
+    const desktop::Canvas& canvas = on.viewOf(on.sheet()).canvas();
+    QWindow* window = on.main().windowHandle();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, on.middleOf(on.sheet(), Image1));
+    EXPECT_EQ(canvas.view().pressed, Image1);
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, on.middleOf(on.sheet(), Image1));
+    EXPECT_EQ(canvas.view().pressed, host::noControl);
+}
+
+TEST_F(ViewTest, aClickTellsTheShiftState)
+{
+    int shift = 0;
+    on.sheet().deeds[{Image1, Event::mouseDown}] = [&](host::EventArgs& args) { shift = args.shift; };
+    on.click(Image1, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(shift, 1);
+    on.click(Image1, Qt::LeftButton, Qt::ControlModifier);
+    EXPECT_EQ(shift, 2);
+}
+
+TEST_F(ViewTest, aHandThatTremblesDragsNothingAndOneThatGoesOnLeavesWhatItPassed)
+{
+    QWindow* window = on.main().windowHandle();
+    const QPoint start = on.middleOf(on.sheet(), Image14);
+    log().clear();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
+    QTest::mouseMove(window, start + QPoint(2, 1));
+    EXPECT_EQ(on.viewOf(on.sheet()).canvas().findChild<QLabel*>(), nullptr);
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, start + QPoint(2, 1));
+    on.settle();
+    EXPECT_EQ(log().back(), "Image14 click");
+    log().clear();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
+    QTest::mouseMove(window, on.middleOf(on.sheet(), Image1));
+    QTest::mouseMove(window, on.middleOf(on.sheet(), Image12));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, on.middleOf(on.sheet(), Image12));
+    on.settle();
+    EXPECT_EQ(log(), (std::vector<std::string>{"Image1 leave", "Image12 drop"}));
+}
+
+TEST_F(ViewTest, aDoubleClickIsTwoPressesOnTheSameThing)
+{
+    log().clear();
+    on.clickQuickly(Label1, Label1);
+    EXPECT_EQ(log(), (std::vector<std::string>{"Label1 down", "Label1 click", "Label1 double"}));
+    log().clear();
+    on.clickQuickly(Label1, Image12);
+    EXPECT_EQ(log(), (std::vector<std::string>{"Label1 down", "Label1 click", "Image12 down", "Image12 click"}));
+}
+
 TEST_F(ViewTest, aDragEndsInADropAndAShortPressIsAClick)
 {
     log().clear();
@@ -288,6 +351,8 @@ TEST_F(ViewTest, menusShowCaptionsChecksAndAskBeforeTheyOpen)
     EXPECT_EQ(main.log.back(), "mnuIng click");
     on.engine.userRun([&] { main.setText(mnuOp, "&Options"); });
     EXPECT_EQ(on.main().menus().actionOf(mnuOp)->text(), "&Options");
+    on.engine.userRun([&] { main.hide(mnuIng); });
+    EXPECT_FALSE(on.main().menus().actionOf(mnuIng)->isVisible());
 }
 
 TEST_F(ViewTest, aRefusedCloseLeavesTheSheet)
