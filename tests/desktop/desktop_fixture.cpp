@@ -117,11 +117,15 @@ template <std::size_t Count> constexpr auto allSlots()
                   everyControl<Event::change, Count>(), everyControl<Event::drop, Count>(), everyControl<Event::timer, Count>(),
                   everyControl<Event::menuOpen, Count>(), windowSlots);
 }
-constexpr auto sheetSlots = joined(allSlots<controlCount>(), std::array<host::SlotRow, 3>{{ {Image1, Event::dragLeave, noted<Event::dragLeave>},
-    {Label1, Event::doubleClick, noted<Event::doubleClick>}, {Image12, Event::doubleClick, noted<Event::doubleClick>}}});
+constexpr std::array<host::SlotRow, 3> furtherSlots{{
+    {Image1, Event::dragLeave, noted<Event::dragLeave>},
+    {Label1, Event::doubleClick, noted<Event::doubleClick>}, {Image12, Event::doubleClick, noted<Event::doubleClick>},
+}};
+constexpr auto sheetSlots = joined(allSlots<controlCount>(), furtherSlots);
 constexpr auto mainSlots = allSlots<std::size(mainRows)>();
 constexpr auto toolSlots = allSlots<std::size(toolRows)>();
-constexpr auto questionSlots = joined(everyControl<Event::click, std::size(toolRows)>(), everyControl<Event::mouseDown, std::size(toolRows)>());
+constexpr auto questionSlots = joined(everyControl<Event::click, std::size(toolRows)>(),
+                                      everyControl<Event::mouseDown, std::size(toolRows)>());
 constexpr auto editorSlots = allSlots<std::size(editorRows)>();
 // clang-format on
 
