@@ -43,6 +43,7 @@ auto DesktopScreen::ask(Ask question)
 {
     const bool wasBusy = busy_;
     busyPointer(false);
+    texts_.speak(desk_.english());
     QPointer<QWidget> parent(keeper_->dialogParent());
     auto answer = question(parent.data());
     keeper_->dialogClosed(parent);
@@ -57,7 +58,7 @@ host::Answer DesktopScreen::messageBox(const host::MessageBox& box)
 
 std::optional<std::string> DesktopScreen::fileDialog(const host::FileDialog& dialog)
 {
-    return ask([&](QWidget* parent) { return askFile(parent, dialog, shown(programFolder()), desk_.english()); });
+    return ask([&](QWidget* parent) { return askFile(parent, dialog, shown(programFolder())); });
 }
 
 std::optional<std::string> DesktopScreen::inputBox(const host::InputBox& box)
@@ -70,12 +71,12 @@ std::optional<std::string> DesktopScreen::inputBox(const host::InputBox& box)
 
 std::optional<std::int32_t> DesktopScreen::colourDialog(std::int32_t initial)
 {
-    return ask([&](QWidget* parent) { return askColour(parent, initial, desk_.english()); });
+    return ask([&](QWidget* parent) { return askColour(parent, initial); });
 }
 
 std::optional<host::Font> DesktopScreen::fontDialog(const host::Font& initial)
 {
-    return ask([&](QWidget* parent) { return askFont(parent, initial, desk_.english()); });
+    return ask([&](QWidget* parent) { return askFont(parent, initial); });
 }
 
 std::string DesktopScreen::now()
@@ -112,6 +113,12 @@ void DesktopScreen::prepareFolder()
         fillProgramFolder(folder_, places_.guides);
 }
 
+void DesktopScreen::settleIn()
+{
+    prepareFolder();
+    texts_.speak(desk_.english());
+}
+
 std::string DesktopScreen::programFolder()
 {
     prepareFolder();
@@ -137,7 +144,7 @@ void DesktopScreen::setClipboardText(std::string_view text)
 void DesktopScreen::print(const host::PrintJob& job)
 {
     ask([&](QWidget* parent) {
-        askAndPrint(parent, job, desk_.english());
+        askAndPrint(parent, job);
         return true;
     });
 }
@@ -192,6 +199,8 @@ void DesktopScreen::windowGone(host::Window& window)
 
 void DesktopScreen::bringUpToDate()
 {
+    if (!desk_.closing)
+        texts_.follow(desk_.english());
     if (keeper_)
         keeper_->bringUpToDate();
 }

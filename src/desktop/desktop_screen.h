@@ -10,6 +10,7 @@
 #include "desktop/canvas/desk.h"
 #include "desktop/other_instance.h"
 #include "desktop/program_folder.h"
+#include "desktop/toolkit_texts.h"
 #include "host/screen.h"
 
 namespace velmor::desktop {
@@ -26,8 +27,8 @@ public:
     void attach(host::Engine& engine);
     /// Before the engine goes: the views let go of its windows.
     void detach();
-    /// The first start's filling of the program's folder; for after the first window is shown.
-    void prepareFolder();
+    /// What can wait until the first window is shown: the first start's filling of the program's folder, the toolkit's texts.
+    void settleIn();
     Desk& desk() { return desk_; }
     WindowKeeper& keeper() { return *keeper_; }
 
@@ -63,9 +64,11 @@ public:
 private:
     template <class Ask>
     auto ask(Ask question);
+    void prepareFolder();
 
     FolderPlaces places_;
     OtherInstance instance_;
+    ToolkitTexts texts_;
     Desk desk_;
     std::unique_ptr<WindowKeeper> keeper_;
     QString folder_;

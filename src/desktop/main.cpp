@@ -17,7 +17,7 @@ int main(int argumentCount, char** arguments)
     velmor::program::start(engine);
     if (engine.ended())
         return 0;
-    QTimer::singleShot(0, &application, [&screen] { screen.prepareFolder(); });
+    QTimer::singleShot(0, &application, [&screen] { screen.settleIn(); });
     const int result = velmor::desktop::Application::exec();
     screen.detach();
     return result;

@@ -9,7 +9,7 @@
 #include <QPrinter>
 
 #include "desktop/drawing/texts.h"
-#include "desktop/windows/questions.h"
+#include "desktop/page_lines.h"
 
 namespace velmor::desktop {
 
@@ -19,36 +19,6 @@ constexpr double twipsPerPoint = 20.0;
 constexpr double printersOwnSize = 10.0; ///< points, when the job names none
 constexpr double marginMillimetres = 15.0;
 constexpr double sideMillimetres = 10.0;
-
-/// The blanks with which a line begins, when they leave most of the page free.
-QString indentOf(const QString& line, const QFontMetricsF& metrics, double width)
-{
-    qsizetype blanks = 0;
-    while (blanks < line.size() && line[blanks] == QLatin1Char(' '))
-        ++blanks;
-    const QString indent = line.left(blanks);
-    return metrics.horizontalAdvance(indent) < width / 3.0 ? indent : QString();
-}
-
-// Breaks a line that is wider than the page after the last blank that fits, or in the word when there is none. What is
-// carried over stands under the line's beginning.
-void appendBroken(QStringList& lines, QString line, const QFontMetricsF& metrics, double width)
-{
-    const QString indent = indentOf(line, metrics, width);
-    while (metrics.horizontalAdvance(line) > width) {
-        qsizetype low = 1;
-        qsizetype high = line.size();
-        while (low + 1 < high) {
-            const qsizetype middle = (low + high) / 2;
-            (metrics.horizontalAdvance(line.left(middle)) <= width ? low : high) = middle;
-        }
-        const qsizetype blank = line.lastIndexOf(QLatin1Char(' '), low - 1);
-        const qsizetype end = blank > indent.size() ? blank + 1 : low;
-        lines.append(line.left(end));
-        line.replace(0, end, indent);
-    }
-    lines.append(line);
-}
 
 QString withoutTabs(QString line)
 {
@@ -90,9 +60,10 @@ QStringList printedLines(const host::PrintJob& job, double pageTwips)
     QString text = shown(job.text);
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\r"));
     text.replace(QLatin1Char('\n'), QLatin1Char('\r'));
+    const WidthOf widthOf = [&metrics](const QString& stretch) { return metrics.horizontalAdvance(stretch); };
     QStringList lines;
     for (const QString& line : text.split(QLatin1Char('\r')))
-        printing_detail::appendBroken(lines, printing_detail::withoutTabs(line), metrics, pageTwips);
+        lines += brokenLine(printing_detail::withoutTabs(line), pageTwips, widthOf);
     while (lines.size() > 1 && lines.last().isEmpty())
         lines.removeLast();
     return lines;
@@ -124,9 +95,8 @@ bool printOn(QPagedPaintDevice& device, const host::PrintJob& job)
     return painter.end();
 }
 
-void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english)
+void askAndPrint(QWidget* parent, const host::PrintJob& job)
 {
-    speakInDialogs(english);
     QPrinter printer(QPrinter::HighResolution);
     const double margin = printing_detail::marginMillimetres;
     printer.setPageMargins(

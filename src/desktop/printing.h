@@ -26,6 +26,6 @@ QStringList printedLines(const host::PrintJob& job, double pageTwips);
 bool printOn(QPagedPaintDevice& device, const host::PrintJob& job);
 
 /// Asks for the printer (or a PDF file) and prints.
-void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english);
+void askAndPrint(QWidget* parent, const host::PrintJob& job);
 
 } // namespace velmor::desktop

@@ -239,8 +239,15 @@ constexpr std::array ownSlots{
 // clang-format on
 
 // clang-format off
-// What the mouse does on bar and panel, by key. The last row has a deed of its own: the right button on the background.
+// What the mouse does in menus, on bar and on panel, by key. The last row has a deed of its own: the right button on the background.
 constexpr host::ShortcutRow shortcuts[] = {
+    {.keys = "Ctrl+N",        .control = mnuCirc,  .meaning = {.es = "Los diseños nuevos", .en = "The new designs"}},
+    {.keys = "Ctrl+O",        .control = mnuFile0, .meaning = {.es = "Los circuitos guardados", .en = "The circuits to open"}},
+    {.keys = "Ctrl+S",        .control = mnuFile1, .meaning = {.es = "Salvar el circuito", .en = "Save the circuit"}},
+    {.keys = "Ctrl+Shift+S",  .control = mnuFile2, .meaning = {.es = "Salvar con otro nombre", .en = "Save under another name"}},
+    {.keys = "Ctrl+W",        .control = mnuFile3, .meaning = {.es = "Cerrar la hoja", .en = "Close the sheet"}},
+    {.keys = "Ctrl+Shift+I",  .control = mnuIng,   .meaning = {.es = "Inglés", .en = "English"}},
+    {.keys = "Ctrl+Shift+E",  .control = mnuEsp,   .meaning = {.es = "Español", .en = "Spanish"}},
     {.keys = "Ctrl+Shift+F1", .control = imgButton0, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
     {.keys = "Ctrl+Shift+F2", .control = imgButton1, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
     {.keys = "Ctrl+Shift+F3", .control = imgButton2, .action = KeyAction::hover, .meaning = {.es = "Explicar el circuito", .en = "Explain the circuit"}},
@@ -312,6 +319,7 @@ const host::WindowSpec spec{
     .shortcuts = controls_table::shortcuts,
     .create = create,
     .shownPlace = shownPlaceOf,
+    .mainParts = {.bar = Picture14, .welcome = SSPanel1, .pageStrip = pageStrip},
 };
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)

@@ -66,6 +66,7 @@ enum class Symbol : std::uint8_t {
     butterfly,    ///< pictogram
     door,         ///< pictogram: leave
     colourBands,  ///< pictogram: resistor with its colour rings
+    count
 };
 
 /// A point on the drawing's grid, in units u (15 twips; the grid is 10 u), from the left top corner of the control.

@@ -148,6 +148,8 @@ private:
     void makeCurrent(Window& window);
     void leave(Window& window);
     void activateChild(Window* child);
+    void joinMaximised(Window& window);
+    void enterState(Window& window, int state);
     void setState(Window& window, int state);
     void resized(Window& window);
     void arrange(int kind);

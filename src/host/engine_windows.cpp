@@ -14,6 +14,8 @@ constexpr int cascadeStep = 360;
 constexpr int cascadeTurns = 8;
 constexpr int tilesInARow = 4;
 constexpr Place iconPlace{0, 0, 3000, 400};
+constexpr int minimised = 1; ///< of the states of a window; 0 is normal
+constexpr int maximised = 2;
 
 } // namespace engine_windows_detail
 
@@ -118,6 +120,8 @@ void Engine::show(Window& window)
     if (window.gone_)
         return;
     const bool first = !std::exchange(window.everShown_, true);
+    if (first)
+        joinMaximised(window);
     if (!std::exchange(window.shown_, true)) {
         trace("show " + std::string(window.name()));
         window.windowChanged_ = true;
@@ -130,6 +134,15 @@ void Engine::show(Window& window)
         makeCurrent(window);
     if (first)
         firstFocus(window);
+}
+
+// A student who works on one large sheet gets the next one as large.
+void Engine::joinMaximised(Window& window)
+{
+    using engine_windows_detail::maximised;
+    if (!window.isChild() || window.state_ != 0 || activeChild_ == nullptr || activeChild_->state_ != maximised)
+        return;
+    enterState(window, maximised);
 }
 
 void Engine::hide(Window& window)
@@ -258,23 +271,34 @@ void Engine::resized(Window& window)
     run(window, Event::repaint);
 }
 
-void Engine::setState(Window& window, int state)
+void Engine::enterState(Window& window, int state)
 {
-    if (window.gone_ || window.state_ == state)
-        return;
+    using namespace engine_windows_detail;
     if (window.state_ == 0)
         window.normalPlace_ = window.place_;
     window.state_ = state;
     window.windowChanged_ = true;
     trace("state " + std::string(window.name()) + " " + std::to_string(state));
-    if (state == 1)
-        window.setPlace(engine_windows_detail::iconPlace);
-    else if (state == 2 && window.isChild())
+    if (state == minimised)
+        window.setPlace(iconPlace);
+    else if (state == maximised && window.isChild())
         window.setPlace(client_);
     else
         window.setPlace(window.normalPlace_);
-    if (window.loaded_ && window.everShown_)
-        resized(window);
+}
+
+// A minimised window has nothing to paint: what its resize slot brought into sight stays there.
+void Engine::setState(Window& window, int state)
+{
+    using engine_windows_detail::minimised;
+    if (window.gone_ || window.state_ == state)
+        return;
+    enterState(window, state);
+    if (!window.loaded_ || !window.everShown_)
+        return;
+    run(window, Event::resize);
+    if (state != minimised)
+        run(window, Event::repaint);
 }
 
 Place Engine::arrangedPlace(int kind, int index, int count) const

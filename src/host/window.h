@@ -25,7 +25,7 @@ enum class Role : std::uint8_t { mainWindow, sheet, editor, palette, tool };
 
 /// A key that does what otherwise only the mouse reaches. The desktop listens for it; `action` is played on `control`.
 enum class KeyAction : std::uint8_t {
-    click,
+    click, ///< of a menu: the item is chosen, or its items are shown
     doubleClick,
     rightPress,
     hover,
@@ -56,6 +56,13 @@ struct ValueRow {
     Handle part = noControl;
 };
 
+/// What a screen must know of a main window to lay it out.
+struct MainParts {
+    Handle bar = noControl;     ///< panel that takes a strip of its own at an edge
+    Handle welcome = noControl; ///< panel that fills the rest while no child is open
+    Place pageStrip{};          ///< the part of it that may lie over the children while a button talks
+};
+
 /// Everything that is the same for all instances of a window.
 struct WindowSpec {
     std::string_view name{};
@@ -74,6 +81,7 @@ struct WindowSpec {
     std::span<const ValueRow> values{};
     /// Where a screen shows a control when that is not its place in the model; null: every control at its place.
     Place (*shownPlace)(const Window&, Handle) = nullptr;
+    MainParts mainParts{};
 };
 
 /// State of a list control.

@@ -232,6 +232,33 @@ TEST(PrintingTest, theWholeTextIsPrintedAndLongLinesAreBrokenAtBlanks)
     EXPECT_EQ(desktop::printedLines(job, desktop::printedTwips(job.font, "xxxx") + 10.0).join(""), "xxxxxxxxxx");
 }
 
+// The page is 200 mm high without margins; so many lines stand on it, the last with its own height alone.
+TEST(PrintingTest, aPageHoldsEveryLineThatFitsAndNotOneMore)
+{
+    const QTemporaryDir folder;
+    const host::Font font{.name = "DejaVu Sans Mono", .size = 10.0};
+    const QFontMetricsF metrics(desktop::twipFont(font));
+    const double pageTwips = 200.0 / 25.4 * 1440.0;
+    const int lines = 1 + static_cast<int>((pageTwips - metrics.height()) / metrics.lineSpacing());
+    const auto pagesOf = [&](int count) {
+        host::PrintJob job{.text = {}, .font = font};
+        for (int i = 0; i < count; ++i)
+            job.text += "Renglón\r";
+        {
+            QPdfWriter writer(folder.filePath("x.pdf"));
+            writer.setPageLayout(QPageLayout(QPageSize(QSizeF(150, 200), QPageSize::Millimeter), QPageLayout::Portrait,
+                                             QMarginsF(), QPageLayout::Millimeter));
+            EXPECT_TRUE(desktop::printOn(writer, job));
+        }
+        const QByteArray pdf = bytesOf(folder.filePath("x.pdf"));
+        return pdf.count("/Type /Page\n") + pdf.count("/Type /Page/");
+    };
+    EXPECT_EQ(pagesOf(lines), 1) << lines;
+    EXPECT_EQ(pagesOf(lines + 1), 2) << lines;
+    EXPECT_EQ(pagesOf(2 * lines), 2) << lines;
+    EXPECT_EQ(pagesOf(2 * lines + 1), 3) << lines;
+}
+
 TEST(PrintingTest, aLongTextFallsIntoPages)
 {
     const QTemporaryDir folder;

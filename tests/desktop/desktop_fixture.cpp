@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -116,9 +117,15 @@ template <std::size_t Count> constexpr auto allSlots()
                   everyControl<Event::change, Count>(), everyControl<Event::drop, Count>(), everyControl<Event::timer, Count>(),
                   everyControl<Event::menuOpen, Count>(), windowSlots);
 }
-constexpr auto sheetSlots = allSlots<controlCount>();
+constexpr std::array<host::SlotRow, 3> furtherSlots{{
+    {Image1, Event::dragLeave, noted<Event::dragLeave>},
+    {Label1, Event::doubleClick, noted<Event::doubleClick>}, {Image12, Event::doubleClick, noted<Event::doubleClick>},
+}};
+constexpr auto sheetSlots = joined(allSlots<controlCount>(), furtherSlots);
 constexpr auto mainSlots = allSlots<std::size(mainRows)>();
 constexpr auto toolSlots = allSlots<std::size(toolRows)>();
+constexpr auto questionSlots = joined(everyControl<Event::click, std::size(toolRows)>(),
+                                      everyControl<Event::mouseDown, std::size(toolRows)>());
 constexpr auto editorSlots = allSlots<std::size(editorRows)>();
 // clang-format on
 
@@ -127,14 +134,15 @@ std::unique_ptr<host::Window> make(host::SheetHost& host)
 {
     return std::make_unique<BenchWindow>(host, Spec);
 }
-extern const host::WindowSpec mainSpec, sheetSpec, toolSpec, paletteSpec, editorSpec;
+extern const host::WindowSpec mainSpec, sheetSpec, toolSpec, questionSpec, paletteSpec, editorSpec;
 const host::WindowSpec mainSpec{.name = "MDIForm1",
                                 .role = host::Role::mainWindow,
                                 .caption = "Banco",
                                 .place = {0, 0, 20250, 10125},
                                 .controls = mainRows,
                                 .slots = mainSlots,
-                                .create = make<mainSpec>};
+                                .create = make<mainSpec>,
+                                .mainParts = {.welcome = SSPanel1}};
 const host::WindowSpec sheetSpec{.name = "Hoja",
                                  .role = host::Role::sheet,
                                  .caption = "Hoja [*] & <b>",
@@ -150,6 +158,13 @@ const host::WindowSpec toolSpec{.name = "Herramienta",
                                 .controls = toolRows,
                                 .slots = toolSlots,
                                 .create = make<toolSpec>};
+const host::WindowSpec questionSpec{.name = "Pregunta",
+                                    .role = host::Role::tool,
+                                    .caption = "Pregunta",
+                                    .place = {0, 0, 3000, 2000},
+                                    .controls = toolRows,
+                                    .slots = questionSlots,
+                                    .create = make<questionSpec>};
 const host::WindowSpec paletteSpec{.name = "Paleta",
                                    .role = host::Role::palette,
                                    .caption = "Paleta",
@@ -168,8 +183,8 @@ const host::WindowSpec editorSpec{.name = "Editor",
 
 host::Catalogue benchCatalogue()
 {
-    static const host::WindowSpec* const windows[] = {&bench::mainSpec, &bench::sheetSpec, &bench::toolSpec,
-                                                      &bench::paletteSpec, &bench::editorSpec};
+    static const host::WindowSpec* const windows[] = {&bench::mainSpec,     &bench::sheetSpec,   &bench::toolSpec,
+                                                      &bench::questionSpec, &bench::paletteSpec, &bench::editorSpec};
     return windows;
 }
 
@@ -304,6 +319,22 @@ void Bench::doubleClick(Handle control)
 {
     QTest::mouseDClick(viewOf(sheet()).window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
                        middleOf(sheet(), control));
+    settle();
+}
+
+void Bench::clickQuickly(Handle first, Handle second)
+{
+    QWindow* window = viewOf(sheet()).window()->windowHandle();
+    const auto send = [&](QEvent::Type type, Handle control) {
+        const QPointF at = middleOf(sheet(), control);
+        QMouseEvent event(type, at, window->mapToGlobal(at), Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window, &event);
+    };
+    send(QEvent::MouseButtonPress, first);
+    send(QEvent::MouseButtonRelease, first);
+    send(QEvent::MouseButtonDblClick, second);
+    send(QEvent::MouseButtonRelease, second);
     settle();
 }
 

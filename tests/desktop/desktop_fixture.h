@@ -50,7 +50,7 @@ enum Control : host::Handle {
 };
 /// Controls of the main window.
 enum MainControl : host::Handle { mnuArchivo, mnuFile1, mnuOp, mnuIng, SSPanel1 };
-/// Controls of the tool "Herramienta".
+/// Controls of the tools "Herramienta", whose field hears its keys, and "Pregunta", whose field does not.
 enum ToolControl : host::Handle { ToolText, ToolButton };
 /// Controls of the editor "Editor".
 enum EditorControl : host::Handle { txtEdit };
@@ -105,6 +105,8 @@ public:
     void click(host::Window& window, host::Handle control, Qt::MouseButton button = Qt::LeftButton,
                Qt::KeyboardModifiers held = Qt::NoModifier);
     void doubleClick(host::Handle control);
+    /// Presses and releases once on each, the second time within the time of a double click.
+    void clickQuickly(host::Handle first, host::Handle second);
     void moveTo(host::Handle control);
     void drag(host::Handle from, host::Handle to);
     void drag(host::Window& window, host::Handle from, host::Handle to);

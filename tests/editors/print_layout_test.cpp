@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 namespace velmor::print_layout_test {
@@ -67,6 +68,20 @@ TEST(PrintLayout, PutsUpWithACharacterWiderThanTheLine)
 {
     const auto huge = [](char32_t) { return 20000; };
     EXPECT_EQ(breakForPrinter("abc", huge), "a\rb\rc");
+}
+
+TEST(PrintLayout, AsksForTheWidthOfEachKindOfCharacterOnceHoweverLongTheLineIs)
+{
+    std::string line;
+    while (line.size() < 3'000'000)
+        line += "Ma a";
+    int asked = 0;
+    const std::string result = breakForPrinter(line, [&asked](char32_t letter) {
+        ++asked;
+        return widthOf(letter);
+    });
+    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(result.size() - line.size(), static_cast<std::size_t>(std::count(result.begin(), result.end(), '\r')));
 }
 
 TEST(WordCharacter, IsTrueForLettersDigitsAndEightAccentedLettersAlone)

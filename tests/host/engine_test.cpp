@@ -327,14 +327,70 @@ TEST_F(EngineContract, ArrangingRaisesResizeAndRepaintOnceOnEachChildWhoseSizeCh
     EXPECT_TRUE(program.takeLog().empty());
 }
 
-TEST_F(EngineContract, MinimisingAndRestoringRaiseResizeAndRepaint)
+TEST_F(EngineContract, MinimisingRaisesResizeAloneAndEveryOtherStateRepaintsToo)
 {
+    const Log both{"Sheet resize", "Sheet repaint"};
     program.engine.userState(sheet(), 1);
-    EXPECT_EQ(program.takeLog(), (Log{"Sheet resize", "Sheet repaint"}));
+    EXPECT_EQ(program.takeLog(), (Log{"Sheet resize"}));
     program.engine.userState(sheet(), 1);
     EXPECT_TRUE(program.takeLog().empty());
     program.engine.userState(sheet(), 0);
-    EXPECT_EQ(program.takeLog(), (Log{"Sheet resize", "Sheet repaint"}));
+    EXPECT_EQ(program.takeLog(), both);
+    program.engine.userState(sheet(), 2);
+    EXPECT_EQ(program.takeLog(), both);
+    program.engine.userState(sheet(), 1);
+    EXPECT_EQ(program.takeLog(), (Log{"Sheet resize"}));
+    program.engine.userState(sheet(), 2);
+    EXPECT_EQ(program.takeLog(), both);
+}
+
+TEST_F(EngineContract, MinimisingTheMainWindowRaisesResizeAloneToo)
+{
+    program.engine.userRun([&] { program.engine.host().Show(program.engine.mainWindow()); });
+    program.takeLog();
+    program.engine.userState(program.engine.mainWindow(), 1);
+    EXPECT_EQ(program.takeLog(), (Log{"Main resize"}));
+}
+
+TEST_F(EngineContract, ANewChildIsShownMaximisedWhenTheActiveOneIs)
+{
+    program.engine.userState(sheet(), 2);
+    program.takeLog();
+    FixtureWindow& second = program.newSheet();
+    EXPECT_EQ(second.windowState(), 2);
+    EXPECT_EQ(second.place(), program.engine.clientArea());
+    EXPECT_EQ(program.takeLog(), (Log{"Sheet load", "Sheet resize", "Sheet repaint", "Sheet activate", "First focus"}))
+        << "its first resize and repaint serve for that, too";
+    program.engine.userState(second, 0);
+    const host::Place& normal = second.place();
+    EXPECT_EQ(normal.left, normal.top);
+    EXPECT_GT(normal.left, 0) << "a step of the cascade";
+    EXPECT_EQ(normal.width, program.engine.clientArea().width - normal.left);
+}
+
+TEST_F(EngineContract, ANewChildIsShownNormalWhenTheActiveOneIsNotMaximised)
+{
+    FixtureWindow& first = static_cast<FixtureWindow&>(sheet());
+    program.engine.userState(first, 2);
+    FixtureWindow& second = program.newSheet();
+    program.engine.userState(second, 0);
+    EXPECT_EQ(program.newSheet().windowState(), 0) << "a maximised one that is not the active child does not count";
+    program.engine.userActivate(first);
+    program.engine.userState(first, 1);
+    EXPECT_EQ(program.newSheet().windowState(), 0);
+}
+
+TEST_F(EngineContract, AToolIsNeverMaximisedForAChildAndAChildShownAgainKeepsItsState)
+{
+    FixtureWindow& first = static_cast<FixtureWindow&>(sheet());
+    FixtureWindow& second = program.newSheet();
+    program.engine.userRun([&] { program.engine.host().Hide(second); });
+    program.engine.userState(first, 2);
+    program.engine.userRun([&] { program.engine.host().Show(second); });
+    EXPECT_EQ(second.windowState(), 0);
+    program.engine.userActivate(first);
+    program.engine.userRun([&] { program.engine.host().Show("Tool"); });
+    EXPECT_EQ(program.engine.defaultInstance("Tool")->windowState(), 0);
 }
 
 TEST_F(EngineContract, NamesAreFoundWithoutRegardToCapitals)

@@ -99,7 +99,7 @@ TEST_F(GrammarZones, RejectWhatStandsWhereTheToolsStandAlsoInAnEmptyPlace)
 
 TEST_F(GrammarZones, RejectAPaperThatIsMissingOrElsewhere)
 {
-    rows[Image1].place.width -= 15;
+    rows[Image1].place.left += 15;
     EXPECT_EQ(zones(sheet()), Complaints{"\"Image1\" is paper and does not lie in the middle"});
     rows[Image1] = template_sheet::spec.controls[Image1];
     rows[Image1].look = host::Look::plain;

@@ -80,7 +80,7 @@ TEST(Player, TheWholeProgramStandsAShortGame)
 TEST(Player, TheTemplateSheetIsPlayedToItsEnd)
 {
     Player player(template_sheet::walkedProgram(), {.seed = 3, .onlyWindow = "TemplateSheet"});
-    EXPECT_TRUE(isSound(player, 20'000, "TemplateSheet"));
+    EXPECT_TRUE(isSound(player, 60'000, "TemplateSheet"));
     EXPECT_EQ(
         player.coverage().of("TemplateSheet").boxes.count("\"Design approach...\": \"Eq cannot reach Es. Raise Es.\""),
         1u);

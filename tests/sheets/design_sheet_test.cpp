@@ -453,7 +453,7 @@ TEST(DesignSheet, WithNoBarMarkedResizingLeavesBothAsTheyAre)
     EXPECT_EQ(program.engine.defaultInstance("Form16"), nullptr);
 }
 
-TEST(DesignSheet, MinimisingResizesFirstAndRepaintsThen)
+TEST(DesignSheet, MinimisingResizesAloneAndLeavesTheBarThatThisBringsBack)
 {
     SheetProgram program;
     TemplateSheet& sheet = program.newSheet();
@@ -464,7 +464,11 @@ TEST(DesignSheet, MinimisingResizesFirstAndRepaintsThen)
             ran.push_back(event);
     };
     program.engine.userState(sheet, 1);
-    EXPECT_EQ(ran, (std::vector{host::Event::resize, host::Event::repaint}));
+    EXPECT_EQ(ran, (std::vector{host::Event::resize}));
+    EXPECT_TRUE(program.engine.host().visible("MDIForm1", "Picture14"));
+    program.engine.userState(sheet, 0);
+    EXPECT_EQ(ran, (std::vector{host::Event::resize, host::Event::resize, host::Event::repaint}));
+    EXPECT_FALSE(program.engine.host().visible("MDIForm1", "Picture14"));
 }
 
 TEST(DesignSheet, ClosingASheetUnloadsItsCompanion)

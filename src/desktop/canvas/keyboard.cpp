@@ -15,6 +15,7 @@
 #include "desktop/canvas/field_edit.h"
 #include "desktop/canvas/pointer.h"
 #include "desktop/drawing/texts.h"
+#include "rules/code_page.h"
 
 namespace velmor::desktop {
 
@@ -31,7 +32,7 @@ constexpr std::int16_t copyKey = 3;
 constexpr std::int16_t pasteKey = 22;
 constexpr std::int16_t cutKey = 24;
 constexpr std::int16_t undoKey = 26;
-constexpr std::int16_t unknownCharacter = 63; ///< "?": treated as a letter, that is, refused with a beep by the filter
+constexpr unsigned char unknownCharacter = '?'; ///< treated as a letter, that is, refused with a beep by the filter
 constexpr qsizetype longestPaste = 4096;
 
 // clang-format off
@@ -41,19 +42,13 @@ constexpr CommonKeyRow commonKeyRows[] = {
     {"Shift+Tab",    CommonKey::previous,   {"al campo anterior",                            "to the field before"}},
     {"Menu",         CommonKey::rightPress, {"botón derecho sobre el campo: ayuda o tabla",  "right button on the field: help or table"}},
     {"Shift+F10",    CommonKey::rightPress, {"botón derecho sobre el campo: ayuda o tabla",  "right button on the field: help or table"}},
-    {"F1",           CommonKey::help,       {"muestra u oculta la ayuda de la hoja",         "shows or hides the help of the sheet"}},
+    {"F1",           CommonKey::rightPress, {"botón derecho sobre el campo: ayuda o tabla",  "right button on the field: help or table"}},
     {"F2",           CommonKey::hover,      {"lo que dice el ratón sobre el campo",          "what the mouse over the field says"}},
     {"Ctrl+F1",      CommonKey::hover,      {"lo que dice el ratón sobre el campo",          "what the mouse over the field says"}},
     {"F6",           CommonKey::nextPane,   {"a la ventana siguiente",                       "to the next window"}},
     {"Esc",          CommonKey::close,      {"cierra una ventana de ayuda o herramienta",    "closes a window of help or a tool"}},
 };
 // clang-format on
-
-// What Windows-1252 has between 128 and 159; 0 where it has nothing.
-constexpr char16_t upperHalf[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
-                                    0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
 bool isTyped(const QKeyEvent& event)
 {
@@ -79,19 +74,12 @@ std::span<const CommonKeyRow> commonKeys()
 
 std::int16_t keyCode(char32_t character)
 {
-    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
-        return static_cast<std::int16_t>(character);
-    for (std::size_t i = 0; i < std::size(keyboard_detail::upperHalf); ++i)
-        if (keyboard_detail::upperHalf[i] != 0 && keyboard_detail::upperHalf[i] == character)
-            return static_cast<std::int16_t>(0x80 + i);
-    return keyboard_detail::unknownCharacter;
+    return rules::windows1252Code(character).value_or(keyboard_detail::unknownCharacter);
 }
 
 char32_t characterOf(std::int16_t code)
 {
-    if (code >= 0x80 && code < 0xA0 && keyboard_detail::upperHalf[code - 0x80] != 0)
-        return keyboard_detail::upperHalf[code - 0x80];
-    return static_cast<char32_t>(code);
+    return rules::windows1252Character(static_cast<unsigned char>(code));
 }
 
 // Parsed once for all windows of a kind: this is asked at every key.
@@ -186,8 +174,6 @@ bool Keyboard::run(CommonKey deed)
     case CommonKey::hover:
         engine.userHover(model, held);
         return true;
-    case CommonKey::help:
-        return toggleHelp();
     case CommonKey::nextPane:
         if (canvas_.desk().nextPane)
             canvas_.desk().nextPane();
@@ -215,20 +201,6 @@ bool Keyboard::closeTool()
     if ((!hears || passes(keyboard_detail::escapeKey)) && canvas_.model() != nullptr)
         desk.engine->userClose(model);
     return true;
-}
-
-// The pair of pictures that show and hide the help; the one that is visible is meant.
-bool Keyboard::toggleHelp()
-{
-    host::Window& model = *canvas_.model();
-    for (const std::string_view name : {"Image35", "Image34"}) {
-        const Handle picture = model.named(name);
-        if (picture != noControl && model.visible(picture)) {
-            canvas_.desk().engine->userClick(model, picture);
-            return true;
-        }
-    }
-    return false;
 }
 
 bool Keyboard::passes(std::int16_t key)

@@ -21,7 +21,7 @@ class Canvas;
 class FieldEdit;
 
 /// What a key does in every window, beside the rows of the window's own table.
-enum class CommonKey : std::uint8_t { next, previous, rightPress, hover, help, nextPane, close };
+enum class CommonKey : std::uint8_t { next, previous, rightPress, hover, nextPane, close };
 struct CommonKeyRow {
     std::string_view keys;
     CommonKey deed;
@@ -50,7 +50,6 @@ private:
     bool runShortcut(QKeyCombination keys);
     bool runCommon(QKeyCombination keys);
     bool run(CommonKey deed);
-    bool toggleHelp();
     bool closeTool();
     bool pressFirstButton();
     bool fieldKey(FieldEdit& field, const QKeyEvent& event);

@@ -144,11 +144,9 @@ void paintPrompt(const Scene& scene)
     // The bar of the accent at the left edge: the teacher speaks.
     QPainterPath edge;
     edge.addRoundedRect(scene.box, 5.0 * scene.unit(), 5.0 * scene.unit());
-    scene.painter.save();
-    scene.painter.setClipRect(QRectF(scene.box.topLeft(), QSizeF(4.0 * scene.unit(), scene.box.height())),
-                              Qt::IntersectClip);
-    scene.painter.fillPath(edge, scene.inks().accent);
-    scene.painter.restore();
+    QPainterPath strip;
+    strip.addRect(QRectF(scene.box.topLeft(), QSizeF(4.0 * scene.unit(), scene.box.height())));
+    scene.painter.fillPath(edge.intersected(strip), scene.inks().accent);
     writeCaption(scene, scene.inks().ink, ground);
 }
 

@@ -9,9 +9,9 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
+#include <QSvgGenerator>
 
 #include "desktop/drawing/control_painter.h"
-#include "desktop/drawing/svg_device.h"
 
 namespace velmor::desktop {
 
@@ -19,6 +19,7 @@ namespace exporting {
 
 /// Painted in eighths of a grid unit, so that letters in whole pixels lose nothing.
 constexpr double finePerUnit = 8.0;
+constexpr int pixelsPerInch = 96; ///< of a file that is shown in a page
 
 View fineView(std::int16_t languageIsEnglish)
 {
@@ -82,13 +83,21 @@ bool exportPdf(const QString& path, const host::Window& window, std::int16_t lan
 bool exportSvg(const QString& path, const host::Window& window, std::int16_t languageIsEnglish)
 {
     using namespace exporting;
-    SvgDevice device(fineSize(window), finePerUnit, titleOf(window));
-    QPainter painter(&device);
-    paintWindow(painter, window, fineView(languageIsEnglish));
-    painter.end();
     QSaveFile file(path);
-    const QByteArray document = device.document();
-    return file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.commit();
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    const QSizeF size = fineSize(window);
+    QSvgGenerator generator;
+    generator.setOutputDevice(&file);
+    generator.setResolution(pixelsPerInch);
+    generator.setSize((size / finePerUnit).toSize());
+    generator.setViewBox(QRectF(QPointF(), size));
+    generator.setTitle(titleOf(window).toHtmlEscaped()); // it writes the title as it is
+    QPainter painter;
+    if (!painter.begin(&generator))
+        return false;
+    paintWindow(painter, window, fineView(languageIsEnglish));
+    return painter.end() && file.commit();
 }
 
 } // namespace velmor::desktop

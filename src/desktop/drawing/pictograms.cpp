@@ -206,37 +206,46 @@ void colourBands(const Field& field)
     field.solid({{15.4, 8}, {16.6, 8}, {16.6, 16}, {15.4, 16}});
 }
 
+struct PictogramRow {
+    Symbol symbol;
+    void (*draw)(const Field&);
+};
+
+// clang-format off
+constexpr PictogramRow rows[] = {
+    {Symbol::page,         page},
+    {Symbol::book,         book},
+    {Symbol::calculator,   calculator},
+    {Symbol::thermometer,  thermometer},
+    {Symbol::lamp,         lamp},
+    {Symbol::question,     question},
+    {Symbol::oscilloscope, oscilloscope},
+    {Symbol::multimeter,   multimeter},
+    {Symbol::butterfly,    butterfly},
+    {Symbol::door,         door},
+    {Symbol::colourBands,  colourBands},
+};
+// clang-format on
+
+constexpr std::size_t placeOf(Symbol symbol)
+{
+    return static_cast<std::size_t>(symbol) - static_cast<std::size_t>(Symbol::page);
+}
+
+consteval bool eachInItsPlace()
+{
+    for (std::size_t i = 0; i < std::size(rows); ++i)
+        if (placeOf(rows[i].symbol) != i)
+            return false;
+    return std::size(rows) == placeOf(Symbol::colourBands) + 1;
+}
+static_assert(eachInItsPlace(), "every pictogram has a row, in the order of the symbols");
+
 } // namespace pictograms
 
 void drawPictogram(Sketch& sketch, const Mark& mark, const Stroke& stroke)
 {
-    const pictograms::Field field(sketch, mark, stroke);
-    switch (mark.symbol) {
-    case Symbol::page:
-        return pictograms::page(field);
-    case Symbol::book:
-        return pictograms::book(field);
-    case Symbol::calculator:
-        return pictograms::calculator(field);
-    case Symbol::thermometer:
-        return pictograms::thermometer(field);
-    case Symbol::lamp:
-        return pictograms::lamp(field);
-    case Symbol::question:
-        return pictograms::question(field);
-    case Symbol::oscilloscope:
-        return pictograms::oscilloscope(field);
-    case Symbol::multimeter:
-        return pictograms::multimeter(field);
-    case Symbol::butterfly:
-        return pictograms::butterfly(field);
-    case Symbol::door:
-        return pictograms::door(field);
-    case Symbol::colourBands:
-        return pictograms::colourBands(field);
-    default:
-        return;
-    }
+    pictograms::rows[pictograms::placeOf(mark.symbol)].draw(pictograms::Field(sketch, mark, stroke));
 }
 
 } // namespace velmor::desktop

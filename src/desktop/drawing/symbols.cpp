@@ -152,6 +152,11 @@ Pen penFor(Sketch& sketch, const Mark& mark, const Stroke& stroke)
     return {sketch, mark, stroke, Axes(sketch, middle, directionOf(mark))};
 }
 
+void drawWire(const Pen& pen)
+{
+    pen.lead(pen.sketch.at(unitsOf(pen.mark.from)), pen.sketch.at(unitsOf(pen.mark.to)));
+}
+
 void drawResistor(const Pen& pen)
 {
     pen.leads(18.0);
@@ -286,8 +291,9 @@ void drawBattery(const Pen& pen)
     pen.solid(pen.axes.bar(3.5, 6.5, 3.2 * pen.stroke.factor()));
 }
 
-void drawSwitch(const Pen& pen, bool closed)
+void drawSwitch(const Pen& pen)
 {
+    const bool closed = pen.mark.symbol == Symbol::switchClosed;
     pen.leads(12.0);
     pen.line(-12.0, 0.0, closed ? 12.0 : 9.0, closed ? 0.0 : 11.0);
     for (const double along : {-12.0, 12.0})
@@ -332,8 +338,9 @@ void drawGround(const Pen& pen)
     pen.solid(axes.bar(19.0, 3.0, groundWeight));
 }
 
-void drawSupply(const Pen& pen, double down)
+void drawSupply(const Pen& pen)
 {
+    const double down = pen.mark.symbol == Symbol::supplyUp ? 1.0 : -1.0;
     const Axes axes(pen.sketch, unitsOf(pen.mark.from), {0.0, down});
     pen.lead(axes.at(0.0, 0.0), axes.at(10.0, 0.0));
     pen.solid(axes.bar(0.0, 9.0, groundWeight * pen.stroke.factor()));
@@ -369,8 +376,9 @@ void drawPointer(const Pen& pen)
     pen.sketch.fill(Layer::node, pen.stroke.body, circleAt(to, 1.8 * pen.sketch.unit()));
 }
 
-void drawSine(const Pen& pen, double sign)
+void drawSine(const Pen& pen)
 {
+    const double sign = pen.mark.symbol == Symbol::sine ? 1.0 : -1.0;
     const QRectF box(pen.sketch.exactly(unitsOf(pen.mark.from)), pen.sketch.exactly(unitsOf(pen.mark.to)));
     const QPointF start(box.left(), box.center().y());
     // A cubic that follows a half period of a sine: its top lies at three quarters of its control points.
@@ -385,8 +393,9 @@ void drawSine(const Pen& pen, double sign)
     pen.wave(wave);
 }
 
-void drawPolyline(const Pen& pen, bool filled)
+void drawPolyline(const Pen& pen)
 {
+    const bool filled = pen.mark.symbol == Symbol::fill;
     if (pen.mark.points.empty())
         return;
     QPainterPath path(pen.sketch.at(unitsOf(pen.mark.points.front())));
@@ -417,86 +426,111 @@ void drawFrame(const Pen& pen)
     }
 }
 
+void drawOwnPictogram(const Pen& pen)
+{
+    drawPictogram(pen.sketch, pen.mark, pen.stroke);
+}
+
+// Texts are set with names and values.
+void drawNothing(const Pen&) {}
+
+enum class Form : std::uint8_t { other, twoEnded, transistor, pictogram };
+
+struct SymbolRow {
+    Symbol symbol;
+    void (*draw)(const Pen&);
+    Reach reach{};
+    Form form = Form::other;
+};
+
+// clang-format off
+constexpr SymbolRow rows[] = {
+    // symbol               strokes           along, across  form
+    {Symbol::wire,         drawWire,          {},            Form::other},
+    {Symbol::node,         drawNode,          {2.7, 2.7},    Form::other},
+    {Symbol::terminal,     drawTerminal,      {4.0, 4.0},    Form::other},
+    {Symbol::resistor,     drawResistor,      {18.0, 6.5},   Form::twoEnded},
+    {Symbol::preset,       drawPreset,        {18.0, 13.5},  Form::twoEnded},
+    {Symbol::capacitor,    drawCapacitor,     {5.0, 13.0},   Form::twoEnded},
+    {Symbol::polarised,    drawPolarised,     {5.0, 13.0},   Form::twoEnded},
+    {Symbol::diode,        drawDiode,         {8.0, 8.5},    Form::twoEnded},
+    {Symbol::npn,          drawTransistor,    {21.0, 21.0},  Form::transistor},
+    {Symbol::pnp,          drawTransistor,    {21.0, 21.0},  Form::transistor},
+    {Symbol::npnLeft,      drawTransistor,    {21.0, 21.0},  Form::transistor},
+    {Symbol::ground,       drawGround,        {},            Form::other},
+    {Symbol::supplyUp,     drawSupply,        {2.0, 9.0},    Form::other},
+    {Symbol::supplyDown,   drawSupply,        {2.0, 9.0},    Form::other},
+    {Symbol::generator,    drawGenerator,     {15.0, 15.0},  Form::twoEnded},
+    {Symbol::loudspeaker,  drawLoudspeaker,   {17.0, 14.0},  Form::twoEnded},
+    {Symbol::meter,        drawMeter,         {15.0, 15.0},  Form::twoEnded},
+    {Symbol::transformer,  drawTransformer,   {22.0, 42.0},  Form::twoEnded},
+    {Symbol::arrow,        drawArrow,         {},            Form::other},
+    {Symbol::pointer,      drawPointer,       {},            Form::other},
+    {Symbol::sine,         drawSine,          {},            Form::other},
+    {Symbol::sineInverted, drawSine,          {},            Form::other},
+    {Symbol::polyline,     drawPolyline,      {},            Form::other},
+    {Symbol::fill,         drawPolyline,      {},            Form::other},
+    {Symbol::frame,        drawFrame,         {},            Form::other},
+    {Symbol::roundFrame,   drawFrame,         {},            Form::other},
+    {Symbol::circle,       drawFrame,         {},            Form::other},
+    {Symbol::text,         drawNothing,       {},            Form::other},
+    {Symbol::label,        drawNothing,       {},            Form::other},
+    {Symbol::pnpLeft,      drawTransistor,    {21.0, 21.0},  Form::transistor},
+    {Symbol::zener,        drawZener,         {8.0, 8.5},    Form::twoEnded},
+    {Symbol::led,          drawLed,           {8.0, 20.0},   Form::twoEnded},
+    {Symbol::inductor,     drawInductor,      {18.0, 7.0},   Form::twoEnded},
+    {Symbol::battery,      drawBattery,       {5.0, 13.0},   Form::twoEnded},
+    {Symbol::switchOpen,   drawSwitch,        {14.0, 8.0},   Form::twoEnded},
+    {Symbol::switchClosed, drawSwitch,        {14.0, 8.0},   Form::twoEnded},
+    {Symbol::dashedFrame,  drawFrame,         {},            Form::other},
+    {Symbol::page,         drawOwnPictogram,  {},            Form::pictogram},
+    {Symbol::book,         drawOwnPictogram,  {},            Form::pictogram},
+    {Symbol::calculator,   drawOwnPictogram,  {},            Form::pictogram},
+    {Symbol::thermometer,  drawOwnPictogram,  {},            Form::pictogram},
+    {Symbol::lamp,         drawOwnPictogram,  {},            Form::pictogram},
+    {Symbol::question,     drawOwnPictogram,  {},            Form::pictogram},
+    {Symbol::oscilloscope, drawOwnPictogram,  {},            Form::pictogram},
+    {Symbol::multimeter,   drawOwnPictogram,  {},            Form::pictogram},
+    {Symbol::butterfly,    drawOwnPictogram,  {},            Form::pictogram},
+    {Symbol::door,         drawOwnPictogram,  {},            Form::pictogram},
+    {Symbol::colourBands,  drawOwnPictogram,  {},            Form::pictogram},
+};
+// clang-format on
+
+consteval bool eachInItsPlace()
+{
+    for (std::size_t i = 0; i < std::size(rows); ++i)
+        if (rows[i].symbol != static_cast<Symbol>(i) || rows[i].draw == nullptr)
+            return false;
+    return std::size(rows) == static_cast<std::size_t>(Symbol::count);
+}
+static_assert(eachInItsPlace(), "every symbol has a row, in the order of the symbols");
+
+const SymbolRow& rowOf(Symbol symbol)
+{
+    return rows[static_cast<std::size_t>(symbol)];
+}
+
 } // namespace symbols
 
 bool isTransistor(Symbol symbol)
 {
-    return symbol == Symbol::npn || symbol == Symbol::pnp || symbol == Symbol::npnLeft || symbol == Symbol::pnpLeft;
+    return symbols::rowOf(symbol).form == symbols::Form::transistor;
 }
 
 bool isPictogram(Symbol symbol)
 {
-    return symbol >= Symbol::page && symbol <= Symbol::colourBands;
+    return symbols::rowOf(symbol).form == symbols::Form::pictogram;
 }
 
 bool isTwoEnded(Symbol symbol)
 {
-    switch (symbol) {
-    case Symbol::resistor:
-    case Symbol::preset:
-    case Symbol::capacitor:
-    case Symbol::polarised:
-    case Symbol::diode:
-    case Symbol::generator:
-    case Symbol::loudspeaker:
-    case Symbol::meter:
-    case Symbol::transformer:
-    case Symbol::zener:
-    case Symbol::led:
-    case Symbol::inductor:
-    case Symbol::battery:
-    case Symbol::switchOpen:
-    case Symbol::switchClosed:
-        return true;
-    default:
-        return false;
-    }
+    return symbols::rowOf(symbol).form == symbols::Form::twoEnded;
 }
 
 Reach reachOf(Symbol symbol)
 {
-    switch (symbol) {
-    case Symbol::resistor:
-        return {18.0, 6.5};
-    case Symbol::preset:
-        return {18.0, 13.5};
-    case Symbol::capacitor:
-    case Symbol::battery:
-        return {5.0, 13.0};
-    case Symbol::polarised:
-        return {5.0, 13.0};
-    case Symbol::diode:
-    case Symbol::zener:
-        return {8.0, 8.5};
-    case Symbol::led:
-        return {8.0, 20.0};
-    case Symbol::generator:
-    case Symbol::meter:
-        return {15.0, 15.0};
-    case Symbol::loudspeaker:
-        return {17.0, 14.0};
-    case Symbol::transformer:
-        return {22.0, 42.0};
-    case Symbol::inductor:
-        return {18.0, 7.0};
-    case Symbol::switchOpen:
-    case Symbol::switchClosed:
-        return {14.0, 8.0};
-    case Symbol::npn:
-    case Symbol::pnp:
-    case Symbol::npnLeft:
-    case Symbol::pnpLeft:
-        return {21.0, 21.0};
-    case Symbol::node:
-        return {2.7, 2.7};
-    case Symbol::terminal:
-        return {4.0, 4.0};
-    case Symbol::supplyUp:
-    case Symbol::supplyDown:
-        return {2.0, 9.0};
-    default:
-        return {};
-    }
+    return symbols::rowOf(symbol).reach;
 }
 
 QRectF bodyOf(const Mark& mark)
@@ -549,76 +583,7 @@ QRectF extentOf(const Mark& mark)
 
 void drawSymbol(Sketch& sketch, const Mark& mark, const Stroke& stroke)
 {
-    using namespace symbols;
-    const Pen pen = penFor(sketch, mark, stroke);
-    switch (mark.symbol) {
-    case Symbol::wire:
-        return pen.lead(sketch.at(unitsOf(mark.from)), sketch.at(unitsOf(mark.to)));
-    case Symbol::node:
-        return drawNode(pen);
-    case Symbol::terminal:
-        return drawTerminal(pen);
-    case Symbol::resistor:
-        return drawResistor(pen);
-    case Symbol::preset:
-        return drawPreset(pen);
-    case Symbol::capacitor:
-        return drawCapacitor(pen);
-    case Symbol::polarised:
-        return drawPolarised(pen);
-    case Symbol::diode:
-        return drawDiode(pen);
-    case Symbol::zener:
-        return drawZener(pen);
-    case Symbol::led:
-        return drawLed(pen);
-    case Symbol::npn:
-    case Symbol::pnp:
-    case Symbol::npnLeft:
-    case Symbol::pnpLeft:
-        return drawTransistor(pen);
-    case Symbol::ground:
-        return drawGround(pen);
-    case Symbol::supplyUp:
-        return drawSupply(pen, 1.0);
-    case Symbol::supplyDown:
-        return drawSupply(pen, -1.0);
-    case Symbol::generator:
-        return drawGenerator(pen);
-    case Symbol::loudspeaker:
-        return drawLoudspeaker(pen);
-    case Symbol::meter:
-        return drawMeter(pen);
-    case Symbol::transformer:
-        return drawTransformer(pen);
-    case Symbol::inductor:
-        return drawInductor(pen);
-    case Symbol::battery:
-        return drawBattery(pen);
-    case Symbol::switchOpen:
-    case Symbol::switchClosed:
-        return drawSwitch(pen, mark.symbol == Symbol::switchClosed);
-    case Symbol::arrow:
-        return drawArrow(pen);
-    case Symbol::pointer:
-        return drawPointer(pen);
-    case Symbol::sine:
-    case Symbol::sineInverted:
-        return drawSine(pen, mark.symbol == Symbol::sine ? 1.0 : -1.0);
-    case Symbol::polyline:
-    case Symbol::fill:
-        return drawPolyline(pen, mark.symbol == Symbol::fill);
-    case Symbol::frame:
-    case Symbol::roundFrame:
-    case Symbol::dashedFrame:
-    case Symbol::circle:
-        return drawFrame(pen);
-    case Symbol::text:
-    case Symbol::label:
-        return;
-    default:
-        return drawPictogram(sketch, mark, stroke);
-    }
+    symbols::rowOf(mark.symbol).draw(symbols::penFor(sketch, mark, stroke));
 }
 
 } // namespace velmor::desktop

@@ -51,9 +51,8 @@ QString endingOf(const QString& nameFilter)
     return first.contains(QLatin1Char('*')) ? QString() : first;
 }
 
-std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& asked, const QString& folder, bool english)
+std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& asked, const QString& folder)
 {
-    speakInDialogs(english);
     const bool saves = asked.kind == host::DialogKind::save;
     const QString start = asked.folder.empty() ? folder : shown(asked.folder);
     QFileDialog dialog(parent, shownTitle(asked.title), QDir(start).exists() ? start : QDir::homePath());

@@ -20,7 +20,7 @@
 #include "desktop/drawing/page_picture.h"
 #include "desktop/drawing/texts.h"
 #include "desktop/windows/menus.h"
-#include "frame/mdi_form1_layout.h"
+#include "desktop/windows/tool_window.h"
 
 namespace velmor::desktop {
 
@@ -70,7 +70,7 @@ MainWindow::MainWindow(Desk& desk, host::Window& model)
     area_->setBackground(desk.inks->desk);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    const Handle bar = model.named("Picture14");
+    const Handle bar = model.spec().mainParts.bar;
     welcome_ = new Canvas(desk, model, noControl, bar);
     welcome_->setParent(middle_);
     welcome_->setFocusPolicy(Qt::NoFocus);
@@ -204,7 +204,7 @@ void MainWindow::layOutPanels()
     if (model_ == nullptr || middle_->width() <= 0)
         return;
     QRect rest = middle_->rect();
-    const Handle bar = model_->named("Picture14");
+    const Handle bar = model_->spec().mainParts.bar;
     const bool barShown = bar_ != nullptr && model_->visible(bar);
     if (barShown) {
         const host::Place& place = host::shownPlace(*model_, bar);
@@ -243,12 +243,15 @@ bool MainWindow::hasPage() const
 // At the lower edge, where the palette rests; at the upper one when a palette moved by hand stands in the way.
 QRect MainWindow::pageStripIn(const QRect& rest) const
 {
-    const host::Place& strip = main_window::pageStrip;
+    const host::Place& strip = model_->spec().mainParts.pageStrip;
     const int height = std::min(rest.height(), rest.width() * strip.height / strip.width);
     const QRect low(rest.left(), rest.bottom() + 1 - height, rest.width(), height);
-    const auto* palette = findChild<QWidget*>(QStringLiteral("Form16"));
-    const bool covered = palette != nullptr && palette->isVisible() &&
-                         QRect(middle_->mapToGlobal(low.topLeft()), low.size()).intersects(palette->frameGeometry());
+    const QRect onScreen(middle_->mapToGlobal(low.topLeft()), low.size());
+    const auto windows = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    const bool covered = std::any_of(windows.begin(), windows.end(), [&](const QWidget* widget) {
+        const auto* tool = dynamic_cast<const ToolWindow*>(widget);
+        return tool != nullptr && tool->isPalette() && tool->isVisible() && onScreen.intersects(tool->frameGeometry());
+    });
     return covered ? QRect(rest.topLeft(), low.size()) : low;
 }
 
@@ -256,12 +259,12 @@ QRect MainWindow::pageStripIn(const QRect& rest) const
 // design under the mouse comes in front, so that its coming and going moves nothing that a student is working on.
 void MainWindow::layOutWelcome(const QRect& rest)
 {
-    const Handle panel = model_->named("SSPanel1");
+    const Handle panel = model_->spec().mainParts.welcome;
     const bool page = hasChildren_ && talking_ && hasPage();
     const bool whole = panel != noControl && !hasChildren_;
     if (page || whole) {
         const QRect place = page ? pageStripIn(rest) : rest;
-        welcome_->setDesign(page ? main_window::pageStrip : host::shownPlace(*model_, panel));
+        welcome_->setDesign(page ? model_->spec().mainParts.pageStrip : host::shownPlace(*model_, panel));
         welcome_->layOut(welcome_->scaleFor(place.size()), place.size());
         welcome_->move(place.topLeft());
         welcome_->raise();
@@ -276,7 +279,7 @@ void MainWindow::hovered(const host::Window& window, Handle control)
 {
     if (model_ == nullptr)
         return;
-    const Handle bar = model_->named("Picture14");
+    const Handle bar = model_->spec().mainParts.bar;
     const bool onButtons =
         window.role() == host::Role::palette || (&window == model_ && liesIn(window.spec(), control, bar));
     if (!onButtons && &window != model_)
@@ -357,23 +360,23 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
     const std::size_t row = model_ == nullptr || desk_.closing ? noRow : shortcutRow(model_->spec(), keysOf(*event));
     if (row != noRow) {
         const host::ShortcutRow& bound = model_->spec().shortcuts[row];
+        if (openMenu(bound.control))
+            return;
         desk_.engine->userShortcut(*model_, row);
         if (bound.action == host::KeyAction::hover)
             hovered(*model_, bound.control);
-    } else if (model_ == nullptr || !openMenuByKey(keysOf(*event)))
+    } else {
         QMainWindow::keyPressEvent(event);
+    }
 }
 
-// New and open are menus here, one item for each circuit: their usual keys open them.
-bool MainWindow::openMenuByKey(QKeyCombination keys)
+// New and open are menus here, one item for each circuit.
+bool MainWindow::openMenu(Handle control)
 {
-    if (keys.keyboardModifiers() != Qt::ControlModifier || (keys.key() != Qt::Key_N && keys.key() != Qt::Key_O))
-        return false;
-    QMenu* menu = menus_->menuOf(model_->named(keys.key() == Qt::Key_N ? "mnuCirc" : "mnuFile(0)"));
-    if (menu == nullptr)
-        return false;
-    menu->popup(middle_->mapToGlobal(QPoint(0, 0)));
-    return true;
+    QMenu* menu = control == noControl ? nullptr : menus_->menuOf(control);
+    if (menu != nullptr)
+        menu->popup(middle_->mapToGlobal(QPoint(0, 0)));
+    return menu != nullptr;
 }
 
 bool MainWindow::eventFilter(QObject* object, QEvent* event)

@@ -52,7 +52,7 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    bool openMenuByKey(QKeyCombination keys);
+    bool openMenu(host::Handle control);
     void pressBackground(const QMouseEvent& event);
     void layOutPanels();
     void layOutWelcome(const QRect& rest);

@@ -52,8 +52,8 @@ void Menus::add(Handle row, QWidget& parent)
         const QString keys = keysOf(row);
         if (!keys.isEmpty()) {
             action->setShortcut(QKeySequence(keys, QKeySequence::PortableText));
-            // Keys of a window's table reach the engine through its keyboard; here they are only told.
-            if (model_->role() != host::Role::mainWindow || tableNames(row))
+            // Keys of a child or tool reach the engine through its keyboard; here they are only told.
+            if (model_->role() != host::Role::mainWindow)
                 action->setShortcutContext(Qt::WidgetShortcut);
         }
     }
@@ -62,31 +62,12 @@ void Menus::add(Handle row, QWidget& parent)
     refresh(row);
 }
 
-bool Menus::tableNames(Handle item) const
-{
-    const auto& rows = model_->spec().shortcuts;
-    return std::any_of(rows.begin(), rows.end(), [item](const host::ShortcutRow& row) { return row.control == item; });
-}
-
 QString Menus::keysOf(Handle item) const
 {
     for (const host::ShortcutRow& row : model_->spec().shortcuts)
         if (row.control == item)
             return shown(row.keys);
-    if (model_->role() == host::Role::mainWindow)
-        for (const MenuKeys& usual : mainMenuKeys())
-            if (host::sameName(model_->row(item).name, usual.item))
-                return shown(usual.keys);
     return {};
-}
-
-std::span<const MenuKeys> mainMenuKeys()
-{
-    static constexpr MenuKeys rows[] = {
-        {"mnuFile(1)", "Ctrl+S"},   {"mnuFile(2)", "Ctrl+Shift+S"}, {"mnuFile(3)", "Ctrl+W"},
-        {"mnuIng", "Ctrl+Shift+I"}, {"mnuEsp", "Ctrl+Shift+E"},
-    };
-    return rows;
 }
 
 void Menus::refresh(Handle item)

@@ -3,8 +3,6 @@
 // first, an item that is chosen is told to it.
 #pragma once
 
-#include <span>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -18,13 +16,6 @@ class QMenu;
 class QMenuBar;
 
 namespace velmor::desktop {
-
-/// The usual keys of the main window's items, for those that its own table leaves without.
-struct MenuKeys {
-    std::string_view item;
-    std::string_view keys;
-};
-std::span<const MenuKeys> mainMenuKeys();
 
 class Menus final : public QObject {
 public:
@@ -44,7 +35,6 @@ private:
     void refresh(host::Handle item);
     void opening(host::Handle menu);
     QString keysOf(host::Handle item) const;
-    bool tableNames(host::Handle item) const;
 
     Desk& desk_;
     host::Window* model_;

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include <QColorDialog>
-#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFontDialog>
 #include <QFontInfo>
@@ -13,12 +12,10 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
-#include <QTranslator>
 #include <QVBoxLayout>
 
 #include "desktop/drawing/texts.h"
@@ -133,9 +130,8 @@ std::optional<std::string> askInput(QWidget* parent, const host::InputBox& box, 
     return held(edit->text());
 }
 
-std::optional<std::int32_t> askColour(QWidget* parent, std::int32_t initial, bool english)
+std::optional<std::int32_t> askColour(QWidget* parent, std::int32_t initial)
 {
-    speakInDialogs(english);
     QColorDialog dialog(QColor::fromRgb(static_cast<QRgb>(initial)), parent);
     dialog.setObjectName(QStringLiteral("colourDialog"));
     if (dialog.exec() != QDialog::Accepted)
@@ -143,9 +139,8 @@ std::optional<std::int32_t> askColour(QWidget* parent, std::int32_t initial, boo
     return static_cast<std::int32_t>(dialog.selectedColor().rgb() & 0xFFFFFFU);
 }
 
-std::optional<host::Font> askFont(QWidget* parent, const host::Font& initial, bool english)
+std::optional<host::Font> askFont(QWidget* parent, const host::Font& initial)
 {
-    speakInDialogs(english);
     QFont font(shown(initial.name));
     font.setStyleHint(QFont::Monospace);
     // The dialog begins with the letters that are seen, not with a name that this machine lacks.
@@ -168,22 +163,6 @@ std::optional<host::Font> askFont(QWidget* parent, const host::Font& initial, bo
     answer.underline = chosen.underline();
     answer.strikeout = chosen.strikeOut();
     return answer;
-}
-
-void speakInDialogs(bool english)
-{
-    static QTranslator spanish;
-    static bool loaded = false;
-    static bool installed = false;
-    if (!loaded && !english)
-        loaded = spanish.load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    if (loaded && installed == english) {
-        if (english)
-            QCoreApplication::removeTranslator(&spanish);
-        else
-            QCoreApplication::installTranslator(&spanish);
-        installed = !english;
-    }
 }
 
 QPoint insideScreen(QPoint wished, QSize size)

@@ -20,17 +20,13 @@ namespace velmor::desktop {
 host::Answer askMessage(QWidget* parent, const host::MessageBox& box, bool english);
 
 /// `folder` is where the dialog starts when the program names none.
-std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& dialog, const QString& folder,
-                                   bool english);
+std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& dialog, const QString& folder);
 
 /// `at` is the wished left top corner on the screen; the box is kept inside the screen.
 std::optional<std::string> askInput(QWidget* parent, const host::InputBox& box, QPoint at, bool english);
 
-std::optional<std::int32_t> askColour(QWidget* parent, std::int32_t initial, bool english);
-std::optional<host::Font> askFont(QWidget* parent, const host::Font& initial, bool english);
-
-/// Qt's own dialogs speak the program's language from now on.
-void speakInDialogs(bool english);
+std::optional<std::int32_t> askColour(QWidget* parent, std::int32_t initial);
+std::optional<host::Font> askFont(QWidget* parent, const host::Font& initial);
 
 /// "description|pattern|..." as the file dialog wants it, each pattern in any capitals.
 QStringList nameFilters(const std::string& filter);

@@ -129,6 +129,11 @@ void ToolWindow::placeFirst()
     moveTo(insideScreen(best, size()));
 }
 
+bool ToolWindow::isPalette() const
+{
+    return model() != nullptr && model()->role() == host::Role::palette;
+}
+
 bool ToolWindow::isShownInModel() const
 {
     return model() != nullptr && model()->shown() && model()->windowState() != 1;

@@ -24,6 +24,7 @@ public:
     void recolor() override;
     void farewell() override;
 
+    bool isPalette() const;
     /// True for a palette that stands where the program has put it.
     bool rests() const { return resting_ && isShownInModel(); }
     int restHeight() const;

@@ -5,11 +5,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
+#include <QInputMethodEvent>
+#include <QTest>
 
 #include "desktop/canvas/keyboard.h"
 #include "desktop/desktop_fixture.h"
-#include "desktop/windows/menus.h"
 #include "places.h"
+#include "program/catalogue.h"
 
 namespace velmor::test::keyboard_test {
 
@@ -192,7 +194,8 @@ TEST_F(KeyboardTest, theContextMenuKeysPressTheRightButtonOnTheFieldInHand)
     };
     on.key(Qt::Key_Menu);
     on.keys("Shift+F10");
-    EXPECT_EQ(presses, 2);
+    on.keys("F1");
+    EXPECT_EQ(presses, 3);
 }
 
 TEST_F(KeyboardTest, theHoverKeysSayWhatTheMouseOverTheFieldSays)
@@ -201,6 +204,51 @@ TEST_F(KeyboardTest, theHoverKeysSayWhatTheMouseOverTheFieldSays)
     on.keys("F2");
     on.keys("Ctrl+F1");
     EXPECT_EQ(on.sheet().log, (std::vector<std::string>{"Text1 hover", "Text1 hover"}));
+}
+
+TEST_F(KeyboardTest, aToolWhoseFieldKeepsEscapeToItselfStaysOpen)
+{
+    auto& tool = static_cast<BenchWindow&>(on.show("Herramienta"));
+    tool.deeds[{ToolText, Event::key}] = [](host::EventArgs& args) { args.key = 0; };
+    on.keys("Esc");
+    EXPECT_NE(on.engine.defaultInstance("Herramienta"), nullptr);
+}
+
+TEST_F(KeyboardTest, composedTextPassesTheFilterToo)
+{
+    QInputMethodEvent event;
+    event.setCommitString(QStringLiteral("1,a5"));
+    QCoreApplication::sendEvent(&on.field(Text1), &event);
+    on.settle();
+    EXPECT_EQ(on.sheet().text(Text1), "1.5");
+    EXPECT_EQ(keys, (std::vector<int>{'1', ',', 'a', '5'}));
+}
+
+TEST_F(KeyboardTest, aCharacterOfTheThirdLevelPassesTheFilterToo)
+{
+    // AltGr reaches some programs as Ctrl and Alt.
+    for (const QString& letter : {QStringLiteral("2"), QStringLiteral("@")})
+        QTest::simulateEvent(QGuiApplication::focusWindow(), true, Qt::Key_2, Qt::ControlModifier | Qt::AltModifier,
+                             letter, false);
+    on.settle();
+    EXPECT_EQ(on.sheet().text(Text1), "2");
+    EXPECT_EQ(keys, (std::vector<int>{'2', '@'}));
+}
+
+TEST_F(KeyboardTest, escapeIsHeardByAButtonAndAPageInHand)
+{
+    std::vector<int> codes;
+    for (const host::Handle control : {Command1, Page1})
+        on.sheet().deeds[{control, Event::key}] = [&](host::EventArgs& args) { codes.push_back(args.key); };
+    on.click(Command1);
+    on.key(Qt::Key_Escape);
+    on.engine.userRun([this] {
+        on.sheet().show(Page1);
+        on.engine.host().SetFocus(on.sheet(), Page1);
+    });
+    on.settle();
+    on.key(Qt::Key_Escape);
+    EXPECT_EQ(codes, (std::vector<int>{27, 27}));
 }
 
 TEST_F(KeyboardTest, everyRowOfTheSheetsTableDoesItsDeed)
@@ -250,6 +298,22 @@ TEST_F(KeyboardTest, escapeClosesATool)
     EXPECT_EQ(on.engine.defaultInstance("Herramienta"), nullptr);
 }
 
+TEST_F(KeyboardTest, enterInAFieldOfAToolGoesToItsSlotAloneWhereItHasOne)
+{
+    auto& tool = static_cast<BenchWindow&>(on.show("Herramienta"));
+    tool.log.clear();
+    on.key(Qt::Key_Return);
+    EXPECT_EQ(tool.log, (std::vector<std::string>{"Text1 key"})) << "the button is not pressed besides";
+}
+
+TEST_F(KeyboardTest, enterInAFieldOfAToolThatKnowsNothingOfItPressesTheFirstButton)
+{
+    auto& tool = static_cast<BenchWindow&>(on.show("Pregunta"));
+    tool.log.clear();
+    on.key(Qt::Key_Return);
+    EXPECT_EQ(tool.log, (std::vector<std::string>{"Command1 down", "Command1 click"}));
+}
+
 TEST_F(KeyboardTest, escapeInThePaletteGivesTheKeyboardBackAndEndsNothing)
 {
     on.show("Paleta");
@@ -280,8 +344,12 @@ TEST_F(KeyboardTest, thePageOnKeysNamesThemAll)
     };
     for (const desktop::CommonKeyRow& row : desktop::commonKeys())
         EXPECT_TRUE(names(row.keys)) << row.keys;
-    for (const desktop::MenuKeys& row : desktop::mainMenuKeys())
-        EXPECT_TRUE(names(row.keys)) << row.keys;
+    const host::WindowSpec& main = *program::catalogue().front();
+    ASSERT_EQ(main.role, host::Role::mainWindow);
+    for (const host::ShortcutRow& row : main.shortcuts)
+        EXPECT_TRUE(row.control == host::noControl || main.controls[row.control].kind != host::Kind::menu ||
+                    names(row.keys))
+            << row.keys;
 }
 
 TEST_F(KeyboardTest, aKeyTheTextBoxLeavesOverIsHeardOnce)

@@ -8,6 +8,7 @@
 
 #include "desktop/drawing/canvas_image.h"
 #include "desktop/drawing/caption_fit.h"
+#include "desktop/drawing/field_marks.h"
 #include "desktop/drawing/painted_sheet.h"
 #include "desktop/drawing/typefaces.h"
 
@@ -15,6 +16,26 @@ using namespace velmor;
 using desktop::lightInks;
 
 namespace control_painter_tests {
+
+/// How many pixels of `part` have exactly that colour.
+int countOf(const QImage& image, const QRect& part, const QColor& color)
+{
+    int count = 0;
+    for (int y = part.top(); y <= part.bottom(); ++y)
+        for (int x = part.left(); x <= part.right(); ++x)
+            count += image.rect().contains(x, y) && image.pixel(x, y) == color.rgb() ? 1 : 0;
+    return count;
+}
+
+int darkestIn(const QImage& image, const QRect& part)
+{
+    int darkest = 255;
+    for (int y = part.top(); y <= part.bottom(); ++y)
+        for (int x = part.left(); x <= part.right(); ++x)
+            if (image.rect().contains(x, y))
+                darkest = std::min(darkest, qGray(image.pixel(x, y)));
+    return darkest;
+}
 
 class PaintedControls : public testing::Test {
 protected:
@@ -140,6 +161,125 @@ TEST_F(PaintedControls, StatesDiffer)
     const QImage on = test::imageOfControl(stage, test::CheckOne, view);
     stage.setChecked(test::CheckOne, false);
     EXPECT_NE(on, test::imageOfControl(stage, test::CheckOne, view));
+}
+
+TEST_F(PaintedControls, TheSignOfADisabledToolIsPalerThanItsGroundMakesIt)
+{
+    // The contrast between sign and plate, so that the plate's own grey does not count.
+    const auto contrast = [this](bool enabled) {
+        stage.setEnabled(test::ToolCalculator, enabled);
+        const QImage image = test::imageOfControl(stage, test::ToolCalculator, test::viewAt(2.0));
+        const QRect inside =
+            desktop::boxOf(stage, test::ToolCalculator, test::viewAt(2.0)).toRect().adjusted(6, 6, -6, -6);
+        return qGray(image.pixel(inside.topLeft())) - darkestIn(image, inside);
+    };
+    const int full = contrast(true);
+    EXPECT_GT(full, 120);
+    EXPECT_LT(contrast(false), full * 6 / 10);
+}
+
+TEST_F(PaintedControls, AWarningIsToldByASignAndNotByItsColourAlone)
+{
+    // Left of the letters, inside the border.
+    const desktop::View view = test::viewAt(2.0);
+    const QRectF box = desktop::boxOf(stage, test::Warning, view);
+    const QRectF letters = desktop::captionBounds(stage, test::Warning, view);
+    const QRect sign =
+        QRectF(box.left() + 4, box.top() + 4, letters.left() - box.left() - 8, box.height() - 8).toRect();
+    EXPECT_GT(countOf(test::imageOfControl(stage, test::Warning, view), sign, lightInks().warning), 30);
+}
+
+TEST_F(PaintedControls, WhatStepsBackIsQuieterThanWhatSpeaks)
+{
+    const desktop::View view = test::viewAt(2.0);
+    const auto darkest = [&](host::Handle control) {
+        return darkestIn(test::imageOfControl(stage, control, view), desktop::boxOf(stage, control, view).toRect());
+    };
+    const int ink = qGray(lightInks().ink.rgb());
+    EXPECT_LT(darkest(test::PlainLabel), ink + 20);
+    EXPECT_GT(darkest(test::Note), qGray(lightInks().quiet.rgb()) - 20);
+    stage.setEnabled(test::PlainLabel, false);
+    EXPECT_GT(darkest(test::PlainLabel), qGray(lightInks().quiet.rgb()) - 20);
+    EXPECT_GT(darkest(test::ButtonOff), qGray(lightInks().buttonOffInk.rgb()) - 20);
+    stage.setEnabled(test::ButtonOff, true);
+    EXPECT_LT(darkest(test::ButtonOff), ink + 20);
+}
+
+TEST_F(PaintedControls, APressedButtonShowsThatItIsPressed)
+{
+    desktop::View view = test::viewAt(2.0);
+    const QRect box = desktop::boxOf(stage, test::ButtonReport, view).toRect();
+    const QRect ground(box.left() + 14, box.top() + 6, 6, 4);
+    view.hovered = test::ButtonReport;
+    EXPECT_EQ(countOf(test::imageOfControl(stage, test::ButtonReport, view), ground, lightInks().buttonHover), 24);
+    view.pressed = test::ButtonReport;
+    EXPECT_EQ(countOf(test::imageOfControl(stage, test::ButtonReport, view), ground, lightInks().accentTint), 24);
+}
+
+TEST_F(PaintedControls, WhatIsChosenIsFilledWithTheAccentWhatIsNotIsEmpty)
+{
+    const desktop::View view = test::viewAt(2.0);
+    for (const host::Handle control : {test::OptionOne, test::CheckOne}) {
+        const QRectF box = desktop::boxOf(stage, control, view);
+        const double size = std::min(26.0, box.height());
+        const QRect mark = QRectF(box.left() + 2, box.center().y() - size / 2, size, size).toRect();
+        const auto filled = [&] {
+            return countOf(test::imageOfControl(stage, control, view), mark, lightInks().accent);
+        };
+        stage.setChecked(control, true);
+        EXPECT_GT(filled(), 100) << stage.row(control).name;
+        stage.setChecked(control, false);
+        EXPECT_EQ(filled(), 0) << stage.row(control).name;
+    }
+}
+
+TEST_F(PaintedControls, TheTeachersVoiceHasAnEdgeOfTheAccentAndNoMore)
+{
+    const desktop::View view = test::viewAt(2.0);
+    const QRect box = desktop::boxOf(stage, test::Voice, view).toRect();
+    const QImage image = test::imageOfControl(stage, test::Voice, view);
+    const QRect edge(box.left() + 2, box.center().y() - 5, 4, 10);
+    EXPECT_EQ(countOf(image, edge, lightInks().accent), 40);
+    EXPECT_EQ(countOf(image, box.adjusted(10, 0, 0, 0), lightInks().accent), 0) << "four units wide";
+}
+
+TEST_F(PaintedControls, OnPaperNothingIsInHandAndFieldsHaveTheirBoxes)
+{
+    const auto printed = [this] {
+        desktop::View view = test::viewAt(1.0, desktop::printInks());
+        view.forPrint = true;
+        QImage image = test::paperImage({750, 520}, *view.inks);
+        QPainter painter(&image);
+        desktop::paintWindow(painter, stage, view);
+        return image;
+    };
+    const QImage plain = printed();
+    ASSERT_TRUE(program.engine.userFocus(stage, test::FieldEmitter));
+    EXPECT_EQ(printed(), plain) << "a field in hand";
+    ASSERT_TRUE(program.engine.userFocus(stage, test::ToolPage));
+    EXPECT_EQ(printed(), plain) << "a picture in hand";
+    desktop::View view = test::viewAt(1.0);
+    const QRectF field = desktop::boxOf(stage, test::FieldGain, view);
+    const QRect border = QRectF(field.left() + 8, field.top() - 1, field.width() - 16, 3).toRect();
+    EXPECT_LT(darkestIn(plain, border), 200) << "an empty field is a box to fill in";
+    stage.setVisible(test::OverlayPanel, true);
+    EXPECT_NE(printed(), plain) << "what lies above the sheet is printed, too";
+}
+
+TEST_F(PaintedControls, TheSymbolOfAFieldTellsWhetherItIsInHandOrOff)
+{
+    const desktop::View view = test::viewAt(2.0);
+    const auto has = [&](host::Handle field, const QColor& color) {
+        const QRect symbol = desktop::symbolBounds(stage, field, view).toAlignedRect();
+        return countOf(test::imageOfControl(stage, field, view), symbol, color) > 5;
+    };
+    EXPECT_TRUE(has(test::FieldCollector, lightInks().ink));
+    ASSERT_TRUE(program.engine.userFocus(stage, test::FieldCollector));
+    EXPECT_TRUE(has(test::FieldCollector, lightInks().accent));
+    EXPECT_TRUE(has(test::FieldGain, lightInks().quiet)) << "it cannot be filled in yet";
+    EXPECT_FALSE(has(test::FieldGain, lightInks().ink));
+    const QRect unit = desktop::unitBounds(stage, test::FieldLoad, view).toAlignedRect();
+    EXPECT_GT(countOf(test::imageOfControl(stage, test::FieldLoad, view), unit, lightInks().quiet), 5);
 }
 
 TEST_F(PaintedControls, ADisabledControlDoesNotAnswerThePointer)

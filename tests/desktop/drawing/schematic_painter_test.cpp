@@ -249,6 +249,27 @@ TEST_F(Schematic, ThePartInHandIsToldByWeightTooNotByColourAlone)
     EXPECT_EQ(after, 10); // one pixel more on each side of each border
 }
 
+TEST_F(Schematic, ThePartInHandStandsOnAPaleGround)
+{
+    const Mark mark{.symbol = Symbol::resistor, .from = {60, 20}, .to = {60, 100}, .field = test::FieldCollector};
+    const QRgb inside = desktop::lightInks().accentTint.rgb();
+    ASSERT_TRUE(program.engine.userFocus(program.stage(), test::FieldCollector));
+    EXPECT_EQ(test::imageOfMarks(window(), {&mark, 1}, 2.0).pixel(120, 120), inside);
+    ASSERT_TRUE(program.engine.userFocus(program.stage(), test::FieldEmitter));
+    EXPECT_NE(test::imageOfMarks(window(), {&mark, 1}, 2.0).pixel(120, 120), inside);
+}
+
+TEST_F(Schematic, SignalsHaveTheAccentAndAMeterItsLetter)
+{
+    const Mark arrow{.symbol = Symbol::arrow, .from = {20, 50}, .to = {120, 50}};
+    EXPECT_EQ(test::imageOfMarks(window(), {&arrow, 1}, 2.0).pixel(100, 100), desktop::lightInks().accent.rgb());
+    const Mark empty{.symbol = Symbol::meter, .from = {60, 20}, .to = {60, 80}, .side = host::Side::right};
+    Mark meter = empty;
+    meter.name = "V";
+    EXPECT_GT(test::inkedPixels(test::imageOfMarks(window(), {&meter, 1}, 2.0), desktop::lightInks().paper),
+              test::inkedPixels(test::imageOfMarks(window(), {&empty, 1}, 2.0), desktop::lightInks().paper) + 20);
+}
+
 TEST_F(Schematic, TextsFollowTheLanguage)
 {
     const Mark mark{.symbol = Symbol::text, .from = {20, 20}, .note = {"carga", "load of the stage"}};

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QListWidget>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -200,6 +201,34 @@ TEST_P(MainWindowTest, noTwoMenuKeysAreTheSame)
             keys.emplace_back(desktop::shown(row.keys), QKeySequence::PortableText);
     std::sort(keys.begin(), keys.end());
     EXPECT_EQ(std::adjacent_find(keys.begin(), keys.end()), keys.end());
+}
+
+TEST_P(MainWindowTest, everyKeyOfAMenuChoosesItsItemOrShowsItsItemsFromInsideASheet)
+{
+    const host::WindowSpec& spec = *program::catalogue().front();
+    int tried = 0;
+    for (const host::ShortcutRow& row : spec.shortcuts) {
+        if (row.control == noControl || spec.controls[row.control].kind != Kind::menu)
+            continue;
+        ++tried;
+        Bench on(program::catalogue());
+        on.engine.values().LanguageIsEnglish = GetParam() ? host::trueValue : std::int16_t{0};
+        on.open();
+        on.engine.userRun([&] { on.engine.host().Show(*on.engine.host().NewInstance("Form2")); });
+        int chosen = 0;
+        on.engine.onSlot = [&](const host::Window& who, Handle about, host::Event event) {
+            chosen += &who == &on.engine.mainWindow() && about == row.control && event == host::Event::click ? 1 : 0;
+        };
+        on.answerAnything();
+        Bench::settle();
+        on.keys(desktop::shown(row.keys));
+        QMenu* const menu = on.main().menus().menuOf(row.control);
+        EXPECT_EQ(chosen, menu == nullptr ? 1 : 0) << row.keys;
+        EXPECT_EQ(QApplication::activePopupWidget(), menu) << row.keys;
+        if (menu != nullptr)
+            menu->hide();
+    }
+    EXPECT_EQ(tried, 8) << "new, open, save, save as, close, two languages, the bar";
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, MainWindowTest, ::testing::Bool(),

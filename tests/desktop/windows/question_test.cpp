@@ -156,6 +156,28 @@ TEST(FileFilterTest, descriptionsStandToTheLetterAndPatternsMatchAnyCapitals)
     EXPECT_EQ(desktop::endingOf(filters[1]), "");
 }
 
+QString toolkitsSave()
+{
+    return QCoreApplication::translate("QPlatformTheme", "Save");
+}
+
+TEST(ToolkitTextsTest, theySpeakTheLanguageOfTheMomentAndGoWithTheProgram)
+{
+    EXPECT_EQ(toolkitsSave(), QStringLiteral("Save"));
+    {
+        Bench on;
+        on.open();
+        EXPECT_EQ(toolkitsSave(), QStringLiteral("Save")) << "nothing is read before the first window is shown";
+        on.screen.settleIn();
+        EXPECT_EQ(toolkitsSave(), QStringLiteral("Guardar"));
+        on.engine.userRun([&] { on.engine.values().LanguageIsEnglish = host::trueValue; });
+        EXPECT_EQ(toolkitsSave(), QStringLiteral("Save"));
+        on.engine.userRun([&] { on.engine.values().LanguageIsEnglish = 0; });
+        EXPECT_EQ(toolkitsSave(), QStringLiteral("Guardar"));
+    }
+    EXPECT_EQ(toolkitsSave(), QStringLiteral("Save"));
+}
+
 TEST_F(QuestionTest, aProgramThatMustEndSaysSoPlainly)
 {
     on.answerByKey(Qt::Key_Return);

@@ -99,6 +99,22 @@ TEST_F(TalkTest, aSheetThatIsOpenedComesInFrontOfItsPage)
     EXPECT_EQ(welcome(), nullptr);
 }
 
+TEST_F(TalkTest, thePageNeverLiesUnderAPaletteThatAHandHasMoved)
+{
+    pointAt(palette(), palette::imgButton4);
+    ASSERT_NE(welcome(), nullptr);
+    EXPECT_GT(welcome()->y(), 0) << "at the lower edge, above the palette's own strip";
+    QWidget& frame = on.screen.keeper().frameOf(palette())->widget();
+    frame.move(frame.pos() - QPoint(0, 150));
+    pointAt(sheet(), fieldOf(sheet()));
+    ASSERT_EQ(welcome(), nullptr);
+    pointAt(palette(), palette::imgButton4);
+    ASSERT_NE(welcome(), nullptr);
+    const QRect page(welcome()->mapToGlobal(QPoint(0, 0)), welcome()->size());
+    EXPECT_FALSE(page.intersects(frame.frameGeometry()));
+    EXPECT_EQ(welcome()->y(), 0);
+}
+
 TEST_F(TalkTest, theGeneralPageStaysBehindTheSheets)
 {
     pointAt(palette(), palette::imgButton4);

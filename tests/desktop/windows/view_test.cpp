@@ -4,7 +4,6 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QLabel>
 #include <QListWidget>
 #include <QMdiArea>
 #include <QMenu>
@@ -13,7 +12,6 @@
 #include <QTimer>
 
 #include "desktop/canvas/control_pane.h"
-#include "desktop/canvas/pointer.h"
 #include "desktop/desktop_fixture.h"
 #include "desktop/windows/menus.h"
 
@@ -153,67 +151,6 @@ TEST_F(ViewTest, belowAReadableSizeTheSheetScrollsAndFollowsTheFieldInHand)
     EXPECT_FALSE(inSight(Text1));
 }
 
-TEST_F(ViewTest, hoveringTellsEachControlOnceAndTheBackgroundToo)
-{
-    log().clear();
-    on.moveTo(Image1);
-    on.moveTo(Image1);
-    on.moveTo(Text4);
-    QTest::mouseMove(on.main().windowHandle(), on.middleOf(on.sheet(), Text4) + QPoint(0, 45));
-    on.settle();
-    EXPECT_EQ(log(), (std::vector<std::string>{"Image1 hover", "Text4 hover", "Hoja hover"}));
-}
-
-TEST_F(ViewTest, aRightPressOnADisabledFieldStillHelps)
-{
-    on.moveTo(Text4);
-    log().clear();
-    on.click(Text4, Qt::RightButton);
-    on.click(Text4, Qt::LeftButton);
-    EXPECT_EQ(log(), (std::vector<std::string>{"Text4 down"}));
-}
-
-TEST_F(ViewTest, theShiftStateGoesWithARightPress)
-{
-    int shift = 0;
-    on.sheet().deeds[{Image1, Event::mouseDown}] = [&](host::EventArgs& args) { shift = args.shift; };
-    on.click(Image1, Qt::RightButton, Qt::ShiftModifier | Qt::ControlModifier);
-    EXPECT_EQ(shift, 3);
-}
-
-TEST_F(ViewTest, aDoubleClickOnWhatKnowsNoneIsTwoClicks)
-{
-    log().clear();
-    on.doubleClick(Image1);
-    EXPECT_EQ(std::count(log().begin(), log().end(), "Image1 click"), 2);
-}
-
-TEST_F(ViewTest, aDragEndsInADropAndAShortPressIsAClick)
-{
-    log().clear();
-    on.drag(Image14, Image12);
-    EXPECT_EQ(log().back(), "Image12 drop");
-    EXPECT_EQ(std::count(log().begin(), log().end(), "Image14 click"), 0);
-    on.click(Image14);
-    EXPECT_EQ(log().back(), "Image14 click");
-    log().clear();
-    on.drag(Image14, Text5);
-    EXPECT_EQ(std::count(log().begin(), log().end(), "Image12 drop"), 0);
-}
-
-TEST_F(ViewTest, escapeGivesUpADrag)
-{
-    QTest::mousePress(on.main().windowHandle(), Qt::LeftButton, Qt::NoModifier, on.middleOf(on.sheet(), Image14));
-    QTest::mouseMove(on.main().windowHandle(), on.middleOf(on.sheet(), Image12));
-    on.settle();
-    EXPECT_NE(on.viewOf(on.sheet()).canvas().findChild<QLabel*>(), nullptr) << "the drawing goes with the pointer";
-    on.key(Qt::Key_Escape);
-    log().clear();
-    QTest::mouseRelease(on.main().windowHandle(), Qt::LeftButton, Qt::NoModifier, on.middleOf(on.sheet(), Image12));
-    on.settle();
-    EXPECT_TRUE(log().empty());
-}
-
 TEST_F(ViewTest, aTimerTicksWhileItIsEnabledAndNotDuringABox)
 {
     int ticks = 0;
@@ -288,6 +225,8 @@ TEST_F(ViewTest, menusShowCaptionsChecksAndAskBeforeTheyOpen)
     EXPECT_EQ(main.log.back(), "mnuIng click");
     on.engine.userRun([&] { main.setText(mnuOp, "&Options"); });
     EXPECT_EQ(on.main().menus().actionOf(mnuOp)->text(), "&Options");
+    on.engine.userRun([&] { main.hide(mnuIng); });
+    EXPECT_FALSE(on.main().menus().actionOf(mnuIng)->isVisible());
 }
 
 TEST_F(ViewTest, aRefusedCloseLeavesTheSheet)

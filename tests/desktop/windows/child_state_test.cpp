@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// States of child windows in real frames: what comes back when a sheet is minimised, and how large the next one is.
+#include <QMdiArea>
+
+#include <gtest/gtest.h>
+
+#include "desktop/canvas/canvas.h"
+#include "desktop/desktop_fixture.h"
+#include "frame/mdi_form1_controls.h"
+#include "program/catalogue.h"
+
+namespace velmor::test::child_state_test {
+
+class ChildStateTest : public ::testing::Test {
+protected:
+    ChildStateTest() : on(program::catalogue())
+    {
+        program::start(on.engine);
+        Bench::settle();
+    }
+
+    host::Window& sheet() { return *on.engine.instance("Form2", 0); }
+    desktop::ChildFrame& frame(host::Window& window)
+    {
+        return dynamic_cast<desktop::ChildFrame&>(*on.screen.keeper().frameOf(window));
+    }
+    /// The strip of the fixed bar, where it is seen.
+    const QWidget* bar()
+    {
+        for (const desktop::Canvas* canvas : on.main().findChildren<desktop::Canvas*>())
+            if (canvas->model() == &on.engine.mainWindow() && canvas->isVisible() &&
+                canvas->shows(main_window::imgButton0) && canvas->x() == 0 && canvas->width() < canvas->height())
+                return canvas;
+        return nullptr;
+    }
+    void choose(host::Handle item)
+    {
+        on.engine.userMenu(on.engine.mainWindow(), item);
+        Bench::settle();
+    }
+
+    Bench on;
+};
+
+TEST_F(ChildStateTest, aMinimisedSheetBringsTheBarBackAndItStaysInSight)
+{
+    choose(main_window::mnuFija);
+    frame(sheet()).showMaximized();
+    Bench::settle();
+    EXPECT_EQ(bar(), nullptr);
+    const int whole = on.main().area().width();
+    frame(sheet()).showMinimized();
+    Bench::settle();
+    ASSERT_NE(bar(), nullptr);
+    EXPECT_EQ(on.main().area().width(), whole - bar()->width()) << "the sheets make room for it";
+    frame(sheet()).showNormal();
+    Bench::settle();
+    EXPECT_EQ(bar(), nullptr);
+}
+
+TEST_F(ChildStateTest, aNewSheetIsShownMaximisedBesideAMaximisedOneAndNormalOtherwise)
+{
+    host::Window& first = sheet();
+    choose(main_window::once);
+    ASSERT_NE(&sheet(), &first);
+    EXPECT_FALSE(frame(sheet()).isMaximized());
+    frame(sheet()).showMaximized();
+    Bench::settle();
+    choose(main_window::once);
+    host::Window& third = sheet();
+    EXPECT_EQ(third.windowState(), 2);
+    EXPECT_TRUE(frame(third).isMaximized());
+    EXPECT_EQ(frame(third).geometry().size(), on.main().area().viewport()->size());
+    EXPECT_EQ(on.main().area().currentSubWindow(), &frame(third));
+    frame(third).showNormal();
+    Bench::settle();
+    EXPECT_EQ(third.windowState(), 0);
+    EXPECT_EQ(frame(third).geometry(), on.screen.desk().pixelsOf(third.place()));
+}
+
+} // namespace velmor::test::child_state_test
