@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "sheets/steps.h"
+#include "sheets/sheet_slots.h"
 
 namespace velmor::console::test {
 
@@ -255,7 +255,7 @@ public:
     }
     void key(EventArgs& args)
     {
-        if (sheets::filteredKey(*this, args) == sheets::enterKey)
+        if (filteredKey(args) == sheets::enterKey)
             host().SetFocus(*this, Text2);
     }
     void openKey(EventArgs& args) { note("key" + std::to_string(args.key)); }
@@ -274,7 +274,7 @@ public:
 };
 
 // clang-format off
-constexpr auto slots = sheets::withSheetFrame(std::array{
+constexpr auto slots = sheets::joined(sheets::frameSlots, std::array{
     SlotRow{noControl, Event::load,        slot<&Sheet::loaded>},
     SlotRow{Text1,     Event::focus,       slot<&Sheet::focused>},
     SlotRow{Text1,     Event::lostFocus,   slot<&Sheet::lost>},

@@ -13,7 +13,7 @@
 #include "console/whole_program.h"
 #include "places.h"
 #include "rules/scratch_folder.h"
-#include "sheets/design_sheet.h"
+#include "sheets/sheet_slots.h"
 
 namespace velmor::replay {
 
@@ -167,7 +167,7 @@ public:
 };
 
 constexpr std::array<host::SlotRow, 1> clicks{{{Press, host::Event::click, host::slot<&BadSheet::click>}}};
-constexpr auto slots = sheets::withSheetFrame(clicks);
+constexpr auto slots = sheets::joined(sheets::frameSlots, clicks);
 const sheets::SheetSpec sheetSpec{.filter = {"a|*.a", "b|*.b"}, .written = lines, .read = lines};
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)
