@@ -72,6 +72,11 @@ measure_desktop() {
     measure "${as_user[@]}" "$programs/bench_sheets"
 }
 
+measure_report() {
+    say "A long report: opened, searched, printed"
+    measure "${as_user[@]}" "$programs/bench_report"
+}
+
 seconds_of() {
     local name=$1 started=$EPOCHREALTIME
     shift
@@ -125,6 +130,7 @@ measure_start
 measure_keys
 measure_headless
 measure_desktop
+measure_report
 [[ ${1:-all} == quick ]] || measure_build
 if print_table; then
     say "Every bar is met."

@@ -3,6 +3,8 @@
 
 #include <clocale>
 
+#include <QTimer>
+
 #include "desktop/canvas/control_pane.h"
 #include "desktop/drawing/program_icon.h"
 #include "desktop/drawing/quiet_style.h"
@@ -16,7 +18,8 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
     setApplicationName(QStringLiteral("Velmor"));
     setDesktopFileName(QStringLiteral("velmor"));
     setQuitOnLastWindowClosed(false);
-    setWindowIcon(programIcon());
+    // Drawn when the first window is on its way to the screen.
+    QTimer::singleShot(0, this, [] { setWindowIcon(programIcon()); });
     setStyle(new QuietStyle);
     tellAssistiveTechnology();
 }

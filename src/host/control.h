@@ -48,6 +48,7 @@ enum class Look : std::uint8_t {
     toolButton, ///< picture or image that acts as a button
     group,      ///< panel behind a group of fields
     invisible,  ///< takes place in the model only; shows nothing by itself
+    drawn,      ///< its text is drawn as the value of a mark; assistive technology finds it all the same
 };
 
 /// In twips (1/1440 inch), from the window's left top corner.

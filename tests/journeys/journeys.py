@@ -102,7 +102,7 @@ class Design(Journey):
     def test_the_mouse_opens_sheets_and_the_menu_tiles_them(self):
         velmor = self.program
         velmor.focused("ΔQIc")
-        velmor.press(velmor.see("^Nuevo circuito", "push button"))
+        velmor.press(velmor.see("^Abrir otro circuito igual", "push button"))
         until(lambda: len(self.sheets()) == 2, "a second sheet")
         velmor.press(velmor.see("^Emisor Común Realimentado por Corriente$", "push button"))
         until(lambda: len(self.sheets()) == 3, "a third sheet from the palette")
@@ -155,11 +155,11 @@ class Pair(Journey):
         self.answer("archivo ha cambiado|file has changed", "n")
         until(lambda: not self.sheets(), "an empty desk")
         velmor.key("alt+shift+F1")
-        velmor.focused("%ΔQic")
+        velmor.focused("ΔQIc")
 
     def design(self):
         velmor = self.program
-        for field in ("T", "ΔVbe", "Qic", "RLw", "S", "Vg", "fo", "Eopp", "Ein", "Beta", "Ec(max)", "Ic(max)", "Vj", "-Ebias"):
+        for field in ("T", "ΔVbe", "QIc", "RLw", "S", "Vg", "fo", "Eopp", "Ein", "β", "Ec(max)", "Ic(max)", "Vj", "-Ebias"):
             velmor.key("Return")
             velmor.focused(field)
         velmor.wait_value("-Ebias", "20.25")  # (90 - 20) x 2.75 mV x 100 / 1, and 1 V more
@@ -183,7 +183,7 @@ class Pair(Journey):
         velmor.press(velmor.see(output))
         velmor.see(page)
         velmor.key("ctrl+b")
-        velmor.see("^%ΔQic,", "text")
+        velmor.see("^ΔQIc,", "text")
 
     def read_the_meter(self, meter):
         velmor = self.program
@@ -197,11 +197,11 @@ class Pair(Journey):
         velmor = self.program
         self.open("")
         self.drag_and_measure("^generador", "^senoide A", "^entrada 1", "^Out 1", r"Out 1 = 10 V")
-        velmor.press(velmor.field("%ΔQic"))
-        velmor.focused("%ΔQic")
+        velmor.press(velmor.field("ΔQIc"))
+        velmor.focused("ΔQIc")
         self.design()
         self.read_the_meter("^multímetro")
-        velmor.press(velmor.see("^elaborar informe", "push button"))
+        velmor.press(velmor.see("^Elaborar el informe", "push button"))
         until(lambda: "Resultados del diseño de Diferencial Simple" in self.report(), "the report")
         self.assertIn("ERes: 19.65 V", self.report())
 
@@ -209,11 +209,11 @@ class Pair(Journey):
         velmor = self.program
         self.open("ctrl+shift+i")
         self.drag_and_measure("^generator", "^sinusoid A", "^input 1", "^Out 1", r"Out 1 = 10 V")
-        velmor.press(velmor.field("%ΔQic"))
-        velmor.focused("%ΔQic")
+        velmor.press(velmor.field("ΔQIc"))
+        velmor.focused("ΔQIc")
         self.design()
         self.read_the_meter("^multimeter")
-        velmor.press(velmor.see("^make the report", "push button"))
+        velmor.press(velmor.see("^Write the report", "push button"))
         until(lambda: "Results of the design of Differential Simple" in self.report(), "the report")
         self.assertIn("RL (kohm) = 16", self.report())
 
@@ -225,7 +225,7 @@ class Text(Journey):
     def test_a_guide_is_changed_saved_and_printed(self):
         velmor = self.program
         velmor.focused("ΔQIc")
-        velmor.press(velmor.see("^Guía", "push button"))
+        velmor.press(velmor.see("^Abrir la guía", "push button"))
         editor = velmor.see("^Texto$", "text")
         until(lambda: "GUÍA" in velmor.text(editor).upper(), "the guide's text")
         until(lambda: editor.get_state_set().contains(Atspi.StateType.FOCUSED), "the keyboard in the editor")

@@ -203,7 +203,7 @@ constexpr auto controls = std::to_array<ControlRow>({
     hidden(touched(Image14, "Image14", onFace(112, 5, 74, 52), {"senoide A", "sinusoid A"}, drawings::screenA)),
     hidden(touched(Image15, "Image15", onFace(196, 5, 74, 52), {"senoide B", "sinusoid B"}, drawings::screenB)),
 
-    hidden({.id = SSPanel2, .name = "SSPanel2", .kind = Kind::panel, .place = onFace(12, 22, 220, 34), .look = Look::invisible}),
+    hidden({.id = SSPanel2, .name = "SSPanel2", .kind = Kind::panel, .place = onFace(12, 22, 220, 34), .look = Look::drawn}),
     reading(Shape12, "Shape12", drawings::readingV),
     reading(Shape13, "Shape13", drawings::readingMa),
     reading(Shape14, "Shape14", drawings::readingW),

@@ -18,6 +18,7 @@
 #include "desktop/drawing/control_painter.h"
 #include "desktop/drawing/growth_plan.h"
 #include "desktop/drawing/page_picture.h"
+#include "desktop/drawing/pale_field.h"
 #include "desktop/drawing/texts.h"
 
 namespace velmor::desktop {
@@ -158,6 +159,8 @@ QWidget* Canvas::focusTarget()
 {
     if (model_ == nullptr || model_->focus() == noControl)
         return this;
+    if (widgetOf(model_->focus()) == nullptr)
+        refresh(model_->focus());
     QWidget* widget = widgetOf(model_->focus());
     return widget != nullptr && widget->isVisibleTo(this) && widget->isEnabled() ? widget : this;
 }
@@ -191,6 +194,16 @@ void Canvas::paintEvent(QPaintEvent* event)
     if (model_ == nullptr)
         return;
     inOrderOfPainting(*model_, [&](Handle control) { paintOne(painter, control, event->region()); });
+    paintPaleFields(painter, event->region());
+}
+
+// Over the rest, as their widgets would lie.
+void Canvas::paintPaleFields(QPainter& painter, const QRegion& clip)
+{
+    for (const host::ControlRow& row : model_->spec().controls)
+        if (row.kind == host::Kind::field && widgets_[row.id] == nullptr && row.look != host::Look::invisible &&
+            shows(row.id) && clip.intersects(boxInPixels(row.id)))
+            paintPaleField(painter, *model_, row.id, boxInPixels(row.id), view_);
 }
 
 void Canvas::repaintControl(Handle control)

@@ -87,6 +87,8 @@ private:
     void refresh(host::Handle control);
     void retone(host::Handle control);
     void refreshWidget(host::Handle control, bool shown);
+    bool wantsWidget(host::Handle control) const;
+    void paintPaleFields(QPainter& painter, const QRegion& clip);
     QWidget* makeWidget(host::Handle control);
     QWidget* makeField(host::Handle control);
     QWidget* makePage(host::Handle control);

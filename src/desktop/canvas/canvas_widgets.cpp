@@ -163,12 +163,21 @@ void Canvas::retone(Handle control)
         field->setPale(toneOf(GrowthPlan::of(model_->spec()), *model_, control) == host::Tone::pale);
 }
 
+// A field that cannot be written in is painted: a sheet begins with one that can among twenty. Whoever reads the screen by
+// its tree, and what lies above the sheet, gets them all as widgets.
+bool Canvas::wantsWidget(Handle control) const
+{
+    const host::ControlRow& row = model_->row(control);
+    return row.kind != Kind::field || row.overlay || model_->enabled(control) || model_->focus() == control ||
+           QAccessible::isActive();
+}
+
 // A widget is made when its control is first seen: a sheet shows a third of its controls at its start.
 void Canvas::refreshWidget(Handle control, bool shown)
 {
     QWidget*& widget = widgets_[control];
     if (widget == nullptr) {
-        if (!shown || (widget = makeWidget(control)) == nullptr)
+        if (!shown || !wantsWidget(control) || (widget = makeWidget(control)) == nullptr)
             return;
         handles_[widget] = control;
         widget->installEventFilter(this);

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "desktop/drawing/palette_of_inks.h"
+#include "desktop/drawing/plates.h"
 
 namespace velmor::desktop {
 
@@ -84,12 +85,7 @@ void FieldEdit::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     const double ratio = devicePixelRatioF();
     const double weight = (hasFocus() ? 2.0 : 1.0) * std::max(1.0, std::round(ratio)) / ratio;
-    const double half = weight / 2.0;
-    painter.setPen(QPen(hasFocus()    ? inks_->accent
-                        : isEnabled() ? inks_->edge
-                                      : inks_->rule,
-                        weight, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
+    fillFrame(painter, rect(), weight, hasFocus() ? inks_->accent : isEnabled() ? inks_->edge : inks_->rule);
 }
 
 void FieldEdit::focusInEvent(QFocusEvent* event)

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QHash>
 #include <QStringList>
 
@@ -132,23 +133,26 @@ bool isPage(const Manner& manner, const QString& text)
     return (manner.alignment & Qt::AlignLeft) != 0 && text.count(QLatin1Char('\n')) >= 8;
 }
 
-struct Measure {
-    QRectF box;
+/// A text set in its room.
+struct Answer {
+    QFont font;
+    QRectF box; ///< what the text takes, from the room's left top corner
     bool fits = false;
 };
 
-Measure measure(const QString& text, const QFont& font, const QRectF& room, int flags)
+Answer measure(const QString& text, const QFont& font, QSizeF room, int flags)
 {
     const QFontMetricsF metrics(font);
-    const QRectF box = metrics.boundingRect(room, flags, text);
+    const QRectF box = metrics.boundingRect(QRectF(QPointF(), room), flags, text);
     // The space over capitals is no ink: a line may hang over its room by that much.
     const double slack = metrics.ascent() - metrics.capHeight();
-    return {box, box.width() <= room.width() + 0.5 && box.height() <= room.height() + slack};
+    return {font, box, box.width() <= room.width() + 0.5 && box.height() <= room.height() + slack};
 }
 
-/// What decides a size; the same labels are measured at every repaint.
+/// What decides an answer; the same labels are set at every repaint.
 struct Question {
     QString text;
+    QString family;
     QSizeF room;
     double wanted;
     int manner;
@@ -157,8 +161,8 @@ struct Question {
 
 size_t qHash(const Question& question, size_t seed = 0)
 {
-    return qHashMulti(seed, question.text, question.room.width(), question.room.height(), question.wanted,
-                      question.manner);
+    return qHashMulti(seed, question.text, question.family, question.room.width(), question.room.height(),
+                      question.wanted, question.manner);
 }
 
 double wantedPixels(const host::Window& window, host::Handle control, const Manner& manner, const View& view)
@@ -167,34 +171,32 @@ double wantedPixels(const host::Window& window, host::Handle control, const Mann
     return points * twipsPerPoint * view.pixelsPerTwip;
 }
 
-int searchSize(const QString& text, const Manner& manner, const QRectF& room, int flags, double wanted)
+Answer search(const QString& text, const Manner& manner, QSizeF room, int flags, double wanted)
 {
     const int largest = std::max(static_cast<int>(smallestLetters), static_cast<int>(std::lround(wanted)));
     const int least = std::max(static_cast<int>(smallestLetters), static_cast<int>(std::lround(wanted * 0.82)));
     const int unwrapped = flags & ~static_cast<int>(Qt::TextWordWrap);
     for (int pixels = largest; manner.oneLine && pixels >= least; --pixels)
-        if (measure(text, fontOf(manner, pixels), room, unwrapped).fits)
-            return pixels;
+        if (const QFont font = fontOf(manner, pixels); measure(text, font, room, unwrapped).fits)
+            return measure(text, font, room, flags);
     for (int pixels = largest; pixels > static_cast<int>(smallestLetters); --pixels)
-        if (measure(text, fontOf(manner, pixels), room, flags).fits)
-            return pixels;
-    return static_cast<int>(smallestLetters);
+        if (Answer answer = measure(text, fontOf(manner, pixels), room, flags); answer.fits)
+            return answer;
+    return measure(text, fontOf(manner, smallestLetters), room, flags);
 }
 
-int sizeFor(const QString& text, const Manner& manner, const QRectF& room, int flags, double wanted)
+Answer answerTo(const QString& text, const Manner& manner, QSizeF room, int flags, double wanted)
 {
-    static QHash<Question, int> answers;
+    static QHash<Question, Answer> answers;
     const int key = flags << 4 | (manner.oneLine ? 8 : 0) | (manner.bold ? 1 : 0) | (manner.serif ? 2 : 0) |
                     (manner.italic ? 4 : 0);
-    const Question question{text, room.size(), wanted, key};
+    const Question question{text, QGuiApplication::font().family(), room, wanted, key};
     const auto known = answers.constFind(question);
     if (known != answers.constEnd())
         return *known;
-    const int pixels = searchSize(text, manner, room, flags, wanted);
     if (answers.size() > 4000)
         answers.clear();
-    answers.insert(question, pixels);
-    return pixels;
+    return *answers.insert(question, search(text, manner, room, flags, wanted));
 }
 
 } // namespace fitting
@@ -223,10 +225,10 @@ CaptionSetting setCaption(const host::Window& window, host::Handle control, cons
     if (isPage(manner, setting.text))
         setting.flags = (setting.flags & ~static_cast<int>(Qt::AlignVCenter)) | Qt::AlignTop;
     const double wanted = wantedPixels(window, control, manner, view);
-    setting.font = fontOf(manner, sizeFor(setting.text, manner, setting.room, setting.flags, wanted));
-    const Measure measured = measure(setting.text, setting.font, setting.room, setting.flags);
-    setting.box = measured.box;
-    setting.fits = measured.fits;
+    const Answer answer = answerTo(setting.text, manner, setting.room.size(), setting.flags, wanted);
+    setting.font = answer.font;
+    setting.box = answer.box.translated(setting.room.topLeft());
+    setting.fits = answer.fits;
     return setting;
 }
 

@@ -403,6 +403,7 @@ void paintByLook(const Scene& scene)
         return paintText(scene);
     case Look::plain:
     case Look::invisible:
+    case Look::drawn:
         break;
     }
     paintByKind(scene);

@@ -166,4 +166,13 @@ void paintPlateOnScreen(QPainter& painter, const QRectF& box, const PlateLook& l
     painter.restore();
 }
 
+void fillFrame(QPainter& painter, const QRectF& box, double width, const QColor& color)
+{
+    const double between = box.height() - 2.0 * width;
+    painter.fillRect(QRectF(box.left(), box.top(), box.width(), width), color);
+    painter.fillRect(QRectF(box.left(), box.bottom() - width, box.width(), width), color);
+    painter.fillRect(QRectF(box.left(), box.top() + width, width, between), color);
+    painter.fillRect(QRectF(box.right() - width, box.top() + width, width, between), color);
+}
+
 } // namespace velmor::desktop

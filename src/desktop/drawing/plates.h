@@ -23,4 +23,7 @@ void paintPlateOnScreen(QPainter& painter, const QRectF& box, const PlateLook& l
 /// The same as one path, for paper and for boxes that lie anywhere.
 void paintPlate(QPainter& painter, const QRectF& box, const PlateLook& look);
 
+/// A rectangular border inside `box`, without corners to round or edges to smooth.
+void fillFrame(QPainter& painter, const QRectF& box, double width, const QColor& color);
+
 } // namespace velmor::desktop

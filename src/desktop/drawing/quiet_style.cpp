@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/drawing/quiet_style.h"
 
+#include <functional>
+#include <utility>
+
+#include <QIconEngine>
 #include <QPainter>
 #include <QStyleOptionTitleBar>
+#include <QWidget>
 
 #include "desktop/drawing/palette_of_inks.h"
+#include "desktop/drawing/plates.h"
 
 namespace velmor::desktop {
 
@@ -60,6 +66,66 @@ void drawGlyph(QPainter& painter, QStyle::SubControl part, const QRect& box)
     }
 }
 
+bool mayBeLate(QStyle::StandardPixmap sign)
+{
+    switch (sign) {
+    case QStyle::SP_TitleBarMinButton:
+    case QStyle::SP_TitleBarMaxButton:
+    case QStyle::SP_TitleBarNormalButton:
+    case QStyle::SP_TitleBarCloseButton:
+    case QStyle::SP_TitleBarShadeButton:
+    case QStyle::SP_TitleBarUnshadeButton:
+    case QStyle::SP_ToolBarHorizontalExtensionButton:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// A child window's title, with what stands twice in it for the toolkit's sake said once.
+QString titleOf(const QStyleOptionTitleBar& bar, const QWidget* widget)
+{
+    return widget == nullptr || widget->windowTitle().isEmpty()
+               ? bar.text
+               : widget->windowTitle().replace(QStringLiteral("[*][*]"), QStringLiteral("[*]"));
+}
+
+/// A sign of the toolkit's own that is read from its files when it is first seen. Most never are: they stand in the menus of
+/// child windows and at the end of a menu bar that is too long.
+class LateSign final : public QIconEngine {
+public:
+    explicit LateSign(std::function<QIcon()> read) : read_(std::move(read)) {}
+
+    void paint(QPainter* painter, const QRect& box, QIcon::Mode mode, QIcon::State state) override
+    {
+        sign().paint(painter, box, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return sign().pixmap(size, mode, state);
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return sign().actualSize(size, mode, state);
+    }
+    QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override
+    {
+        return sign().availableSizes(mode, state);
+    }
+    QIconEngine* clone() const override { return new LateSign(*this); }
+
+private:
+    const QIcon& sign()
+    {
+        if (sign_.isNull())
+            sign_ = read_();
+        return sign_;
+    }
+
+    std::function<QIcon()> read_;
+    QIcon sign_;
+};
+
 } // namespace quiet_style_detail
 
 QuietStyle::QuietStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -83,8 +149,19 @@ void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         return;
     }
     const Inks& inks = inksFor(option->palette);
-    painter->setPen(option->state & State_Active ? inks.edge : inks.rule);
-    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    fillFrame(*painter, option->rect, 1.0, option->state & State_Active ? inks.edge : inks.rule);
+}
+
+// Every child window asks for the signs of its own menu anew, the menu bar for one before it is shown.
+QIcon QuietStyle::standardIcon(StandardPixmap sign, const QStyleOption* option, const QWidget* widget) const
+{
+    if (!quiet_style_detail::mayBeLate(sign))
+        return QProxyStyle::standardIcon(sign, option, widget);
+    const auto known = signs_.find(sign);
+    if (known != signs_.end())
+        return known->second;
+    const auto read = [this, sign] { return QProxyStyle::standardIcon(sign, nullptr, nullptr); };
+    return signs_.emplace(sign, QIcon(new quiet_style_detail::LateSign(read))).first->second;
 }
 
 void QuietStyle::drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter, const QWidget* widget) const
@@ -102,7 +179,8 @@ void QuietStyle::drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter
     }
     painter.setPen(active ? inks.ink : inks.quiet);
     const QRect label = subControlRect(CC_TitleBar, &bar, SC_TitleBarLabel, widget);
-    painter.drawText(label, Qt::AlignVCenter | Qt::AlignHCenter | Qt::TextSingleLine, bar.text);
+    painter.drawText(label, Qt::AlignVCenter | Qt::AlignHCenter | Qt::TextSingleLine,
+                     bar.fontMetrics.elidedText(titleOf(bar, widget), Qt::ElideRight, label.width()));
     for (const SubControl part :
          {SC_TitleBarMinButton, SC_TitleBarMaxButton, SC_TitleBarNormalButton, SC_TitleBarCloseButton}) {
         if (!offered(bar, part))

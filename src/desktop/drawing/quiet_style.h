@@ -2,6 +2,9 @@
 // The toolkit's plain style with flat title bars for child windows: one calm colour, four strokes for the buttons.
 #pragma once
 
+#include <map>
+
+#include <QIcon>
 #include <QProxyStyle>
 
 class QStyleOptionTitleBar;
@@ -15,9 +18,12 @@ public:
                             const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    QIcon standardIcon(StandardPixmap sign, const QStyleOption* option, const QWidget* widget) const override;
 
 private:
     void drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter, const QWidget* widget) const;
+
+    mutable std::map<StandardPixmap, QIcon> signs_;
 };
 
 } // namespace velmor::desktop

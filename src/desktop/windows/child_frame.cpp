@@ -127,6 +127,16 @@ void ChildFrame::changeEvent(QEvent* event)
         desk_.engine->userState(*model(), shownState());
 }
 
+// The toolkit would shorten a title of its own to the frame's width at every question about the frame's parts, for all frames
+// at each activation. It is kept from knowing the title; the style shortens it once for each painting.
+bool ChildFrame::event(QEvent* event)
+{
+    if (event->type() != QEvent::WindowTitleChange || isMaximized())
+        return QMdiSubWindow::event(event);
+    update(0, 0, width(), view_->y());
+    return QWidget::event(event);
+}
+
 void ChildFrame::moveEvent(QMoveEvent* event)
 {
     QMdiSubWindow::moveEvent(event);

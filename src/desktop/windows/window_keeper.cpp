@@ -7,6 +7,7 @@
 #include <QCursor>
 #include <QMdiArea>
 #include <QMenu>
+#include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QTimer>
 
@@ -67,7 +68,7 @@ WindowFrame* WindowKeeper::make(host::Window& window)
         language_ = desk_.engine->values().LanguageIsEnglish;
     } else if (window.isChild() && main_) {
         auto* child = new ChildFrame(desk_, window);
-        main_->area().addSubWindow(child);
+        addChild(*child);
         frame = child;
     } else {
         frame = new ToolWindow(desk_, window, main_);
@@ -75,6 +76,29 @@ WindowFrame* WindowKeeper::make(host::Window& window)
     frame->widget().installEventFilter(this);
     frames_[&window] = frame;
     return frame;
+}
+
+void WindowKeeper::addChild(ChildFrame& child)
+{
+    // The area's own answer comes between the two: it would have the frames of all children painted anew.
+    connect(&child, &QMdiSubWindow::aboutToActivate, this, [this, &child] { holdFrames(child, true); });
+    // A new child clears the menu bar of the buttons that it would have there, and paints a bar that did not change.
+    main_->menuBar()->setAttribute(Qt::WA_UpdatesDisabled);
+    main_->area().addSubWindow(&child);
+    main_->menuBar()->setAttribute(Qt::WA_UpdatesDisabled, false);
+    connect(&child, &QMdiSubWindow::aboutToActivate, this, [this, &child] { holdFrames(child, false); });
+}
+
+// When a child becomes active, the frames change of that child and of the one that was active; the rest stay as they are.
+void WindowKeeper::holdFrames(const QMdiSubWindow& next, bool hold)
+{
+    if (!main_)
+        return;
+    const QMdiArea& area = main_->area();
+    for (QMdiSubWindow* child : area.subWindowList()) {
+        const bool stays = child != &next && child != area.currentSubWindow() && child != area.activeSubWindow();
+        child->setAttribute(Qt::WA_UpdatesDisabled, hold && stays);
+    }
 }
 
 WindowFrame* WindowKeeper::frameOf(const host::Window& window) const

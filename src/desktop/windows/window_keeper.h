@@ -19,6 +19,8 @@ class QMdiSubWindow;
 
 namespace velmor::desktop {
 
+class ChildFrame;
+
 class WindowKeeper final : public QObject, private QAccessible::ActivationObserver {
 public:
     explicit WindowKeeper(Desk& desk);
@@ -49,6 +51,8 @@ protected:
 private:
     void accessibilityActiveChanged(bool active) override;
     WindowFrame* make(host::Window& window);
+    void addChild(ChildFrame& child);
+    void holdFrames(const QMdiSubWindow& next, bool hold);
     void followAll();
     void followLanguage();
     void followDesktop();

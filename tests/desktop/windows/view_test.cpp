@@ -20,6 +20,17 @@ namespace velmor::test::view_test {
 using namespace bench;
 using host::Event;
 
+/// Counts how often a widget is painted.
+struct Paintings final : QObject {
+    explicit Paintings(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
 struct ViewTest : ::testing::Test {
     void SetUp() override { on.open(); }
     desktop::ChildFrame& frame(host::Window& window)
@@ -36,6 +47,83 @@ TEST_F(ViewTest, aWidgetIsMadeWhenItsControlIsFirstSeen)
     on.engine.userRun([this] { on.sheet().show(Text5); });
     ASSERT_NE(on.widgetOf(on.sheet(), Text5), nullptr);
     EXPECT_TRUE(on.widgetOf(on.sheet(), Text5)->isVisible());
+}
+
+TEST_F(ViewTest, aFieldThatCannotBeWrittenInLooksTheSameWithAndWithoutAWidget)
+{
+    on.engine.userRun([this] {
+        on.sheet().disable(Text5);
+        on.sheet().setText(Text5, "a text that is wider than its field, gjpqy");
+        on.sheet().show(Text5);
+    });
+    on.settle();
+    ASSERT_EQ(on.widgetOf(on.sheet(), Text4), nullptr);
+    ASSERT_EQ(on.widgetOf(on.sheet(), Text5), nullptr);
+    QWidget& canvas = on.viewOf(on.sheet()).canvas();
+    const QImage painted = canvas.grab().toImage();
+    for (const host::Handle field : {Text4, Text5}) {
+        on.engine.userRun([this, field] { on.sheet().enable(field); });
+        on.settle();
+        ASSERT_NE(on.widgetOf(on.sheet(), field), nullptr);
+        EXPECT_NE(canvas.grab().toImage(), painted) << "a field that can be written in looks otherwise";
+        on.engine.userRun([this, field] { on.sheet().disable(field); });
+        on.settle();
+        EXPECT_FALSE(on.field(field).isEnabled());
+    }
+    EXPECT_EQ(canvas.grab().toImage(), painted);
+}
+
+TEST_F(ViewTest, aChildsTitleIsPaintedAsTheModelTellsIt)
+{
+    desktop::ChildFrame& child = frame(on.sheet());
+    const auto title = [&child] { return child.grab(QRect(0, 0, child.width(), child.view()->y())).toImage(); };
+    const auto call = [&](const char* name) {
+        on.engine.userRun([&] { on.sheet().setCaption(name); });
+        on.settle();
+        return title();
+    };
+    const QImage nameless = call("");
+    const QImage first = call("First");
+    EXPECT_EQ(child.windowTitle(), "First");
+    EXPECT_NE(first, nameless);
+    EXPECT_NE(call("Second"), first);
+    EXPECT_EQ(call("First"), first);
+    EXPECT_EQ(call(std::string(400, 'm').c_str()).size(), first.size());
+    Paintings paintings(child);
+    on.engine.userRun([&] { on.sheet().setCaption("Third"); });
+    on.settle();
+    EXPECT_GT(paintings.count, 0) << "a new title is painted at once";
+}
+
+TEST_F(ViewTest, onlyTheFramesThatBecomeActiveOrCeaseToBeSoArePaintedAnew)
+{
+    BenchWindow& second = on.newSheet();
+    BenchWindow& third = on.newSheet();
+    on.engine.userRun([&] { on.engine.host().Arrange(1); });
+    on.settle();
+    Paintings ofFirst(frame(on.sheet()));
+    Paintings ofSecond(frame(second));
+    Paintings ofThird(frame(third));
+    on.engine.userActivate(second);
+    on.settle();
+    EXPECT_EQ(ofFirst.count, 0);
+    EXPECT_GT(ofSecond.count, 0);
+    EXPECT_GT(ofThird.count, 0);
+    frame(on.sheet()).update();
+    on.settle();
+    EXPECT_GT(ofFirst.count, 0) << "held for the moment of the change alone";
+}
+
+TEST_F(ViewTest, theSignsOfAFramesMenuAreThereWhenTheyAreSeen)
+{
+    int seen = 0;
+    for (const QAction* action : frame(on.sheet()).systemMenu()->actions())
+        if (!action->icon().isNull()) {
+            ++seen;
+            EXPECT_FALSE(action->icon().pixmap(16).toImage().isNull()) << action->text().toStdString();
+            EXPECT_FALSE(action->icon().availableSizes().isEmpty());
+        }
+    EXPECT_GE(seen, 3);
 }
 
 TEST_F(ViewTest, textVisibilityEnablingAndColourFollowTheModel)
