@@ -21,7 +21,10 @@ constexpr host::BiText guide{.es = "difsim.Lab", .en = "difsimin.Lab"};
 
 } // namespace help
 
-Form3::Form3(host::SheetHost& host) : sheets::DesignSheet(host, form3::spec, sheetSpec) {}
+Form3::Form3(host::SheetHost& host) : sheets::DesignSheet(host, form3::spec, sheetSpec)
+{
+    holds(q_, quantityTable, host::Undo::takesBack);
+}
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)
 {

@@ -139,7 +139,8 @@ private:
     void tellCommonMode();
 
     Quantities q_;
-    bool leavingRL_ = false; ///< the lost-focus slot of `Text17` runs: what it has rewritten is not tested again
+    bool leavingRL_ = false; ///< the lost-focus slot of `Text17` runs: what it has rewritten is not tested again.
+                             ///< False between events, and so no part of the sheet's state
 };
 
 } // namespace velmor::form3
