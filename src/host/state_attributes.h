@@ -106,7 +106,8 @@ double numberByTable(const WindowSpec& spec, const Key& key);
 std::string_view textByTable(const WindowSpec& spec, const Key& key);
 
 /// Reads and sets attributes. Setting notes the change for the screen, and runs no slot.
-struct StateAccess {
+class StateAccess {
+public:
     static std::span<const OwnView> own(const Window& window) { return window.own_; }
     static double number(const Window& window, const Key& key);
     static std::string text(const Window& window, const Key& key);
@@ -116,6 +117,10 @@ struct StateAccess {
     static void addRare(const Window& window, Handle control, std::vector<Attribute>& numbers,
                         std::vector<Attribute>& texts);
     static bool hasRare(const Window& window, Handle control);
+
+private:
+    static double numberOfWindow(const Window& window, const Key& key);
+    static void setNumberOfWindow(Window& window, const Key& key, double value);
 };
 
 } // namespace velmor::host

@@ -186,7 +186,7 @@ protected:
 
 private:
     friend class Engine;
-    friend struct StateAccess;
+    friend class StateAccess;
 
     void markTouched(Handle control);
 
