@@ -28,23 +28,32 @@ constexpr std::string_view selectionStartWord = "selectionstart";
 constexpr std::string_view selectionLengthWord = "selectionlength";
 constexpr std::string_view hexadecimal = "0123456789abcdef";
 
+bool isPlain(char letter)
+{
+    return static_cast<unsigned char>(letter) >= 0x20 && letter != '"' && letter != '\\' && letter != '\x7F';
+}
+
+/// Stretches of plain letters are copied whole: a long text has little else.
 std::string quoted(std::string_view text)
 {
     std::string result = "\"";
-    result.reserve(text.size() + 2);
-    for (const char letter : text) {
-        const auto code = static_cast<unsigned char>(letter);
-        if (letter == '"' || letter == '\\')
-            result.append({'\\', letter});
-        else if (letter == '\n')
+    result.reserve(text.size() + text.size() / 32 + 2);
+    while (!text.empty()) {
+        const auto plain = static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
+        result.append(text.substr(0, plain));
+        text.remove_prefix(plain);
+        if (text.empty())
+            break;
+        const auto code = static_cast<unsigned char>(text.front());
+        if (text.front() == '"' || text.front() == '\\')
+            result.append({'\\', text.front()});
+        else if (text.front() == '\n')
             result.append("\\n");
-        else if (code < 0x20 || code == 0x7F)
-            result.append({'\\', 'x', hexadecimal[code / 16], hexadecimal[code % 16]});
         else
-            result.push_back(letter);
+            result.append({'\\', 'x', hexadecimal[code / 16], hexadecimal[code % 16]});
+        text.remove_prefix(1);
     }
-    result.push_back('"');
-    return result;
+    return result.append("\"");
 }
 
 std::string wholeWord(double value)
@@ -127,10 +136,11 @@ std::optional<std::string> unquoted(std::string_view word)
     std::string text;
     text.reserve(inner.size());
     for (std::size_t at = 0; at < inner.size(); ++at) {
-        if (inner[at] != '\\') {
-            text.push_back(inner[at]);
-            continue;
-        }
+        const std::size_t stroke = std::min(inner.find('\\', at), inner.size());
+        text.append(inner.substr(at, stroke - at));
+        at = stroke;
+        if (at == inner.size())
+            break;
         const char what = ++at < inner.size() ? inner[at] : '\0';
         if (what == 'n') {
             text.push_back('\n');

@@ -14,13 +14,12 @@ std::unique_ptr<Player> Player::branched(std::string& problem)
 {
     if (engine_ == nullptr || engine_->ended() || !fault_.empty() || screen_->popupOwner != nullptr)
         return nullptr;
-    auto twin = std::make_unique<Player>(program_, game_);
+    auto twin = std::make_unique<Player>(program_, game_, ground_);
     return twin->goOnWith(*this, problem) ? std::move(twin) : nullptr;
 }
 
 bool Player::goOnWith(const Player& other, std::string& problem)
 {
-    ground_ = other.ground_;
     chance_ = other.chance_;
     coverage_ = other.coverage_;
     settings_ = other.settings_;

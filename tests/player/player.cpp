@@ -20,8 +20,9 @@ struct Endless {};
 
 } // namespace player_detail
 
-Player::Player(const console::WalkedProgram& program, Game game)
-    : program_(program), game_(std::move(game)), chance_(game_.seed), coverage_(program.catalogue)
+Player::Player(const console::WalkedProgram& program, Game game, std::shared_ptr<Playground> ground)
+    : program_(program), game_(std::move(game)), chance_(game_.seed), ground_(std::move(ground)),
+      coverage_(program.catalogue)
 {}
 
 Player::~Player() = default;

@@ -81,7 +81,8 @@ struct Game {
 
 class Player {
 public:
-    Player(const console::WalkedProgram& program, Game game);
+    Player(const console::WalkedProgram& program, Game game,
+           std::shared_ptr<Playground> ground = std::make_shared<Playground>());
     ~Player();
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
@@ -147,7 +148,7 @@ private:
     const console::WalkedProgram& program_;
     Game game_;
     Chance chance_;
-    std::shared_ptr<Playground> ground_ = std::make_shared<Playground>();
+    std::shared_ptr<Playground> ground_;
     Coverage coverage_;
     host::MemorySettings settings_;
     std::unique_ptr<PlayerScreen> screen_;

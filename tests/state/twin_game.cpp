@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 constexpr auto longAgo = fs::file_time_type::min() + std::chrono::hours(24 * 366 * 100);
 constexpr std::uint64_t warmUp = 60;
-constexpr int comparedEvery = 8; // moves
+constexpr int comparedEvery = 15; // moves
 
 /// The folder of the game, and a second one with links to the same files. Files are always replaced whole, never changed.
 class Files {
