@@ -48,11 +48,6 @@ struct Taken<Type Owner::*> {
     using Value = Type;
 };
 
-template <class Record>
-struct RowOf {
-    OwnRow row;
-};
-
 template <class Value>
 constexpr OwnKind kindOf()
 {
@@ -115,31 +110,46 @@ constexpr bool takes(std::index_sequence<Index...>)
     };
 }
 
-constexpr bool toldOnce(std::span<const OwnRow> rows)
+constexpr bool namesDiffer(std::span<const OwnRow> rows)
 {
     for (std::size_t i = 0; i < rows.size(); ++i)
         for (std::size_t k = i + 1; k < rows.size(); ++k)
-            if (rows[i].name == rows[k].name ||
-                (rows[i].kind == rows[k].kind && rows[i].number == rows[k].number && rows[i].text == rows[k].text))
+            if (rows[i].name == rows[k].name)
                 return false;
     return true;
 }
 
+template <class One, class... Others>
+constexpr bool isOneOf = (std::same_as<One, Others> || ...);
+template <class... Rows>
+constexpr bool allDiffer = true;
+template <class First, class... Rest>
+constexpr bool allDiffer<First, Rest...> = !isOneOf<First, Rest...> && allDiffer<Rest...>;
+
 } // namespace own_detail
+
+/// A row of a table before it forgets which member it is about.
+template <auto Member>
+struct OwnMember {
+    using Record = typename own_detail::Taken<decltype(Member)>::Record;
+    std::string_view name;
+
+    constexpr OwnRow row() const
+    {
+        using namespace own_detail;
+        constexpr OwnKind kind = kindOf<typename Taken<decltype(Member)>::Value>();
+        if constexpr (kind == OwnKind::text)
+            return {.name = name, .kind = kind, .text = textOf<Member>, .setText = setText<Member>};
+        else
+            return {.name = name, .kind = kind, .number = numberOf<Member>, .setNumber = setNumber<Member>};
+    }
+};
 
 /// A row of a table: a member and its name in files.
 template <auto Member>
-constexpr auto own(std::string_view name)
+constexpr OwnMember<Member> own(std::string_view name)
 {
-    using namespace own_detail;
-    using Own = Taken<decltype(Member)>;
-    constexpr OwnKind kind = kindOf<typename Own::Value>();
-    if constexpr (kind == OwnKind::text)
-        return RowOf<typename Own::Record>{
-            {.name = name, .kind = kind, .text = textOf<Member>, .setText = setText<Member>}};
-    else
-        return RowOf<typename Own::Record>{
-            {.name = name, .kind = kind, .number = numberOf<Member>, .setNumber = setNumber<Member>}};
+    return {name};
 }
 
 /// True for an aggregate of exactly so many members, each a value of its own (no arrays, nothing nested).
@@ -148,17 +158,18 @@ constexpr bool hasMembers = own_detail::takes<Record>(std::make_index_sequence<C
                             !own_detail::takes<Record>(std::make_index_sequence<Count + 1>{});
 
 /// Some members of a record. No member and no name comes twice.
-template <class Record, std::same_as<own_detail::RowOf<Record>>... Rows>
-consteval OwnTable<Record, sizeof...(Rows)> someMembers(Rows... rows)
+template <class Record, class... Rows>
+requires(std::same_as<Record, typename Rows::Record>&&...) &&
+    own_detail::allDiffer<Rows...> consteval OwnTable<Record, sizeof...(Rows)> someMembers(Rows... rows)
 {
-    const OwnTable<Record, sizeof...(Rows)> table{{rows.row...}};
-    if (!own_detail::toldOnce(table.rows))
-        throw "a member or a name comes twice";
+    const OwnTable<Record, sizeof...(Rows)> table{{rows.row()...}};
+    if (!own_detail::namesDiffer(table.rows))
+        throw "a name comes twice";
     return table;
 }
 
 /// All members of a record: the table does not compile when one is left out.
-template <class Record, std::same_as<own_detail::RowOf<Record>>... Rows>
+template <class Record, class... Rows>
 requires hasMembers<Record, sizeof...(Rows)>
 consteval OwnTable<Record, sizeof...(Rows)> everyMember(Rows... rows)
 {

@@ -26,19 +26,19 @@ struct Three {
 constexpr auto numberRow = host::own<&Three::number>("number");
 constexpr auto flagRow = host::own<&Three::flag>("flag");
 constexpr auto textRow = host::own<&Three::text>("text");
+using Number = decltype(numberRow);
+using Flag = decltype(flagRow);
+using Text = decltype(textRow);
 
-// A table of every member compiles for exactly so many rows as there are members.
-static_assert(host::hasMembers<Three, 3>);
-static_assert(!host::hasMembers<Three, 2>, "a member that is left out must not compile");
-static_assert(!host::hasMembers<Three, 4>);
+// A member that is left out must not compile, and none may hide behind another that comes twice.
+static_assert(host::hasMembers<Three, 3> && !host::hasMembers<Three, 2> && !host::hasMembers<Three, 4>);
+static_assert(host::own_detail::allDiffer<Number, Flag, Text>);
+static_assert(!host::own_detail::allDiffer<Number, Flag, Flag>);
+static_assert(!host::own_detail::allDiffer<Flag, Number, Flag>);
 
-// A member that comes twice hides one that is left out; so the rows are compared, too.
-constexpr host::OwnRow twice[] = {numberRow.row, flagRow.row, flagRow.row};
-constexpr host::OwnRow sameName[] = {numberRow.row, host::own<&Three::flag>("number").row};
-constexpr host::OwnRow once[] = {numberRow.row, flagRow.row, textRow.row};
-static_assert(host::own_detail::toldOnce(once));
-static_assert(!host::own_detail::toldOnce(twice));
-static_assert(!host::own_detail::toldOnce(sameName));
+constexpr host::OwnRow sameName[] = {numberRow.row(), host::own<&Three::flag>("number").row()};
+constexpr host::OwnRow names[] = {numberRow.row(), flagRow.row(), textRow.row()};
+static_assert(host::own_detail::namesDiffer(names) && !host::own_detail::namesDiffer(sameName));
 
 TEST(OwnValues, EveryKindGoesInAndOutExactly)
 {
