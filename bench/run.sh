@@ -67,6 +67,11 @@ measure_headless() {
     measure "$programs/bench_headless" "${designs[@]}"
 }
 
+measure_state() {
+    say "The state of sheets and editors copied"
+    measure "$programs/bench_state"
+}
+
 measure_desktop() {
     say "Further sheets in the desktop"
     measure "${as_user[@]}" "$programs/bench_sheets"
@@ -129,6 +134,7 @@ start_virtual_display 1366x768
 measure_start
 measure_keys
 measure_headless
+measure_state
 measure_desktop
 measure_report
 [[ ${1:-all} == quick ]] || measure_build

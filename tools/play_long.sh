@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Plays millions of random events under the address and undefined behaviour sanitizers, window by window.
+# Plays millions of random events under the address and undefined behaviour sanitizers, window by window; then copies of the
+# program beside the first one, a hundredth as many events.
 #
 #   tools/play_long.sh                         ten million events a window, and as many over the whole program
 #   tools/play_long.sh EVENTS [SEED]           so many, from this seed
@@ -14,8 +15,9 @@ seed=${2:-1}
 shift $(($# < 2 ? $# : 2))
 
 install_packages build test
-build asan-core velmor-player
+build asan-core velmor-player velmor-twins
 player=$root/build/asan-core/bin/velmor-player
+twins=$root/build/asan-core/bin/velmor-twins
 logs=$root/build/asan-core/games
 mkdir -p "$logs"
 
@@ -37,10 +39,19 @@ play() {
         return 1
     fi
 }
-export -f play say
-export player logs events seed
+# play_twins WINDOW: copies of a game around a window, each played on for some two hundred events.
+play_twins() {
+    if "$twins" "$1" $((events / 20000 + 1)) "$seed" >"$logs/$1.twins.log" 2>&1; then
+        say "$1, twins: $(head -n 1 "$logs/$1.twins.log")"
+    else
+        say "$1, twins: FAULT, see $logs/$1.twins.log"
+        return 1
+    fi
+}
+export -f play play_twins say
+export player twins logs events seed
 
 say "Playing $events events on each of ${#windows[@]} windows, seed $seed; logs in $logs"
 # shellcheck disable=SC2016  # the inner shell expands it
-printf '%s\n' "${windows[@]}" | xargs -P "$(nproc)" -I{} bash -c 'play "$1"' _ {} || stop "Something is wrong."
+printf '%s\n' "${windows[@]}" | xargs -P "$(nproc)" -I{} bash -c 'play "$1" && play_twins "$1"' _ {} || stop "Something is wrong."
 say "No fault"

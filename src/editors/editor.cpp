@@ -13,6 +13,16 @@ namespace velmor::editors {
 
 namespace editor_detail {
 
+// clang-format off
+constexpr auto documentTable = host::everyMember<Document>(
+    host::own<&Document::name>("NombreDocumento"),
+    host::own<&Document::file>("file"),
+    host::own<&Document::isNew>("DocumentoNuevo"),
+    host::own<&Document::changed>("DocumentoCambiado"),
+    host::own<&Document::actionCancelled>("AccionCancelada"),
+    host::own<&Document::exitConfirmed>("exitConfirmed"));
+// clang-format on
+
 constexpr std::string_view guideFolder = "Archivos";
 constexpr std::string_view fileFilter =
     "Archivos de Laboratorio (*.LAB)|*.Lab|Archivos detexto(*.txt)|*.txt|Todos los archivos (*.*)|*.*";
@@ -62,16 +72,18 @@ using namespace editor_detail;
 
 Editor::Editor(host::SheetHost& host, const host::WindowSpec& window, const EditorSpec& editor)
     : host::Window(host, window), editor_(editor)
-{}
+{
+    holds(document_, documentTable, host::Undo::leaves);
+}
 
 void Editor::load()
 {
-    documentoCambiado_ = false;
-    documentoNuevo_ = true;
+    document_.changed = false;
+    document_.isNew = true;
     centre();
     const host::Place inner = place();
     setPlaceOf(txtEdit, {0, 0, inner.width - editor_.lessWidthAtStart, inner.height - editor_.lessHeightAtStart});
-    if (accionCancelada_)
+    if (document_.actionCancelled)
         return;
     if (editor_.guide == GuidePlace::none)
         runOpen();
@@ -112,11 +124,11 @@ void Editor::openGuide()
     const bool bareName = editor_.guide == GuidePlace::programFolder;
     setBusy(true);
     putText("");
-    documentoCambiado_ = false;
-    nombreDocumento_ = bareName ? guide : pathOfGuide(host().programFolder(), guide);
-    archivo_ = fileOfGuide(bareName, guide);
+    document_.changed = false;
+    document_.name = bareName ? guide : pathOfGuide(host().programFolder(), guide);
+    document_.file = fileOfGuide(bareName, guide);
     if (readDocument(fileOfGuide(editor_.guide != GuidePlace::archivos, guide)))
-        setTitle(nombreDocumento_ + std::string(pick(editor_.guideTitle)));
+        setTitle(document_.name + std::string(pick(editor_.guideTitle)));
     setBusy(false);
 }
 
@@ -132,8 +144,8 @@ bool Editor::readDocument(const std::string& path)
     if (!bytes)
         return false;
     putText(linesOf(rules::decodeDocument(*bytes)));
-    documentoNuevo_ = false;
-    documentoCambiado_ = false;
+    document_.isNew = false;
+    document_.changed = false;
     return true;
 }
 
@@ -144,7 +156,7 @@ bool Editor::writeDocument(const std::string& path)
 
 void Editor::changed()
 {
-    documentoCambiado_ = true;
+    document_.changed = true;
 }
 
 // The text editors write their titles on the report editor, which gets them only when it is loaded.
@@ -169,12 +181,12 @@ int Editor::ask(const Question& question)
 /// The ask-to-save rule. True when the command may go on: nothing to lose, the answer No, or a save that was done.
 bool Editor::mayDiscard(const Question& keep, bool exiting)
 {
-    const bool unsaved = documentoNuevo_ ? store(txtEdit).length() > 0 : documentoCambiado_;
+    const bool unsaved = document_.isNew ? store(txtEdit).length() > 0 : document_.changed;
     if (!unsaved)
         return true;
     switch (ask(keep)) {
     case answerYes:
-        return exiting && !documentoNuevo_ ? writeDocument(archivo_) : runSaveAs();
+        return exiting && !document_.isNew ? writeDocument(document_.file) : runSaveAs();
     case answerNo:
         return true;
     default:
@@ -186,20 +198,20 @@ void Editor::startEmpty()
 {
     putText("");
     setTitle(pick(editor_.newTitle));
-    documentoNuevo_ = true;
-    documentoCambiado_ = false;
+    document_.isNew = true;
+    document_.changed = false;
 }
 
 void Editor::newDocument()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     if (mayDiscard(editor_.keep, false))
         startEmpty();
 }
 
 void Editor::openDocument()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     if (mayDiscard(editor_.keep, false))
         runOpen();
 }
@@ -218,23 +230,23 @@ void Editor::runOpen()
     setBusy(false);
     if (!read)
         return;
-    nombreDocumento_ = archivo_ = *path;
-    setTitle(nombreDocumento_ + std::string(pick(editor_.documentTitle)));
+    document_.name = document_.file = *path;
+    setTitle(document_.name + std::string(pick(editor_.documentTitle)));
 }
 
 void Editor::saveDocument()
 {
-    accionCancelada_ = false;
-    if (documentoNuevo_) {
+    document_.actionCancelled = false;
+    if (document_.isNew) {
         runSaveAs();
-    } else if (documentoCambiado_ && writeDocument(archivo_)) {
+    } else if (document_.changed && writeDocument(document_.file)) {
         runOpen();
     }
 }
 
 void Editor::saveDocumentAs()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     runSaveAs();
 }
 
@@ -253,22 +265,22 @@ bool Editor::runSaveAs()
         return false;
     if (!writeDocument(*path))
         return false;
-    nombreDocumento_ = archivo_ = *path;
-    documentoNuevo_ = false;
-    setTitle(nombreDocumento_ + std::string(pick(editor_.documentTitle)));
+    document_.name = document_.file = *path;
+    document_.isNew = false;
+    setTitle(document_.name + std::string(pick(editor_.documentTitle)));
     return true;
 }
 
 void Editor::exit()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     if (!mayDiscard(editor_.keepAtExit, true))
         return;
     if (editor_.confirmExit.flags == 0) {
         if (host::Window* reportEditor = host().find("frmEdito3"))
             host().Show(*reportEditor);
     } else if (ask(editor_.confirmExit) == answerOk) {
-        exitConfirmed_ = true;
+        document_.exitConfirmed = true;
         host().Unload(*this);
     }
 }
@@ -276,7 +288,7 @@ void Editor::exit()
 // Whoever closes the window is asked, but for its own exit, which has asked already.
 void Editor::queryClose(host::EventArgs& args)
 {
-    if (exitConfirmed_ || args.reason == host::CloseReason::programEnd || editor_.closeByButton.flags == 0)
+    if (document_.exitConfirmed || args.reason == host::CloseReason::programEnd || editor_.closeByButton.flags == 0)
         return;
     const int answer = host().MsgBox(pick(editor_.closeByButton.text), editor_.closeByButton.flags, caption());
     args.cancel = answer == answerNo || answer == answerCancel;

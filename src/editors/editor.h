@@ -78,6 +78,16 @@ struct EditorSpec {
     int lessHeightAtStart = 0;
 };
 
+/// What an editor knows of its document, beside the text.
+struct Document {
+    std::string name; ///< `NombreDocumento`
+    std::string file; ///< the file that the name means: whole path, with the capitals that it has on the disk
+    bool isNew = true;
+    bool changed = false;
+    bool actionCancelled = false;
+    bool exitConfirmed = false;
+};
+
 class Editor : public host::Window {
 public:
     Editor(host::SheetHost& host, const host::WindowSpec& window, const EditorSpec& editor);
@@ -110,10 +120,10 @@ public:
     void fonts();
     void about();
 
-    const std::string& NombreDocumento() const { return nombreDocumento_; }
-    bool DocumentoNuevo() const { return documentoNuevo_; }
-    bool DocumentoCambiado() const { return documentoCambiado_; }
-    void setAccionCancelada(bool cancelled) { accionCancelada_ = cancelled; }
+    const std::string& NombreDocumento() const { return document_.name; }
+    bool DocumentoNuevo() const { return document_.isNew; }
+    bool DocumentoCambiado() const { return document_.changed; }
+    void setAccionCancelada(bool cancelled) { document_.actionCancelled = cancelled; }
 
 private:
     std::string_view pick(const host::BiText& text) const { return host().pick(text); }
@@ -133,13 +143,7 @@ private:
     std::string fileOfGuide(bool bareName, const std::string& guide) const;
 
     const EditorSpec& editor_;
-    std::string nombreDocumento_;
-    std::string
-        archivo_; ///< the file that `NombreDocumento` means: whole path, with the capitals that it has on the disk
-    bool documentoNuevo_ = true;
-    bool documentoCambiado_ = false;
-    bool accionCancelada_ = false;
-    bool exitConfirmed_ = false;
+    Document document_;
 };
 
 /// Rows of the menus and the slots, the same for all four; a window's table leaves out what it lacks by hiding it.

@@ -28,7 +28,7 @@ void Editor::editMenuOpens()
 
 void Editor::copy()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     host::TextStore& text = store(txtEdit);
     host().screen().setClipboardText(text.slice(text.selectionStart(), text.selectionLength()));
 }
@@ -37,25 +37,25 @@ void Editor::cut()
 {
     copy();
     replaceSelection("");
-    documentoCambiado_ = true;
+    document_.changed = true;
 }
 
 void Editor::paste()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     replaceSelection(host().screen().clipboardText());
-    documentoCambiado_ = true;
+    document_.changed = true;
 }
 
 void Editor::find()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     host().Show("frmFind");
 }
 
 void Editor::replace()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     host().Show("frmReplace");
 }
 
@@ -92,14 +92,14 @@ void Editor::bringCircuitsBack()
 
 void Editor::backColour()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     if (const auto chosen = host().screen().colourDialog(editor_menus_detail::red))
         setBackColor(txtEdit, *chosen);
 }
 
 void Editor::foreColour()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     const auto chosen = host().screen().colourDialog(editor_menus_detail::red);
     if (!chosen)
         return;
@@ -110,20 +110,20 @@ void Editor::foreColour()
 
 void Editor::fonts()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     if (const auto chosen = host().screen().fontDialog(font(txtEdit)))
         setFont(txtEdit, *chosen);
 }
 
 void Editor::about()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     host().Show("frmAbout");
 }
 
 void Editor::newWindow()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     if (editor_.newDocumentByItem) {
         newDocument();
         return;
@@ -140,7 +140,7 @@ void Editor::newWindow()
 
 void Editor::print()
 {
-    accionCancelada_ = false;
+    document_.actionCancelled = false;
     std::string text;
     for (const char letter : store(txtEdit).all()) {
         if (letter == '\n')

@@ -123,6 +123,7 @@ struct Font {
     bool underline = false;
     bool strikeout = false;
     std::int32_t color = 0; ///< 0xRRGGBB
+    friend bool operator==(const Font&, const Font&) = default;
 };
 
 /// State of one control. Plain data; only `Window` changes it, so that the screen hears of it.
@@ -137,6 +138,7 @@ struct Control {
     bool enabled = true;
     bool checked = false;
     bool changed = false; ///< since the screen last looked
+    bool touched = false; ///< since whoever follows the state last looked
 };
 
 } // namespace velmor::host

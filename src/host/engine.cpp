@@ -32,6 +32,7 @@ void Engine::outermost(const std::function<void()>& action)
         return;
     }
     ++depth_;
+    inHand_ = {};
     try {
         action();
         settle();
@@ -51,6 +52,7 @@ void Engine::runPending()
     while (!pending_.empty() && !ended_) {
         const std::function<void()> next = std::move(pending_.front());
         pending_.pop_front();
+        inHand_ = {};
         next();
         settle();
     }
@@ -124,6 +126,7 @@ void Engine::userRun(const std::function<void()>& action)
 
 void Engine::programEdited(Window& window, Handle editor)
 {
+    ++window.textRevision_;
     EventArgs args;
     run(window, editor, Event::change, args);
 }

@@ -16,14 +16,21 @@
 //  7. A user event that arrives while a slot runs waits for its end.
 //  8. A window unloaded in its own slot is gone at once for everyone else and destroyed after the outermost slot.
 //  9. A failure of arithmetic or conversion ends the program; nothing runs after it.
+// 10. What a field held when the student left it is noted (`Window::asked`): of the field that had the focus when an event of
+//     the person began, at the first move away from it in that event. It is the text from before the event, so that nothing
+//     that a slot rewrites counts; with Esc it is the default that the key slot has just written.
+// 11. The state of a window is copied and restored between events only, and restoring runs no slot at all: no load, no
+//     activation, no focus, no change. See `open`.
 #pragma once
 
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "host/event.h"
@@ -34,6 +41,10 @@
 #include "host/window.h"
 
 namespace velmor::host {
+
+struct WindowState;
+struct StateChange;
+enum class Direction : std::uint8_t;
 
 using Catalogue = std::span<const WindowSpec* const>;
 
@@ -108,6 +119,22 @@ public:
     /// Which controls come in turn for the Tab key.
     static std::vector<Handle> tabOrder(const Window& window);
 
+    // the whole state of a window (window_state.h, state_text.h)
+    /// Nothing while an event is under way, after the end, or when the window is not open. Long texts are taken apart
+    /// (`LongTextCopy`).
+    std::optional<WindowState> stateOf(const Window& window) const;
+    /// Opens windows as they stood when they were copied: texts, marks, drawing, focus, name, place, own values, shown or
+    /// hidden. No slot runs, and nothing is asked. They come in the order given (which is that of creation), behind those that
+    /// are open; of them the one that was the current window, else the one used last, is the current one again, and so is the active
+    /// child, both without activation. A default instance is the default one again; one that was in its place is an ordinary
+    /// instance from then on. Process-wide values are left alone. Places are those of the copy: a screen with another inner area
+    /// tells its own (`setClientArea`), which fits maximised children.
+    /// A null stands for a state that cannot be opened: of a window that the program lacks, of a second main window. All
+    /// are null while an event is under way or after the end.
+    std::vector<Window*> open(std::span<const WindowState> states);
+    /// Leads a window through a change, without a slot. False, with nothing done, where `stateOf` gives nothing.
+    bool apply(Window& window, const StateChange& change, Direction direction);
+
     void setTrace(std::function<void(std::string_view)> sink) { trace_ = std::move(sink); }
     void trace(std::string_view line) const;
     void setFailureText(const BiText& text) { failureText_ = text; }
@@ -131,6 +158,8 @@ private:
     bool run(Window& window, Handle control, Event event, EventArgs& args);
     void run(Window& window, Event event);
 
+    void takeInHand(const Window& window, bool escape = false);
+    void noteAsked(Window& window, Handle left);
     FocusMove moveFocus(Window& window, Handle target, bool force = false);
     void firstFocus(Window& window);
     bool mouseAllowed(const Window& window, Handle control) const;
@@ -138,6 +167,8 @@ private:
     void mouseSlots(Window& window, Handle control, int shift);
 
     Window* make(const WindowSpec& spec, bool isDefault);
+    Window* open(const WindowState& state);
+    void bringInFront(std::vector<std::pair<double, Window*>> used);
     void load(Window& window);
     void show(Window& window);
     void hide(Window& window);
@@ -167,6 +198,14 @@ private:
     Window* current_ = nullptr;
     Window* activeChild_ = nullptr;
     std::deque<std::function<void()>> pending_;
+    /// The field that had the focus when the person's event began, until it is left.
+    struct InHand {
+        const Window* window = nullptr;
+        Handle control = noControl;
+        bool escape = false;
+        std::string text{};
+    };
+    InHand inHand_;
     std::function<void(std::string_view)> trace_;
     BiText failureText_{"El programa debe terminar: un cálculo no es posible con estos valores.",
                         "The program must end: a calculation is not possible with these values."};

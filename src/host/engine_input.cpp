@@ -6,6 +6,12 @@
 
 namespace velmor::host {
 
+namespace engine_input_detail {
+
+constexpr std::int16_t escapeKey = 27;
+
+} // namespace engine_input_detail
+
 std::vector<Handle> Engine::tabOrder(const Window& window)
 {
     std::vector<Handle> order(window.spec().tabOrder.begin(), window.spec().tabOrder.end());
@@ -13,6 +19,23 @@ std::vector<Handle> Engine::tabOrder(const Window& window)
         if (takesFocus(row.kind) && std::find(order.begin(), order.end(), row.id) == order.end())
             order.push_back(row.id);
     return order;
+}
+
+// A timer, the program or another window's event takes nothing out of the student's hand.
+void Engine::takeInHand(const Window& window, bool escape)
+{
+    const Handle held = window.focus_;
+    if (held != noControl && window.row(held).kind == Kind::field)
+        inHand_ = {&window, held, escape, window.text(held)};
+}
+
+void Engine::noteAsked(Window& window, Handle left)
+{
+    if (inHand_.window != &window || inHand_.control != left)
+        return;
+    window.asked_[left] = inHand_.escape ? window.text(left) : inHand_.text;
+    window.markTouched(left);
+    inHand_ = {};
 }
 
 FocusMove Engine::moveFocus(Window& window, Handle target, bool force)
@@ -30,6 +53,7 @@ FocusMove Engine::moveFocus(Window& window, Handle target, bool force)
     };
     window.focus_ = noControl;
     if (old != noControl) {
+        noteAsked(window, old);
         window.markChanged(old);
         EventArgs args;
         run(window, old, Event::lostFocus, args);
@@ -63,8 +87,10 @@ bool Engine::userFocus(Window& window, Handle control)
     if (ended_ || window.gone_ || !window.canTakeFocus(control))
         return false;
     outermost([this, &window, control] {
-        if (isLoaded(&window))
-            moveFocus(window, control);
+        if (!isLoaded(&window))
+            return;
+        takeInHand(window);
+        moveFocus(window, control);
     });
     return true;
 }
@@ -74,6 +100,7 @@ void Engine::userTab(Window& window, bool backwards)
     outermost([this, &window, backwards] {
         if (!isLoaded(&window))
             return;
+        takeInHand(window);
         std::vector<Handle> order = tabOrder(window);
         if (backwards)
             std::reverse(order.begin(), order.end());
@@ -136,6 +163,7 @@ void Engine::userClick(Window& window, Handle control, int shift)
         if (control != noControl &&
             (!window.visible(control) || (!window.enabled(control) && !window.row(control).clickableWhenDisabled)))
             return;
+        takeInHand(window);
         if (pressMovesFocus(window, control))
             mouseSlots(window, control, shift);
     });
@@ -148,6 +176,7 @@ void Engine::userDoubleClick(Window& window, Handle control, bool withClick)
             return;
         if (control != noControl && (!window.visible(control) || !window.enabled(control)))
             return;
+        takeInHand(window);
         if (withClick && pressMovesFocus(window, control))
             mouseSlots(window, control, 0);
         EventArgs args;
@@ -163,6 +192,7 @@ void Engine::userPress(Window& window, Handle control, Button button, int shift)
         if (button == Button::left) {
             if (control != noControl && !window.enabled(control))
                 return;
+            takeInHand(window);
             if (!pressMovesFocus(window, control))
                 return;
         }
@@ -192,6 +222,7 @@ std::int16_t Engine::userKey(Window& window, std::int16_t key)
     outermost([&] {
         EventArgs args;
         args.key = key;
+        takeInHand(window, key == engine_input_detail::escapeKey);
         run(window, target, Event::key, args);
         if (window.gone_ || window.focus_ != target)
             return;
@@ -218,6 +249,7 @@ void Engine::userText(Window& window, Handle control, std::string_view text)
 void Engine::userEdited(Window& window, Handle editor)
 {
     outermost([this, &window, editor] {
+        ++window.textRevision_;
         EventArgs args;
         if (isLoaded(&window))
             run(window, editor, Event::change, args);
@@ -238,6 +270,7 @@ void Engine::userMenu(Window& window, Handle item)
     outermost([this, &window, item] {
         if (!isLoaded(&window))
             return;
+        takeInHand(window);
         std::vector<Handle> path{item};
         while (window.row(path.back()).parent != noControl)
             path.push_back(window.row(path.back()).parent);
@@ -257,6 +290,7 @@ void Engine::userChoose(Window& window, Handle list, int index)
     outermost([this, &window, list, index] {
         if (!isLoaded(&window) || !window.canTakeFocus(list))
             return;
+        takeInHand(window);
         window.list(list).selected = index;
         window.listChanged(list);
         EventArgs args;
@@ -292,6 +326,7 @@ void Engine::userDrag(Window& window, Handle source, Handle target)
         };
         if (!isLoaded(&window) || !usable(source) || !usable(target))
             return;
+        takeInHand(window);
         EventArgs args;
         args.source = source;
         run(window, target, Event::dragEnter, args);
@@ -323,6 +358,7 @@ void Engine::userShortcut(Window& window, std::size_t row)
         outermost([this, &window, row] {
             EventArgs args;
             args.key = static_cast<std::int16_t>(row);
+            takeInHand(window);
             if (isLoaded(&window))
                 run(window, noControl, Event::shortcut, args);
         });

@@ -90,8 +90,22 @@ void Window::setPicture(Handle control, std::string_view path)
     markChanged(control);
 }
 
+const std::string& Window::asked(Handle field) const
+{
+    static const std::string nothing;
+    const auto held = asked_.find(field);
+    return held == asked_.end() ? nothing : held->second;
+}
+
+void Window::markTouched(Handle control)
+{
+    if (!std::exchange(controls_[control].touched, true))
+        touched_.push_back(control);
+}
+
 void Window::markChanged(Handle control)
 {
+    markTouched(control);
     if (std::exchange(controls_[control].changed, true))
         return;
     changes_.push_back(control);
@@ -112,7 +126,10 @@ void Window::setText(Handle control, std::string_view text)
 
 void Window::setTag(Handle control, std::string_view tag)
 {
+    if (controls_[control].tag == tag)
+        return;
     controls_[control].tag = tag;
+    markTouched(control);
 }
 
 void Window::setVisible(Handle control, bool visible)
@@ -213,6 +230,13 @@ std::vector<Handle> Window::takeChanges()
     for (const Handle control : changes_)
         controls_[control].changed = false;
     return std::exchange(changes_, {});
+}
+
+std::vector<Handle> Window::takeTouched()
+{
+    for (const Handle control : touched_)
+        controls_[control].touched = false;
+    return std::exchange(touched_, {});
 }
 
 bool Window::takeWindowChanged()

@@ -14,6 +14,7 @@
 
 #include "host/control.h"
 #include "host/event.h"
+#include "host/own_values.h"
 
 namespace velmor::host {
 
@@ -186,18 +187,34 @@ public:
     bool runSlot(Handle control, Event event, EventArgs& args);
     bool hasSlot(Handle control, Event event) const;
 
+    /// What stood in a field when the student left it last, before anything that the sheet made of it; empty before that.
+    const std::string& asked(Handle field) const;
+
     /// Controls changed since the last call, each once; `windowChanged` likewise for title, state and place.
     std::vector<Handle> takeChanges();
     bool takeWindowChanged();
+    /// The same for whoever follows the state of the window: controls changed since its last call, each once.
+    std::vector<Handle> takeTouched();
+    /// Grows with each change of an editor's text.
+    unsigned textRevision() const { return textRevision_; }
 
     /// Creation number within the program, counted from 1.
     unsigned serial() const { return serial_; }
 
 protected:
     void markChanged(Handle control);
+    /// Tells of values of the window's own that belong to its state; called in the constructor, once for each record.
+    template <class Record, std::size_t Count>
+    void holds(Record& record, const OwnTable<Record, Count>& table, Undo undo)
+    {
+        own_.push_back({&record, table.rows, undo});
+    }
 
 private:
     friend class Engine;
+    friend class StateAccess;
+
+    void markTouched(Handle control);
 
     SheetHost& host_;
     const WindowSpec& spec_;
@@ -207,14 +224,17 @@ private:
     std::map<Handle, Handle> borrowedDrawings_;
     std::map<Handle, std::string> pictures_;
     std::map<Handle, Font> fonts_;
+    std::map<Handle, std::string> asked_;
+    std::vector<OwnView> own_;
     std::vector<Handle> changes_;
+    std::vector<Handle> touched_;
     std::string caption_;
     Place place_;
     Place normalPlace_;
     Handle focus_ = noControl;
-    Handle initialFocusDone_ = 0;
     unsigned focusMoves_ = 0;
     unsigned serial_ = 0;
+    unsigned textRevision_ = 0;
     int state_ = 0;
     bool shown_ = false;
     bool everShown_ = false;

@@ -37,7 +37,13 @@ using namespace design_sheet_texts;
 
 DesignSheet::DesignSheet(host::SheetHost& host, const host::WindowSpec& window, const SheetSpec& sheet)
     : host::Window(host, window), sheet_(sheet)
-{}
+{
+    static constexpr auto flags = host::someMembers<DesignSheet>(
+        host::own<&DesignSheet::nombreArchivo_>("NombreArchivo"), host::own<&DesignSheet::operCancelo_>("OperCancelo"),
+        host::own<&DesignSheet::modificado_>("modificado"),
+        host::own<&DesignSheet::cierreCancelado_>("CierreCancelado"));
+    holds(*this, flags, host::Undo::leaves);
+}
 
 std::string DesignSheet::MiFiltro() const
 {

@@ -6,10 +6,10 @@
 
 namespace velmor::butterfly {
 
-void fly(host::Window& window, const Images& images, bool& wingsOpen)
+void fly(host::Window& window, const Images& images, Wings& wings)
 {
-    wingsOpen = !wingsOpen;
-    window.borrowDrawing(images.main, wingsOpen ? images.openWings : images.closeWings);
+    wings.open = !wings.open;
+    window.borrowDrawing(images.main, wings.open ? images.openWings : images.closeWings);
     host::Place place = window.placeOf(images.main);
     place.left += stepRight;
     place.top -= stepUp;

@@ -17,8 +17,14 @@ inline constexpr int stepRight = 20; ///< twips at each tick
 inline constexpr int stepUp = 5;
 inline constexpr int interval = 100; ///< milliseconds
 
+/// The flap that comes next.
+struct Wings {
+    bool open = false;
+};
+inline constexpr auto wingsTable = host::everyMember<Wings>(host::own<&Wings::open>("wingsOpen"));
+
 /// Moves the butterfly one step and flips its wings; out of sight it comes back to where its row places it.
-void fly(host::Window& window, const Images& images, bool& wingsOpen);
+void fly(host::Window& window, const Images& images, Wings& wings);
 
 namespace drawings {
 

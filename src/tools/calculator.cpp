@@ -69,7 +69,18 @@ double wholeDecibels(double gain)
 
 } // namespace formulas
 
-Calculator::Calculator(host::SheetHost& host) : host::Window(host, calculator::spec) {}
+// clang-format off
+constexpr auto entriesTable = host::everyMember<Entries>(
+    host::own<&Entries::Eo>("Eo"),
+    host::own<&Entries::Ei>("Ei"),
+    host::own<&Entries::Zo>("Zo"),
+    host::own<&Entries::byEnter>("byEnter"));
+// clang-format on
+
+Calculator::Calculator(host::SheetHost& host) : host::Window(host, calculator::spec)
+{
+    holds(entries_, entriesTable, host::Undo::leaves);
+}
 
 void Calculator::load()
 {
@@ -127,7 +138,7 @@ void Calculator::ask(Handle field)
 
 void Calculator::startVoltageGain()
 {
-    entered_ = false;
+    entries_.byEnter = false;
     hideAllBut(Text1);
     ask(Text1);
     hide(Label1);
@@ -137,7 +148,7 @@ void Calculator::startVoltageGain()
 
 void Calculator::startPowerGain()
 {
-    entered_ = false;
+    entries_.byEnter = false;
     hideAllBut(Text3);
     ask(Text3);
     setText(Label2, ""); // what the voltage path said does not hold here
@@ -168,11 +179,11 @@ void Calculator::enterField(Handle field)
         setText(Label2, pick(texts::inputStep));
         break;
     case Text2:
-        entered_ = true;
+        entries_.byEnter = true;
         host().SetFocus(*this, Command3);
         break;
     case Text6:
-        entered_ = true;
+        entries_.byEnter = true;
         host().SetFocus(*this, Command4);
         break;
     default:
@@ -187,33 +198,33 @@ void Calculator::leave(host::EventArgs& args)
     switch (args.control) {
     case Text1:
     case Text3:
-        eo_ = entered(args.control);
+        entries_.Eo = entered(args.control);
         break;
     case Text4:
-        ei_ = entered(Text4);
+        entries_.Ei = entered(Text4);
         break;
     case Text5:
-        zo_ = entered(Text5);
+        entries_.Zo = entered(Text5);
         break;
     case Text2:
-        if (entered_)
+        if (entries_.byEnter)
             showVoltageGain();
         break;
     case Text6:
-        if (entered_)
+        if (entries_.byEnter)
             showPowerGain();
         break;
     default:
         break;
     }
-    entered_ = false;
+    entries_.byEnter = false;
 }
 
 // G = 20 x log10(Eo / Ei)
 void Calculator::showVoltageGain()
 {
-    ei_ = entered(Text2);
-    const double gain = formulas::wholeDecibels(20.0 * formulas::log10(eo_ / ei_));
+    entries_.Ei = entered(Text2);
+    const double gain = formulas::wholeDecibels(20.0 * formulas::log10(entries_.Eo / entries_.Ei));
     setText(Text2, std::string(pick(texts::voltageGain)) +
                        rules::NumberText(gain, host().values().DecimalSeparator).append(texts::decibels));
     setText(Label2, pick(texts::equalImpedances));
@@ -222,8 +233,8 @@ void Calculator::showVoltageGain()
 // G = 10 x log10((Eo^2 / Zo) / (Ei^2 / Zi)), with Zi the load's impedance
 void Calculator::showPowerGain()
 {
-    const Real zi = zo_;
-    const Real ratio = (eo_ * eo_ / zo_) / (ei_ * ei_ / zi);
+    const Real zi = entries_.Zo;
+    const Real ratio = (entries_.Eo * entries_.Eo / entries_.Zo) / (entries_.Ei * entries_.Ei / zi);
     const double gain = formulas::wholeDecibels(10.0 * formulas::log10(ratio));
     setText(Text6, std::string(pick(texts::powerGain)) +
                        rules::NumberText(gain, host().values().DecimalSeparator).append(texts::decibels));

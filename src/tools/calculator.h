@@ -23,6 +23,14 @@ struct FieldRow {
     double lowest = 0.0;
 };
 
+/// What was entered on the way.
+struct Entries {
+    rules::Real Eo;       ///< output voltage, V r.m.s.
+    rules::Real Ei;       ///< input voltage, V r.m.s.
+    rules::Real Zo;       ///< load impedance, ohm
+    bool byEnter = false; ///< the last field of a path was left by Enter
+};
+
 class Calculator final : public host::Window {
 public:
     explicit Calculator(host::SheetHost& host);
@@ -46,10 +54,7 @@ private:
     void showVoltageGain();
     void showPowerGain();
 
-    rules::Real eo_ = 0.0; ///< output voltage, V r.m.s.
-    rules::Real ei_ = 0.0; ///< input voltage, V r.m.s.
-    rules::Real zo_ = 0.0; ///< load impedance, ohm
-    bool entered_ = false; ///< the last field of a path was left by Enter
+    Entries entries_;
 };
 
 } // namespace velmor::calculator

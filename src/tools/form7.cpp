@@ -2,7 +2,6 @@
 // Choice, pages and start of the voltage-feedback circuits. A start button whose sheet the program lacks is disabled.
 #include "tools/form7.h"
 
-#include "tools/butterfly.h"
 #include "tools/form7_texts.h"
 
 namespace velmor::form7 {
@@ -29,7 +28,13 @@ constexpr int label5Height = 8175;
 
 } // namespace texts
 
-Form7::Form7(host::SheetHost& host) : host::Window(host, form7::spec) {}
+constexpr auto choiceTable = host::everyMember<Choice>(host::own<&Choice::stable>("stable"));
+
+Form7::Form7(host::SheetHost& host) : host::Window(host, form7::spec)
+{
+    holds(choice_, choiceTable, host::Undo::leaves);
+    holds(wings_, butterfly::wingsTable, host::Undo::leaves);
+}
 
 void Form7::load()
 {
@@ -61,7 +66,7 @@ void Form7::showFlow(const BiText& page)
 
 void Form7::chooseSimple()
 {
-    stable_ = false;
+    choice_.stable = false;
     showFlow(flowOfSimple);
     setText(Command4, pick(texts::begin));
     show(Command4, Command5);
@@ -75,7 +80,7 @@ void Form7::chooseStable()
         setText(Command4, pick(texts::formulasButton));
         return;
     }
-    stable_ = true;
+    choice_.stable = true;
     showFlow(flowOfStable);
     show(Command1, Command5);
     setText(Command5, pick(texts::formulasButton));
@@ -105,7 +110,7 @@ void Form7::startStable()
 
 void Form7::showFormulas()
 {
-    const host::Handle begin = stable_ ? Command1 : Command4;
+    const host::Handle begin = choice_.stable ? Command1 : Command4;
     hide(Picture1, Picture2, Command1, Command2, Command3, Command4, Command5, SSCommand2, Label1, Label2, Label3,
          Main);
     show(begin, Label4, Label5, SSCommand1);
@@ -126,7 +131,7 @@ void Form7::leave()
 
 void Form7::flap()
 {
-    butterfly::fly(*this, {.main = Main, .openWings = OpenWings, .closeWings = CloseWings}, wingsOpen_);
+    butterfly::fly(*this, {.main = Main, .openWings = OpenWings, .closeWings = CloseWings}, wings_);
 }
 
 } // namespace velmor::form7

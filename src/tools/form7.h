@@ -6,6 +6,7 @@
 
 #include "host/sheet_host.h"
 #include "host/window.h"
+#include "tools/butterfly.h"
 
 namespace velmor::form7 {
 
@@ -33,6 +34,11 @@ enum Control : host::Handle {
 extern const host::WindowSpec spec;
 std::unique_ptr<host::Window> create(host::SheetHost& host);
 
+/// Which circuit was chosen last.
+struct Choice {
+    bool stable = false;
+};
+
 class Form7 final : public host::Window {
 public:
     explicit Form7(host::SheetHost& host);
@@ -51,8 +57,8 @@ private:
     void showFlow(const host::BiText& page);
     void start(std::string_view sheet, const host::BiText& title);
 
-    bool stable_ = false; ///< which circuit was chosen last
-    bool wingsOpen_ = false;
+    Choice choice_;
+    butterfly::Wings wings_;
 };
 
 } // namespace velmor::form7

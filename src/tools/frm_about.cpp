@@ -3,7 +3,6 @@
 #include "tools/frm_about.h"
 
 #include "tools/about_texts.h"
-#include "tools/butterfly.h"
 
 namespace velmor::frm_about {
 
@@ -12,7 +11,10 @@ using host::Kind;
 using host::Look;
 using host::slot;
 
-FrmAbout::FrmAbout(host::SheetHost& host) : host::Window(host, frm_about::spec) {}
+FrmAbout::FrmAbout(host::SheetHost& host) : host::Window(host, frm_about::spec)
+{
+    holds(wings_, butterfly::wingsTable, host::Undo::leaves);
+}
 
 void FrmAbout::load()
 {
@@ -35,7 +37,7 @@ void FrmAbout::activate()
 
 void FrmAbout::flap()
 {
-    butterfly::fly(*this, {.main = Main, .openWings = OpenWings, .closeWings = CloseWings}, wingsOpen_);
+    butterfly::fly(*this, {.main = Main, .openWings = OpenWings, .closeWings = CloseWings}, wings_);
 }
 
 void FrmAbout::showCredits()

@@ -6,6 +6,7 @@
 
 #include "host/sheet_host.h"
 #include "host/window.h"
+#include "tools/butterfly.h"
 
 namespace velmor::frm_about {
 
@@ -38,7 +39,7 @@ public:
     void leave();
 
 private:
-    bool wingsOpen_ = false;
+    butterfly::Wings wings_;
 };
 
 } // namespace velmor::frm_about

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "tools/about_texts.h"
-#include "tools/butterfly.h"
 
 namespace velmor::infoform {
 
@@ -14,7 +13,10 @@ using host::Kind;
 using host::Look;
 using host::slot;
 
-Infoform::Infoform(host::SheetHost& host) : host::Window(host, infoform::spec) {}
+Infoform::Infoform(host::SheetHost& host) : host::Window(host, infoform::spec)
+{
+    holds(wings_, butterfly::wingsTable, host::Undo::leaves);
+}
 
 // Written at load and at each activation: the language may have changed between the two.
 void Infoform::write()
@@ -24,12 +26,12 @@ void Infoform::write()
         lines.append(lines.empty() ? "" : "\n").append(host().pick(line));
     setCaption(host().pick(about::updateTitle));
     setText(Label1, lines);
-    borrowDrawing(Main, wingsOpen_ ? OpenWings : CloseWings);
+    borrowDrawing(Main, wings_.open ? OpenWings : CloseWings);
 }
 
 void Infoform::flap()
 {
-    butterfly::fly(*this, {.main = Main, .openWings = OpenWings, .closeWings = CloseWings}, wingsOpen_);
+    butterfly::fly(*this, {.main = Main, .openWings = OpenWings, .closeWings = CloseWings}, wings_);
 }
 
 namespace table {

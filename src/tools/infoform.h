@@ -6,6 +6,7 @@
 
 #include "host/sheet_host.h"
 #include "host/window.h"
+#include "tools/butterfly.h"
 
 namespace velmor::infoform {
 
@@ -21,7 +22,7 @@ public:
     void flap();
 
 private:
-    bool wingsOpen_ = false;
+    butterfly::Wings wings_;
 };
 
 } // namespace velmor::infoform

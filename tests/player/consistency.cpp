@@ -151,6 +151,15 @@ std::string SlotOrder::note(const host::Window& window, host::Handle control, ho
            (event == Event::focus ? " gets the focus twice" : " loses a focus that it has not");
 }
 
+void SlotOrder::adopt(const host::Window& window)
+{
+    loaded_.insert(window.serial());
+    const host::Handle held = window.focus();
+    if (held != host::noControl && window.hasSlot(held, host::Event::focus) &&
+        window.hasSlot(held, host::Event::lostFocus))
+        focused_.insert({window.serial(), held});
+}
+
 // Looked at after every event: no copies, and most letters end the look at once.
 bool namesNoNumber(std::string_view text)
 {

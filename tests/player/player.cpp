@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace velmor::player {
 
@@ -19,24 +20,26 @@ struct Endless {};
 
 } // namespace player_detail
 
-Player::Player(const console::WalkedProgram& program, Game game)
-    : program_(program), game_(std::move(game)), chance_(game_.seed), coverage_(program.catalogue)
+Player::Player(const console::WalkedProgram& program, Game game, std::shared_ptr<Playground> ground)
+    : program_(program), game_(std::move(game)), chance_(game_.seed), ground_(std::move(ground)),
+      coverage_(program.catalogue)
 {}
 
 Player::~Player() = default;
 
-void Player::startProgram()
+void Player::makeProgram()
 {
     using namespace player_detail;
-    coverage_.startAgain();
     failureKind_.clear();
     order_ = {};
     engine_.reset();
-    screen_ = std::make_unique<PlayerScreen>(chance_, ground_);
+    screen_ = std::make_unique<PlayerScreen>(chance_, *ground_);
     engine_ = std::make_unique<host::Engine>(program_.catalogue, *screen_, settings_);
     screen_->meanwhile = [this] { meanwhile(); };
     engine_->onSlot = [this](const host::Window& window, host::Handle control, host::Event event) {
         coverage_.slotRan(window, control, event);
+        if (logged_)
+            log_ += slotTitle(window.spec(), {control, event}) + "\n";
         if (orderFault_.empty())
             orderFault_ = order_.note(window, control, event);
         if (++slotsInEvent_ > slotsWithoutEnd)
@@ -50,10 +53,24 @@ void Player::startProgram()
     engine_->setTrace([this](std::string_view line) {
         if (line.starts_with("failure "))
             failureKind_ = line.substr(8);
+        if (logged_)
+            log_.append(line).push_back('\n');
     });
     history_.clear();
     slotsInEvent_ = 0;
     newestWindow_ = 0;
+}
+
+std::string Player::takeLog()
+{
+    logged_ = true;
+    return std::exchange(log_, {});
+}
+
+void Player::startProgram()
+{
+    coverage_.startAgain();
+    makeProgram();
     if (chance_.in(60))
         program_.start(*engine_);
     engine_->loadMainWindow();

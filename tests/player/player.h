@@ -81,7 +81,8 @@ struct Game {
 
 class Player {
 public:
-    Player(const console::WalkedProgram& program, Game game);
+    Player(const console::WalkedProgram& program, Game game,
+           std::shared_ptr<Playground> ground = std::make_shared<Playground>());
     ~Player();
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
@@ -91,7 +92,14 @@ public:
     /// What is wrong, with seed, event number and the last events before it.
     const std::string& fault() const { return fault_; }
     const Coverage& coverage() const { return coverage_; }
+    const Playground& ground() const { return *ground_; }
+    /// A second player that goes on with this very game in a program of its own, whose windows were opened from the texts of
+    /// this one's states. Null when that is not possible just now; `problem` says so when it should have been.
+    std::unique_ptr<Player> branched(std::string& problem);
+    /// What the program has done since the last call: slots, boxes, focus moves, windows. Kept from the first call on.
+    std::string takeLog();
     std::uint64_t events() const { return events_; }
+    std::string lastEvents() const;
     host::Engine& engine() { return *engine_; }
     /// Carries out one event and checks what must hold after it.
     void perform(const Deed& deed);
@@ -100,6 +108,9 @@ private:
     enum class Mood : std::uint8_t { design, defaults, roam };
 
     void startProgram();
+    void makeProgram();
+    bool goOnWith(const Player& other, std::string& problem);
+    bool openFrom(const host::Engine& engine, std::string& problem);
     void endProgram();
     void move();
     void changeMood();
@@ -133,12 +144,11 @@ private:
     void runOperation(host::Window& window, int operation, const std::string& path);
     void check();
     void report(const std::string& what);
-    std::string lastEvents() const;
 
     const console::WalkedProgram& program_;
     Game game_;
     Chance chance_;
-    Playground ground_;
+    std::shared_ptr<Playground> ground_;
     Coverage coverage_;
     host::MemorySettings settings_;
     std::unique_ptr<PlayerScreen> screen_;
@@ -153,6 +163,8 @@ private:
     std::string failureKind_;
     std::string fault_;
     std::deque<Remembered> history_;
+    std::string log_;
+    bool logged_ = false;
 };
 
 /// One event in words, for reports.

@@ -326,7 +326,7 @@ void Player::oddStep(Window& window)
             perform({.act = Act::operation,
                      .window = &window,
                      .detail = chance_.between(0, 3),
-                     .text = chance_.one(ground_.files())});
+                     .text = chance_.one(ground_->files())});
         return;
     case 16:
         return typeText(window, plausibleNumber(chance_));

@@ -34,6 +34,8 @@ class PlayerScreen final : public test::QuietScreen {
 public:
     PlayerScreen(Chance& chance, const Playground& ground) : chance_(chance), ground_(ground) {}
 
+    /// Holds what the other holds; a pop-up menu that stood open there is closed.
+    void goOnWith(const PlayerScreen& other) { clipboard_ = other.clipboard_; }
     /// Something that happens while a question stands.
     std::function<void()> meanwhile;
     /// A pop-up menu stands open: its owner and handle.

@@ -83,7 +83,9 @@ TemplateSheet::TemplateSheet(host::SheetHost& host) : TemplateSheet(host, templa
 
 TemplateSheet::TemplateSheet(host::SheetHost& host, const host::WindowSpec& window, const sheets::SheetSpec& sheet)
     : DesignSheet(host, window, sheet)
-{}
+{
+    holds(q_, quantityTable, host::Undo::takesBack);
+}
 
 void TemplateSheet::load()
 {

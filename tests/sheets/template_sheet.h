@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "host/own_values.h"
 #include "sheets/design_sheet.h"
 #include "sheets/sheet_slots.h"
 #include "sheets/template_sheet_controls.h"
@@ -24,11 +25,20 @@ Real loadVoltage(Real QIc, Real RL);
 
 /// The working numbers of one sheet.
 struct Quantities {
-    Real RLCalc; ///< kilohm, as worked out
-    Real RL;     ///< kilohm, as chosen
-    Real ERL;    ///< V
-    bool passed = false;
+    Real RLCalc;         ///< kilohm, as worked out
+    Real RL;             ///< kilohm, as chosen
+    Real ERL;            ///< V
+    bool passed = false; ///< the last step of the chain has ended without a warning
 };
+
+// clang-format off
+/// Their names, by which the state of a sheet is copied and kept; one that is left out does not compile.
+inline constexpr auto quantityTable = host::everyMember<Quantities>(
+    host::own<&Quantities::RLCalc>("RLCalc"),
+    host::own<&Quantities::RL>("RL"),
+    host::own<&Quantities::ERL>("ERL"),
+    host::own<&Quantities::passed>("passed"));
+// clang-format on
 
 class TemplateSheet : public sheets::DesignSheet {
 public:

@@ -192,7 +192,10 @@ const host::WindowSpec spec{.name = "Form2",
                             .values = values,
                             .shownPlace = form2_tables::shownPlace};
 
-Form2::Form2(host::SheetHost& host) : DesignSheet(host, form2::spec, form2_tables::sheetSpec) {}
+Form2::Form2(host::SheetHost& host) : DesignSheet(host, form2::spec, form2_tables::sheetSpec)
+{
+    holds(q_, quantityTable, host::Undo::takesBack);
+}
 
 void Form2::load()
 {

@@ -7,6 +7,7 @@
 
 #include "designs/common_emitter/form2_controls.h"
 #include "designs/common_emitter/form2_texts.h"
+#include "host/own_values.h"
 #include "sheets/design_sheet.h"
 
 namespace velmor::form2 {
@@ -18,17 +19,31 @@ extern const host::WindowSpec spec;
 
 /// The working numbers of one sheet.
 struct Quantities {
-    Real ERes;        ///< V
-    Real RLw;         ///< ohm
-    Real RLac;        ///< ohm
-    Real RLComputed;  ///< ohm
-    Real ERL;         ///< V
-    Real Rb1Computed; ///< kilohm
-    Real Zin;         ///< kilohm
-    Real ZinBoot;     ///< ohm
-    Real QIcCheck;    ///< mA
-    bool passed = false;
+    Real ERes;           ///< V
+    Real RLw;            ///< ohm
+    Real RLac;           ///< ohm
+    Real RLComputed;     ///< ohm
+    Real ERL;            ///< V
+    Real Rb1Computed;    ///< kilohm
+    Real Zin;            ///< kilohm
+    Real ZinBoot;        ///< ohm
+    Real QIcCheck;       ///< mA
+    bool passed = false; ///< the last step of the chain has ended without a warning
 };
+
+// clang-format off
+inline constexpr auto quantityTable = host::everyMember<Quantities>(
+    host::own<&Quantities::ERes>("ERes"),
+    host::own<&Quantities::RLw>("RLw"),
+    host::own<&Quantities::RLac>("RLac"),
+    host::own<&Quantities::RLComputed>("RLComputed"),
+    host::own<&Quantities::ERL>("ERL"),
+    host::own<&Quantities::Rb1Computed>("Rb1Computed"),
+    host::own<&Quantities::Zin>("Zin"),
+    host::own<&Quantities::ZinBoot>("ZinBoot"),
+    host::own<&Quantities::QIcCheck>("QIcCheck"),
+    host::own<&Quantities::passed>("passed"));
+// clang-format on
 
 class Form2 : public sheets::DesignSheet {
 public:

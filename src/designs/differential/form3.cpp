@@ -17,7 +17,10 @@ constexpr int helpMargin = 100;           // from the main window's inner edge
 
 } // namespace window_detail
 
-Form3::Form3(host::SheetHost& host) : sheets::DesignSheet(host, form3::spec, sheetSpec) {}
+Form3::Form3(host::SheetHost& host) : sheets::DesignSheet(host, form3::spec, sheetSpec)
+{
+    holds(q_, quantityTable, host::Undo::takesBack);
+}
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)
 {

@@ -3,6 +3,7 @@
 // over kilohms give milliamperes without scaling. They know no field.
 #pragma once
 
+#include "host/own_values.h"
 #include "rules/real.h"
 
 namespace velmor::form3 {
@@ -47,6 +48,45 @@ struct Quantities {
     Real VgFinal;
     bool passed = false; ///< the design has come to its end without a warning and stands as it was then
 };
+
+// clang-format off
+inline constexpr auto quantityTable = host::everyMember<Quantities>(
+    host::own<&Quantities::dQic>("dQic"),
+    host::own<&Quantities::T>("T"),
+    host::own<&Quantities::dVbe>("dVbe"),
+    host::own<&Quantities::QIc>("QIc"),
+    host::own<&Quantities::RLw>("RLw"),
+    host::own<&Quantities::S>("S"),
+    host::own<&Quantities::Vg>("Vg"),
+    host::own<&Quantities::fo>("fo"),
+    host::own<&Quantities::Eopp>("Eopp"),
+    host::own<&Quantities::Ein>("Ein"),
+    host::own<&Quantities::Beta>("Beta"),
+    host::own<&Quantities::EcMax>("EcMax"),
+    host::own<&Quantities::IcMax>("IcMax"),
+    host::own<&Quantities::Vj>("Vj"),
+    host::own<&Quantities::Ebias>("Ebias"),
+    host::own<&Quantities::Res>("Res"),
+    host::own<&Quantities::RL>("RL"),
+    host::own<&Quantities::Es>("Es"),
+    host::own<&Quantities::EResMin>("EResMin"),
+    host::own<&Quantities::ResCalc>("ResCalc"),
+    host::own<&Quantities::TailCurrent>("TailCurrent"),
+    host::own<&Quantities::ReDyn>("ReDyn"),
+    host::own<&Quantities::ERes>("ERes"),
+    host::own<&Quantities::RLac>("RLac"),
+    host::own<&Quantities::RLcalc>("RLcalc"),
+    host::own<&Quantities::ERL>("ERL"),
+    host::own<&Quantities::EQMin>("EQMin"),
+    host::own<&Quantities::EsMin>("EsMin"),
+    host::own<&Quantities::EQ>("EQ"),
+    host::own<&Quantities::Rb2>("Rb2"),
+    host::own<&Quantities::Zin>("Zin"),
+    host::own<&Quantities::Cci>("Cci"),
+    host::own<&Quantities::Cco>("Cco"),
+    host::own<&Quantities::VgFinal>("VgFinal"),
+    host::own<&Quantities::passed>("passed"));
+// clang-format on
 
 /// ERes(min) = ((T - 20) x dVbe x 100) / dQic, in volts from degrees, mV and %. The constant is 20 although the help of the
 /// sheet prints 25: the course designs from 20 degrees.

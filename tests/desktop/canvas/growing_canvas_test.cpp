@@ -9,6 +9,7 @@
 #include "desktop/canvas/canvas.h"
 #include "desktop/canvas/field_edit.h"
 #include "desktop/drawing/painted_sheet.h"
+#include "quiet_screen.h"
 
 using namespace velmor;
 using desktop::lightInks;
@@ -79,7 +80,7 @@ protected:
         return field == nullptr ? QColor() : field->palette().color(QPalette::Active, QPalette::Text);
     }
 
-    test::SilentScreen screen;
+    test::QuietScreen screen;
     host::MemorySettings settings;
     host::Engine engine{{}, screen, settings};
     host::Window window{engine.host(), spec};

@@ -10,6 +10,7 @@
 #include "desktop/drawing/drawing_export.h"
 #include "desktop/drawing/growth_plan.h"
 #include "desktop/drawing/painted_sheet.h"
+#include "quiet_screen.h"
 #include "sheets/template_sheet.h"
 
 using namespace velmor;
@@ -106,7 +107,7 @@ protected:
     }
     host::Window& window() { return *engine.defaultInstance("Crossing"); }
 
-    test::SilentScreen screen;
+    test::QuietScreen screen;
     host::MemorySettings settings;
     host::Engine engine{catalogue, screen, settings};
 };

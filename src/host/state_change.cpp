@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+// Differences are found by going through two sorted lists at once.
+#include "host/state_change.h"
+
+#include <algorithm>
+#include <iterator>
+#include <span>
+#include <utility>
+
+namespace velmor::host {
+
+namespace state_change_detail {
+
+/// Calls `differ(key, before, after)` for each key whose values differ; a null is the value of the table.
+template <class Kept, class Differ>
+void compare(std::span<const Kept> before, std::span<const Kept> after, Differ differ)
+{
+    auto one = before.begin();
+    auto other = after.begin();
+    while (one != before.end() || other != after.end()) {
+        if (other == after.end() || (one != before.end() && one->key < other->key)) {
+            differ(one->key, &one->value, nullptr);
+            ++one;
+        } else if (one == before.end() || other->key < one->key) {
+            differ(other->key, nullptr, &other->value);
+            ++other;
+        } else {
+            if (!(*one == *other))
+                differ(one->key, &one->value, &other->value);
+            ++one;
+            ++other;
+        }
+    }
+}
+
+void compareNumbers(const WindowSpec& spec, std::span<const KeptNumber> before, std::span<const KeptNumber> after,
+                    StateChange& change)
+{
+    compare(before, after, [&](const Key& key, const double* one, const double* other) {
+        const double byTable = numberByTable(spec, key);
+        change.numbers.push_back({key, one == nullptr ? byTable : *one, other == nullptr ? byTable : *other});
+    });
+}
+
+void compareTexts(const WindowSpec& spec, std::span<const KeptText> before, std::span<const KeptText> after,
+                  StateChange& change)
+{
+    compare(before, after, [&](const Key& key, const std::string* one, const std::string* other) {
+        const std::string_view byTable = textByTable(spec, key);
+        change.texts.push_back(
+            {key, std::string(one == nullptr ? byTable : *one), std::string(other == nullptr ? byTable : *other)});
+    });
+}
+
+/// What a sorted list says of one control.
+template <class Kept>
+std::span<const Kept> about(const std::vector<Kept>& list, Handle control)
+{
+    const auto from = std::lower_bound(list.begin(), list.end(), control,
+                                       [](const Kept& kept, Handle wanted) { return kept.key.control < wanted; });
+    auto to = from;
+    while (to != list.end() && to->key.control == control)
+        ++to;
+    return {from, to};
+}
+
+/// The list with what the touched controls say now in place of what they said.
+template <class Kept>
+std::vector<Kept> renewed(std::vector<Kept>& list, std::vector<Kept>& now, const std::vector<Handle>& touched)
+{
+    std::vector<Kept> result;
+    result.reserve(list.size() + now.size());
+    auto wanted = touched.begin();
+    auto fresh = now.begin();
+    for (Kept& kept : list) {
+        while (wanted != touched.end() && *wanted < kept.key.control)
+            ++wanted;
+        while (fresh != now.end() && fresh->key < kept.key)
+            result.push_back(std::move(*fresh++));
+        if (wanted == touched.end() || *wanted != kept.key.control)
+            result.push_back(std::move(kept));
+        else if (fresh != now.end() && fresh->key == kept.key)
+            result.push_back(std::move(*fresh++));
+    }
+    std::move(fresh, now.end(), std::back_inserter(result));
+    return result;
+}
+
+std::size_t heapOf(const std::string& text)
+{
+    return text.capacity() > std::string().capacity() ? text.capacity() + 1 : 0;
+}
+
+} // namespace state_change_detail
+
+std::size_t StateChange::size() const
+{
+    std::size_t bytes =
+        sizeof *this + numbers.capacity() * sizeof(ChangedNumber) + texts.capacity() * sizeof(ChangedText);
+    for (const ChangedText& text : texts)
+        bytes += state_change_detail::heapOf(text.before) + state_change_detail::heapOf(text.after);
+    return bytes;
+}
+
+StateChange difference(const WindowState& before, const WindowState& after)
+{
+    StateChange change;
+    state_change_detail::compareNumbers(*before.spec, before.numbers, after.numbers, change);
+    state_change_detail::compareTexts(*before.spec, before.texts, after.texts, change);
+    return change;
+}
+
+void apply(WindowState& state, const StateChange& change, Direction direction)
+{
+    const bool forth = direction == Direction::forth;
+    for (const ChangedNumber& number : change.numbers)
+        state.set(number.key, forth ? number.after : number.before);
+    for (const ChangedText& text : change.texts)
+        state.set(text.key, std::string_view(forth ? text.after : text.before));
+}
+
+void apply(Window& window, const StateChange& change, Direction direction)
+{
+    const bool forth = direction == Direction::forth;
+    for (const ChangedNumber& number : change.numbers)
+        StateAccess::setNumber(window, number.key, forth ? number.after : number.before);
+    for (const ChangedText& text : change.texts)
+        StateAccess::setText(window, text.key, forth ? text.after : text.before);
+}
+
+StepWatch::StepWatch(Window& window) : window_(window), last_(copyOf(window))
+{
+    window_.takeTouched();
+}
+
+StateChange StepWatch::step()
+{
+    StateChange change;
+    noteControls(change);
+    noteWindow(change);
+    change.numbers.shrink_to_fit();
+    change.texts.shrink_to_fit();
+    return change;
+}
+
+void StepWatch::noteControls(StateChange& change)
+{
+    using namespace state_change_detail;
+    std::vector<Handle> touched = window_.takeTouched();
+    if (touched.empty())
+        return;
+    std::sort(touched.begin(), touched.end());
+    WindowState now{.spec = last_.spec};
+    for (const Handle control : touched) {
+        const std::size_t numbers = now.numbers.size();
+        const std::size_t texts = now.texts.size();
+        copyControl(window_, control, now);
+        compareNumbers(*last_.spec, about(last_.numbers, control), std::span(now.numbers).subspan(numbers), change);
+        compareTexts(*last_.spec, about(last_.texts, control), std::span(now.texts).subspan(texts), change);
+    }
+    last_.numbers = renewed(last_.numbers, now.numbers, touched);
+    last_.texts = renewed(last_.texts, now.texts, touched);
+}
+
+void StepWatch::noteWindow(StateChange& change)
+{
+    const Key focus{noControl, Attribute::focus};
+    const auto number = [&](const Key& key, double now) {
+        const double before = last_.number(key);
+        if (KeptNumber{key, before} == KeptNumber{key, now})
+            return;
+        change.numbers.push_back({key, before, now});
+        last_.set(key, now);
+    };
+    number(focus, window_.focus());
+    std::uint16_t index = 0;
+    for (const OwnView& view : StateAccess::own(window_))
+        for (const OwnRow& row : view.rows) {
+            const Key key{noControl, Attribute::own, index++};
+            if (view.undo == Undo::leaves)
+                continue;
+            if (row.kind != OwnKind::text) {
+                number(key, row.number(view.record));
+            } else if (const std::string_view before = last_.text(key); before != row.text(view.record)) {
+                change.texts.push_back({key, std::string(before), row.text(view.record)});
+                last_.set(key, std::string_view(row.text(view.record)));
+            }
+        }
+}
+
+} // namespace velmor::host

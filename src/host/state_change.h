@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// What lies between two states of one window: small enough to keep hundreds, and good for both ways. Long texts are left
+// out: an editor takes back its own.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "host/window_state.h"
+
+namespace velmor::host {
+
+struct ChangedNumber {
+    Key key{};
+    double before = 0.0;
+    double after = 0.0;
+};
+
+struct ChangedText {
+    Key key{};
+    std::string before{};
+    std::string after{};
+};
+
+/// Every attribute in which two states differ, with both values.
+struct StateChange {
+    std::vector<ChangedNumber> numbers{};
+    std::vector<ChangedText> texts{};
+
+    bool empty() const { return numbers.empty() && texts.empty(); }
+    /// Bytes that it takes, the heap included.
+    std::size_t size() const;
+};
+
+enum class Direction : std::uint8_t { back, forth };
+
+/// From `before` to `after`, two states of one kind of window.
+StateChange difference(const WindowState& before, const WindowState& after);
+
+/// Leads a state through a change.
+void apply(WindowState& state, const StateChange& change, Direction direction);
+/// The same with a window. Runs no slot; to be called between events, see `Engine::apply`.
+void apply(Window& window, const StateChange& change, Direction direction);
+
+/// Follows a window from step to step by what its setters have noted, so that a step costs no more than what it changed.
+/// A step holds what undo takes back: controls, focus, and own values that are not left alone. One watch a window.
+class StepWatch {
+public:
+    explicit StepWatch(Window& window);
+
+    /// What has changed since the last call.
+    StateChange step();
+
+private:
+    void noteControls(StateChange& change);
+    void noteWindow(StateChange& change);
+
+    Window& window_;
+    WindowState last_;
+};
+
+} // namespace velmor::host
