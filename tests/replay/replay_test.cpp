@@ -84,8 +84,8 @@ testing::AssertionResult endTheSame(const std::vector<Outcome>& written, const s
 
 class EveryWalk : public testing::TestWithParam<std::string> {
 protected:
-    // Walks are played from the checkout, where some find the project's own guides.
-    static void SetUpTestSuite() { std::filesystem::current_path(places::source()); }
+    // Some walks find the guides in the working folder.
+    static void SetUpTestSuite() { std::filesystem::current_path(places::played()); }
     std::vector<Outcome> played(Manner manner) const
     {
         return replayed(console::wholeProgram(), folder() + "/" + GetParam(), manner);
