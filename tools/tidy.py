@@ -20,13 +20,18 @@ commands = {entry["file"]: entry for entry in json.loads((build / "compile_comma
 tool = subprocess.run(["clang-tidy", "--version"], stdout=subprocess.PIPE, check=True).stdout
 
 
-def print_of(entry):
+def settings_of(name):
+    folders = reversed((root / name).parents)
+    return b"".join((folder / ".clang-tidy").read_bytes() for folder in folders if (folder / ".clang-tidy").exists())
+
+
+def print_of(entry, settings):
     """Comments and macros count: clang-tidy reads them too."""
     command = shlex.split(entry["command"])
     at = command.index("-o")
     text = subprocess.run(command[:at] + command[at + 2:] + ["-E", "-CC", "-dD"], cwd=entry["directory"],
                           stdout=subprocess.PIPE, check=True).stdout
-    return hashlib.sha256(tool + (root / ".clang-tidy").read_bytes() + text).hexdigest()
+    return hashlib.sha256(tool + settings + text).hexdigest()
 
 
 def complaints(name):
@@ -34,7 +39,7 @@ def complaints(name):
     entry = commands.get(str(root / name))
     if entry is None:
         return f"{name}: is compiled by no target\n"
-    mark = clean / print_of(entry)
+    mark = clean / print_of(entry, settings_of(name))
     if mark.exists():
         return ""
     told = subprocess.run(["clang-tidy", "--quiet", "-p", build, root / name], stdout=subprocess.PIPE,
