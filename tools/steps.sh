@@ -88,7 +88,7 @@ run_tests() {
     shift
     say "Running the tests ($preset)"
     # Programs that are only asked for their tests have no home of their own yet.
-    HOME=$root/build/$preset/home QT_QPA_PLATFORM=offscreen \
+    HOME=$root/build/$preset/home XDG_RUNTIME_DIR=$root/build/$preset/home/run QT_QPA_PLATFORM=offscreen \
         ctest --test-dir "$root/build/$preset" --parallel "$(nproc)" --output-on-failure \
         --no-tests=error "$@" </dev/null 2>&1 | tee "$log" |
         grep --line-buffered -vE '^ +Start +[0-9]+: | Passed +[0-9.]+ sec$|^Internal ctest changing|^Test project' || true
