@@ -43,7 +43,8 @@ struct NotReplayed {
 // clang-format off
 constexpr NotReplayed notToAndFro[] = {
     {"form16/hover.walk",                        "a switch writes the caption of the main window, which bears the name of the page here"},
-    {"mdiform1/next_start_marked_already.walk",  "the language of the moment changes here without its captions, until a switch writes them"},
+    {"mdiform1/next_start_marked_already.walk",  "the language of the moment changes here without its captions, until a switch writes "
+                                                 "them"},
 };
 // clang-format on
 
