@@ -18,7 +18,6 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
     setQuitOnLastWindowClosed(false);
     setWindowIcon(programIcon());
     setStyle(new QuietStyle);
-    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style.
     tellAssistiveTechnology();
 }
 
