@@ -2,13 +2,14 @@
 # How a folder becomes a target. A folder without sources yet gives a target without code, or no program at all,
 # so that the line of who may use whom stands from the first day.
 
-# velmor_library(NAME SOURCES file... LINK target...)
+# velmor_library(NAME SOURCES file... LINK target... PRIVATE target...)
+# LINK names what its headers may include, and so whoever uses it; PRIVATE what its sources alone may.
 function(velmor_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 LIB "" "" "SOURCES;LINK")
+    cmake_parse_arguments(PARSE_ARGV 1 LIB "" "" "SOURCES;LINK;PRIVATE")
     if(LIB_SOURCES)
         add_library(${name} STATIC ${LIB_SOURCES})
         target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-        target_link_libraries(${name} PUBLIC ${LIB_LINK} PRIVATE velmor_warnings)
+        target_link_libraries(${name} PUBLIC ${LIB_LINK} PRIVATE ${LIB_PRIVATE} velmor_warnings)
     else()
         add_library(${name} INTERFACE)
         target_include_directories(${name} INTERFACE ${PROJECT_SOURCE_DIR}/src)
@@ -36,7 +37,8 @@ function(velmor_test name)
     add_executable(${name} ${TEST_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE ${TEST_LINK} velmor_places velmor_warnings GTest::gtest GTest::gtest_main)
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 LABELS ${name})
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+                         WORKING_DIRECTORY ${VELMOR_TEST_FOLDER} PROPERTIES TIMEOUT 120 LABELS ${name})
     # The environment is a list, which gtest_discover_tests would take apart: it is set once the tests are known.
     set(settings ${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake)
     file(WRITE ${settings} "if(${name}_TESTS)\n    set_tests_properties(\${${name}_TESTS} PROPERTIES ENVIRONMENT "
@@ -59,7 +61,7 @@ function(velmor_walks directory)
     foreach(folder IN LISTS folders)
         file(GLOB files CONFIGURE_DEPENDS ${folder}/*.walk)
         cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${directory} OUTPUT_VARIABLE title)
-        add_test(NAME "walks/${title}" COMMAND velmor-walk ${files} WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
+        add_test(NAME "walks/${title}" COMMAND velmor-walk ${files} WORKING_DIRECTORY ${VELMOR_TEST_FOLDER})
         set_tests_properties("walks/${title}" PROPERTIES TIMEOUT 120 LABELS walks
                              ENVIRONMENT "${VELMOR_TEST_ENVIRONMENT}")
     endforeach()

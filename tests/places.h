@@ -12,6 +12,9 @@ std::string source();
 /// The folder of this build; tests may write below it.
 std::string build();
 
+/// The folder in which walks are played: the guides lie in it as in the program's own.
+std::string played();
+
 /// The folder of the programs of this build: `velmor-walk` and, with the desktop, `velmor`.
 std::string programs();
 

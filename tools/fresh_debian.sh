@@ -4,26 +4,52 @@
 #
 #   tools/fresh_debian.sh [test|run]      both without an argument
 #
-# SUITE=bookworm MIRROR=http://deb.debian.org/debian FOLDER=/var/tmp/velmor-fresh choose which Debian and where. A picture of the
-# virtual display that ./run made is left in FOLDER/run.png.
+# The packages come from where this machine's own come from, through the same proxy. SUITE=... chooses another Debian that the
+# machine's package manager knows, FOLDER=/var/tmp/velmor-fresh where all of it goes. A picture of the virtual display that ./run
+# made is left in FOLDER/run.png.
 set -euo pipefail
 # shellcheck source=tools/steps.sh
 source "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/steps.sh"
 
-suite=${SUITE:-bookworm}
-mirror=${MIRROR:-http://deb.debian.org/debian}
+suite=${SUITE:-$(. /etc/os-release && echo "${VERSION_CODENAME:-}")}
 folder=${FOLDER:-/var/tmp/velmor-fresh}
 base=$folder/base-$suite
 tree=$folder/tree
 ((EUID == 0)) || stop "tools/fresh_debian.sh needs root."
 command -v debootstrap >/dev/null || stop "tools/fresh_debian.sh needs the package debootstrap."
 
+# ask_package_manager: sets $server, $keyring and the proxies as the package manager has them, in whichever form it was told.
+ask_package_manager() {
+    local entry http='' https=''
+    # shellcheck disable=SC2016  # apt-get expands it
+    IFS='|' read -r server entry < <(
+        apt-get indextargets --format '$(CREATED_BY)|$(RELEASE)|$(CODENAME)|$(COMPONENT)|$(REPO_URI)|$(SOURCESENTRY)' |
+            awk -F'|' -v suite="$suite" \
+                '$1 == "Packages" && $4 == "main" && ($2 == suite || $3 == suite) && !seen++ { print $5 "|" $6 }'
+    ) || stop "The package manager of this machine knows no server of $suite. Try: apt-get update"
+    keyring=$(sed -n 's/^[^#]*signed-by *[:=] *\([^] ]*\).*/\1/ip' "${entry%:*}" | head -n 1)
+    # What stands for the keys may be a fingerprint, or nothing.
+    [[ -f $keyring ]] || keyring=''
+    eval "$(apt-config shell http Acquire::http::Proxy https Acquire::https::Proxy)"
+    proxies=()
+    [[ -z ${http:=${http_proxy:-}} || $http == DIRECT ]] || proxies+=("http_proxy=$http")
+    [[ -z ${https:=${https_proxy:-}} || $https == DIRECT ]] || proxies+=("https_proxy=$https")
+    [[ -z ${no_proxy:-} ]] || proxies+=("no_proxy=$no_proxy")
+}
+
 make_base() {
     [[ ! -e $folder/base-$suite.done ]] || return 0
     say "Making a base system ($suite)"
     mkdir -p "$folder"
-    debootstrap --variant=minbase "$suite" "$base" "$mirror" >"$folder/debootstrap.log" 2>&1 ||
-        stop "debootstrap failed, see $folder/debootstrap.log"
+    rm -rf --one-file-system "$base"
+    env "${proxies[@]}" debootstrap --variant=minbase ${keyring:+"--keyring=$keyring"} "$suite" "$base" "$server" \
+        >"$folder/debootstrap.log" 2>&1 || stop "debootstrap failed, see $folder/debootstrap.log"
+    # A server of one's own is trusted in there as it is out here.
+    [[ -z $keyring ]] || cp -L "$keyring" "$base/etc/apt/trusted.gpg.d/"
+    if [[ $server == https:* ]]; then
+        mkdir -p "$base/etc/ssl/certs"
+        cp -L /etc/ssl/certs/ca-certificates.crt "$base/etc/ssl/certs/"
+    fi
     touch "$folder/base-$suite.done"
 }
 
@@ -43,7 +69,8 @@ inside() {
             mount -t tmpfs tmpfs "$1/dev/shm" || exit
         tree=$1
         shift
-        exec chroot "$tree" /usr/bin/env -i HOME=/root PATH=/usr/sbin:/usr/bin:/sbin:/bin "$@"' bash "$tree" "$@"
+        exec chroot "$tree" /usr/bin/env -i HOME=/root PATH=/usr/sbin:/usr/bin:/sbin:/bin "$@"' \
+        bash "$tree" "${proxies[@]}" "$@"
 }
 
 timed() {
@@ -83,6 +110,7 @@ try_run() {
     trap - EXIT
 }
 
+ask_package_manager
 make_base
 case ${1:-both} in
 test) try_test ;;

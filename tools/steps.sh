@@ -77,12 +77,19 @@ build() {
         stop "The build failed."
 }
 
+# tree_state: what in the checkout is new, changed or ignored, but for the build folder; nothing where git knows no checkout.
+tree_state() {
+    git -C "$root" status --porcelain --untracked-files=all --ignored=matching 2>/dev/null | grep -vxF '!! build/' || true
+}
+
 # run_tests PRESET [CTEST ARGUMENT...]: plays the tests, shows those that fail, counts in $passed and $failed.
 run_tests() {
     local preset=$1 log=$root/build/$1/tests.log closing
     shift
     say "Running the tests ($preset)"
-    QT_QPA_PLATFORM=offscreen ctest --test-dir "$root/build/$preset" --parallel "$(nproc)" --output-on-failure \
+    # Programs that are only asked for their tests have no home of their own yet.
+    HOME=$root/build/$preset/home XDG_RUNTIME_DIR=$root/build/$preset/home/run QT_QPA_PLATFORM=offscreen \
+        ctest --test-dir "$root/build/$preset" --parallel "$(nproc)" --output-on-failure \
         --no-tests=error "$@" </dev/null 2>&1 | tee "$log" |
         grep --line-buffered -vE '^ +Start +[0-9]+: | Passed +[0-9.]+ sec$|^Internal ctest changing|^Test project' || true
     closing=$(grep -E 'tests passed, [0-9]+ tests failed out of [0-9]+' "$log" || true)

@@ -32,7 +32,7 @@ QFont twipFont(const host::Font& font, bool sizeGiven)
     QFont result(shown(font.name));
     result.setStyleHint(QFont::Monospace);
     const double points = sizeGiven && font.size > 0 ? font.size : printing_detail::printersOwnSize;
-    result.setPixelSize(static_cast<int>(points * printing_detail::twipsPerPoint + 0.5));
+    result.setPixelSize(qRound(points * printing_detail::twipsPerPoint));
     result.setBold(font.bold);
     result.setItalic(font.italic);
     result.setUnderline(font.underline);
@@ -51,7 +51,7 @@ int printedTwips(const host::Font& font, std::string_view text)
         lastFont = wanted;
         metrics = std::make_unique<QFontMetricsF>(wanted);
     }
-    return static_cast<int>(metrics->horizontalAdvance(shown(text).remove(QLatin1Char('\n'))) + 0.5);
+    return qRound(metrics->horizontalAdvance(shown(text).remove(QLatin1Char('\n'))));
 }
 
 QStringList printedLines(const host::PrintJob& job, double pageTwips)

@@ -118,10 +118,12 @@ static_assert(host::rowsInOrder(editorRows) && host::rowsInOrder(edito1Rows) && 
 
 constexpr BiText laboratory{.es = "Laboratorio Velmor", .en = "Laboratorio Velmor"};
 constexpr Question keepText{
-    .text = {.es = "Este documento ha cambiado\n¿Desea guardar los cambios?", .en = "Este documento ha cambiado\n¿Desea guardar los cambios?"},
+    .text = {.es = "Este documento ha cambiado\n¿Desea guardar los cambios?",
+             .en = "Este documento ha cambiado\n¿Desea guardar los cambios?"},
     .title = laboratory, .flags = 35};
 constexpr Question keepTextAtExit{
-    .text = {.es = "Este documento ha cambiado... \nguarda los cambios ...?", .en = "Este documento ha cambiado... \nguarda los cambios ...?"},
+    .text = {.es = "Este documento ha cambiado... \nguarda los cambios ...?",
+             .en = "Este documento ha cambiado... \nguarda los cambios ...?"},
     .title = {.es = "Laboratorio Velmor ", .en = "Laboratorio Velmor "}, .flags = 35};
 constexpr Question replaceText{
     .text = {.es = "Desea reemplazar el archivo existente?", .en = "Desea reemplazar el archivo existente?"},

@@ -108,7 +108,8 @@ public:
     bool isChild() const { return role() == Role::sheet || role() == Role::editor; }
 
     // Controls, by handle. Reading one that the table lacks is a programming error.
-    std::size_t controlCount() const { return controls_.size(); }
+    /// As many as a handle can count: the lint holds every table to that.
+    Handle controlCount() const { return static_cast<Handle>(controls_.size()); }
     const ControlRow& row(Handle control) const { return spec_.controls[control]; }
     const Control& control(Handle control) const { return controls_[control]; }
     /// Finds a control without regard to capitals; noControl when there is none. The bare name of an array is its

@@ -17,10 +17,18 @@ namespace table {
 constexpr BiText heading{.es = "Hoja de Análisis", .en = "Leaf of Analysis"};
 
 // clang-format off
-constexpr GridPoint clean[] = {{8, 40}, {12, 31}, {15, 23}, {19, 17}, {22, 14}, {26, 14}, {29, 17}, {33, 23}, {36, 31}, {40, 40}, {44, 49}, {47, 57}, {51, 63}, {54, 66}, {58, 66}, {61, 63}, {65, 57}, {68, 49}, {72, 40}};
-constexpr GridPoint flatTops[] = {{8, 40}, {12, 30}, {15, 25}, {19, 25}, {22, 25}, {26, 25}, {29, 25}, {33, 25}, {36, 30}, {40, 40}, {44, 50}, {47, 59}, {51, 66}, {54, 70}, {58, 70}, {61, 66}, {65, 59}, {68, 50}, {72, 40}};
-constexpr GridPoint flatBoth[] = {{8, 40}, {12, 28}, {15, 26}, {19, 26}, {22, 26}, {26, 26}, {29, 26}, {33, 26}, {36, 28}, {40, 40}, {44, 52}, {47, 54}, {51, 54}, {54, 54}, {58, 54}, {61, 54}, {65, 54}, {68, 52}, {72, 40}};
-constexpr GridPoint weak[] = {{8, 40}, {12, 37}, {15, 34}, {19, 31}, {22, 30}, {26, 30}, {29, 31}, {33, 34}, {36, 37}, {40, 40}, {44, 43}, {47, 46}, {51, 49}, {54, 50}, {58, 50}, {61, 49}, {65, 46}, {68, 43}, {72, 40}};
+constexpr GridPoint clean[] = {
+    {8, 40}, {12, 31}, {15, 23}, {19, 17}, {22, 14}, {26, 14}, {29, 17}, {33, 23}, {36, 31}, {40, 40}, {44, 49},
+    {47, 57}, {51, 63}, {54, 66}, {58, 66}, {61, 63}, {65, 57}, {68, 49}, {72, 40}};
+constexpr GridPoint flatTops[] = {
+    {8, 40}, {12, 30}, {15, 25}, {19, 25}, {22, 25}, {26, 25}, {29, 25}, {33, 25}, {36, 30}, {40, 40}, {44, 50},
+    {47, 59}, {51, 66}, {54, 70}, {58, 70}, {61, 66}, {65, 59}, {68, 50}, {72, 40}};
+constexpr GridPoint flatBoth[] = {
+    {8, 40}, {12, 28}, {15, 26}, {19, 26}, {22, 26}, {26, 26}, {29, 26}, {33, 26}, {36, 28}, {40, 40}, {44, 52},
+    {47, 54}, {51, 54}, {54, 54}, {58, 54}, {61, 54}, {65, 54}, {68, 52}, {72, 40}};
+constexpr GridPoint weak[] = {
+    {8, 40}, {12, 37}, {15, 34}, {19, 31}, {22, 30}, {26, 30}, {29, 31}, {33, 34}, {36, 37}, {40, 40}, {44, 43},
+    {47, 46}, {51, 49}, {54, 50}, {58, 50}, {61, 49}, {65, 46}, {68, 43}, {72, 40}};
 
 constexpr Mark cleanSignal[] = {
     {.symbol = Symbol::roundFrame, .from = {2, 4}, .to = {78, 76}},
@@ -57,7 +65,8 @@ constexpr host::ControlRow controls[] = {
     {.id = Image3, .name = "Image3", .kind = Kind::image, .place = picturePlace, .visible = false,
      .meaning = {.es = "Señal recortada: ERL no alcanza", .en = "Clipped signal: ERL does not suffice"}, .drawing = clippedByTheLoad},
     {.id = Image4, .name = "Image4", .kind = Kind::image, .place = picturePlace, .visible = false,
-     .meaning = {.es = "Señal recortada: la fuente no alcanza", .en = "Clipped signal: the supply does not suffice"}, .drawing = clippedByTheSupply},
+     .meaning = {.es = "Señal recortada: la fuente no alcanza", .en = "Clipped signal: the supply does not suffice"},
+     .drawing = clippedByTheSupply},
     {.id = Image5, .name = "Image5", .kind = Kind::image, .place = picturePlace, .visible = false,
      .meaning = {.es = "Señal que la carga disminuye", .en = "Signal that the load makes smaller"}, .drawing = weakSignal},
 };

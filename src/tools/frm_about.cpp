@@ -88,7 +88,8 @@ constexpr host::ControlRow controls[] = {
     {.id = Label1_0, .name = "Label1(0)", .kind = Kind::label, .place = {450, 450, 5700, 540}, .visible = false, .look = Look::title},
     {.id = Label1_1, .name = "Label1(1)", .kind = Kind::label, .place = {450, 1200, 5700, 600}, .visible = false, .fontSize = 9},
     {.id = Label1_2, .name = "Label1(2)", .kind = Kind::label, .place = {450, 1950, 5700, 780}, .visible = false, .fontSize = 9},
-    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {450, 2880, 5700, 780}, .visible = false, .look = Look::note, .fontSize = 9},
+    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {450, 2880, 5700, 780},
+     .visible = false, .look = Look::note, .fontSize = 9},
     {.id = Label3, .name = "Label3", .kind = Kind::label, .place = {450, 300, 5700, 540}, .look = Look::title},
     {.id = Label4, .name = "Label4", .kind = Kind::label, .place = {450, 3600, 5700, 600}, .fontSize = 9},
 };

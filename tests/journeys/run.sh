@@ -6,7 +6,10 @@ set -eu
 VELMOR=$1
 shift
 cd "$(dirname "$0")"
-export VELMOR PYTHONDONTWRITEBYTECODE=1 PYTHONWARNINGS=ignore
+# The way to a socket must be short, and the build folder may lie deep.
+XDG_RUNTIME_DIR=$(mktemp -d)
+trap 'rm -rf -- "$XDG_RUNTIME_DIR"' EXIT
+export XDG_RUNTIME_DIR VELMOR PYTHONDONTWRITEBYTECODE=1 PYTHONWARNINGS=ignore
 python=/usr/bin/python3 # the one that knows the accessibility bus
 
 all_journeys() {

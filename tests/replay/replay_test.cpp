@@ -43,7 +43,8 @@ struct NotReplayed {
 // clang-format off
 constexpr NotReplayed notToAndFro[] = {
     {"form16/hover.walk",                        "a switch writes the caption of the main window, which bears the name of the page here"},
-    {"mdiform1/next_start_marked_already.walk",  "the language of the moment changes here without its captions, until a switch writes them"},
+    {"mdiform1/next_start_marked_already.walk",  "the language of the moment changes here without its captions, until a switch writes "
+                                                 "them"},
 };
 // clang-format on
 
@@ -84,8 +85,8 @@ testing::AssertionResult endTheSame(const std::vector<Outcome>& written, const s
 
 class EveryWalk : public testing::TestWithParam<std::string> {
 protected:
-    // Walks are played from the checkout, where some find the project's own guides.
-    static void SetUpTestSuite() { std::filesystem::current_path(places::source()); }
+    // Some walks find the guides in the working folder.
+    static void SetUpTestSuite() { std::filesystem::current_path(places::played()); }
     std::vector<Outcome> played(Manner manner) const
     {
         return replayed(console::wholeProgram(), folder() + "/" + GetParam(), manner);

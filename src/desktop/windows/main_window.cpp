@@ -328,8 +328,9 @@ void MainWindow::tellClientArea()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(desk_.closing || model_ == nullptr);
-    if (!event->isAccepted())
+    const bool goes = desk_.closing || model_ == nullptr;
+    event->setAccepted(goes);
+    if (!goes)
         desk_.engine->userClose(*model_);
 }
 
