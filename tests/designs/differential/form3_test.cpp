@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "quiet_screen.h"
 #include "program/catalogue.h"
+#include "quiet_screen.h"
 #include "rules/scratch_folder.h"
 
 namespace velmor::form3_test {

@@ -23,8 +23,10 @@ constexpr host::Mark stroke[] = {{.symbol = host::Symbol::wire, .from = {20, 20}
 constexpr host::ControlRow rows[] = {
     {.id = Volts,   .name = "Volts",   .kind = Kind::button,  .place = {150, 150, 1260, 600},  .text = "V", .chosen = Chosen::whenDisabled},
     {.id = Plain,   .name = "Plain",   .kind = Kind::button,  .place = {150, 150, 1260, 600},  .text = "V"},
-    {.id = Picture, .name = "Picture", .kind = Kind::picture, .place = {150, 150, 1260, 870},  .look = Look::toolButton, .drawing = stroke, .chosen = Chosen::whenDisabled},
-    {.id = Lamp,    .name = "Lamp",    .kind = Kind::image,   .place = {150, 150, 1260, 870},  .look = Look::toolButton, .drawing = stroke, .chosen = Chosen::whenShown},
+    {.id = Picture, .name = "Picture", .kind = Kind::picture, .place = {150, 150, 1260, 870},  .look = Look::toolButton,
+     .drawing = stroke, .chosen = Chosen::whenDisabled},
+    {.id = Lamp,    .name = "Lamp",    .kind = Kind::image,   .place = {150, 150, 1260, 870},  .look = Look::toolButton,
+     .drawing = stroke, .chosen = Chosen::whenShown},
     {.id = Never,   .name = "Never",   .kind = Kind::image,   .place = {150, 150, 1260, 870},  .look = Look::toolButton, .drawing = stroke},
 };
 // clang-format on
