@@ -25,18 +25,35 @@ namespace velmor::program {
 
 host::Catalogue catalogue()
 {
+    // clang-format off
     static const std::vector<const host::WindowSpec*> windows{
-        &main_window::spec,     &form3::spec,
-        &palette::spec,         &form2::spec,
-        &editors::frmEditor,    &editors::frmEdito1,
-        &editors::frmEdito2,    &editors::frmEdito3,
-        &find_dialogs::frmFind, &find_dialogs::frmReplace,
-        &calculator::spec,      &form14::spec,
-        &form19::spec,          &form21::spec,
-        &form22::spec,          &form6::spec,
-        &form7::spec,           &frm_about::spec,
-        &frm_drag::spec,        &infoform::spec,
+        &main_window::spec,
+
+        // sheets, family by family
+        &form2::spec,
+
+        &form3::spec,
+
+        // around them
+        &palette::spec,
+        &editors::frmEditor,
+        &editors::frmEdito1,
+        &editors::frmEdito2,
+        &editors::frmEdito3,
+        &find_dialogs::frmFind,
+        &find_dialogs::frmReplace,
+        &calculator::spec,
+        &form14::spec,
+        &form19::spec,
+        &form21::spec,
+        &form22::spec,
+        &form6::spec,
+        &form7::spec,
+        &frm_about::spec,
+        &frm_drag::spec,
+        &infoform::spec,
     };
+    // clang-format on
     return windows;
 }
 
