@@ -82,8 +82,8 @@ constexpr auto ownSlots = std::to_array<host::SlotRow>({
     {Image4,   drop,      slot<&Form4::dropOnCapacitor>},
 });
 // clang-format on
-constexpr auto slots =
-    sheets::sheetSlots<Form4, tools>(chain, sheets::joined(sheets::alike(chain, click, slot<&Form4::clickField>), ownSlots));
+constexpr auto slots = sheets::sheetSlots<Form4, tools>(
+    chain, sheets::joined(sheets::alike(chain, click, slot<&Form4::clickField>), ownSlots));
 
 // clang-format off
 constexpr FileLine lines[] = {
@@ -164,6 +164,7 @@ void Form4::load()
     host().SetWindowCaption(*this, pick(spec().sheetTitle));
     write(Label6, texts::transistorHeading);
     write(Label11, texts::circuitHeading);
+    setPlaceOf(Label19, loadPlace);
     setText(Text22, texts::generalHelp.es);
     setText(Text23, texts::generalHelp.en);
 }

@@ -40,17 +40,7 @@ constexpr ControlRow leaf(host::Handle id, std::string_view name, host::BiText m
 }
 constexpr ControlRow pageOf(host::Handle id, std::string_view name, host::BiText meaning)
 {
-    return hidden({.id = id,
-                   .name = name,
-                   .kind = Kind::page,
-                   .place = help,
-                   .meaning = meaning,
-                   .overlay = true});
-}
-constexpr ControlRow placed(ControlRow row, const Place& place)
-{
-    row.place = place;
-    return row;
+    return hidden({.id = id, .name = name, .kind = Kind::page, .place = help, .meaning = meaning, .overlay = true});
 }
 
 // clang-format off
@@ -102,7 +92,7 @@ constexpr auto rows = std::to_array<ControlRow>({
     hidden(disabled(field(Text20, "Text20", at(706, 119, 66, 22), "",   notation::above(notation::Es)))),
     marked(result(Label2, "Label2", at(804, 222, 92, 18)), drawing::obtainedCurrentName),
     result(Label10, "Label10", at(752, 322, 146, 18)),
-    placed(result(Label19, "Label19", {}), loadPlace),
+    result(Label19, "Label19", at(640, 187, 260, 18)),
     result(Label20, "Label20", at(640, 484, 140, 34)),
     result(Label21, "Label21", at(444, 484, 150, 34)),
     result(Label22, "Label22", at(640, 206, 120, 18)),
@@ -176,7 +166,7 @@ host::Place shownPlace(const host::Window& window, host::Handle control)
     const bool atBase = window.visible(Image5);
     switch (control) {
     case Label19:
-        return window.placeOf(Label19) == supplyPlace ? sheets::at(792, 104, 218, 54) : sheets::at(640, 187, 260, 18);
+        return window.placeOf(Label19) == supplyPlace ? sheets::at(792, 104, 218, 54) : controls[Label19].place;
     case Label21:
     case Label24:
         return controls[control].place;

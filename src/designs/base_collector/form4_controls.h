@@ -37,11 +37,8 @@ enum Control : host::Handle {
 };
 // clang-format on
 
-inline constexpr sheets::Tools tools{.guide = Image6,
-                                     .calculator = Image10,
-                                     .report = Image7,
-                                     .clone = {Image8, Image9},
-                                     .help = {Image35, Image34}};
+inline constexpr sheets::Tools tools{
+    .guide = Image6, .calculator = Image10, .report = Image7, .clone = {Image8, Image9}, .help = {Image35, Image34}};
 
 /// Where the source stands: at the emitter of the common-base stage, at the base when the emitter is bypassed.
 extern const host::Place sourceAtEmitter;

@@ -100,11 +100,11 @@ Real upperBaseResistor(const BaseCircuit& circuit);
 
 /// The circuit with the preset that is in use.
 struct CurrentCheck {
-    Real Es;   ///< V
-    Real QIc;  ///< mA, as designed
-    Real Res;  ///< kilohm
-    Real Rb1;  ///< kilohm, not 0
-    Real Rb2;  ///< kilohm, not 0
+    Real Es;  ///< V
+    Real QIc; ///< mA, as designed
+    Real Res; ///< kilohm
+    Real Rb1; ///< kilohm, not 0
+    Real Rb2; ///< kilohm, not 0
     Real Beta;
 };
 

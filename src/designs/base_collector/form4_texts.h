@@ -57,8 +57,9 @@ inline constexpr Saying currentOverLimit{
     .title = designApproach,
     .flags = 16};
 inline constexpr Saying supplyTooLow{
-    .text = {.es = "Al ser el valor de Fuente de Alimentación menor a la mínima necesaria, se produciran recortes de la "
-                   "señal...",
+    .text = {.es =
+                 "Al ser el valor de Fuente de Alimentación menor a la mínima necesaria, se produciran recortes de la "
+                 "señal...",
              .en = "The value of Source Voltage is smaller to the minimum one necessary, cuttings of the sign will "
                    "take place..."},
     .title = {.es = "El diseño NO cumplira con las especificaciones circuitales...",
@@ -117,10 +118,10 @@ inline constexpr Saying returnToCircuit{
 inline constexpr BiText outputPowerIs{.es = " Potencia de salida = ", .en = " Output power = "};
 inline constexpr BiText generatorPowerIs{.es = " Potencia del generador = ", .en = " Power of the generator = "};
 inline constexpr BiText impedanceAdapter{
-    .es =
-        " Cuando el generador posee baja resistencia interna, resulta este circuito ideal como adaptador de "
-        "impedancias...",
-    .en = " When the generator possesses low internal resistance, it is this ideal circuit as adapter of impedances..."};
+    .es = " Cuando el generador posee baja resistencia interna, resulta este circuito ideal como adaptador de "
+          "impedancias...",
+    .en =
+        " When the generator possesses low internal resistance, it is this ideal circuit as adapter of impedances..."};
 inline constexpr BiText commonBase{.es = "     Base a Masa", .en = "     Common Base"};
 inline constexpr BiText emitterBypass{.es = "     Emisor Desacoplado", .en = "     Emitter Bypass"};
 
