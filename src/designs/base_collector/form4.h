@@ -76,7 +76,8 @@ private:
 
     Press pressed(host::EventArgs& args);
     std::string words(const host::BiText& text) const { return std::string(pick(text)); }
-    /// A power in microwatts, with its unit.
+    /// A capacitor in microfarads and a power in microwatts, with the course's units.
+    std::string microfarads(Real farads) const { return shown(farads * 1000000.0) + " mF"; }
     std::string microwatts(Real watts) const { return shown(watts * 1000000.0) + " microW"; }
 
     // steps of the chain that stand on their own

@@ -9,7 +9,6 @@ namespace velmor::form4 {
 namespace analysis_detail {
 
 constexpr std::string_view leafWindow = "Form6";
-constexpr double million = 1000000.0;
 
 } // namespace analysis_detail
 
@@ -106,9 +105,9 @@ void Form4::compareConnections()
     host().Show(leafWindow);
     if (Zin == Real(0.0) || fo == Real(0.0) || RLw == Real(0.0) || Vg == Real(0.0) || at(Text18) == Real(0.0))
         return;
-    setText(Label26, shown(emitterBypass(fo, at(Text18)) * million) + " mF");
-    setText(Label27, shown(sheets::couplingCapacitor(fo, RLw * 1000.0) * million) + " mF");
-    setText(Label28, shown(sheets::couplingCapacitor(fo, Zin) * million) + " mF");
+    setText(Label26, microfarads(emitterBypass(fo, at(Text18))));
+    setText(Label27, microfarads(sheets::couplingCapacitor(fo, RLw * 1000.0)));
+    setText(Label28, microfarads(sheets::couplingCapacitor(fo, Zin)));
     const auto column = [&](const host::BiText& title, std::string_view impedance, Real ohms) {
         return words(title) + "\n\n" + std::string(impedance) + " " + whole(ohms) + " Ohms\n" +
                words(texts::generatorPowerIs) + microwatts(generatorPower(Eopp, Vg, ohms));

@@ -11,7 +11,6 @@ namespace closing_detail {
 constexpr int answerYes = 6;
 constexpr double leastRes = 0.0001; // kilohm
 constexpr double leastRb1 = 1E-07;  // kilohm
-constexpr double million = 1000000.0;
 constexpr int lowerLabelTop = 4560; // of `Label21`, once Rb2 is chosen
 constexpr int upperLabelTop = 1320; // of `Label24`, once Rb1 is
 
@@ -311,10 +310,10 @@ void Form4::writeCapacitors()
     const Real fo = at(Text12);
     if (fo == Real(0.0) || q_.ReDyn == Real(0.0) || at(Text9) == Real(0.0))
         return;
-    const std::string in = shown(inputCapacitor(fo, q_.ReDyn) * million) + " mF";
+    const std::string in = microfarads(inputCapacitor(fo, q_.ReDyn));
     setText(Label26, in);
     setText(Label28, in);
-    setText(Label27, shown(sheets::couplingCapacitor(fo, at(Text9) * 1000.0) * million) + " mF");
+    setText(Label27, microfarads(sheets::couplingCapacitor(fo, at(Text9) * 1000.0)));
 }
 
 void Form4::writeInputImpedance()
