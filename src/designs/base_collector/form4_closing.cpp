@@ -252,8 +252,11 @@ void Form4::focusText17(host::EventArgs& args)
     tell(texts::dragSource);
 }
 
+// A design that is read from a file takes the field away; that is no adjustment of its preset.
 void Form4::leaveText17()
 {
+    if (!enabled(Text17))
+        return;
     const bool told = workOutObtainedCurrent();
     if (told)
         setText(Label2, shown(q_.ICheck) + " mA");
