@@ -22,6 +22,9 @@ using host::Place;
 
 constexpr int circuitTop = 94;
 constexpr int transistorTop = 404;
+constexpr Place besideRL = at(640, 187, 260, 18);
+constexpr Place insteadOfRL = at(640, 160, 140, 34); // while its field is not there
+constexpr Place besideEs = at(792, 104, 218, 54);
 constexpr Place help = at(706, 94, 308, 518);
 
 constexpr ControlRow picture(host::Handle id, std::string_view name, const Place& place, host::BiText meaning,
@@ -88,15 +91,15 @@ constexpr auto rows = std::to_array<ControlRow>({
     hidden(disabled(field(Text15, "Text15", at(640, 162, 66, 22), "",   notation::above(notation::RL)))),
     hidden(disabled(field(Text16, "Text16", at(448, 459, 66, 22), "10", notation::above(notation::Rb2)))),
     hidden(disabled(field(Text17, "Text17", at(448, 162, 66, 22), "20", notation::above(notation::Rb1)))),
-    hidden(disabled(field(Text18, "Text18", at(640, 459, 90, 22), "",   notation::above(notation::in(notation::Res, "kΩ"))))),
+    hidden(disabled(field(Text18, "Text18", at(640, 459, 90, 22), "",   notation::above(notation::in(notation::Res, ""))))),
     hidden(disabled(field(Text20, "Text20", at(706, 119, 66, 22), "",   notation::above(notation::Es)))),
     marked(result(Label2, "Label2", at(804, 222, 92, 18)), drawing::obtainedCurrentName),
     result(Label10, "Label10", at(752, 322, 146, 18)),
-    result(Label19, "Label19", at(640, 187, 260, 18)),
+    result(Label19, "Label19", besideRL),
     result(Label20, "Label20", at(640, 484, 140, 34)),
     result(Label21, "Label21", at(444, 484, 150, 34)),
     result(Label22, "Label22", at(640, 206, 120, 18)),
-    label(Label23, "Label23", at(672, 332, 76, 18), Look::drawn),
+    {.id = Label23, .name = "Label23", .kind = Kind::panel, .place = at(672, 332, 76, 18), .look = Look::drawn},
     result(Label24, "Label24", at(448, 188, 146, 50)),
     result(Label25, "Label25", at(688, 422, 94, 18)),
     result(Label26, "Label26", at(740, 378, 110, 18)),
@@ -137,15 +140,15 @@ constexpr host::GrowthRow growthRows[] = {
 
 // value, part
 constexpr host::ValueRow valueRows[] = {
-    {Shape1,  Line1},  {Label2,  Line2},
+    {Shape1,  Line1},
     {Label31, Line3},  {Label10, Line3},  {Label27, Line4},
     {image2,  Line7},  {Label26, Line7},  {Label25, Line7},
     {Image3,  Line8},  {Label28, Line8},
     {Text18,  Line10}, {Label20, Line17},
-    {Text20,  Line11},
+    {Text20,  Line11}, {Label19, Line11},
     {Text15,  Line12}, {Label22, Line16}, {Label23, Line15},
     {Text16,  Line13}, {Label21, Line13},
-    {Text17,  Line14}, {Label24, Line14},
+    {Text17,  Line14}, {Label24, Line14}, {Label2, Line14},
 };
 // clang-format on
 
@@ -166,7 +169,9 @@ host::Place shownPlace(const host::Window& window, host::Handle control)
     const bool atBase = window.visible(Image5);
     switch (control) {
     case Label19:
-        return window.placeOf(Label19) == supplyPlace ? sheets::at(792, 104, 218, 54) : controls[Label19].place;
+        if (window.placeOf(Label19) == supplyPlace)
+            return controls_detail::besideEs;
+        return window.visible(Text15) ? controls_detail::besideRL : controls_detail::insteadOfRL;
     case Label21:
     case Label24:
         return controls[control].place;

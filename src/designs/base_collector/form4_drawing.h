@@ -96,7 +96,7 @@ inline constexpr auto commonBase = part({
     wire(280, 410, 280, 520),
     Mark{.symbol = Symbol::label, .from = {352, 318}, .name = "C_b"},
     {.symbol = Symbol::label, .from = {712, 388}, .name = "C_in"},
-    {.symbol = Symbol::arrow, .from = {796, 397}, .to = {756, 397}},
+    {.symbol = Symbol::arrow, .from = {802, 422}, .to = {772, 422}},
     {.symbol = Symbol::sine, .from = {838, 420}, .to = {876, 444}},
     {.symbol = Symbol::sine, .from = {920, 296}, .to = {960, 320}},
 });
