@@ -217,7 +217,7 @@ class Design:
     @staticmethod
     def expect_in_leaf(label, spanish, english, impedance, Zin, power):
         def column(title, words):
-            return quoted(f"     {title}\n\n{impedance} {whole(Zin)} Ohms\n {words} = {power} microW")
+            return quoted(f"     {title}\n{impedance} {whole(Zin)} Ohms\n {words} = {power} microW")
         print(f"expect-in Form6 {label}.caption " + column(spanish, "Potencia del generador") + " | " +
               column(english, "Power of the generator"))
 

@@ -109,7 +109,7 @@ void Form4::compareConnections()
     setText(Label27, microfarads(sheets::couplingCapacitor(fo, RLw * 1000.0)));
     setText(Label28, microfarads(sheets::couplingCapacitor(fo, Zin)));
     const auto column = [&](const host::BiText& title, std::string_view impedance, Real ohms) {
-        return words(title) + "\n\n" + std::string(impedance) + " " + whole(ohms) + " Ohms\n" +
+        return words(title) + "\n" + std::string(impedance) + " " + whole(ohms) + " Ohms\n" +
                words(texts::generatorPowerIs) + microwatts(generatorPower(Eopp, Vg, ohms));
     };
     host().setText(leafWindow, "Label1", column(texts::commonBase, "Zin = r'e =", q_.ReDyn));
