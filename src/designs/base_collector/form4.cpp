@@ -194,6 +194,7 @@ void Form4::clickBackground()
 void Form4::opened()
 {
     clearBench();
+    hide(Image4);
     disable(Text15, Text16, Text17, Text18, Text20);
     growWhole();
     show(image2, Label33);

@@ -50,11 +50,13 @@ void Form4::clickPicture1()
 {
     closeAnalysis();
     connectCommonBase();
+    hide(Image4);
     show(Picture2);
     tell(texts::clickLeaf);
 }
 
-/// Whatever field is taken up again, the leaf of the design that was is put away.
+// Whatever field is taken up again, the leaf of the design that was is put away. The capacitor still waits for the source, as the
+// prompt of Rb1 has just said.
 void Form4::clearBench()
 {
     closeAnalysis();

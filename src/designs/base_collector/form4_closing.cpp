@@ -304,7 +304,7 @@ void Form4::keyText17(host::EventArgs& args)
     tell(texts::clickLeaf);
     writeCapacitors();
     writeInputImpedance();
-    hide(Label33);
+    hide(Label33, Image4);
     q_.passed = workOutObtainedCurrent() && obtainsItsCurrent();
 }
 

@@ -3,7 +3,8 @@
 //     velmor_gallery FOLDER           the sample windows of the painters, also as PDF and SVG
 //     velmor_gallery FOLDER NAME ...  windows of the program, with all that is hidden shown under NAME-all; of a sheet also
 //                                     how its drawing grows, under NAME-half and NAME-whole, and its tools
-//     velmor_gallery FOLDER NAME:CONTROL:FROM>TO ...  the same, controls clicked and dragged one after the other once the drawing is whole
+//     velmor_gallery FOLDER NAME:CONTROL:FROM>TO ...  the same, controls clicked and dragged one after the other once the
+//                                     drawing is whole
 #include <cstdio>
 #include <string>
 
@@ -148,7 +149,8 @@ void saveTools(const host::Window& window, desktop::View view, const QString& pa
     image.save(path);
 }
 
-/// How a sheet's drawing grows when the defaults are taken: half of it, all of it, and what some clicks and drags ("image2>Image4") then show.
+/// How a sheet's drawing grows when the defaults are taken: half of it, all of it, and what some clicks and drags
+/// ("image2>Image4") then show.
 void saveGrowth(const QString& stem, const QStringList& name, const desktop::View& view)
 {
     const std::string kind = name.front().toStdString();
