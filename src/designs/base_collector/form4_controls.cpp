@@ -133,8 +133,8 @@ constexpr host::GrowthRow growthRows[] = {
     {Line8,  Text12}, {Line9,  Text12},
     {Line6,  Text18}, {Line10, Text18}, {Line17, Text18},
     {Line11, Text20}, {Shape2, Text20},
-    {Line12, Text15}, {Line15, Text15}, {Line16, Text15},
-    {Line13, Text16},
+    {Line12, Text15}, {Line16, Text15},
+    {Line13, Text16}, {Line15, Text16},
     {Line14, Text17},
 };
 
