@@ -80,6 +80,9 @@ private:
     std::string microfarads(Real farads) const { return shown(farads * 1000000.0) + " mF"; }
     std::string microwatts(Real watts) const { return shown(watts * 1000000.0) + " microW"; }
 
+    /// A design read from a file takes its last fields out of reach: what stands there is not left by the student.
+    bool isTakenAway(host::Handle field) const { return !enabled(field); }
+
     // steps of the chain that stand on their own
     bool canTellEin() const { return at(Text11) != Real(0.0); }
     Real inputVoltage() const;

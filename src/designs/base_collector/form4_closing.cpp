@@ -141,6 +141,8 @@ void Form4::focusText15(host::EventArgs& args)
 
 void Form4::leaveText15(host::EventArgs& args)
 {
+    if (isTakenAway(Text15))
+        return;
     show(Text16, Label22, Label23);
     q_.QIc = at(Text8);
     leaveField(args);
@@ -206,6 +208,8 @@ void Form4::keyText16(host::EventArgs& args)
 
 void Form4::leaveText16()
 {
+    if (isTakenAway(Text16))
+        return;
     if (at(Text16) < 1E-05) {
         setText(Text16, shown(lowerBaseResistor(at(Text10), at(Text18))));
         setText(Label21, "Rb2 =" + shown(at(Text16)) + " Kohm");
@@ -252,10 +256,9 @@ void Form4::focusText17(host::EventArgs& args)
     tell(texts::dragSource);
 }
 
-// A design that is read from a file takes the field away; that is no adjustment of its preset.
 void Form4::leaveText17()
 {
-    if (!enabled(Text17))
+    if (isTakenAway(Text17))
         return;
     const bool told = workOutObtainedCurrent();
     if (told)
