@@ -401,9 +401,10 @@ void paintByLook(const Scene& scene)
     case Look::note:
     case Look::result:
         return paintText(scene);
+    case Look::drawn: // by the mark whose value it is
+        return;
     case Look::plain:
     case Look::invisible:
-    case Look::drawn:
         break;
     }
     paintByKind(scene);

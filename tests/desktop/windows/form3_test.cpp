@@ -166,6 +166,8 @@ TEST_P(Form3Test, theMeterReadsByMouseAndByKeyboard)
     EXPECT_FALSE(sheet->visible(Shape12));
     ASSERT_EQ(sheet->drawing(Shape13).size(), 1u);
     EXPECT_EQ(desktop::valueText(*sheet, sheet->drawing(Shape13)[0]), QStringLiteral("0.5\u00A0mA"));
+    const desktop::View view = viewAt(1.0);
+    EXPECT_TRUE(inkedBox(imageOfControl(*sheet, SSPanel2, view), view.inks->paper).isEmpty()) << "written twice";
     // another function leaves nothing on the face
     on.click(*sheet, c1);
     EXPECT_FALSE(sheet->visible(Shape13));
