@@ -114,7 +114,7 @@ inline constexpr Mark source[] = {
     wire(25, 90, 25, 110),
 };
 inline constexpr Mark dropTarget[] = {
-    {.symbol = Symbol::dashedFrame, .from = {2, 2}, .to = {58, 42}, .ink = Ink::accent},
+    {.symbol = Symbol::dashedFrame, .from = {2, 2}, .to = {66, 56}, .ink = Ink::accent},
 };
 // The leaf of analysis: a signal on a screen.
 inline constexpr Mark leafMarks[] = {
