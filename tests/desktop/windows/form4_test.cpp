@@ -52,6 +52,15 @@ protected:
         }
     }
 
+    void expectLeafFits(const char* stage)
+    {
+        const host::Window* leaf = on.engine.instance("Form6", 0);
+        ASSERT_NE(leaf, nullptr);
+        desktop::View view;
+        view.languageIsEnglish = on.engine.values().LanguageIsEnglish;
+        EXPECT_EQ(textComplaints(*leaf, view), std::vector<std::string>{}) << stage;
+    }
+
     Bench on;
     host::Window* sheet = nullptr;
 };
@@ -64,8 +73,10 @@ TEST_P(Form4Test, everyTextFitsItsPlaceAtEachStage)
     on.click(*sheet, Picture2);
     ASSERT_EQ(sheet->text(Label2), "1.0049 mA");
     expectTextsFit("analysis");
+    expectLeafFits("powers");
     on.engine.userDrag(*sheet, image2, Image4);
     expectTextsFit("emitter bypassed");
+    expectLeafFits("comparison");
 }
 
 TEST_P(Form4Test, theSourceIsTakenToTheBaseWithTheMouse)
