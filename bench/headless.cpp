@@ -29,23 +29,44 @@ double millisecondsSince(Clock::time_point start)
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
+bool isPlayed(const std::string& path, const std::string& text, bool asks)
+{
+    std::istringstream walk(text);
+    std::ostringstream out;
+    const console::WalkResult result = console::playWalk(console::wholeProgram(), walk, path, out, false);
+    const bool played = result.exitStatus() == 0 && (result.passed > 0 || !asks);
+    if (!played)
+        std::fprintf(stderr, "%s", out.str().c_str());
+    return played;
+}
+
+/// What a student does in the walk, without what a test asks about it.
+std::string deedsOf(const std::string& text)
+{
+    std::istringstream lines(text);
+    std::string deeds;
+    for (std::string line; std::getline(lines, line);)
+        if (line.find("expect") == std::string::npos)
+            deeds += line + '\n';
+    return deeds;
+}
+
 /// Median time in milliseconds of one play, a fresh program and the reading of the walk included; negative when it fails.
+/// The walk is played once whole, so that what is timed is known to be a design that comes out right.
 double timeOfDesign(const std::string& path)
 {
     std::ifstream file(path);
     std::stringstream text;
     text << file.rdbuf();
+    const std::string deeds = deedsOf(text.str());
+    if (!isPlayed(path, text.str(), true))
+        return -1.0;
     std::vector<double> times;
     for (int play = 0; play < plays; ++play) {
-        std::istringstream walk(text.str());
-        std::ostringstream out;
         const auto start = Clock::now();
-        const console::WalkResult result = console::playWalk(console::wholeProgram(), walk, path, out, false);
-        times.push_back(millisecondsSince(start));
-        if (result.exitStatus() != 0 || result.passed == 0) {
-            std::fprintf(stderr, "%s", out.str().c_str());
+        if (!isPlayed(path, deeds, false))
             return -1.0;
-        }
+        times.push_back(millisecondsSince(start));
     }
     std::nth_element(times.begin(), times.begin() + plays / 2, times.end());
     return times[plays / 2];

@@ -26,6 +26,18 @@ namespace velmor::desktop {
 using host::Handle;
 using host::noControl;
 
+namespace canvas_detail {
+
+bool isMostOf(const QRegion& region, const QRect& whole)
+{
+    double area = 0.0;
+    for (const QRect& part : region)
+        area += static_cast<double>(part.width()) * part.height();
+    return area > 0.7 * whole.width() * whole.height();
+}
+
+} // namespace canvas_detail
+
 Canvas::Canvas(Desk& desk, host::Window& model, Handle area, Handle except)
     : desk_(desk), model_(&model), area_(area), except_(except), plan_(CanvasPlan::of(model.spec())),
       widgets_(model.controlCount()), ink_(model.controlCount()), pointer_(std::make_unique<Pointer>(*this)),
@@ -177,9 +189,7 @@ void Canvas::paintOne(QPainter& painter, Handle control, const QRegion& clip)
     if (model_ == nullptr || !paints(control) || model_->row(control).look == host::Look::invisible ||
         isGround(control))
         return;
-    // Measuring what a control paints on costs as much as painting it: a whole canvas is painted without asking.
-    const bool everything = clip.rectCount() == 1 && clip.boundingRect().contains(rect());
-    if (!everything && !clip.intersects(ink(control).toAlignedRect()))
+    if (!clip.isEmpty() && !clip.intersects(ink(control).toAlignedRect()))
         return;
     if (isPagePicture(*model_, control))
         paintPagePicture(painter, *model_, control, view_);
@@ -193,7 +203,9 @@ void Canvas::paintEvent(QPaintEvent* event)
     painter.fillRect(event->rect(), view_.inks->paper);
     if (model_ == nullptr)
         return;
-    inOrderOfPainting(*model_, [&](Handle control) { paintOne(painter, control, event->region()); });
+    // Measuring what a control paints on costs as much as painting it: the most of a canvas is painted without asking.
+    const QRegion clip = canvas_detail::isMostOf(event->region(), rect()) ? QRegion() : event->region();
+    inOrderOfPainting(*model_, [&](Handle control) { paintOne(painter, control, clip); });
     paintPaleFields(painter, event->region());
 }
 
@@ -317,6 +329,11 @@ void Canvas::keyPressEvent(QKeyEvent* event)
     if (model_ == nullptr || !hasFocus() || !keyboard_->pressed(*event))
         QWidget::keyPressEvent(event);
 }
+
+// The drawing shows the model's focus: the toolkit's would have all of it painted anew.
+void Canvas::focusInEvent(QFocusEvent*) {}
+
+void Canvas::focusOutEvent(QFocusEvent*) {}
 
 void Canvas::mousePressEvent(QMouseEvent* event)
 {

@@ -61,6 +61,7 @@ public:
     void setHovered(host::Handle control);
     void setPressed(host::Handle control);
     void repaintControl(host::Handle control);
+    /// Paints a control that reaches into `clip`; with an empty one, without asking whether it does.
     void paintOne(QPainter& painter, host::Handle control, const QRegion& clip);
     const CanvasPlan::Entry& planOf(host::Handle control) const { return plan_.entries[control]; }
     QString tipOf(host::Handle control) const;
@@ -71,6 +72,8 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

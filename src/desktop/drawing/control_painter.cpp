@@ -13,6 +13,7 @@
 #include "desktop/drawing/caption_fit.h"
 #include "desktop/drawing/field_marks.h"
 #include "desktop/drawing/growth_plan.h"
+#include "desktop/drawing/lettering.h"
 #include "desktop/drawing/plates.h"
 #include "desktop/drawing/schematic_painter.h"
 #include "desktop/drawing/typefaces.h"
@@ -117,9 +118,8 @@ void writeCaption(const Scene& scene, const QColor& ink, const QColor& ground)
         return;
     const QColor own = scene.state().foreColor >= 0 ? colorOf(scene.state().foreColor) : ink;
     const QColor wished = scene.view.pale ? scene.inks().quiet : own;
-    scene.painter.setFont(setting.font);
     scene.painter.setPen(readableOn(ground, wished));
-    scene.painter.drawText(setting.room, setting.flags | Qt::TextDontClip, setting.text);
+    writeBlock(scene.painter, setting.room, setting.box, setting.flags, setting.text, setting.font);
 }
 
 void paintDrawing(const Scene& scene)

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/drawing/quiet_style.h"
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
 #include <QIconEngine>
 #include <QPainter>
+#include <QStyleOptionSlider>
 #include <QStyleOptionTitleBar>
 #include <QWidget>
 
@@ -75,10 +77,40 @@ bool mayBeLate(QStyle::StandardPixmap sign)
     case QStyle::SP_TitleBarCloseButton:
     case QStyle::SP_TitleBarShadeButton:
     case QStyle::SP_TitleBarUnshadeButton:
+    case QStyle::SP_TitleBarMenuButton:
     case QStyle::SP_ToolBarHorizontalExtensionButton:
         return true;
     default:
         return false;
+    }
+}
+
+/// A trough and a slider, without arrows: the wheel, the keys and a press beside the slider do what these did.
+QRect partOfScrollBar(const QStyleOptionSlider& bar, QStyle::SubControl part, int smallest)
+{
+    const bool across = bar.orientation == Qt::Horizontal;
+    const int room = across ? bar.rect.width() : bar.rect.height();
+    const long long range = static_cast<long long>(bar.maximum) - bar.minimum;
+    const long long wished = range > 0 ? static_cast<long long>(bar.pageStep) * room / (range + bar.pageStep) : room;
+    const int length = std::min(room, std::max(static_cast<int>(wished), smallest));
+    const int start =
+        QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition, room - length, bar.upsideDown);
+    const auto stretch = [&](int from, int to) {
+        const QRect piece = across ? QRect(bar.rect.left() + from, bar.rect.top(), to - from, bar.rect.height())
+                                   : QRect(bar.rect.left(), bar.rect.top() + from, bar.rect.width(), to - from);
+        return QStyle::visualRect(bar.direction, bar.rect, piece);
+    };
+    switch (part) {
+    case QStyle::SC_ScrollBarSlider:
+        return stretch(start, start + length);
+    case QStyle::SC_ScrollBarSubPage:
+        return stretch(0, start);
+    case QStyle::SC_ScrollBarAddPage:
+        return stretch(start + length, room);
+    case QStyle::SC_ScrollBarGroove:
+        return bar.rect;
+    default:
+        return {};
     }
 }
 
@@ -133,6 +165,11 @@ QuietStyle::QuietStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 void QuietStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                     const QWidget* widget) const
 {
+    if (control == CC_ScrollBar)
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option)) {
+            drawScrollBar(*bar, *painter, widget);
+            return;
+        }
     if (control == CC_TitleBar)
         if (const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option)) {
             drawTitleBar(*bar, *painter, widget);
@@ -162,6 +199,26 @@ QIcon QuietStyle::standardIcon(StandardPixmap sign, const QStyleOption* option, 
         return known->second;
     const auto read = [this, sign] { return QProxyStyle::standardIcon(sign, nullptr, nullptr); };
     return signs_.emplace(sign, QIcon(new quiet_style_detail::LateSign(read))).first->second;
+}
+
+QRect QuietStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                 const QWidget* widget) const
+{
+    if (control == CC_ScrollBar)
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
+            return quiet_style_detail::partOfScrollBar(*bar, part, pixelMetric(PM_ScrollBarSliderMin, bar, widget));
+    return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+void QuietStyle::drawScrollBar(const QStyleOptionSlider& bar, QPainter& painter, const QWidget* widget) const
+{
+    const Inks& inks = inksFor(bar.palette);
+    const QRect slider = subControlRect(CC_ScrollBar, &bar, SC_ScrollBarSlider, widget);
+    const bool held = (bar.state & State_Sunken) != 0 && (bar.activeSubControls & SC_ScrollBarSlider) != 0;
+    const bool under = (bar.state & State_MouseOver) != 0 && (bar.activeSubControls & SC_ScrollBarSlider) != 0;
+    painter.fillRect(bar.rect, inks.desk);
+    if ((bar.state & State_Enabled) != 0 && bar.maximum > bar.minimum)
+        painter.fillRect(slider.adjusted(3, 3, -3, -3), held ? inks.accent : under ? inks.quiet : inks.edge);
 }
 
 void QuietStyle::drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter, const QWidget* widget) const

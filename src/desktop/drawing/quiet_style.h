@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The toolkit's plain style with flat title bars for child windows: one calm colour, four strokes for the buttons.
+// The toolkit's plain style with flat title bars for child windows (one calm colour, four strokes for the buttons) and flat
+// scroll bars.
 #pragma once
 
 #include <map>
@@ -7,6 +8,7 @@
 #include <QIcon>
 #include <QProxyStyle>
 
+class QStyleOptionSlider;
 class QStyleOptionTitleBar;
 
 namespace velmor::desktop {
@@ -18,9 +20,12 @@ public:
                             const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override;
     QIcon standardIcon(StandardPixmap sign, const QStyleOption* option, const QWidget* widget) const override;
 
 private:
+    void drawScrollBar(const QStyleOptionSlider& bar, QPainter& painter, const QWidget* widget) const;
     void drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter, const QWidget* widget) const;
 
     mutable std::map<StandardPixmap, QIcon> signs_;

@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QPen>
 
+#include "desktop/drawing/lettering.h"
+
 namespace velmor::desktop {
 
 namespace strokes {
@@ -69,36 +71,58 @@ double Sketch::edge(double length) const
     return std::copysign(std::max(snapped, phase() == 0.0 ? 1.0 : 0.5), exact);
 }
 
-QPainterPath& Sketch::pathFor(Layer layer, const QColor& color, const QColor& ground, double width)
+Trace& Sketch::traceFor(Layer layer, const QColor& color, const QColor& ground, double width)
 {
     for (Trace& trace : traces_)
         if (trace.layer == layer && trace.color == color && trace.ground == ground && trace.width == width)
-            return trace.path;
-    traces_.push_back({layer, color, ground, width, {}});
+            return trace;
+    traces_.push_back({layer, color, ground, width, {}, {}});
     traces_.back().path.setFillRule(Qt::WindingFill);
-    return traces_.back().path;
+    return traces_.back();
 }
 
 void Sketch::stroke(Layer layer, const QColor& color, double width, const QPainterPath& path)
 {
-    pathFor(layer, color, QColor(), width).addPath(path);
+    traceFor(layer, color, QColor(), width).path.addPath(path);
+}
+
+// A lead of one or two pixels has ends as round as square.
+bool Sketch::runsAlongPixels(double width, std::initializer_list<QPointF> points) const
+{
+    constexpr double widest = 3.0;
+    if (!snaps_ || width > widest || width != std::floor(width))
+        return false;
+    const auto onGrid = [half = width / 2.0](double at) { return at - half == std::floor(at - half); };
+    if (!std::all_of(points.begin(), points.end(),
+                     [&](QPointF point) { return onGrid(point.x()) && onGrid(point.y()); }))
+        return false;
+    return std::adjacent_find(points.begin(), points.end(), [](QPointF one, QPointF next) {
+               return one.x() != next.x() && one.y() != next.y();
+           }) == points.end();
 }
 
 void Sketch::stroke(Layer layer, const QColor& color, double width, std::initializer_list<QPointF> points)
 {
-    QPainterPath& path = pathFor(layer, color, QColor(), width);
+    Trace& trace = traceFor(layer, color, QColor(), width);
+    if (layer != Layer::dashed && runsAlongPixels(width, points)) {
+        const double half = width / 2.0;
+        for (auto from = points.begin(), to = from + 1; to != points.end(); ++from, ++to)
+            trace.bars.push_back(QRectF(*from, *to).normalized().adjusted(-half, -half, half, half).toRect());
+        return;
+    }
+    QPainterPath& path = trace.path;
     path.moveTo(*points.begin());
     std::for_each(points.begin() + 1, points.end(), [&path](QPointF point) { path.lineTo(point); });
 }
 
 void Sketch::fill(Layer layer, const QColor& color, const QPainterPath& path)
 {
-    pathFor(layer, QColor(), color, 0.0).addPath(path);
+    traceFor(layer, QColor(), color, 0.0).path.addPath(path);
 }
 
 void Sketch::outline(Layer layer, const QColor& color, const QColor& ground, double width, const QPainterPath& path)
 {
-    pathFor(layer, color, ground, width).addPath(path);
+    traceFor(layer, color, ground, width).path.addPath(path);
 }
 
 void Sketch::write(QPointF baseline, const QString& text, const QFont& font, const QColor& color)
@@ -133,14 +157,17 @@ void Sketch::paint(QPainter& painter) const
     std::stable_sort(order.begin(), order.end(), [](auto* one, auto* other) { return one->layer < other->layer; });
     painter.setRenderHint(QPainter::Antialiasing);
     for (const Trace* trace : order) {
+        for (const QRect& bar : trace->bars)
+            painter.fillRect(bar, trace->color);
+        if (trace->path.isEmpty())
+            continue;
         painter.setPen(strokes::penOf(*trace));
         painter.setBrush(trace->ground.isValid() ? QBrush(trace->ground) : QBrush(Qt::NoBrush));
         painter.drawPath(trace->path);
     }
     for (const Lettering& lettering : letterings_) {
-        painter.setFont(lettering.font);
         painter.setPen(lettering.color);
-        painter.drawText(lettering.baseline, lettering.text);
+        writeLine(painter, lettering.baseline, lettering.text, lettering.font);
     }
 }
 

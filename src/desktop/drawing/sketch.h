@@ -25,6 +25,7 @@ struct Trace {
     QColor ground;      ///< filled with it before the stroke; invalid for none
     double width = 0.0; ///< 0: filled, not stroked
     QPainterPath path;
+    std::vector<QRect> bars; ///< strokes along the rows and columns of the pixels, as what they cover
 };
 
 struct Lettering {
@@ -70,7 +71,8 @@ public:
     void paint(QPainter& painter) const;
 
 private:
-    QPainterPath& pathFor(Layer layer, const QColor& color, const QColor& ground, double width);
+    Trace& traceFor(Layer layer, const QColor& color, const QColor& ground, double width);
+    bool runsAlongPixels(double width, std::initializer_list<QPointF> points) const;
     double phase() const;
 
     std::vector<Trace> traces_;

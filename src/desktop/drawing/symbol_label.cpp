@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QPainter>
 
+#include "desktop/drawing/lettering.h"
 #include "desktop/drawing/typefaces.h"
 
 namespace velmor::desktop {
@@ -173,10 +174,8 @@ void append(SymbolLabel& label, const SymbolLabel& next, double gap)
 
 void drawLabel(QPainter& painter, const SymbolLabel& label, QPointF baseline)
 {
-    for (const LabelRun& run : label.runs) {
-        painter.setFont(run.font);
-        painter.drawText(baseline + QPointF(run.offset, run.lowered), run.text);
-    }
+    for (const LabelRun& run : label.runs)
+        writeLine(painter, baseline + QPointF(run.offset, run.lowered), run.text, run.font);
 }
 
 } // namespace velmor::desktop

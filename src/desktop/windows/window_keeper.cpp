@@ -82,10 +82,14 @@ void WindowKeeper::addChild(ChildFrame& child)
 {
     // The area's own answer comes between the two: it would have the frames of all children painted anew.
     connect(&child, &QMdiSubWindow::aboutToActivate, this, [this, &child] { holdFrames(child, true); });
-    // A new child clears the menu bar of the buttons that it would have there, and paints a bar that did not change.
-    main_->menuBar()->setAttribute(Qt::WA_UpdatesDisabled);
+    // A new child clears the menu bar of the buttons that it would have there, and would have the bar and all that is seen of
+    // the other children painted anew, though nothing of it changed.
+    for (QWidget* still : {static_cast<QWidget*>(main_->menuBar()), main_->area().viewport()})
+        still->setAttribute(Qt::WA_UpdatesDisabled);
     main_->area().addSubWindow(&child);
-    main_->menuBar()->setAttribute(Qt::WA_UpdatesDisabled, false);
+    for (QWidget* still : {static_cast<QWidget*>(main_->menuBar()), main_->area().viewport()})
+        still->setAttribute(Qt::WA_UpdatesDisabled, false);
+    child.setUpdatesEnabled(true); // it takes after its parent
     connect(&child, &QMdiSubWindow::aboutToActivate, this, [this, &child] { holdFrames(child, false); });
 }
 
