@@ -77,6 +77,13 @@ constexpr Quantity unused(Quantity quantity, host::BiText meaning)
     return notation::in(notation::meaning(quantity, meaning), "");
 }
 
+/// The part bears the symbol already.
+constexpr Quantity besideItsPart(Quantity quantity)
+{
+    quantity.symbol = "";
+    return quantity;
+}
+
 constexpr auto rows = std::to_array<ControlRow>({
     paper(Image1, "Image1", title),
     label(Label11, "Label11", zones::group(circuitTop, 6), Look::group),
@@ -96,6 +103,8 @@ constexpr auto rows = std::to_array<ControlRow>({
     hidden(drawn(Line12, "Line12", Kind::line, drawing::lowerDivider<Control>)),
     hidden(drawn(Line13, "Line13", Kind::line, drawing::upperDivider<Control>)),
     hidden(drawn(Line14, "Line14", Kind::line, drawing::transistorVoltage<Control>)),
+    hidden(drawn(Line15, "Line15", Kind::line, drawing::emitterVoltage<Control>)),
+    hidden(drawn(Line16, "Line16", Kind::line, drawing::upperBaseVoltage<Control>)),
     drawn(Shape1, "Shape1", Kind::shape, drawing::transistor<Control>),
     field(Text1, "Text1", zones::parameter(circuitTop, 4), " s/uso",
           unused(notation::dQIc, {"Sin uso en este circuito", "Without use in this circuit"})),
@@ -118,7 +127,7 @@ constexpr auto rows = std::to_array<ControlRow>({
     disabled(field(Text17, "Text17", at(466, 169, 80, 22), "20", notation::above(notation::Rb1))),
     disabled(field(Text18, "Text18", at(646, 174, 90, 22), "", notation::above(notation::in(
                    notation::meaning(notation::QIc, {"Miliamperímetro: QIc obtenida", "Milliammeter: QIc obtained"}), "")))),
-    hidden(disabled(field(Text20, "Text20", at(780, 119, 80, 22), "", notation::above(notation::Es)))),
+    hidden(disabled(field(Text20, "Text20", at(718, 119, 80, 22), "", besideItsPart(notation::Es)))),
     result(Label20, "Label20", at(636, 486, 150, 18)),
     result(Label21, "Label21", at(466, 486, 132, 36)),
     result(Label22, "Label22", at(330, 170, 94, 18)),
@@ -155,9 +164,9 @@ constexpr host::GrowthRow growthRows[] = {
     {Line2,  Text13},
     {Line5,  Text14},
     {Line6,  Text8},  {Line7,  Text8},
-    {Line8,  Text15}, {Line9,  Text15}, {Line10, Text15}, {Line14, Text15},
+    {Line8,  Text15}, {Line9,  Text15}, {Line10, Text15}, {Line14, Text15}, {Line15, Text15},
     {Line11, Text16}, {Line12, Text16},
-    {Line13, Text17},
+    {Line13, Text17}, {Line16, Text17},
 };
 
 // value, part

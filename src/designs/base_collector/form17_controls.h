@@ -15,7 +15,8 @@ enum Control : host::Handle {
     // ground of the drawing and headings of the groups of fields
     Image1, Label11, Label6, Label4,
     // parts of the drawing, as the chain reaches them
-    Line1, Line2, Line3, Line4, Line5, Line6, Line7, Line8, Line9, Line10, Line11, Line12, Line13, Line14, Shape1,
+    Line1, Line2, Line3, Line4, Line5, Line6, Line7, Line8, Line9, Line10, Line11, Line12, Line13, Line14, Line15, Line16,
+    Shape1,
     // fields
     Text1, Text2, Text3, Text4, Text5, Text6, Text7, Text8, Text9, Text10, Text11, Text12, Text13, Text14, Text15, Text16,
     Text17, Text18, Text20,
