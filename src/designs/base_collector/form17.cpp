@@ -3,7 +3,6 @@
 // the traffic light with its analysis. The chain itself stands in form17_chain and form17_bias.
 #include "designs/base_collector/form17.h"
 
-#include <algorithm>
 #include <array>
 #include <memory>
 
@@ -46,25 +45,16 @@ constexpr auto chain = std::to_array<sheets::ChainRow>({
     {Text11, Text14},
 });
 
-/// What Enter in a field closes behind it.
-struct ClosedBehind {
-    Handle field;
-    Handle closed;
-};
-constexpr ClosedBehind closedBehind[] = {
+// field in which Enter is pressed, field that it closes
+constexpr base_collector::ClosedBehind closedBehind[] = {
     {Text5, Text12}, {Text6, Text5}, {Text7, Text6}, {Text9, Text4}, {Text13, Text9}, {Text14, Text13}, {Text8, Text14}, {Text15, Text8},
 };
-
-/// What a click writes into a field, where that is always the same.
-struct ClickValue {
-    Handle field;
-    std::string_view text;
-};
-constexpr ClickValue clickValues[] = {
+constexpr base_collector::ClickValue clickValues[] = {
     {Text12, "20"}, {Text5, "30"}, {Text6, "100"}, {Text7, "0.6"}, {Text2, "100"}, {Text4, "10"}, {Text13, "1"}, {Text10, "10"},
     {Text11, "1"},
 };
-constexpr auto clicked = std::to_array<Handle>({Text12, Text5, Text6, Text7, Text2, Text4, Text13, Text10, Text11});
+constexpr base_collector::FollowerTables followerTables{clickValues, closedBehind, Text17};
+constexpr auto clicked = base_collector::fieldsOf(clickValues);
 
 // Slots of the sheet's own; the frame has the rest.
 constexpr auto ownSlots = std::to_array<host::SlotRow>({
@@ -174,7 +164,7 @@ const host::WindowSpec spec{.name = "Form17",
 
 using namespace form17_tables;
 
-Form17::Form17(host::SheetHost& host) : DesignSheet(host, form17::spec, sheetSpec)
+Form17::Form17(host::SheetHost& host) : FollowerSheet(host, form17::spec, sheetSpec, followerTables, q_.passed)
 {
     holds(q_, quantityTable, host::Undo::takesBack);
 }
@@ -194,27 +184,15 @@ void Form17::activate()
     write(Label4, generatorHeading);
 }
 
-void Form17::unload()
-{
-    host().Unload("Form6");
-}
-
 void Form17::opened()
 {
     disable(Text15, Text16, Text17, Text18, Text20);
-    widen(Label21, archivedWidthOfLabel21);
-    host::Place place = placeOf(Label24);
-    place.top = archivedTopOfLabel24;
-    place.width = archivedWidthOfLabel24;
-    setPlaceOf(Label24, place);
+    setWidth(Label21, archivedWidthOfLabel21);
+    setTop(Label24, archivedTopOfLabel24);
+    setWidth(Label24, archivedWidthOfLabel24);
     write(SSPanel2, base_collector::archived);
     growWhole();
     q_.passed = false;
-}
-
-void Form17::clickBackground()
-{
-    host().Hide("frmEdito3");
 }
 
 void Form17::hoverBackground()
@@ -223,50 +201,6 @@ void Form17::hoverBackground()
 }
 
 // --- every field
-
-// A key that an earlier field takes, or Enter in it when it is empty: what was finished is so no longer.
-Press Form17::pressed(host::EventArgs& args)
-{
-    const Press press = DesignSheet::pressed(args);
-    if (press == Press::nothing && args.key != 0 && args.control != Text17)
-        q_.passed = false;
-    return press;
-}
-
-void Form17::rewrite(Handle field, std::string_view newText)
-{
-    if (text(field) == newText)
-        return;
-    setText(field, newText);
-    q_.passed = false;
-}
-
-void Form17::goOnFrom(Handle field)
-{
-    for (const ClosedBehind& row : closedBehind)
-        if (row.field == field)
-            disable(row.closed);
-    goTo(chainRow(field).next);
-}
-
-void Form17::keyField(host::EventArgs& args)
-{
-    if (pressed(args) == Press::enter)
-        goOnFrom(args.control);
-}
-
-void Form17::leaveField(host::EventArgs& args)
-{
-    if (correct(args.control))
-        q_.passed = false;
-}
-
-void Form17::clickField(host::EventArgs& args)
-{
-    for (const ClickValue& row : clickValues)
-        if (row.field == args.control)
-            rewrite(row.field, row.text);
-}
 
 void Form17::pressField(host::EventArgs& args)
 {
@@ -278,8 +212,7 @@ void Form17::pressField(host::EventArgs& args)
 void Form17::pressResistor(host::EventArgs& args)
 {
     pressField(args);
-    if (args.button == host::Button::right)
-        host().Show("Form14");
+    openResistorTable(args);
 }
 
 // Fields without use: whatever is typed there passes the filter and goes into the file.
@@ -288,20 +221,11 @@ void Form17::keySpare(host::EventArgs& args)
     filteredKey(args);
 }
 
-void Form17::widen(Handle label, int width)
-{
-    host::Place place = placeOf(label);
-    place.width = width;
-    setPlaceOf(label, place);
-}
-
 // --- the traffic light
 
 void Form17::clickGreenLight()
 {
-    show(Picture1);
-    host().SetFocus(*this, Picture1);
-    hide(Picture2);
+    exchange(Picture2, Picture1);
     const Real output = RLac();
     const Real input = Zin();
     const Real generator = at(Text4);
@@ -320,9 +244,7 @@ void Form17::clickGreenLight()
 
 void Form17::clickOpenLight()
 {
-    show(Picture2);
-    host().SetFocus(*this, Picture2);
-    hide(Picture1);
+    exchange(Picture1, Picture2);
     host().Hide("Form6");
     host().setVisible("MDIForm1", "Picture14", false);
 }

@@ -4,11 +4,10 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
+#include "designs/base_collector/follower_sheet.h"
 #include "designs/base_collector/form17_controls.h"
 #include "designs/base_collector/form17_formulas.h"
-#include "sheets/design_sheet.h"
 
 namespace velmor::form17 {
 
@@ -16,7 +15,7 @@ using sheets::Press;
 
 extern const host::WindowSpec spec;
 
-class Form17 final : public sheets::DesignSheet {
+class Form17 final : public base_collector::FollowerSheet {
 public:
     explicit Form17(host::SheetHost& host);
 
@@ -26,12 +25,7 @@ public:
     // life of the sheet, what all fields share, the light (form17.cpp)
     void load();
     void activate();
-    void unload();
-    void clickBackground();
     void hoverBackground();
-    void keyField(host::EventArgs& args);
-    void leaveField(host::EventArgs& args);
-    void clickField(host::EventArgs& args);
     void pressField(host::EventArgs& args);
     void pressResistor(host::EventArgs& args);
     void keySpare(host::EventArgs& args);
@@ -70,11 +64,6 @@ public:
 
 private:
     void opened() override;
-
-    Press pressed(host::EventArgs& args);
-    void rewrite(host::Handle field, std::string_view text);
-    void goOnFrom(host::Handle field);
-    void widen(host::Handle label, int width);
 
     Real Eopp() const { return at(Text13); }
     Real RLac() const;

@@ -174,7 +174,7 @@ void Form17::lostText16()
 {
     if (at(Text16) < 0.00001)
         rewrite(Text16, digits(at(Text10) * at(Text15)));
-    widen(Label21, widthWithRb2);
+    setWidth(Label21, widthWithRb2);
     setText(Label21, "      Rb2 = " + shown(at(Text16)) + " K");
     proposeRb1();
     const Real Res = at(Text15);
@@ -221,7 +221,7 @@ void Form17::keyText17(host::EventArgs& args)
         return;
     }
     write(SSPanel2, lightPrompt);
-    widen(Label24, widthWithRb1);
+    setWidth(Label24, widthWithRb1);
     show(Label32);
     tellInput();
     hide(Picture3, Picture1);

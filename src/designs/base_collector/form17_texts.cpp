@@ -4,6 +4,8 @@
 
 #include <array>
 
+#include "sheets/rows.h"
+
 namespace velmor::form17 {
 
 namespace texts_detail {
@@ -13,70 +15,30 @@ using sheets::When;
 
 // clang-format off
 // about, moment, place, Spanish, English
-constexpr auto prompts = std::to_array<Saying>({
+constexpr auto own = std::to_array<Saying>({
     sheets::placeANumber,
-    {Text12, When::focus, SSPanel2, {"Menor frecuencia de interés. En ella cada capacitor presenta la décima parte de la resistencia que alimenta.",
-                                     "Lowest frequency of interest. There each capacitor has a tenth of the resistance that it feeds."}},
-    {Text12, When::hover, Label29,  {"fo, menor frecuencia de interés, en Hz", "fo, lowest frequency of interest, in Hz"}},
-    {Text5,  When::focus, SSPanel2, {"Tensión Colector - Emisor que soporta el transistor, según el manual. Debe superar a Eopp en un volt.",
-                                     "Collector - Emitter voltage that the transistor supports, from the manual. It must pass Eopp by one volt."}},
-    {Text5,  When::hover, Label29,  {"Ec(max), máxima tensión Colector - Emisor, en Volts", "Ec(max), largest Collector - Emitter voltage, in Volts"}},
     {Text6,  When::focus, SSPanel2, {"Corriente máxima de Colector, según el manual. QIc no debe pasar del 40 % de ella.",
                                      "Largest Collector current, from the manual. QIc should not pass 40 % of it."}},
-    {Text6,  When::hover, Label29,  {"Ic(max), máxima corriente de Colector, en mA", "Ic(max), largest Collector current, in mA"}},
-    {Text7,  When::focus, SSPanel2, {"Tensión de juntura: 0.6 Volt para Silicio, 0.2 Volt para Germanio.",
-                                     "Junction voltage: 0.6 Volt for Silicon, 0.2 Volt for Germanium."}},
-    {Text7,  When::hover, Label29,  {"Vbe, juntura de Silicio ó Germanio, en Volts", "Vbe, junction of Silicon or Germanium, in Volts"}},
-    {Text2,  When::focus, SSPanel2, {"Ganancia de corriente del transistor. Multiplica la carga que ve la base: de ella sale la Zin del seguidor.",
-                                     "Current gain of the transistor. It multiplies the load that the base sees: Zin of the follower comes from it."}},
-    {Text2,  When::hover, Label29,  {"Beta (hFE), ganancia de corriente", "Beta (hFE), current gain"}},
     {Text4,  When::focus, SSPanel2, {"Resistencia interna del generador, en Kohms. El seguidor la adapta a una carga pequeña.",
                                      "Internal resistance of the generator, in Kohms. The follower fits it to a small load."}},
-    {Text4,  When::hover, Label29,  {"Rg, resistencia del generador, en Kohms", "Rg, resistance of the generator, in Kohms"}},
-    {Text9,  When::focus, SSPanel2, {"Carga del circuito, en Kohms. Cuanto más pequeña, más corriente de reposo exige.",
-                                     "Load of the circuit, in Kohms. The smaller it is, the more quiescent current it demands."}},
-    {Text9,  When::hover, Label29,  {"RLw, resistencia de carga, en Kohms", "RLw, load resistance, in Kohms"}},
-    {Text13, When::focus, SSPanel2, {"Tensión de salida pico a pico. El transistor necesita un volt más para no recortarla.",
-                                     "Output voltage, peak to peak. The transistor needs one volt more so as not to clip it."}},
-    {Text13, When::hover, Label29,  {"Eopp, tensión de salida pico a pico", "Eopp, output voltage, peak to peak"}},
-    {Text14, When::focus, SSPanel2, {"Señal de entrada en valor eficaz. Como la ganancia es uno, es la misma que sale.",
-                                     "Input signal, r.m.s. As the gain is one, it is the same that comes out."}},
-    {Text14, When::hover, Label29,  {"Ein, tensión de entrada, valor eficaz", "Ein, input voltage, r.m.s."}},
     {Text8,  When::focus, SSPanel2, {"QIc = Eopp / (2 x RLw): la corriente que puede anularse justo en el pico negativo de la salida.",
                                      "QIc = Eopp / (2 x RLw): the current that can just be taken away at the negative peak of the output."}},
-    {Text8,  When::hover, Label29,  {"QIc, corriente de reposo, en mA", "QIc, quiescent current, in mA"}},
     {Text15, When::focus, SSPanel2, {"Res = 20 x RLw casi no le quita señal a la carga. Con menos, la fuente será más baja y QIc mayor.",
                                      "Res = 20 x RLw takes hardly any signal from the load. With less, the source is lower and QIc higher."}},
     {Text15, When::hover, Label29,  {"Res, resistor de emisor, en Kohms", "Res, emitter resistor, in Kohms"}},
     {Text20, When::focus, SSPanel2, {"Tensión de fuente, en Volts. Lo que no cae en Res queda para el transistor.",
                                      "Source voltage, in Volts. What does not fall on Res is left to the transistor."}},
-    {Text20, When::hover, Label29,  {"Es, tensión de fuente, en Volts", "Es, source voltage, in Volts"}},
     {Text16, When::focus, SSPanel2, base_collector::formulaOfRb2},
-    {Text16, When::hover, Label29,  {"Rb2, resistor inferior de base, en Kohms", "Rb2, lower base resistor, in Kohms"}},
     {Text17, When::focus, SSPanel2, {"Coloque un 'Preset' del doble del valor calculado y varíelo hasta obtener la QIc de diseño en el miliamperímetro.",
                                      "Place a ' Preset ' of double the calculated value and vary it until the milliammeter shows the QIc of the design."}},
-    {Text17, When::hover, Label29,  {"Rb1, preset de base, en Kohms", "Rb1, preset of the base, in Kohms"}},
-    {Text10, When::focus, SSPanel2, {"Factor de estabilidad: de 1 a 3 para circuitos críticos, 10 para audio.",
-                                     "Stability factor: 1 to 3 for critical circuits, 10 for audio."}},
-    {Text10, When::hover, Label29,  {"S, factor de estabilidad", "S, stability factor"}},
     {Text11, When::focus, SSPanel2, {"Ganancia de tensión. En Colector Común toda la salida se realimenta, y la ganancia es uno.",
                                      "Voltage gain. In Common Collector the whole output is fed back, and the gain is one."}},
-    {Text11, When::hover, Label29,  {"Vg, ganancia de tensión", "Vg, voltage gain"}},
-    // names of what the pointer is on
-    {Text1,    When::hover, Label29, {"Sin uso en este circuito", "Without use in this circuit"}},
-    {Text3,    When::hover, Label29, {"Sin uso en este circuito", "Without use in this circuit"}},
-    {Text18,   When::hover, Label29, {"Miliamperímetro: QIc obtenida con este Rb1", "Milliammeter: QIc obtained with this Rb1"}},
-    {Picture1, When::hover, Label29, base_collector::leafName},
-    {Picture2, When::hover, Label29, base_collector::leafName},
     {Picture3, When::hover, Label29, base_collector::leafName},
-    {Image6,   When::hover, Label29, {"Guía de trabajos", "Work guide"}},
     {Image5,   When::hover, Label29, {"Calculadora", "Calculator"}},
-    {Image7,   When::hover, Label29, {"Elaborar informe", "Make the report"}},
     {Image3,   When::hover, Label29, {"Abrir un nuevo circuito...", "Clon Circuit"}},
     {Image4,   When::hover, Label29, {"Abrir un nuevo circuito...", "Clon Circuit"}},
-    {Image35,  When::hover, Label29, {"Ayuda", "Help"}},
-    {Image34,  When::hover, Label29, {"Ocultar la ayuda", "Hide the help"}},
 });
+constexpr auto prompts = sheets::joined(own, base_collector::followerSayings<Control>);
 
 constexpr auto pages = std::to_array<HelpPage>({
     {Text4, "Rg..", {
