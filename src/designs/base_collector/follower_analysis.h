@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The analysis page as the emitter follower and the phase splitter fill it: whether the input is a heavy load to the generator.
-// Knows no sheet.
+// The analysis page as the emitter follower and the phase splitter fill it: whether the input is a heavy load to the
+// generator. Knows no sheet.
 #pragma once
 
 #include <initializer_list>

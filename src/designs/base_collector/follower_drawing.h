@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The parts of the schematic that the emitter follower and the phase splitter draw alike, counted from the corner of the sheet,
-// on a grid of 10, and the small circuits of their pictures. Knows the names of the fields, no sheet.
+// The parts of the schematic that the emitter follower and the phase splitter draw alike, counted from the corner of
+// the sheet, on a grid of 10. Knows the names of the fields, no sheet.
 //
 // Columns: generator 270, base divider 450, transistor 590 and 620, supply terminal 690.
 // Rows: supply 130, base 340, emitter 370, ground 520.

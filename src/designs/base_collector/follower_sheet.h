@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the fields of the emitter follower and of the phase splitter do alike: no Esc, a value that a click restores, a field that
-// Enter closes behind it, and a finished design that ends with the first change. Knows no control.
+// What the fields of the emitter follower and of the phase splitter do alike: no Esc, a value that a click restores, a
+// field that Enter closes behind it, and a finished design that ends with the first change. Knows no control.
 #pragma once
 
 #include <array>

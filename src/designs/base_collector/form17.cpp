@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What holds `Form17` together: its tables of the chain, events, files and keys, its life, what the slots of all fields share, and
-// the traffic light with its analysis. The chain itself stands in form17_chain and form17_bias.
+// What holds `Form17` together: its tables of the chain, events, files and keys, its life, what the slots of all fields
+// share, and the traffic light with its analysis. The chain itself stands in form17_chain and form17_bias.
 #include "designs/base_collector/form17.h"
 
 #include <array>
@@ -96,10 +96,9 @@ constexpr auto named = std::to_array<Handle>({
     Text1, Text3, Text18, Picture1, Picture2, Picture3, Image6, Image5, Image7, Image3, Image4, Image35, Image34,
 });
 // clang-format on
-constexpr auto slots =
-    sheets::sheetSlots<Form17, tools>(chain, sheets::joined(sheets::alike(clicked, click, slot<&Form17::clickField>),
-                                                            sheets::alike(named, hover, slot<&Form17::hoverField>),
-                                                            ownSlots));
+constexpr auto slots = sheets::sheetSlots<Form17, tools>(
+    chain, sheets::joined(sheets::alike(clicked, click, slot<&Form17::clickField>),
+                          sheets::alike(named, hover, slot<&Form17::hoverField>), ownSlots));
 
 // clang-format off
 constexpr FileLine lines[] = {

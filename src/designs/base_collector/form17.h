@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// `Form17`: the emitter follower (common collector). Its slots in the order of the chain, as far as they do more than the field's
-// row says; what they say stands in form17_texts, what they work out in form17_formulas and follower_formulas.
+// `Form17`: the emitter follower (common collector). Its slots in the order of the chain, as far as they do more than
+// the field's row says; what they say stands in form17_texts, what they work out in form17_formulas and
+// follower_formulas.
 #pragma once
 
 #include <string>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Emitter resistor, supply and base divider of `Form17`, and the loop in which the student turns the preset until the collector
-// current is the one designed.
+// Emitter resistor, supply and base divider of `Form17`, and the loop in which the student turns the preset until the
+// collector current is the one designed.
 #include <algorithm>
 
 #include "designs/base_collector/follower_analysis.h"
@@ -242,7 +242,8 @@ void Form17::tellInput()
         setText(Label28, shown(couplingMicrofarads(fo, RLw)) + " mF");
 }
 
-// The current that the preset in use gives, within a tenth of the one designed. What would divide by nothing gives none.
+// The current that the preset in use gives, within a tenth of the one designed. What would divide by nothing gives
+// none.
 bool Form17::obtainsItsCurrent()
 {
     const Real Vbe = at(Text7);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The controls of `Form17` by handle, which of them are its tools, and what of its drawing comes with which field. Knows no slot
-// and no formula.
+// The controls of `Form17` by handle, which of them are its tools, and what of its drawing comes with which field.
+// Knows no slot and no formula.
 #pragma once
 
 #include <span>
@@ -36,11 +36,8 @@ enum Control : host::Handle {
 };
 // clang-format on
 
-inline constexpr sheets::Tools tools{.guide = Image6,
-                                     .calculator = Image5,
-                                     .report = Image7,
-                                     .clone = {Image3, Image4},
-                                     .help = {Image35, Image34}};
+inline constexpr sheets::Tools tools{
+    .guide = Image6, .calculator = Image5, .report = Image7, .clone = {Image3, Image4}, .help = {Image35, Image34}};
 
 extern const std::span<const host::ControlRow> controls;
 extern const std::span<const host::GrowthRow> growth;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The working numbers of the emitter follower and its own formulas; those that it shares stand in follower_formulas. Resistors
-// in kilohms and currents in milliamperes, so that volts = mA x kilohm. Knows no control.
+// The working numbers of the emitter follower and its own formulas; those that it shares stand in follower_formulas.
+// Resistors in kilohms and currents in milliamperes, so that volts = mA x kilohm. Knows no control.
 #pragma once
 
 #include "host/own_values.h"
@@ -32,8 +32,8 @@ inline constexpr auto quantityTable = host::everyMember<Quantities>(
     host::own<&Quantities::passed>("passed"));
 // clang-format on
 
-/// QIc = Eopp / (2 x R): the current that can just be taken away at the lower peak, mA from V peak to peak and kilohms. R of 0
-/// is a failure. R is the load alone at first, RLac once Res is known.
+/// QIc = Eopp / (2 x R): the current that can just be taken away at the lower peak, mA from V peak to peak and kilohms.
+/// R of 0 is a failure. R is the load alone at first, RLac once Res is known.
 Real currentForOutput(Real Eopp, Real R);
 
 /// QIc = Eopp / (2 x RLw), at least 0.5, mA.
@@ -51,8 +51,8 @@ Real lowerBaseResistor(Real S, Real Res);
 /// Rb1 = ERb1 x Rp / (ERes + Vbe) with Rp = Rb2 // Beta x Res, kilohms from volts and kilohms.
 Real upperBaseResistor(Real ERb1, Real Rb2, Real BetaRes, Real ERes, Real Vbe);
 
-/// S = (Rb2 / (Res x RLw)) / (Res + RLw), kilohms. The product over the sum is missing its way: the division by the sum should be a
-/// multiplication. It stays, and gives way to Rb2 / Res at the next field.
+/// S = (Rb2 / (Res x RLw)) / (Res + RLw), kilohms. The product over the sum is missing its way: the division by the sum
+/// should be a multiplication. It stays, and gives way to Rb2 / Res at the next field.
 Real stabilityFactor(Real Rb2, Real Res, Real RLw);
 
 /// Zin = Rb2 // Beta x RLac, kilohms.

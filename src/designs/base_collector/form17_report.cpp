@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The report of `Form17`. The English one has the head of the differential amplifier and its questions, and is in Spanish but for
-// the head; both advise to go on with another circuit.
+// The report of `Form17`. The English one has the head of the differential amplifier and its questions, and is in
+// Spanish but for the head; both advise to go on with another circuit.
 #include "designs/base_collector/form17.h"
 #include "sheets/differential_questions.h"
 #include "sheets/report_text.h"

@@ -17,22 +17,29 @@ using sheets::When;
 // about, moment, place, Spanish, English
 constexpr auto own = std::to_array<Saying>({
     sheets::placeANumber,
-    {Text6,  When::focus, SSPanel2, {"Corriente máxima de Colector, según el manual. QIc no debe pasar del 40 % de ella.",
-                                     "Largest Collector current, from the manual. QIc should not pass 40 % of it."}},
-    {Text4,  When::focus, SSPanel2, {"Resistencia interna del generador, en Kohms. El seguidor la adapta a una carga pequeña.",
-                                     "Internal resistance of the generator, in Kohms. The follower fits it to a small load."}},
-    {Text8,  When::focus, SSPanel2, {"QIc = Eopp / (2 x RLw): la corriente que puede anularse justo en el pico negativo de la salida.",
-                                     "QIc = Eopp / (2 x RLw): the current that can just be taken away at the negative peak of the output."}},
-    {Text15, When::focus, SSPanel2, {"Res = 20 x RLw casi no le quita señal a la carga. Con menos, la fuente será más baja y QIc mayor.",
-                                     "Res = 20 x RLw takes hardly any signal from the load. With less, the source is lower and QIc higher."}},
-    {Text15, When::hover, Label29,  {"Res, resistor de emisor, en Kohms", "Res, emitter resistor, in Kohms"}},
-    {Text20, When::focus, SSPanel2, {"Tensión de fuente, en Volts. Lo que no cae en Res queda para el transistor.",
-                                     "Source voltage, in Volts. What does not fall on Res is left to the transistor."}},
+    {Text6,  When::focus, SSPanel2,
+     {"Corriente máxima de Colector, según el manual. QIc no debe pasar del 40 % de ella.",
+      "Largest Collector current, from the manual. QIc should not pass 40 % of it."}},
+    {Text4,  When::focus, SSPanel2,
+     {"Resistencia interna del generador, en Kohms. El seguidor la adapta a una carga pequeña.",
+      "Internal resistance of the generator, in Kohms. The follower fits it to a small load."}},
+    {Text8,  When::focus, SSPanel2,
+     {"QIc = Eopp / (2 x RLw): la corriente que puede anularse justo en el pico negativo de la salida.",
+      "QIc = Eopp / (2 x RLw): the current that can just be taken away at the negative peak of the output."}},
+    {Text15, When::focus, SSPanel2,
+     {"Res = 20 x RLw casi no le quita señal a la carga. Con menos, la fuente será más baja y QIc mayor.",
+      "Res = 20 x RLw takes hardly any signal from the load. With less, the source is lower and QIc higher."}},
+    {Text15, When::hover, Label29, {"Res, resistor de emisor, en Kohms", "Res, emitter resistor, in Kohms"}},
+    {Text20, When::focus, SSPanel2,
+     {"Tensión de fuente, en Volts. Lo que no cae en Res queda para el transistor.",
+      "Source voltage, in Volts. What does not fall on Res is left to the transistor."}},
     {Text16, When::focus, SSPanel2, base_collector::formulaOfRb2},
-    {Text17, When::focus, SSPanel2, {"Coloque un 'Preset' del doble del valor calculado y varíelo hasta obtener la QIc de diseño en el miliamperímetro.",
-                                     "Place a ' Preset ' of double the calculated value and vary it until the milliammeter shows the QIc of the design."}},
-    {Text11, When::focus, SSPanel2, {"Ganancia de tensión. En Colector Común toda la salida se realimenta, y la ganancia es uno.",
-                                     "Voltage gain. In Common Collector the whole output is fed back, and the gain is one."}},
+    {Text17, When::focus, SSPanel2,
+     {"Coloque un 'Preset' del doble del valor calculado y varíelo hasta obtener la QIc de diseño en el miliamperímetro.",
+      "Place a ' Preset ' of double the calculated value and vary it until the milliammeter shows the QIc of the design."}},
+    {Text11, When::focus, SSPanel2,
+     {"Ganancia de tensión. En Colector Común toda la salida se realimenta, y la ganancia es uno.",
+      "Voltage gain. In Common Collector the whole output is fed back, and the gain is one."}},
     {Picture3, When::hover, Label29, base_collector::leafName},
     {Image5,   When::hover, Label29, {"Calculadora", "Calculator"}},
     {Image3,   When::hover, Label29, {"Abrir un nuevo circuito...", "Clon Circuit"}},
@@ -126,7 +133,8 @@ const BiText helpText{
     "5) Con el semáforo en verde abra la Hoja de Análisis: ¿es Zin mayor que Rg?\n\n"
     "Botón derecho sobre un cuadro: su página de ayuda. Click sobre un cuadro: su valor predeterminado.",
     "COMMON COLLECTOR\n\n"
-    "The emitter follower does not raise the voltage: it raises the current. Between a generator of much resistance and a "
+    "The emitter follower does not raise the voltage: it raises the current. Between a generator of much resistance "
+    "and a "
     "small load, it lets the generator see a high impedance.\n\n"
     "1) Data: fo, transistor, Rg, load RLw and output Eopp.\n\n"
     "2) QIc = Eopp / (2 x RLw)\n\n"

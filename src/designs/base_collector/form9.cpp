@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What holds `Form9` together: its tables of the chain, events, files and keys, its life, and the analysis page. The chain itself
-// stands in form9_chain and form9_bias.
+// What holds `Form9` together: its tables of the chain, events, files and keys, its life, and the analysis page. The
+// chain itself stands in form9_chain and form9_bias.
 #include "designs/base_collector/form9.h"
 
 #include <array>
@@ -88,10 +88,9 @@ constexpr auto named = std::to_array<Handle>({
     Text1, Text3, Text18, Picture1, Picture2, Image6, Image10, Image7, Image8, Image9, Image35, Image34,
 });
 // clang-format on
-constexpr auto slots =
-    sheets::sheetSlots<Form9, tools>(chain, sheets::joined(sheets::alike(clicked, click, slot<&Form9::clickField>),
-                                                           sheets::alike(named, hover, slot<&Form9::hoverField>),
-                                                           ownSlots));
+constexpr auto slots = sheets::sheetSlots<Form9, tools>(
+    chain, sheets::joined(sheets::alike(clicked, click, slot<&Form9::clickField>),
+                          sheets::alike(named, hover, slot<&Form9::hoverField>), ownSlots));
 
 // clang-format off
 constexpr FileLine lines[] = {
@@ -207,11 +206,11 @@ void Form9::clickLeaf()
     }
     const auto microwatts = [this](Real R) { return base_collector::signalPower(Eopp(), R) * 1000000.0; };
     const bool light = input * 1000.0 > generator * 1000.0;
-    const std::string text = base_collector::verdict(*this,
-                                                     {whole(microwatts(load)) + " microW ",
-                                                      shown(microwatts(generator)) + " microW",
-                                                      whole(microwatts(input)) + " microW ", generatorFormula},
-                                                     light);
+    const std::string text =
+        base_collector::verdict(*this,
+                                {whole(microwatts(load)) + " microW ", shown(microwatts(generator)) + " microW",
+                                 whole(microwatts(input)) + " microW ", generatorFormula},
+                                light);
     if (light)
         base_collector::openLeaf(host(), text, {});
     else

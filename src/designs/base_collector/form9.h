@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// `Form9`: the phase splitter (paraphase), one transistor with equal resistors in collector and emitter. Its slots in the order of
-// the chain, as far as they do more than the field's row says; what they say stands in form9_texts, what they work out in
-// form9_formulas and follower_formulas.
+// `Form9`: the phase splitter (paraphase), one transistor with equal resistors in collector and emitter. Its slots in
+// the order of the chain, as far as they do more than the field's row says; what they say stands in form9_texts, what
+// they work out in form9_formulas and follower_formulas.
 #pragma once
 
 #include <string>

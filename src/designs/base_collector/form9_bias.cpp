@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Supply, equal resistors and base divider of `Form9`, and the loop in which the student turns the preset until the collector
-// current is the one designed.
+// Supply, equal resistors and base divider of `Form9`, and the loop in which the student turns the preset until the
+// collector current is the one designed.
 #include "designs/base_collector/follower_formulas.h"
 #include "designs/base_collector/form9.h"
 #include "designs/base_collector/form9_texts.h"
@@ -281,7 +281,8 @@ void Form9::tellInput()
     setText(Label28, Cout);
 }
 
-// The current that the preset in use gives, within a tenth of the one designed. What would divide by nothing gives none.
+// The current that the preset in use gives, within a tenth of the one designed. What would divide by nothing gives
+// none.
 bool Form9::obtainsItsCurrent()
 {
     const Real QIc = at(Text8);

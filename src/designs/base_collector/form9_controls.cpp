@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The table of `Form9`'s controls: names, kinds, stored texts, places and strokes, and what of its drawing comes with which field.
-// Places and strokes are counted in units of the drawing grid from the sheet's left top corner.
+// The table of `Form9`'s controls: names, kinds, stored texts, places and strokes, and what of its drawing comes with
+// which field. Places and strokes are counted in units of the drawing grid from the sheet's left top corner.
 #include "designs/base_collector/form9_controls.h"
 
 #include <array>
@@ -43,9 +43,9 @@ constexpr auto current = part({
          .field = Text8},
 });
 constexpr auto collectorOutput = part({
-    wire(620, 280, 720, 280),
-    Mark{.symbol = Symbol::capacitor, .from = {720, 280}, .to = {760, 280}, .name = "C_out", .side = Side::above},
-    wire(760, 280, 940, 280),
+    wire(620, 280, 830, 280),
+    Mark{.symbol = Symbol::capacitor, .from = {830, 280}, .to = {870, 280}, .name = "C_out", .side = Side::above},
+    wire(870, 280, 940, 280),
 });
 constexpr auto collectorLoad = part({
     node(940, 280), wire(940, 280, 940, 430),
@@ -100,9 +100,10 @@ constexpr ControlRow help(host::Handle id, std::string_view name, host::BiText m
 {
     return hidden({.id = id, .name = name, .kind = Kind::page, .place = at(8, 94, 249, 433), .meaning = meaning, .overlay = true});
 }
-constexpr ControlRow choice(host::Handle id, std::string_view name, int top, host::BiText meaning)
+constexpr ControlRow choice(host::Handle id, std::string_view name, int top, std::string_view text, host::BiText meaning)
 {
-    return hidden({.id = id, .name = name, .kind = Kind::button, .place = at(zones::right, top, 172, 30), .meaning = meaning});
+    return hidden({.id = id, .name = name, .kind = Kind::button, .place = at(zones::right, top, 172, 30), .text = text,
+                   .meaning = meaning});
 }
 constexpr Quantity unused(Quantity quantity, host::BiText meaning)
 {
@@ -160,7 +161,7 @@ constexpr auto rows = std::to_array<ControlRow>({
                     notation::meaning(notation::RL, {"Resistor de colector, y de emisor", "Collector resistor, and emitter's"}))))),
     hidden(disabled(field(Text16, "Text16", at(466, 459, 80, 22), "", notation::above(notation::Rb2)))),
     disabled(field(Text17, "Text17", at(466, 169, 80, 22), "", notation::above(notation::Rb1))),
-    disabled(field(Text18, "Text18", at(646, 226, 90, 22), "", besideItsPart(notation::in(
+    disabled(field(Text18, "Text18", at(646, 224, 90, 22), "", besideItsPart(notation::in(
                    notation::meaning(notation::QIc, {"Miliamperímetro: QIc obtenida", "Milliammeter: QIc obtained"}), "")))),
     disabled(field(Text20, "Text20", at(718, 119, 80, 22), "", besideItsPart(notation::Es))),
     result(Label20, "Label20", at(636, 446, 150, 36)),
@@ -170,17 +171,18 @@ constexpr auto rows = std::to_array<ControlRow>({
     result(Label24, "Label24", at(466, 196, 126, 36)),
     result(Label25, "Label25", at(466, 312, 110, 18)),
     result(Label26, "Label26", at(346, 360, 96, 18)),
-    result(Label27, "Label27", at(700, 298, 96, 18)),
+    result(Label27, "Label27", at(808, 298, 96, 18)),
     result(Label28, "Label28", at(700, 428, 96, 18)),
     hidden(result(Label30, "Label30", at(846, 482, 66, 36))),
     hidden(result(Label31, "Label31", at(956, 482, 56, 36))),
-    hidden(marked(result(Label32, "Label32", at(746, 228, 90, 18)), obtainedName)),
+    hidden(marked(result(Label32, "Label32", at(746, 226, 90, 18)), obtainedName)),
     marked(result(Voltaje, "Voltaje", at(684, 488, 100, 18)), emitterVoltageName),
     hidden(label(Label19, "Label19", at(zones::right, 352, 172, 96), Look::hint)),
     hidden(label(Label29, "Label29", at(zones::left, 544, zones::width, 68), Look::hint)),
-    hidden({.id = Frame1, .name = "Frame1", .kind = Kind::panel, .place = at(zones::right, 456, 172, 64), .look = Look::warning}),
-    choice(Command1, "Command1", 524, {"Continuar con esta tensión", "Go on with this voltage"}),
-    choice(Command2, "Command2", 558, {"Cambiar la salida", "Change the output"}),
+    hidden({.id = Frame1, .name = "Frame1", .kind = Kind::panel, .place = at(zones::right, 456, 172, 64),
+            .text = "Tensión COLECTOR - EMISOR es menor a 3 Volts...", .look = Look::warning}),
+    choice(Command1, "Command1", 524, "Continuar", {"Continuar con esta tensión", "Go on with this voltage"}),
+    choice(Command2, "Command2", 558, "Cambiar Eopp", {"Cambiar la salida", "Change the output"}),
     hidden(option(Picture1, "Picture1", Kind::picture, zones::option(0),
                   {"Quitar la Hoja de Análisis", "Take the Leaf of Analysis away"}, openLeafMarks)),
     hidden(option(Picture2, "Picture2", Kind::picture, zones::option(0), {"Hoja de Análisis", "Leaf of Analysis"}, leafMarks)),

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The controls of `Form9` by handle, which of them are its tools, and what of its drawing comes with which field. Knows no slot
-// and no formula.
+// The controls of `Form9` by handle, which of them are its tools, and what of its drawing comes with which field. Knows
+// no slot and no formula.
 #pragma once
 
 #include <span>
@@ -38,11 +38,8 @@ enum Control : host::Handle {
 };
 // clang-format on
 
-inline constexpr sheets::Tools tools{.guide = Image6,
-                                     .calculator = Image10,
-                                     .report = Image7,
-                                     .clone = {Image8, Image9},
-                                     .help = {Image35, Image34}};
+inline constexpr sheets::Tools tools{
+    .guide = Image6, .calculator = Image10, .report = Image7, .clone = {Image8, Image9}, .help = {Image35, Image34}};
 
 extern const std::span<const host::ControlRow> controls;
 extern const std::span<const host::GrowthRow> growth;

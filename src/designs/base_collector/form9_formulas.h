@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The working numbers of the phase splitter and its own formulas; those that it shares stand in follower_formulas. Knows no
-// control.
+// The working numbers of the phase splitter and its own formulas; those that it shares stand in follower_formulas.
+// Knows no control.
 #pragma once
 
 #include "host/own_values.h"
@@ -12,10 +12,10 @@ using rules::Real;
 
 /// What one sheet holds between its slots.
 struct Quantities {
-    Real EQ;             ///< V across the transistor
-    Real ERL;            ///< V across RL, and across Res alike: the least, the half of what is left, and at last QIc x RL
-    Real Rb2;            ///< kilohm, as worked out
-    Real Rb1;            ///< kilohm, as worked out and not rounded
+    Real EQ;  ///< V across the transistor
+    Real ERL; ///< V across RL, and across Res alike: the least, the half of what is left, and at last QIc x RL
+    Real Rb2; ///< kilohm, as worked out
+    Real Rb1; ///< kilohm, as worked out and not rounded
     bool passed = false; ///< the last step of the chain has ended without a warning
 };
 
@@ -37,8 +37,8 @@ Real halfOfTheRest(Real Es, Real EQ);
 /// RL = ERL / (QIc / 1000), ohm from V and mA. QIc of 0 is a failure.
 Real loadResistor(Real ERL, Real QIc);
 
-/// ERL = ((QIc / 1000) x R) x 1000, V from mA and kilohms: also what stands on Res for the preset's divider, in another order of
-/// the same product (`emitterVoltage`).
+/// ERL = ((QIc / 1000) x R) x 1000, V from mA and kilohms: also what stands on Res for the preset's divider, in another
+/// order of the same product (`emitterVoltage`).
 Real loadVoltage(Real QIc, Real RL);
 
 /// VRes = (RL x 1000) x (QIc / 1000), V from kilohms and mA.
@@ -53,8 +53,8 @@ Real lowerBaseResistor(Real S, Real RL, Real RLw);
 /// ZBase = Rb2 // Beta x RL, kilohms. It is Zin as well: Rb1 is left out.
 Real baseImpedance(Real Rb2, Real Beta, Real RL);
 
-/// Rb1 = (VRb1 x ZBase) / (ERL + Vj) with VRb1 = (EQ + ERL) + Vj, kilohms from volts and kilohms. The junction's voltage is added
-/// where it should be taken away; it stays so.
+/// Rb1 = (VRb1 x ZBase) / (ERL + Vj) with VRb1 = (EQ + ERL) + Vj, kilohms from volts and kilohms. The junction's
+/// voltage is added where it should be taken away; it stays so.
 Real upperBaseResistor(Real EQ, Real ERL, Real Vj, Real ZBase);
 
 } // namespace velmor::form9

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What `Form9` says besides what its family says (follower_texts.h): prompts and names under the pointer by field, boxes,
-// captions; Spanish beside English. Misprints are the course's. Texts only.
+// What `Form9` says besides what its family says (follower_texts.h): prompts and names under the pointer by field,
+// boxes, captions; Spanish beside English. Misprints are the course's. Texts only.
 #pragma once
 
 #include <span>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The light that leads to the analysis page, in its three states: waiting, green, page open. Which lamp is lit says it too, not
-// its colour alone. Counted from the corner of the button.
+// The light that leads to the analysis page, in its three states: waiting, green, page open. Which lamp is lit says it
+// too, not its colour alone. Counted from the corner of the button.
 #pragma once
 
 #include <array>
@@ -41,7 +41,8 @@ constexpr std::array<host::Mark, 6> face(host::Ink ink, host::BiText caption)
         rim(42),
         rim(62),
         host::Mark{.symbol = host::Symbol::fill, .ink = ink, .points = disc<Lit>},
-        host::Mark{.symbol = host::Symbol::text, .from = {42, 41}, .note = caption, .side = host::Side::below, .size = 90}};
+        host::Mark{
+            .symbol = host::Symbol::text, .from = {42, 41}, .note = caption, .side = host::Side::below, .size = 90}};
 }
 
 } // namespace light_detail

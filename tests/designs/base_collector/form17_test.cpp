@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// `Form17` where no walk can look: when its working numbers count as a finished design, and what it holds between its slots.
+// `Form17` where no walk can look: when its working numbers count as a finished design, and what it holds between its
+// slots.
 #include "designs/base_collector/form17.h"
 
 #include <gtest/gtest.h>
