@@ -79,8 +79,12 @@ void Form17::takeEmitterVoltage()
     q_.Es = q_.ERes + q_.EQ;
 }
 
+// A file that is read while one of these fields is in hand disables it: it is left then, and what was read stays.
+
 void Form17::lostText15()
 {
+    if (!enabled(Text15))
+        return;
     if (correct(Text15))
         q_.passed = false;
     setText(Label23, "Eq =" + shown(q_.EQ) + " Volts");
@@ -154,6 +158,8 @@ void Form17::keyText20(host::EventArgs& args)
 
 void Form17::lostText20()
 {
+    if (!enabled(Text20))
+        return;
     setText(Label23, "EQ = " + shown(q_.EQ) + " Volts");
 }
 
@@ -172,6 +178,8 @@ void Form17::focusText16(host::EventArgs& args)
 
 void Form17::lostText16()
 {
+    if (!enabled(Text16))
+        return;
     if (at(Text16) < 0.00001)
         rewrite(Text16, digits(at(Text10) * at(Text15)));
     setWidth(Label21, widthWithRb2);
