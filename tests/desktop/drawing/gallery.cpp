@@ -3,7 +3,7 @@
 //     velmor_gallery FOLDER           the sample windows of the painters, also as PDF and SVG
 //     velmor_gallery FOLDER NAME ...  windows of the program, with all that is hidden shown under NAME-all; of a sheet also
 //                                     how its drawing grows, under NAME-half and NAME-whole, and its tools
-//     velmor_gallery FOLDER NAME:CONTROL:CONTROL ...  the same, the controls clicked one after the other once the drawing is whole
+//     velmor_gallery FOLDER NAME:CONTROL:FROM>TO ...  the same, controls clicked and dragged one after the other once the drawing is whole
 #include <cstdio>
 #include <string>
 
@@ -148,7 +148,7 @@ void saveTools(const host::Window& window, desktop::View view, const QString& pa
     image.save(path);
 }
 
-/// How a sheet's drawing grows when the defaults are taken: half of it, all of it, and what some clicks then show.
+/// How a sheet's drawing grows when the defaults are taken: half of it, all of it, and what some clicks and drags ("image2>Image4") then show.
 void saveGrowth(const QString& stem, const QStringList& name, const desktop::View& view)
 {
     const std::string kind = name.front().toStdString();
@@ -159,9 +159,15 @@ void saveGrowth(const QString& stem, const QStringList& name, const desktop::Vie
     open.steps(mostSteps);
     savePicture(*open.window, view, 1.0, stem + QStringLiteral("-whole.png"));
     saveTools(*open.window, view, stem + QStringLiteral("-tools.png"));
-    for (const QString& control : name.mid(1))
-        if (const host::Handle found = open.window->named(control.toStdString()); found != host::noControl)
+    for (const QString& deed : name.mid(1)) {
+        const QStringList ends = deed.split(QLatin1Char('>'));
+        const host::Handle found = open.window->named(ends.front().toStdString());
+        const host::Handle target = open.window->named(ends.back().toStdString());
+        if (found != host::noControl && ends.size() > 1)
+            open.engine.userDrag(*open.window, found, target);
+        else if (found != host::noControl)
             open.engine.userClick(*open.window, found);
+    }
     if (name.size() > 1)
         savePicture(*open.window, view, 1.0, stem + QStringLiteral("-clicked.png"));
 }

@@ -8,6 +8,7 @@
 #include "desktop/drawing/canvas_image.h"
 #include "desktop/drawing/control_painter.h"
 #include "desktop/drawing/schematic_painter.h"
+#include "desktop/written_texts.h"
 #include "program/catalogue.h"
 
 namespace velmor::test::form3_test {
@@ -15,7 +16,6 @@ namespace velmor::test::form3_test {
 using namespace form3;
 using host::Handle;
 using host::Kind;
-using host::Look;
 
 class Form3Test : public ::testing::TestWithParam<bool> {
 protected:
@@ -45,50 +45,13 @@ protected:
     host::Window* sheet = nullptr;
 };
 
-bool isGround(const host::ControlRow& row)
-{
-    return row.look == Look::paper || row.look == Look::group || row.look == Look::invisible || row.kind == Kind::menu;
-}
-
-bool isWritten(const host::Window& window, const host::ControlRow& row)
-{
-    return window.visible(row.id) && !row.overlay && !isGround(row) &&
-           window.text(row.id).find_first_not_of(" \n") != std::string::npos;
-}
-
-struct Written {
-    const host::ControlRow* row;
-    QRectF box;
-};
-
-/// What does not fit its place, and what lies over another text or field, at a size.
-std::vector<std::string> complaints(const host::Window& sheet, const desktop::View& view)
-{
-    std::vector<std::string> found;
-    std::vector<Written> all;
-    for (const host::ControlRow& row : sheet.spec().controls) {
-        if (!isWritten(sheet, row))
-            continue;
-        if (!desktop::captionFits(sheet, row.id, view))
-            found.push_back(std::string(row.name) + " does not fit: " + sheet.text(row.id));
-        const QRectF box =
-            row.kind == Kind::field ? desktop::boxOf(sheet, row.id, view) : desktop::captionBounds(sheet, row.id, view);
-        all.push_back({&row, box.adjusted(1, 1, -1, -1)});
-    }
-    for (std::size_t i = 0; i < all.size(); ++i)
-        for (std::size_t k = i + 1; k < all.size(); ++k)
-            if (all[i].box.intersects(all[k].box))
-                found.push_back(std::string(all[i].row->name) + " lies over " + std::string(all[k].row->name));
-    return found;
-}
-
 void Form3Test::expectTextsFit(const char* stage)
 {
     desktop::View view;
     view.languageIsEnglish = on.engine.values().LanguageIsEnglish;
     for (const double pixelsWide : {1100.0, 1340.0, 2500.0}) {
         view.pixelsPerTwip = pixelsWide / sheet->spec().place.width;
-        EXPECT_EQ(complaints(*sheet, view), std::vector<std::string>{}) << stage << ", " << pixelsWide;
+        EXPECT_EQ(textComplaints(*sheet, view), std::vector<std::string>{}) << stage << ", " << pixelsWide;
     }
 }
 
@@ -96,11 +59,11 @@ TEST_P(Form3Test, theCheckOfTheTextsSeesWhatIsTooLongAndWhatLiesOverAnother)
 {
     desktop::View view;
     sheet->setText(Label22, "a dynamic resistance with far too many words for a place so small");
-    EXPECT_EQ(complaints(*sheet, view).size(), 1u);
+    EXPECT_EQ(textComplaints(*sheet, view).size(), 1u);
     sheet->setText(Label22, "r'e");
     sheet->setText(Label28, "Res");
     sheet->setPlaceOf(Label28, sheet->placeOf(Label22));
-    EXPECT_EQ(complaints(*sheet, view).size(), 1u);
+    EXPECT_EQ(textComplaints(*sheet, view).size(), 1u);
 }
 
 TEST_P(Form3Test, everyTextFitsItsPlaceAtEachStage)
