@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "designs/base_collector/form4.h"
+#include "designs/base_collector/form17.h"
+#include "designs/base_collector/form9.h"
 #include "designs/common_emitter/form2.h"
 #include "designs/differential/form3_controls.h"
 #include "editors/editor.h"
@@ -34,6 +36,8 @@ host::Catalogue catalogue()
         &form2::spec,
 
         &form4::spec,
+        &form17::spec,
+        &form9::spec,
 
         &form3::spec,
 

@@ -93,6 +93,8 @@ void DesignSheet::MostrarAyuda()
     for (const HelpPage& page : sheet_.helpPages) {
         if (rules::ParseLeadingNumber(tag(page.field)) != 1.0)
             continue;
+        if (pick(page.page).empty())
+            break;
         host().setText("Form21", "SSCommand1", page.shortName);
         host().setText("Form21", "Text22", pick(page.page));
         if (english)

@@ -54,6 +54,6 @@ struct OneLanguage {
 /// What is said has its place and both languages, boxes their titles, and Enter in any empty field is answered.
 Complaints sayings(const Sheet& sheet, std::span<const OneLanguage> exceptions);
 /// Help pages belong to fields of the chain, each once, in both languages; help boxes come with their tool.
-Complaints helpPages(const Sheet& sheet);
+Complaints helpPages(const Sheet& sheet, std::span<const OneLanguage> exceptions);
 
 } // namespace velmor::lint

@@ -317,23 +317,31 @@ TEST_F(GrammarSayings, RejectBoxesWithoutTitleAndEmptyFieldsWithoutAnswer)
 
 TEST_F(GrammarHelp, RejectsPagesOfNoFieldThereTwiceOrHalf)
 {
-    EXPECT_EQ(helpPages(sheet()), Complaints{});
+    EXPECT_EQ(helpPages(sheet(), {}), Complaints{});
     pages[0].field = RL;
     pages[0].shortName = "";
     pages[1].page.es = "";
     pages.push_back(pages[1]);
-    EXPECT_EQ(helpPages(sheet()), (Complaints{"the help page of \"RL\" belongs to no field of the chain",
-                                              "the help page of \"RL\" has no short name",
-                                              "the help page of \"Text3\" is not there in both languages",
-                                              "the help page of \"Text3\" is there twice",
-                                              "the help page of \"Text3\" is not there in both languages"}));
+    EXPECT_EQ(helpPages(sheet(), {}), (Complaints{"the help page of \"RL\" belongs to no field of the chain",
+                                                  "the help page of \"RL\" has no short name",
+                                                  "the help page of \"Text3\" is not there in both languages",
+                                                  "the help page of \"Text3\" is there twice",
+                                                  "the help page of \"Text3\" is not there in both languages"}));
+}
+
+TEST_F(GrammarHelp, RejectsAPageInOneLanguageUnlessThereIsAReason)
+{
+    pages[1].page.en = "";
+    EXPECT_EQ(helpPages(sheet(), {}), Complaints{"the help page of \"Text3\" is not there in both languages"});
+    constexpr OneLanguage told[] = {{"TemplateSheet", "Text3", "its page stands in Spanish"}};
+    EXPECT_EQ(helpPages(sheet(), told), Complaints{});
 }
 
 TEST_F(GrammarHelp, RejectsBoxesInOneLanguageOrWithoutTheirTool)
 {
     tables.helpBoxes.english = noControl;
     tables.tools.help = {};
-    EXPECT_EQ(helpPages(sheet()),
+    EXPECT_EQ(helpPages(sheet(), {}),
               (Complaints{"a help box is there in one language only", "the help boxes have no tool"}));
 }
 

@@ -39,11 +39,11 @@ bool isNote(const Sheet& sheet, Handle place)
     return std::find(notes.begin(), notes.end(), place) != notes.end();
 }
 
-bool oneLanguageIsRight(const Sheet& sheet, const Saying& row, std::span<const OneLanguage> exceptions)
+bool oneLanguageIsRight(const Sheet& sheet, Handle about, std::span<const OneLanguage> exceptions)
 {
-    return sheet.has(row.about) && std::any_of(exceptions.begin(), exceptions.end(), [&](const OneLanguage& told) {
+    return sheet.has(about) && std::any_of(exceptions.begin(), exceptions.end(), [&](const OneLanguage& told) {
                return host::sameName(told.window, sheet.window.name) &&
-                      host::sameName(told.about, sheet.window.controls[row.about].name) && !told.reason.empty();
+                      host::sameName(told.about, sheet.window.controls[about].name) && !told.reason.empty();
            });
 }
 
@@ -103,7 +103,7 @@ Complaints sayings(const Sheet& sheet, std::span<const OneLanguage> exceptions)
         if (row.when == When::named)
             complaints.push_back(where + " is never said");
         const bool onlyShown = row.text.es.empty() && row.text.en.empty() && isNote(sheet, row.place);
-        if (!onlyShown && !inBothLanguages(row.text) && !oneLanguageIsRight(sheet, row, exceptions))
+        if (!onlyShown && !inBothLanguages(row.text) && !oneLanguageIsRight(sheet, row.about, exceptions))
             complaints.push_back(where + " is not there in both languages");
         if (row.place == sheets::inBox && !inBothLanguages(row.title))
             complaints.push_back(where + " is a box without a title in both languages");
@@ -114,7 +114,7 @@ Complaints sayings(const Sheet& sheet, std::span<const OneLanguage> exceptions)
     return complaints;
 }
 
-Complaints helpPages(const Sheet& sheet)
+Complaints helpPages(const Sheet& sheet, std::span<const OneLanguage> exceptions)
 {
     Complaints complaints;
     std::set<Handle> seen;
@@ -126,7 +126,7 @@ Complaints helpPages(const Sheet& sheet)
             complaints.push_back(where + " is there twice");
         if (row.shortName.empty())
             complaints.push_back(where + " has no short name");
-        if (!inBothLanguages(row.page))
+        if (!inBothLanguages(row.page) && !oneLanguageIsRight(sheet, row.field, exceptions))
             complaints.push_back(where + " is not there in both languages");
     }
     const sheets::HelpBoxes& boxes = sheet.tables.helpBoxes;

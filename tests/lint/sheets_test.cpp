@@ -60,7 +60,7 @@ TEST_P(EverySheet, LeadsAlongItsChain)
 TEST_P(EverySheet, SpeaksInPlaceAndInBothLanguages)
 {
     EXPECT_TRUE(keeps(sayings(sheet, oneLanguage())));
-    EXPECT_TRUE(keeps(helpPages(sheet)));
+    EXPECT_TRUE(keeps(helpPages(sheet, oneLanguage())));
 }
 
 INSTANTIATE_TEST_SUITE_P(Sheets, EverySheet, testing::ValuesIn(allSheets()),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The report of `Form3`: its lines in both languages. The English one has exercises, the Spanish one measurements to make.
 #include "designs/differential/form3.h"
+#include "sheets/differential_questions.h"
 #include "sheets/report_text.h"
 
 namespace velmor::form3 {
@@ -103,14 +104,6 @@ constexpr ReportRow valuesSpanish[] = {
     {"",       Label32},
     {"",       Label30},
 };
-constexpr std::string_view questionsSpanish[] = {
-    "Que parámetros definen la tensión de estabilidad ERes..?",
-    "A que parámetros influye los distintos valores de carga RLw ..?",
-    "A que parámetros influye elevar Vg ..?",
-    "A que parámetros influye elevar -Ebias ..?",
-    "Por qué circula por Res el doble de la corriente de reposo ..?",
-    "Que ventajas tiene medir entre los dos colectores ..?",
-};
 constexpr std::string_view measurements[] = {
     "Impedancia de entrada: ",
     "Impedancia despues del capacitor de entrada: ",
@@ -149,7 +142,7 @@ std::string spanish(const Form3& sheet)
     text.oneStep("Parámetros del Transistor: ").rows(sheet, transistorSpanish);
     text.oneStep("Parámetros del Circuito: ").rows(sheet, circuitSpanish);
     text.oneStep("Valores obtenidos del Circuito: ").rows(sheet, valuesSpanish);
-    text.tab("Conteste el siguiente cuestionario: ").tabs(questionsSpanish);
+    text.tab("Conteste el siguiente cuestionario: ").tabs(sheets::differentialQuestions);
     text.tab("Realice las mediciones necesarias para completar los Items abajo mencionados: ").tabs(measurements);
     return text.text();
 }
