@@ -8,6 +8,8 @@
 #include "designs/base_collector/form17.h"
 #include "designs/base_collector/form9.h"
 #include "designs/common_emitter/form2.h"
+#include "designs/differential/form12_controls.h"
+#include "designs/differential/form13_controls.h"
 #include "designs/differential/form3_controls.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
@@ -40,6 +42,8 @@ host::Catalogue catalogue()
         &form9::spec,
 
         &form3::spec,
+        &form13::spec,
+        &form12::spec,
 
         // around them
         &palette::spec,
