@@ -11,6 +11,8 @@
 #include "designs/differential/form12_controls.h"
 #include "designs/differential/form13_controls.h"
 #include "designs/differential/form3_controls.h"
+#include "designs/power/form15.h"
+#include "designs/power/form20.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
 #include "frame/form16_controls.h"
@@ -44,6 +46,9 @@ host::Catalogue catalogue()
         &form3::spec,
         &form13::spec,
         &form12::spec,
+
+        &form15::spec,
+        &form20::spec,
 
         // around them
         &palette::spec,
