@@ -28,8 +28,11 @@ inline constexpr Quantity Beta {"β",        "",   {"Ganancia de corriente del t
 inline constexpr Quantity EcMax{"E_c(max)", "V",  {"Tensión máxima Colector - Emisor", "Maximum Collector - Emitter voltage"}};
 inline constexpr Quantity IcMax{"I_c(max)", "mA", {"Corriente máxima de colector", "Maximum collector current"}};
 inline constexpr Quantity Vj   {"V_j",      "V",  {"Tensión de juntura, Silicio o Germanio", "Junction voltage, Silicon or Germanium"}};
+inline constexpr Quantity VceSat{"V_ce(sat)", "V", {"Tensión de saturación Colector - Emisor", "Collector - Emitter saturation voltage"}};
 // currents and voltages
 inline constexpr Quantity QIc  {"Q_Ic",    "mA", {"Corriente de reposo de colector", "Quiescent collector current"}};
+inline constexpr Quantity Ibias{"I_bias",  "mA", {"Corriente de reposo del excitador", "Quiescent current of the driver"}};
+inline constexpr Quantity IPeak{"I_p",     "A",  {"Corriente pico de salida", "Peak output current"}};
 inline constexpr Quantity Es   {"E_s",     "V",  {"Tensión de la fuente de alimentación", "Supply voltage"}};
 inline constexpr Quantity Ebias{"-E_bias", "V",  {"Fuente negativa", "Negative supply"}};
 inline constexpr Quantity EsNegative{"-E_s", "V", {"Fuente negativa de emisor", "Negative emitter supply"}};
@@ -41,6 +44,11 @@ inline constexpr Quantity RL {"R_L",  "kΩ", {"Resistor de colector", "Collector
 inline constexpr Quantity RLw{"R_Lw", "kΩ", {"Resistencia de carga", "Load resistance"}};
 inline constexpr Quantity Rb1{"R_b1", "kΩ", {"Preset, resistor superior de base", "Preset, upper base resistor"}};
 inline constexpr Quantity Rb2{"R_b2", "kΩ", {"Resistor inferior de base", "Lower base resistor"}};
+inline constexpr Quantity Rb1a{"R_b1a", "kΩ", {"Resistor de base, del lado de la salida", "Base resistor on the side of the output"}};
+inline constexpr Quantity Rb1b{"R_b1b", "kΩ", {"Preset, resistor del lado de la base", "Preset, resistor on the side of the base"}};
+inline constexpr Quantity RLa{"R_La", "kΩ", {"Carga del excitador, del lado de la fuente", "Load of the driver on the side of the supply"}};
+inline constexpr Quantity RLb{"R_Lb", "kΩ", {"Carga del excitador, del lado de las bases", "Load of the driver on the side of the bases"}};
+inline constexpr Quantity Rs {"R_s",  "kΩ", {"Resistor en serie con la entrada", "Resistor in series with the input"}};
 inline constexpr Quantity Rg {"R_g",  "kΩ", {"Resistencia del generador", "Resistance of the generator"}};
 inline constexpr Quantity Cbp{"C_bp", "",   {"Capacitor de desacople de emisor", "Emitter bypass capacitor"}};
 
@@ -48,14 +56,15 @@ inline constexpr Quantity Cbp{"C_bp", "",   {"Capacitor de desacople de emisor",
 inline constexpr auto all = std::to_array<Quantity>({
     dQIc, T, dVbe, S,
     Vg, fo, Eopp, Ein, Po,
-    Beta, EcMax, IcMax, Vj,
-    QIc, Es, Ebias, EsNegative, Eq, ERes,
-    Res, RL, RLw, Rb1, Rb2, Rg, Cbp,
+    Beta, EcMax, IcMax, Vj, VceSat,
+    QIc, Ibias, IPeak, Es, Ebias, EsNegative, Eq, ERes,
+    Res, RL, RLw, Rb1, Rb2, Rb1a, Rb1b, RLa, RLb, Rs, Rg, Cbp,
 });
 
 /// Names on a drawing that no field measures: parts, and what is worked out beside them.
 inline constexpr auto partNames = std::to_array<std::string_view>({
     "Q_1", "Q_2", "C_in", "C_out", "r'_e", "E_RL", "E_Rb1", "E_d",
+    "Q_3", "Q_4", "Q_5", "Q_8", "C_oo", "C_ba", "C_bb", "R_d", "R_E", "R_e1", "P_s",
 });
 // clang-format on
 
