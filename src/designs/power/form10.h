@@ -239,6 +239,7 @@ inline constexpr auto tabOrder = std::to_array<host::Handle>({
 });
 inline constexpr auto ownKeys = std::to_array<host::ShortcutRow>({
     {"Shift+F2", Image1, host::KeyAction::hover, host::noControl, {"Borrar la fórmula", "Take the formula away"}},
+    {"Ctrl+1", Image1, host::KeyAction::click, host::noControl, {"Quitar el editor de informes", "Put the report editor away"}},
 });
 // clang-format on
 inline constexpr auto slots = sheets::sheetSlots<Form10, tools>(chain, sheets::joined(ownSlots, panelSlots));
