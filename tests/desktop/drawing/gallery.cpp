@@ -3,7 +3,8 @@
 //     velmor_gallery FOLDER           the sample windows of the painters, also as PDF and SVG
 //     velmor_gallery FOLDER NAME ...  windows of the program, with all that is hidden shown under NAME-all; of a sheet also
 //                                     how its drawing grows, under NAME-half and NAME-whole, and its tools
-//     velmor_gallery FOLDER NAME:CONTROL:CONTROL ...  the same, the controls clicked one after the other once the drawing is whole
+//     velmor_gallery FOLDER NAME:CONTROL:CONTROL ...  the same, the controls clicked one after the other once the drawing is whole;
+//                                     "+" in the place of a control goes on along the chain, as after the button of a page
 #include <cstdio>
 #include <string>
 
@@ -160,7 +161,9 @@ void saveGrowth(const QString& stem, const QStringList& name, const desktop::Vie
     savePicture(*open.window, view, 1.0, stem + QStringLiteral("-whole.png"));
     saveTools(*open.window, view, stem + QStringLiteral("-tools.png"));
     for (const QString& control : name.mid(1))
-        if (const host::Handle found = open.window->named(control.toStdString()); found != host::noControl)
+        if (control == QLatin1String("+"))
+            open.steps(mostSteps);
+        else if (const host::Handle found = open.window->named(control.toStdString()); found != host::noControl)
             open.engine.userClick(*open.window, found);
     if (name.size() > 1)
         savePicture(*open.window, view, 1.0, stem + QStringLiteral("-clicked.png"));
