@@ -79,7 +79,7 @@ inline constexpr auto controls = [] {
         hidden(field(Text12, "Text12", zones::parameter(transistorTop, 1), "", notation::VceSat)),
         hidden(disabled(field(Text13, "Text13", zones::parameter(transistorTop, 2), "  QIc", notation::in(notation::IPeak, "")))),
 
-        label(Label2,  "Label2",  at(246, 396, 166, 84), Look::note),
+        label(Label2,  "Label2",  at(246, 396, 166, 62), Look::note),
         result(Label3, "Label3",  at(826, 236, 100, 18)),
         result(Label4, "Label4",  at(424, 148, 128, 36)),
         result(Label5, "Label5",  at(500, 294, 108, 36)),

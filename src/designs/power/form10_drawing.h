@@ -107,10 +107,10 @@ inline constexpr auto input = part({
     wire(280, 500, 280, 510),
     Mark{.symbol = Symbol::generator, .from = {280, 510}, .to = {280, 550}, .name = "E_in", .side = Side::right, .field = Text9},
     wire(280, 550, 280, 560), ground(280, 560), wire(280, 500, 290, 500),
-    Mark{.symbol = Symbol::resistor, .from = {290, 500}, .to = {350, 500}, .name = "R_s", .side = Side::below, .value = Text9,
+    Mark{.symbol = Symbol::resistor, .from = {290, 500}, .to = {350, 500}, .name = "R_s", .side = Side::above, .value = Text9,
          .unit = "kΩ", .field = Text9},
     wire(350, 500, 360, 500),
-    Mark{.symbol = Symbol::capacitor, .from = {360, 500}, .to = {400, 500}, .name = "C_in", .side = Side::below},
+    Mark{.symbol = Symbol::capacitor, .from = {360, 500}, .to = {400, 500}, .name = "C_in", .side = Side::above},
     wire(400, 500, 420, 500), node(420, 500),
 });
 inline constexpr auto emitterResistors = part({
