@@ -59,6 +59,8 @@ host::Place shownPlace(const host::Window& window, Handle control)
 {
     if (control == Text22 || control == Text23)
         return helpOnPaper;
+    if (control == SSPanel2)
+        return sheets::zones::paper;
     if (control == Label1 && isLong(window.text(Label1)))
         return wholeVoice;
     const bool laid = control == Label2 || control == Label9 || control == Label10;
