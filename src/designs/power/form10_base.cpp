@@ -9,6 +9,7 @@ namespace velmor::form10 {
 void Form10::focusText5(host::EventArgs& args)
 {
     focusField(args);
+    q_.passed = false;
     setText(Text5, stage_.ibias);
 }
 
