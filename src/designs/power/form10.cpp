@@ -10,7 +10,13 @@ using host::Handle;
 
 namespace window_detail {
 
-constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), ownKeys);
+// clang-format off
+constexpr auto editorKey = std::to_array<host::ShortcutRow>({
+    {"Ctrl+1", Image1, host::KeyAction::click, host::noControl, {"Quitar el editor de informes", "Put the report editor away"}},
+});
+// clang-format on
+constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), ownKeys, editorKey);
+constexpr auto order = sheets::joined(tabOrder, std::to_array<Handle>({Command1}));
 
 // Where the labels of the signal lie from there on, as the file's reading finds them.
 constexpr int topOfLabel2 = 560;
@@ -24,6 +30,12 @@ constexpr host::Place helpOnPaper = sheets::at(246, 104, 300, 460);
 bool isLong(const std::string& text)
 {
     return std::count(text.begin(), text.end(), '\n') > 1;
+}
+
+// The calculations cover the drawing whole.
+host::Place shownPlace(const host::Window& window, Handle control)
+{
+    return control == SSPanel2 ? sheets::zones::paper : placeOnScreen(window, control);
 }
 
 } // namespace window_detail
@@ -47,7 +59,7 @@ constinit const host::WindowSpec spec{.name = "Form10",
                                       .place = sheets::sheetPlace,
                                       .controls = controls,
                                       .slots = slots,
-                                      .tabOrder = tabOrder,
+                                      .tabOrder = order,
                                       .shortcuts = shortcuts,
                                       .create = create,
                                       .sheetTitle = sheets::titleOf("Form10"),
@@ -55,12 +67,10 @@ constinit const host::WindowSpec spec{.name = "Form10",
                                       .values = values,
                                       .shownPlace = shownPlace};
 
-host::Place shownPlace(const host::Window& window, Handle control)
+host::Place placeOnScreen(const host::Window& window, Handle control)
 {
     if (control == Text22 || control == Text23)
         return helpOnPaper;
-    if (control == SSPanel2)
-        return sheets::zones::paper;
     if (control == Label1 && isLong(window.text(Label1)))
         return wholeVoice;
     const bool laid = control == Label2 || control == Label9 || control == Label10;
@@ -83,12 +93,17 @@ Form10::Form10(host::SheetHost& host, const host::WindowSpec& window, const shee
 
 void Form10::load()
 {
+    writeHeadings(helpText);
+    write(Command1, goOnButton);
+}
+
+void Form10::writeHeadings(const host::BiText& help)
+{
     host().setVisible("MDIForm1", "SSPanel1", false);
     write(Label31, circuitHeading);
     write(Label32, transistorHeading);
-    write(Command1, goOnButton);
-    setText(Text22, helpText.es);
-    setText(Text23, helpText.en);
+    setText(Text22, help.es);
+    setText(Text23, help.en);
 }
 
 void Form10::unload()
@@ -160,6 +175,7 @@ void Form10::keyField(host::EventArgs& args)
 // The voice stays with the field in hand.
 void Form10::hoverField(host::EventArgs& args)
 {
+    hideNotes();
     tell(args.control, When::hover);
     show(Label7);
 }

@@ -24,6 +24,7 @@ struct Stage {
     std::string_view driverVoltages{}; ///< `Label5`
     std::string_view diodeVoltage{};   ///< `Label6`
     double leastRLb = 0;               ///< kohm
+    host::BiText steps{};              ///< what the voice says when Ibias is left
     host::BiText designName{};         ///< of the report
 };
 inline constexpr Stage simpleStage{.junctions = 1.2,
@@ -31,6 +32,7 @@ inline constexpr Stage simpleStage{.junctions = 1.2,
                                    .driverVoltages = "Erd : 0.6 V\nIbias : ",
                                    .diodeVoltage = "Ed : 0.6 V",
                                    .leastRLb = 0.00011,
+                                   .steps = clickOnRb1,
                                    .designName = {"Amplificador de Potencia Clase B", "  Power Amplifier Class B"}};
 
 class Form10 : public sheets::DesignSheet {
@@ -95,6 +97,7 @@ protected:
     Form10(host::SheetHost& host, const host::WindowSpec& window, const sheets::SheetSpec& sheet, const Stage& stage);
     void opened() override;
 
+    void writeHeadings(const host::BiText& help);
     std::string words(const host::BiText& text) const { return std::string(pick(text)); }
     /// A capacitor's text: microfarads to four decimals.
     std::string microfarads(Real farads) const { return shown(farads * 1000000.0); }
@@ -113,9 +116,11 @@ protected:
     void tellDriver();
     // of the driver and its base
     void takeBias();
+    void takeBase(Real junction);
     void tellLoad();
     void showPanel(std::span<const PageRow> page);
     void enterText6();
+    void leaveText6();
     void tellBase();
     // of the driver's load and the signal
     void splitLoad();
@@ -135,7 +140,8 @@ protected:
     void takeCapacitors();
     void tellSignal();
     std::string impedance() const;
-    void takeGenerator();
+    void correctText9();
+    void takePeakCurrent(Real lost);
     void tellPeakCurrent(const host::BiText& verse);
 
     Quantities q_;
@@ -234,19 +240,17 @@ inline constexpr auto lines = std::to_array<sheets::FileLine>({
 });
 inline constexpr host::Handle notes[] = {Label7};
 inline constexpr auto tabOrder = std::to_array<host::Handle>({
-    Text1, Text2, Text10, Text5, Text6, Text7, Text8, Text3, Text4, Text9, Text11, Text12, Text13, Command1, SSCommand1, SSCommand3,
-    Text22, Text23,
+    Text1, Text2, Text10, Text5, Text6, Text7, Text8, Text3, Text4, Text9, Text11, Text12, Text13, SSCommand1, SSCommand3, Text22, Text23,
 });
 inline constexpr auto ownKeys = std::to_array<host::ShortcutRow>({
     {"Shift+F2", Image1, host::KeyAction::hover, host::noControl, {"Borrar la fórmula", "Take the formula away"}},
-    {"Ctrl+1", Image1, host::KeyAction::click, host::noControl, {"Quitar el editor de informes", "Put the report editor away"}},
 });
 // clang-format on
 inline constexpr auto slots = sheets::sheetSlots<Form10, tools>(chain, sheets::joined(ownSlots, panelSlots));
 
 extern const sheets::SheetSpec sheetSpec;
 /// Where the screen shows what has another place in the model: inside the sheet, in a readable size.
-host::Place shownPlace(const host::Window& window, host::Handle control);
+host::Place placeOnScreen(const host::Window& window, host::Handle control);
 std::unique_ptr<host::Window> create(host::SheetHost& host);
 
 } // namespace velmor::form10

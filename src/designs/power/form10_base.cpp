@@ -40,30 +40,35 @@ void Form10::tellLoad()
     setText(Label4, "ERl =  " + shown(q_.ERl) + " Volts\nRL(total) : " + shown(q_.RLtotal) + " K");
     setText(Label11, "  Cbb");
     setText(Label12, " Cba");
-    write(Label1, clickOnRb1);
+    write(Label1, stage_.steps);
 }
 
 // --- the calculation page
 
-// A divisor of zero leaves its quantity as it was.
 void Form10::clickText6()
 {
+    takeBase(junctionVoltage);
+    disable(Text6);
+    showPanel(basePage);
+}
+
+// A divisor of zero leaves its quantity as it was.
+void Form10::takeBase(Real junction)
+{
+    q_.passed = false;
     q_.Rb1 = upperBaseResistor(q_.RLtotal);
-    q_.ERb1 = upperBaseVoltage(q_.Eq);
+    q_.ERb1 = upperBaseVoltage(q_.Eq, junction);
     if (q_.Rb1 != 0.0)
         q_.IRb1 = upperBaseCurrent(q_.ERb1, q_.Rb1);
     q_.Ib = baseCurrent(at(Text5));
     q_.IRb2 = lowerBaseCurrent(q_.IRb1, q_.Ib);
     if (q_.IRb2 != 0.0)
-        q_.Rb2Calc = lowerBaseResistor(q_.IRb2);
-    disable(Text6);
-    showPanel(basePage);
+        q_.Rb2Calc = lowerBaseResistor(junction, q_.IRb2);
 }
 
 // The panel covers the fields: the one in hand is not left by it.
 void Form10::showPanel(std::span<const PageRow> page)
 {
-    q_.passed = false;
     hide(Text1, Text2, Text3, Text4, Text5, Text6, Text7, Text8, Text9, Text10);
     setText(SSPanel2, pageText(page));
     host::Place place = placeOf(SSPanel2);
@@ -160,7 +165,13 @@ void Form10::enterText6()
 
 void Form10::lostText6()
 {
-    if (visible(SSPanel2) || enabled(Text7) || enabled(Text6))
+    if (!visible(SSPanel2))
+        leaveText6();
+}
+
+void Form10::leaveText6()
+{
+    if (enabled(Text7) || enabled(Text6))
         return;
     correctTo(Text6, 1, q_.Rb1 * 0.75);
     setText(Text8, "Rb2");

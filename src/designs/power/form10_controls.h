@@ -103,13 +103,13 @@ inline constexpr auto controls = [] {
         helpTool(Image35, "Image35"),
         helpToolOpen(Image34, "Image34"),
 
+        helpPage(Text22, "Text22", {"Ayuda en español", "Help in Spanish"}),
+        helpPage(Text23, "Text23", {"Ayuda en inglés", "Help in English"}),
+        overlay(label(Label1, "Label1", zones::voice, Look::prompt)),
         hidden({.id = SSPanel2, .name = "SSPanel2", .kind = Kind::panel, .place = pagePlace, .look = Look::lesson, .overlay = true,
                 .fontSize = 11}),
         hidden({.id = Command1, .name = "Command1", .kind = Kind::button, .place = at(768, 526, 116, 30),
                 .meaning = {"Cerrar los cálculos y continuar", "Close the calculations and go on"}, .overlay = true}),
-        helpPage(Text22, "Text22", {"Ayuda en español", "Help in Spanish"}),
-        helpPage(Text23, "Text23", {"Ayuda en inglés", "Help in English"}),
-        overlay(label(Label1, "Label1", zones::voice, Look::prompt)),
     });
 }();
 // clang-format on

@@ -24,8 +24,10 @@ enum Control : host::Handle {
     Label7, Label28,
     // tools
     SSCommand1, SSCommand3, Image5, Image3, Image4, Image35, Image34,
-    // calculation pages, help pages, the teacher's voice
-    SSPanel2, Command1, Text22, Text23, Label1,
+    // help pages, the teacher's voice
+    Text22, Text23, Label1,
+    // the panel of the calculations, which another class B sheet has not
+    SSPanel2, Command1,
     controlCount
 };
 

@@ -11,7 +11,6 @@ namespace velmor::form10 {
 
 namespace constants {
 
-constexpr double junction = 0.6; // V
 constexpr double Beta = 100.0;
 constexpr double outputBeta = 50.0;
 constexpr double cutOff = 200.0; // Hz
@@ -55,7 +54,7 @@ Real upperBaseResistor(Real RLtotal)
     return 10.0 * RLtotal;
 }
 
-Real upperBaseVoltage(Real Eq)
+Real upperBaseVoltage(Real Eq, Real junction)
 {
     return Eq - junction;
 }
@@ -75,7 +74,7 @@ Real lowerBaseCurrent(Real IRb1, Real Ib)
     return rules::CurrencyValue(IRb1 * 1000000.0 - Ib * 1000000.0).toDouble();
 }
 
-Real lowerBaseResistor(Real IRb2)
+Real lowerBaseResistor(Real junction, Real IRb2)
 {
     return junction / (IRb2 / 1000000.0);
 }
@@ -120,9 +119,9 @@ Real emitterVoltage(Real IcMax)
     return IcMax * 0.47;
 }
 
-Real peakCurrent(Real Eq, Real VceSat, Real RLw)
+Real peakCurrent(Real Eq, Real lost, Real RLw)
 {
-    return (Eq - VceSat) / RLw;
+    return (Eq - lost) / RLw;
 }
 
 Real generatorPower(Real EgPP, Real Rs, Real Zin)

@@ -78,6 +78,9 @@ inline constexpr auto quantityTable = host::everyMember<Quantities>(
     host::own<&Quantities::passed>("passed"));
 // clang-format on
 
+/// V, of the driver's base and emitter.
+inline constexpr double junctionVoltage = 0.6;
+
 // --- output and supply
 
 /// Eopp = SQR(Po x RLw) x 1.41 x 2, V peak to peak from W and ohm.
@@ -103,8 +106,8 @@ Real biasResistor(Real Ibias);
 /// Rb1 = 10 x RL(total), in the unit of RL.
 Real upperBaseResistor(Real RLtotal);
 
-/// ERb1 = Eq - 0.6, V.
-Real upperBaseVoltage(Real Eq);
+/// ERb1 = Eq - `junction`, V: what lies between the driver's base and ground is the junction, and the resistor of its emitter.
+Real upperBaseVoltage(Real Eq, Real junction);
 
 /// IRb1 = ERb1 / (Rb1 x 1000), A from V and kohm.
 Real upperBaseCurrent(Real ERb1, Real Rb1);
@@ -115,8 +118,8 @@ Real baseCurrent(Real Ibias);
 /// IRb2 = IRb1 - Ib, microampere from A, to four decimals.
 Real lowerBaseCurrent(Real IRb1, Real Ib);
 
-/// Rb2 = 0.6 / IRb2, ohm from microampere.
-Real lowerBaseResistor(Real IRb2);
+/// Rb2 = `junction` / IRb2, ohm from V and microampere.
+Real lowerBaseResistor(Real junction, Real IRb2);
 
 // --- signal
 
@@ -144,8 +147,8 @@ Real generatorSwing(Real Rs, Real Zin, Real Ein);
 /// Ic(max) x 0.47, V: told beside the peak current, and left out of it on purpose.
 Real emitterVoltage(Real IcMax);
 
-/// IPeak = (Eq - Vce(sat)) / RLw, A.
-Real peakCurrent(Real Eq, Real VceSat, Real RLw);
+/// IPeak = (Eq - `lost`) / RLw, A: Vce(sat) is lost, and what else a sheet counts.
+Real peakCurrent(Real Eq, Real lost, Real RLw);
 
 /// Pg = ((Eg / 2 x 0.707) squared / (Rs x 1000 + Zin)) x 1000000, microwatt from V peak to peak, kohm and ohm; 0 for a generator
 /// that has no circuit yet.

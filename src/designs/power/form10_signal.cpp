@@ -81,6 +81,7 @@ void Form10::keyText4(host::EventArgs& args)
 {
     if (!entered(args))
         return;
+    q_.passed = false;
     splitLoad();
     takeCurrent();
     takeSignal();
@@ -169,16 +170,16 @@ void Form10::keyText9(host::EventArgs& args)
 
 void Form10::lostText9()
 {
-    takeGenerator();
+    correctText9();
+    if (q_.Zin != 0.0)
+        q_.EgPP = generatorSwing(at(Text9), q_.Zin, q_.Ein);
     setText(Label2, "Z = " + impedance() + " K\nEin = " + shown(q_.EgPP) + "  Volts p-p");
     write(Label28, placeIcMax);
 }
 
-void Form10::takeGenerator()
+void Form10::correctText9()
 {
     correctTo(Text9, 1, q_.RsCalc / 1000.0);
-    if (q_.Zin != 0.0)
-        q_.EgPP = generatorSwing(at(Text9), q_.Zin, q_.Ein);
 }
 
 // --- the transistors of the output
@@ -195,10 +196,15 @@ void Form10::keyText12(host::EventArgs& args)
 {
     if (!entered(args))
         return;
+    takePeakCurrent(at(Text12));
+    tellPeakCurrent(verse);
+}
+
+void Form10::takePeakCurrent(Real lost)
+{
     q_.EEmitter = emitterVoltage(at(Text11));
     if (at(Text2) != 0.0)
-        q_.IPeak = peakCurrent(q_.Eq, at(Text12), at(Text2));
-    tellPeakCurrent(verse);
+        q_.IPeak = peakCurrent(q_.Eq, lost, at(Text2));
 }
 
 void Form10::tellPeakCurrent(const host::BiText& closing)

@@ -43,7 +43,7 @@ TEST(Form10Formulas, TheDriverIsBiasedByItsLoad)
 TEST(Form10Formulas, TheBaseIsFedFromTheOutput)
 {
     EXPECT_DOUBLE_EQ(upperBaseResistor(1.8).value(), 18.0);
-    EXPECT_DOUBLE_EQ(upperBaseVoltage(12.0).value(), 11.4);
+    EXPECT_DOUBLE_EQ(upperBaseVoltage(12.0, 0.6).value(), 11.4);
     // 11.4 V / 19000 ohm = 0.6 mA
     EXPECT_DOUBLE_EQ(upperBaseCurrent(11.4, 19.0).value(), 0.0006);
     EXPECT_THROW(upperBaseCurrent(11.4, 0.0), host::ProgramFailure);
@@ -51,8 +51,8 @@ TEST(Form10Formulas, TheBaseIsFedFromTheOutput)
     EXPECT_DOUBLE_EQ(baseCurrent(6.0).value(), 0.00006);
     EXPECT_DOUBLE_EQ(lowerBaseCurrent(0.0006, 0.00006).value(), 540.0);
     // 0.6 V / 600 microampere = 1 K
-    EXPECT_DOUBLE_EQ(lowerBaseResistor(600.0).value(), 1000.0);
-    EXPECT_THROW(lowerBaseResistor(0.0), host::ProgramFailure);
+    EXPECT_DOUBLE_EQ(lowerBaseResistor(0.6, 600.0).value(), 1000.0);
+    EXPECT_THROW(lowerBaseResistor(0.6, 0.0), host::ProgramFailure);
 }
 
 TEST(Form10Formulas, TheCurrentOfTheLowerResistorHasFourDecimals)
