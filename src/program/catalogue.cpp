@@ -17,6 +17,7 @@
 #include "tools/form19.h"
 #include "tools/form21.h"
 #include "tools/form22.h"
+#include "tools/form5.h"
 #include "tools/form6.h"
 #include "tools/form7.h"
 #include "tools/frm_about.h"
@@ -52,6 +53,7 @@ host::Catalogue catalogue()
         &form19::spec,
         &form21::spec,
         &form22::spec,
+        &form5::spec,
         &form6::spec,
         &form7::spec,
         &frm_about::spec,
