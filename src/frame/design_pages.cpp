@@ -115,6 +115,9 @@ void OpenDesign(host::SheetHost& host, std::size_t index)
     if (index >= designCount || !host.canShow(designPages[index].sheet))
         return;
     if (index == chooser) {
+        // A calculation page that a sheet has left open there gives way.
+        if (host.visible(designPages[index].sheet, "SSCommand2"))
+            host.Unload(designPages[index].sheet);
         host.Show(designPages[index].sheet);
         return;
     }

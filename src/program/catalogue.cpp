@@ -13,6 +13,8 @@
 #include "designs/differential/form3_controls.h"
 #include "designs/power/form15.h"
 #include "designs/power/form20.h"
+#include "designs/power/form10.h"
+#include "designs/power/form11.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
 #include "frame/form16_controls.h"
@@ -22,6 +24,7 @@
 #include "tools/form19.h"
 #include "tools/form21.h"
 #include "tools/form22.h"
+#include "tools/form5.h"
 #include "tools/form6.h"
 #include "tools/form7.h"
 #include "tools/frm_about.h"
@@ -50,6 +53,9 @@ host::Catalogue catalogue()
         &form15::spec,
         &form20::spec,
 
+        &form10::spec,
+        &form11::spec,
+
         // around them
         &palette::spec,
         &editors::frmEditor,
@@ -63,6 +69,7 @@ host::Catalogue catalogue()
         &form19::spec,
         &form21::spec,
         &form22::spec,
+        &form5::spec,
         &form6::spec,
         &form7::spec,
         &frm_about::spec,

@@ -40,7 +40,7 @@ DesignSheet::DesignSheet(host::SheetHost& host, const host::WindowSpec& window, 
 {
     static constexpr auto flags = host::someMembers<DesignSheet>(
         host::own<&DesignSheet::nombreArchivo_>("NombreArchivo"), host::own<&DesignSheet::operCancelo_>("OperCancelo"),
-        host::own<&DesignSheet::modificado_>("modificado"),
+        host::own<&DesignSheet::modificado_>("modificado"), host::own<&DesignSheet::openPage_>("openPage"),
         host::own<&DesignSheet::cierreCancelado_>("CierreCancelado"));
     holds(*this, flags, host::Undo::leaves);
 }

@@ -92,6 +92,10 @@ public:
     const std::string& NombreArchivo() const { return nombreArchivo_; }
     void setNombreArchivo(std::string_view path) { nombreArchivo_ = path; }
 
+    /// The page of a tool window that this sheet waits for, by the sheet's own count; 0 for none. At most one sheet waits.
+    std::int16_t openPage() const { return openPage_; }
+    void setOpenPage(std::int16_t page) { openPage_ = page; }
+
     /// The tables of this kind of sheet.
     const SheetSpec& tables() const { return sheet_; }
     /// The text of the sheet's report as of this moment, lines ended by CR LF.
@@ -214,6 +218,7 @@ private:
     std::string nombreArchivo_;
     std::int16_t operCancelo_ = 0;
     std::int16_t modificado_ = 0;
+    std::int16_t openPage_ = 0;
     bool cierreCancelado_ = false;
 };
 

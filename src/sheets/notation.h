@@ -31,16 +31,18 @@ inline constexpr Quantity Beta3{"β_3",      "",   {"Ganancia de corriente de Q3
 inline constexpr Quantity EcMax{"E_c(max)", "V",  {"Tensión máxima Colector - Emisor", "Maximum Collector - Emitter voltage"}};
 inline constexpr Quantity IcMax{"I_c(max)", "mA", {"Corriente máxima de colector", "Maximum collector current"}};
 inline constexpr Quantity Vj   {"V_j",      "V",  {"Tensión de juntura, Silicio o Germanio", "Junction voltage, Silicon or Germanium"}};
+inline constexpr Quantity VceSat{"V_ce(sat)", "V", {"Tensión de saturación Colector - Emisor", "Collector - Emitter saturation voltage"}};
 // currents and voltages
 inline constexpr Quantity QIc  {"Q_Ic",    "mA", {"Corriente de reposo de colector", "Quiescent collector current"}};
 inline constexpr Quantity QIc2 {"Q_Ic2",   "mA", {"Corriente de reposo de Q2", "Quiescent current of Q2"}};
 inline constexpr Quantity QIc3 {"Q_Ic3",   "mA", {"Corriente de reposo de Q3", "Quiescent current of Q3"}};
+inline constexpr Quantity Ibias{"I_bias",  "mA", {"Corriente de polarización", "Bias current"}};
+inline constexpr Quantity IPeak{"I_p",     "A",  {"Corriente pico de salida", "Peak output current"}};
 inline constexpr Quantity Es   {"E_s",     "V",  {"Tensión de la fuente de alimentación", "Supply voltage"}};
 inline constexpr Quantity Ebias{"-E_bias", "V",  {"Fuente negativa", "Negative supply"}};
 inline constexpr Quantity EsNegative{"-E_s", "V", {"Fuente negativa de emisor", "Negative emitter supply"}};
 inline constexpr Quantity Eq   {"E_q",     "V",  {"Tensión Colector - Emisor", "Collector - Emitter voltage"}};
 inline constexpr Quantity Eb   {"E_b",     "V",  {"Tensión de base", "Base voltage"}};
-inline constexpr Quantity Ibias{"I_bias",  "mA", {"Corriente de polarización de base", "Bias current of the base"}};
 inline constexpr Quantity ERes {"E_Res",   "V",  {"Tensión de estabilidad", "Voltage of stability"}};
 // parts
 inline constexpr Quantity Res{"R_es", "Ω",  {"Resistor de emisor", "Emitter resistor"}};
@@ -53,22 +55,25 @@ inline constexpr Quantity Rb1{"R_b1", "kΩ", {"Preset, resistor superior de base
 inline constexpr Quantity Rb1a{"R_b1a", "kΩ", {"Parte fija de Rb1", "Fixed part of Rb1"}};
 inline constexpr Quantity Rb1b{"R_b1b", "kΩ", {"Preset, parte variable de Rb1", "Preset, variable part of Rb1"}};
 inline constexpr Quantity Rb2{"R_b2", "kΩ", {"Resistor inferior de base", "Lower base resistor"}};
-inline constexpr Quantity Rg {"R_g",  "kΩ", {"Resistencia del generador", "Resistance of the generator"}};
+inline constexpr Quantity RLa{"R_La", "kΩ", {"Carga del excitador, del lado de la fuente", "Load of the driver on the side of the supply"}};
+inline constexpr Quantity RLb{"R_Lb", "kΩ", {"Carga del excitador, del lado de las bases", "Load of the driver on the side of the bases"}};
 inline constexpr Quantity Rs {"R_s",  "kΩ", {"Resistor en serie con la entrada", "Resistor in series with the input"}};
+inline constexpr Quantity Rg {"R_g",  "kΩ", {"Resistencia del generador", "Resistance of the generator"}};
 inline constexpr Quantity Cbp{"C_bp", "",   {"Capacitor de desacople de emisor", "Emitter bypass capacitor"}};
 
 /// All of them: what is measured on a sheet is measured under one of these symbols.
 inline constexpr auto all = std::to_array<Quantity>({
     dQIc, T, dVbe, S,
     Vg, fo, Eopp, Ein, Po,
-    Beta, EcMax, IcMax, Vj, QIc, Es, Ebias, EsNegative, Eq, Eb, Ibias, ERes, Res, RL, RL1, RL2, Res1, RLw, Rb1, Rb2, Rg, Cbp,
-    Beta1, Beta2, Beta3, QIc2, QIc3, Rb1a, Rb1b, Rs,
+    Beta, Beta1, Beta2, Beta3, EcMax, IcMax, Vj, VceSat,
+    QIc, QIc2, QIc3, Ibias, IPeak, Es, Ebias, EsNegative, Eq, Eb, ERes,
+    Res, RL, RL1, RL2, Res1, RLw, Rb1, Rb1a, Rb1b, Rb2, RLa, RLb, Rs, Rg, Cbp,
 });
 
 /// Names on a drawing that no field measures: parts, and what is worked out beside them.
 inline constexpr auto partNames = std::to_array<std::string_view>({
     "Q_1", "Q_2", "C_in", "C_out", "C_b", "r'_e", "E_RL", "E_Rb1", "E_d", "Q_3", "Q_4", "Q_5", "Q_6", "Q_7", "D_1", "C_1",
-    "C_bp1", "R_La", "R_Lb", "Q_Ic1", "E_g",
+    "C_bp1", "R_La", "R_Lb", "Q_Ic1", "E_g", "Q_8", "C_oo", "C_ba", "C_bb", "R_d", "R_E", "R_e1", "P_s",
 });
 // clang-format on
 

@@ -2,6 +2,7 @@
 // Choice, pages and start of the voltage-feedback circuits. A start button whose sheet the program lacks is disabled.
 #include "tools/form7.h"
 
+#include "sheets/design_sheet.h"
 #include "tools/form7_texts.h"
 
 namespace velmor::form7 {
@@ -124,9 +125,25 @@ void Form7::showFormulas()
     disable(Timer1, Main);
 }
 
+// From a calculation page the exit leads back, too.
 void Form7::leave()
 {
-    host().Unload(*this);
+    if (visible(SSCommand2))
+        goBack();
+    else
+        host().Unload(*this);
+}
+
+// The sheet that waits comes in front and goes on with its chain.
+void Form7::goBack()
+{
+    host::SheetHost& program = host();
+    program.Hide(*this);
+    for (host::Window* window : program.windows())
+        if (const auto* sheet = dynamic_cast<sheets::DesignSheet*>(window); sheet != nullptr && sheet->openPage() != 0) {
+            program.Show(*window);
+            return;
+        }
 }
 
 void Form7::flap()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The panel that presents the two voltage-feedback circuits and lets the student choose one.
+// The panel that presents the two voltage-feedback circuits and lets the student choose one. A sheet may open it as a calculation
+// page and waits for it: then there is nothing to choose, and a button leads back.
 #pragma once
 
 #include <memory>
@@ -50,6 +51,7 @@ public:
     void startStable();
     void showFormulas();
     void leave();
+    void goBack();
     void flap();
 
 private:

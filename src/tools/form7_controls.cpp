@@ -91,6 +91,7 @@ constexpr host::SlotRow slots[] = {
     {Command4,        Event::click,    slot<&Form7::startSimple>},
     {Command5,        Event::click,    slot<&Form7::showFormulas>},
     {SSCommand1,      Event::click,    slot<&Form7::leave>},
+    {SSCommand2,      Event::click,    slot<&Form7::goBack>},
     {Timer1,          Event::timer,    slot<&Form7::flap>},
 };
 

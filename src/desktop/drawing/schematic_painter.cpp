@@ -108,6 +108,13 @@ bool beginsWithNumber(const QString& text)
     return number.match(text).hasMatch();
 }
 
+/// "Rb1a" in the field of R_b1a: the name once more.
+bool saysTheName(const QString& value, std::string_view name)
+{
+    QString spelt = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    return value.trimmed().compare(spelt.remove(QLatin1Char('_')), Qt::CaseInsensitive) == 0;
+}
+
 std::vector<SymbolLabel> linesOf(const host::Window& window, const Mark& mark, double unit, const View& view)
 {
     const double letters = letterUnits * unit * mark.size / 100.0;
@@ -124,7 +131,7 @@ std::vector<SymbolLabel> linesOf(const host::Window& window, const Mark& mark, d
         lines.push_back(setLabel(mark.name, letters));
     }
     const QString value = valueText(window, mark);
-    if (value.isEmpty() || (view.pale && !beginsWithNumber(value)))
+    if (value.isEmpty() || saysTheName(value, mark.name) || (view.pale && !beginsWithNumber(value)))
         return lines;
     if (isInline(mark.symbol) && !lines.empty())
         append(lines.back(), setUpright(QStringLiteral("= ") + value, letters * valueSize), letters * 0.3);

@@ -4,7 +4,8 @@
 //     velmor_gallery FOLDER NAME ...  windows of the program, with all that is hidden shown under NAME-all; of a sheet also
 //                                     how its drawing grows, under NAME-half and NAME-whole, and its tools
 //     velmor_gallery FOLDER NAME:CONTROL:FROM>TO ...  the same, controls clicked and dragged one after the other once the
-//                                     drawing is whole
+//                                     drawing is whole; "+" in the place of a control goes on along the chain, as after the
+//                                     button of a page
 #include <cstdio>
 #include <string>
 
@@ -165,7 +166,9 @@ void saveGrowth(const QString& stem, const QStringList& name, const desktop::Vie
         const QStringList ends = deed.split(QLatin1Char('>'));
         const host::Handle found = open.window->named(ends.front().toStdString());
         const host::Handle target = open.window->named(ends.back().toStdString());
-        if (found != host::noControl && ends.size() > 1)
+        if (deed == QLatin1String("+"))
+            open.steps(mostSteps);
+        else if (found != host::noControl && ends.size() > 1)
             open.engine.userDrag(*open.window, found, target);
         else if (found != host::noControl)
             open.engine.userClick(*open.window, found);
