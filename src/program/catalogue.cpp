@@ -10,6 +10,9 @@
 #include "designs/common_emitter/form2.h"
 #include "designs/differential/form12_controls.h"
 #include "designs/differential/form13_controls.h"
+#include "designs/common_emitter/desaco.h"
+#include "designs/common_emitter/form2.h"
+#include "designs/common_emitter/parc_desac.h"
 #include "designs/differential/form3_controls.h"
 #include "designs/power/form15.h"
 #include "designs/power/form20.h"
@@ -41,6 +44,8 @@ host::Catalogue catalogue()
 
         // sheets, family by family
         &form2::spec,
+        &desaco::spec,
+        &parc_desac::spec,
 
         &form4::spec,
         &form17::spec,

@@ -26,6 +26,43 @@ consteval std::array<Row, (Counts + ...)> joined(const std::array<Row, Counts>&.
     return all;
 }
 
+/// The rows of several tables of controls, each at the index of its handle. A handle without a row does not compile, nor one with
+/// two.
+template <std::size_t Count, std::size_t... Counts>
+consteval std::array<host::ControlRow, Count> inHandleOrder(const std::array<host::ControlRow, Counts>&... tables)
+{
+    static_assert((Counts + ...) == Count, "each control has one row");
+    std::array<host::ControlRow, Count> rows{};
+    const auto place = [&](const auto& table) {
+        for (const host::ControlRow& row : table) {
+            if (!rows[row.id].name.empty())
+                throw "two rows of one control";
+            rows[row.id] = row;
+        }
+    };
+    (place(tables), ...);
+    return rows;
+}
+
+/// The controls of a sheet that is told as another one with differences and more of them: the other's rows, those of the tables in
+/// the place of their like or behind them, each at the index of its handle. A handle without a row does not compile.
+template <std::size_t Count, std::size_t Other, std::size_t... Counts>
+consteval std::array<host::ControlRow, Count> withControlsOf(const std::array<host::ControlRow, Other>& other,
+                                                             const std::array<host::ControlRow, Counts>&... tables)
+{
+    std::array<host::ControlRow, Count> rows{};
+    const auto place = [&](const auto& table) {
+        for (const host::ControlRow& row : table)
+            rows[row.id] = row;
+    };
+    place(other);
+    (place(tables), ...);
+    for (const host::ControlRow& row : rows)
+        if (row.name.empty())
+            throw "a control has no row";
+    return rows;
+}
+
 /// The same slot for several controls.
 template <std::size_t Count>
 consteval std::array<host::SlotRow, Count> alike(const std::array<host::Handle, Count>& controls, host::Event event,
@@ -37,15 +74,22 @@ consteval std::array<host::SlotRow, Count> alike(const std::array<host::Handle, 
     return rows;
 }
 
+/// The fields of a chain in its order, which begins that of the Tab key.
+template <std::size_t Count>
+consteval std::array<host::Handle, Count> fieldsOf(const std::array<ChainRow, Count>& chain)
+{
+    std::array<host::Handle, Count> fields{};
+    for (std::size_t i = 0; i < Count; ++i)
+        fields[i] = chain[i].field;
+    return fields;
+}
+
 /// The same slot for every field of a chain.
 template <std::size_t Count>
 consteval std::array<host::SlotRow, Count> alike(const std::array<ChainRow, Count>& chain, host::Event event,
                                                  host::SlotFunction run)
 {
-    std::array<host::Handle, Count> fields{};
-    for (std::size_t i = 0; i < Count; ++i)
-        fields[i] = chain[i].field;
-    return alike(fields, event, run);
+    return alike(fieldsOf(chain), event, run);
 }
 
 // What makes two rows the same row of two tables.

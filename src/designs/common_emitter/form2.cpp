@@ -7,6 +7,7 @@
 #include <array>
 #include <memory>
 
+#include "designs/common_emitter/emitter_controls.h"
 #include "sheets/sheet_slots.h"
 #include "sheets/sheet_titles.h"
 
@@ -126,21 +127,14 @@ constexpr FileLine read[] = {
     {statu33, true}, {statu61, true}, {statu62, true}, {.control = Text20, .showFirst = true},
 };
 
-constexpr Handle tabOrder[] = {
-    Text1, Text3, Text4, Text8, Text21, Text15, Text9, Text10, Text11, Text17, Text12, Text13, Text14, Text16,
-    Text2, Text5, Text6, Text7, Text18, Text19, Text20,
-    Picture6, Picture4, Picture10, Picture11, Picture2, Picture7, Picture1, SSCommand3, SSCommand1,
-};
+constexpr auto tabOrder = sheets::joined(sheets::fieldsOf(chain), std::to_array<Handle>({
+    Text20, Picture6, Picture4, Picture10, Picture11, Picture2, Picture7, Picture1, SSCommand3, SSCommand1,
+}));
 
 using host::KeyAction;
-constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), std::to_array<host::ShortcutRow>({
-    {"Shift+F2",  Image1,    KeyAction::hover,      noControl, {"Borrar las notas", "Take the notes away"}},
-    {"F5",        Voltaje,   KeyAction::hover,      noControl, {"Fórmula de ERes", "Formula of ERes"}},
-    {"F7",        statu17,   KeyAction::hover,      noControl, {"Nota de r'e", "Note on r'e"}},
-    {"F8",        statu18,   KeyAction::hover,      noControl, {"Nota de RLac", "Note on RLac"}},
-    {"F9",        statu23,   KeyAction::hover,      noControl, {"Nota de Rin", "Note on Rin"}},
+constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), common_emitter::emitterKeys<Control>,
+                                          std::to_array<host::ShortcutRow>({
     {"F11",       SSPanel1,  KeyAction::click,      noControl, {"Agrandar el panel de ayuda", "Enlarge the help panel"}},
-    {"Shift+F11", STA70,     KeyAction::click,      noControl, {"Ocultar el próximo paso", "Hide the next step"}},
     {"Ctrl+1",    Picture6,  KeyAction::click,      noControl, {"Desacoplado", "Bypass"}},
     {"Ctrl+2",    Picture4,  KeyAction::click,      noControl, {"Parcialmente desacoplado", "Parcial Bypass"}},
     {"Ctrl+3",    Picture11, KeyAction::click,      Picture10, {"Polarizado p/Emisor, o p/Base", "Polarized by Emitter, or by Base"}},
@@ -192,10 +186,7 @@ const host::WindowSpec spec{.name = "Form2",
                             .values = values,
                             .shownPlace = form2_tables::shownPlace};
 
-Form2::Form2(host::SheetHost& host) : DesignSheet(host, form2::spec, form2_tables::sheetSpec)
-{
-    holds(q_, quantityTable, host::Undo::takesBack);
-}
+Form2::Form2(host::SheetHost& host) : EmitterModes(host, form2::spec, form2_tables::sheetSpec) {}
 
 void Form2::load()
 {
@@ -231,7 +222,7 @@ void Form2::Abrir()
 void Form2::opened()
 {
     const bool byEmitter = !isEmpty(Text20);
-    write(SSPanel1, byEmitter ? archivedEmitter : archivedBase);
+    write(SSPanel1, byEmitter ? archivedEmitter : common_emitter::archivedEmitterSheet);
     setVisible(Image2, byEmitter);
     if (!byEmitter)
         hide(Text21);
@@ -252,56 +243,12 @@ void Form2::hoverBackground()
     hide(Boost);
 }
 
-// Any key that a field before the last takes: what was finished is so no longer.
-Press Form2::pressed(host::EventArgs& args)
-{
-    const Press press = DesignSheet::pressed(args);
-    if (args.control != Text19 && args.key != 0)
-        q_.passed = false;
-    return press;
-}
-
-void Form2::keyField(host::EventArgs& args)
-{
-    const Press press = pressed(args);
-    if (goesOn(args.control, press))
-        goOn(args.control, press);
-}
-
-void Form2::clickField(host::EventArgs& args)
-{
-    tell(args.control, sheets::When::click);
-}
-
 // The pictures of bootstrapping lie where the notes would.
 void Form2::hoverField(host::EventArgs& args)
 {
     DesignSheet::hoverField(args);
     if (visible(Picture7) || visible(Picture2))
         hideNotes();
-}
-
-void Form2::pressTemperature(host::EventArgs& args)
-{
-    pressField(args);
-    if (args.button == host::Button::right)
-        host().Show("Form22");
-}
-
-void Form2::pressResistor(host::EventArgs& args)
-{
-    pressField(args);
-    if (args.button == host::Button::right)
-        host().Show("Form14");
-}
-
-bool Form2::sentBack(Handle emptyField, const sheets::Saying& box, Handle target)
-{
-    if (!isEmpty(emptyField))
-        return false;
-    tell(box);
-    goTo(target);
-    return true;
 }
 
 } // namespace velmor::form2

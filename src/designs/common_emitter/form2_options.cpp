@@ -16,20 +16,10 @@ constexpr int minimised = 1;
 
 using namespace options_detail;
 
-void Form2::hoverButton(host::EventArgs& args)
-{
-    tell(args.control, sheets::When::hover);
-    show(Boost);
-}
-
 // Another kind of sheet opens in front; this one starts over behind it.
 void Form2::openVariant(std::string_view sheetName, const host::BiText& title)
 {
-    host::Window* opened = host().NewInstance(sheetName);
-    if (opened != nullptr) {
-        host().Show(*opened);
-        host().SetWindowCaption(*opened, pick(title));
-    }
+    openSheet(sheetName, title);
     goTo(Text1);
 }
 
@@ -48,42 +38,16 @@ void Form2::clickPicture4()
     openVariant("ParcDesac", sheets::parcDesacFromForm2);
 }
 
-void Form2::clickPicture1()
-{
-    if (visible(Picture1)) {
-        goTo(Text1);
-        write(STA70, common_emitter::bypassHint);
-    }
-    show(Picture6);
-    hide(Picture1, Picture10, Picture11);
-}
-
 void Form2::lostPicture1()
 {
     hide(Image2);
     goTo(Text1);
 }
 
-void Form2::clickPicture11()
-{
-    show(Image2, Text21, Picture10);
-    hide(Picture11, Picture6, Picture1);
-    tell(common_emitter::bypassAssigned);
-    goTo(Text1);
-    setText(Text11, "55");
-}
-
-void Form2::clickPicture10()
-{
-    hide(Picture10);
-    show(Picture11);
-}
-
 void Form2::clickPicture2()
 {
     drawBootstrapping(true);
-    if (at(Text19) != 0)
-        setText(statu72, "Cbp2=\n" + shown(common_emitter::secondBootstrapCapacitor(at(Text19), at(Text12))));
+    writeSecondBootstrap();
     hide(Image2);
 }
 
@@ -91,17 +55,6 @@ void Form2::clickPicture2()
 void Form2::clickPicture7()
 {
     drawBootstrapping(false);
-}
-
-// Bootstrapping divides both resistors of the base: their plain drawings give way to the halves, and what is known of the plain
-// stage to what is known of this one.
-void Form2::drawBootstrapping(bool drawn)
-{
-    for (const host::Handle control : {Line20, Picture3, Picture5, Picture7, statu61, statu62, statu71, statu72})
-        setVisible(control, drawn);
-    for (const host::Handle control :
-         {Line15, Line16, Picture2, sta1, statu31, statu32, status5, status6, status7, status8, status9})
-        setVisible(control, !drawn);
 }
 
 void Form2::clickGuide()
@@ -135,11 +88,6 @@ void Form2::clickSSPanel1()
     setPlaceOf(SSPanel1, place);
     if (!grows)
         write(SSPanel1, helpTitle);
-}
-
-void Form2::clickSTA70()
-{
-    setVisible(STA70, !visible(STA70));
 }
 
 void Form2::pressImage1(host::EventArgs& args)
