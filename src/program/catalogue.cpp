@@ -13,6 +13,9 @@
 #include "designs/common_emitter/desaco.h"
 #include "designs/common_emitter/form2.h"
 #include "designs/common_emitter/parc_desac.h"
+#include "designs/common_emitter/form18.h"
+#include "designs/common_emitter/form2.h"
+#include "designs/common_emitter/form8.h"
 #include "designs/differential/form3_controls.h"
 #include "designs/power/form15.h"
 #include "designs/power/form20.h"
@@ -50,6 +53,8 @@ host::Catalogue catalogue()
         &form4::spec,
         &form17::spec,
         &form9::spec,
+        &form8::spec,
+        &form18::spec,
 
         &form3::spec,
         &form13::spec,

@@ -73,7 +73,8 @@ inline constexpr auto all = std::to_array<Quantity>({
 /// Names on a drawing that no field measures: parts, and what is worked out beside them.
 inline constexpr auto partNames = std::to_array<std::string_view>({
     "Q_1", "Q_2", "C_in", "C_out", "C_b", "r'_e", "E_RL", "E_Rb1", "E_d", "Q_3", "Q_4", "Q_5", "Q_6", "Q_7", "D_1", "C_1",
-    "C_bp1", "R_La", "R_Lb", "Q_Ic1", "E_g", "Q_8", "C_oo", "C_ba", "C_bb", "R_d", "R_E", "R_e1", "P_s",
+    "C_bp1", "R_La", "R_Lb", "Q_Ic1", "E_g", "Q_8", "C_oo", "C_ba", "C_bb", "R_d", "R_E", "R_e1", "P_s", "C_dp", "I_b", "I_Rb1",
+    "I_Rb2",
 });
 // clang-format on
 

@@ -3,9 +3,9 @@
 //     velmor_gallery FOLDER           the sample windows of the painters, also as PDF and SVG
 //     velmor_gallery FOLDER NAME ...  windows of the program, with all that is hidden shown under NAME-all; of a sheet also
 //                                     how its drawing grows, under NAME-half and NAME-whole, and its tools
-//     velmor_gallery FOLDER NAME:CONTROL:FROM>TO ...  the same, controls clicked and dragged one after the other once the
-//                                     drawing is whole; "+" in the place of a control goes on along the chain, as after the
-//                                     button of a page
+//     velmor_gallery FOLDER NAME:DEED:DEED ...  the same, then some deeds one after the other once the drawing is whole: CONTROL
+//                                     clicked, FROM>TO dragged, FIELD=TEXT entered where the chain waits for it, "+" on along the
+//                                     chain, as after the button of a page
 #include <cstdio>
 #include <string>
 
@@ -97,6 +97,8 @@ bool saveSamples(const QDir& folder)
     return written;
 }
 
+constexpr int mostSteps = 60;
+
 /// A program with one window open.
 struct OpenWindow {
     OpenWindow(const std::string& name, std::int16_t languageIsEnglish)
@@ -128,13 +130,31 @@ struct OpenWindow {
         return count;
     }
 
+    /// "CONTROL" is clicked, "FROM>TO" dragged, "FIELD=TEXT" entered; "+" goes on along the chain.
+    void take(const QString& deed)
+    {
+        const auto named = [&](QLatin1Char sign, int part) {
+            return window->named(deed.section(sign, part, part).toStdString());
+        };
+        if (deed == QLatin1String("+")) {
+            steps(mostSteps);
+        } else if (deed.contains(QLatin1Char('>'))) {
+            engine.userDrag(*window, named(QLatin1Char('>'), 0), named(QLatin1Char('>'), 1));
+        } else if (deed.contains(QLatin1Char('='))) {
+            const host::Handle field = named(QLatin1Char('='), 0);
+            engine.userFocus(*window, field);
+            engine.userText(*window, field, deed.section(QLatin1Char('='), 1).toStdString());
+            engine.userKey(*window, 13);
+        } else if (const host::Handle control = window->named(deed.toStdString()); control != host::noControl) {
+            engine.userClick(*window, control);
+        }
+    }
+
     QuietScreen screen;
     host::MemorySettings settings;
     host::Engine engine;
     host::Window* window = nullptr;
 };
-
-constexpr int mostSteps = 60;
 
 /// The row of tools alone, twice as large.
 void saveTools(const host::Window& window, desktop::View view, const QString& path)
@@ -162,17 +182,8 @@ void saveGrowth(const QString& stem, const QStringList& name, const desktop::Vie
     open.steps(mostSteps);
     savePicture(*open.window, view, 1.0, stem + QStringLiteral("-whole.png"));
     saveTools(*open.window, view, stem + QStringLiteral("-tools.png"));
-    for (const QString& deed : name.mid(1)) {
-        const QStringList ends = deed.split(QLatin1Char('>'));
-        const host::Handle found = open.window->named(ends.front().toStdString());
-        const host::Handle target = open.window->named(ends.back().toStdString());
-        if (deed == QLatin1String("+"))
-            open.steps(mostSteps);
-        else if (found != host::noControl && ends.size() > 1)
-            open.engine.userDrag(*open.window, found, target);
-        else if (found != host::noControl)
-            open.engine.userClick(*open.window, found);
-    }
+    for (const QString& deed : name.mid(1))
+        open.take(deed);
     if (name.size() > 1)
         savePicture(*open.window, view, 1.0, stem + QStringLiteral("-clicked.png"));
 }
