@@ -99,8 +99,10 @@ TEST_P(Form4Test, aStudentWithoutAMouseTakesTheSourceToTheBase)
     design();
     Bench::keys("Ctrl+1");
     ASSERT_TRUE(sheet->visible(Picture1));
+    Bench::key(Qt::Key_Escape); // the leaf is put away when it has the keyboard
     Bench::keys("Ctrl+2");
     EXPECT_TRUE(sheet->visible(Image5));
+    Bench::key(Qt::Key_Escape);
     Bench::keys("Ctrl+1");
     EXPECT_TRUE(sheet->visible(Picture2));
     EXPECT_FALSE(sheet->visible(Image5));
