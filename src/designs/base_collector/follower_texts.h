@@ -28,6 +28,10 @@ inline constexpr BiText putRb1{"Coloque un valor comercial...", "Put a normalize
 inline constexpr BiText formulaOfRb2{" Formula utilizada:            Rb2 = S x Res // RLw    ",
                                      " Formulates used :            Rb2 = S x Res // RLw    "};
 
+inline constexpr Saying supplyTooLow{
+    .text  = {"La tensión de  fuente es insuficiente , aumentela...", "The source voltage is low, elevated please..."},
+    .title = {"Es aconsejable elevar la fuente  de alimentación", "Is advisable to elevate the feeding source"},
+    .flags = 10};
 inline constexpr Saying adjustRb1{
     .text  = {"Corriente de Colector obtenida es diferente a QIc diseñada...", " Collector currents it's different to design.."},
     .title = {"Ajuste valor de Rb1", "Adjust Preset Rb1..."},

@@ -135,7 +135,7 @@ void Form17::keyText20(host::EventArgs& args)
     q_.EQ = q_.Es - q_.ERes;
     // EQ is what Es leaves, so this never comes up; both sides are worked out alike, lest the last digit bring it up.
     if (q_.Es - q_.ERes < q_.EQ) {
-        tell(supplyTooLow);
+        tell(base_collector::supplyTooLow);
         return;
     }
     if (q_.EQ > at(Text5)) {

@@ -44,10 +44,6 @@ inline constexpr Saying lessThanThreeVolts{
     .text  = {"Desea continuar..? (Si)   Cambiar Fuente...(No)", "Continue..? (Yes)   Change Source...(No)"},
     .title = {"    Tensión COLECTOR - EMISOR es menor a 3 Volts...", "    Voltage COLLECTOR - EMITTER is smaller to 3 Volts..."},
     .flags = 36};
-inline constexpr Saying supplyTooLow{
-    .text  = {"La tensión de  fuente es insuficiente , aumentela...", "The source voltage is low, elevated please..."},
-    .title = {"Es aconsejable elevar la fuente  de alimentación", "Is advisable to elevate the feeding source"},
-    .flags = 10};
 inline constexpr Saying lessThanOneVolt{
     .text  = {"Insuficiente Fuente", "Not enugth source"},
     .title = {"    Tensión COLECTOR - EMISOR es menor a 1 Volts...", "    Voltage COLLECTOR - EMITTER more small to 1 Volt..."},

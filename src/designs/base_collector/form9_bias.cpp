@@ -93,7 +93,7 @@ void Form9::askForSupply(Real RL)
         return;
     }
     if (RL / 1000.0 < 0) {
-        tell(supplyTooLow);
+        tell(base_collector::supplyTooLow);
         goTo(Text20);
         return;
     }

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "designs/base_collector/follower_drawing.h"
+#include "designs/base_collector/follower_rows.h"
 #include "sheets/notation.h"
 #include "sheets/schematic.h"
 
@@ -14,8 +15,13 @@ namespace velmor::form9 {
 namespace controls_detail {
 
 using namespace sheets; // NOLINT(google-build-using-namespace): the words of the table
+using base_collector::besideItsPart;
+using base_collector::helpPage;
+using base_collector::marked;
+using base_collector::obtained;
+using base_collector::obtainedName;
+using base_collector::unused;
 using host::ControlRow;
-using host::Ink;
 using host::Kind;
 using host::Look;
 using host::Mark;
@@ -78,9 +84,6 @@ constexpr auto loadVoltage = part({
     Mark{.symbol = Symbol::arrow, .from = {598, 206}, .to = {598, 144}, .field = Text15},
 });
 constexpr Mark emitterVoltageName[] = {{.symbol = Symbol::label, .from = {-4, 9}, .name = "E_Res", .side = Side::left}};
-constexpr Mark obtainedName[] = {
-    {.symbol = Symbol::text, .from = {0, 9}, .note = {"QIc obtenida", "QIc obtained"}, .ink = Ink::accent, .size = 90},
-};
 constexpr host::BiText analysisCaption{"Análisis", "Analysis"};
 constexpr Mark leafMarks[] = {
     {.symbol = Symbol::page, .from = {27, 6}, .to = {57, 36}},
@@ -91,29 +94,10 @@ constexpr Mark openLeafMarks[] = {
     {.symbol = Symbol::text, .from = {42, 41}, .note = {"Volver", "Back"}, .side = Side::below, .size = 90},
 };
 
-constexpr ControlRow marked(ControlRow row, std::span<const Mark> drawing)
-{
-    row.drawing = drawing;
-    return row;
-}
-constexpr ControlRow help(host::Handle id, std::string_view name, host::BiText meaning)
-{
-    return hidden({.id = id, .name = name, .kind = Kind::page, .place = at(8, 94, 249, 433), .meaning = meaning, .overlay = true});
-}
 constexpr ControlRow choice(host::Handle id, std::string_view name, int top, std::string_view text, host::BiText meaning)
 {
     return hidden({.id = id, .name = name, .kind = Kind::button, .place = at(zones::right, top, 172, 30), .text = text,
                    .meaning = meaning});
-}
-constexpr Quantity unused(Quantity quantity, host::BiText meaning)
-{
-    return notation::in(notation::meaning(quantity, meaning), "");
-}
-/// The part bears the symbol already.
-constexpr Quantity besideItsPart(Quantity quantity)
-{
-    quantity.symbol = "";
-    return quantity;
 }
 
 constexpr auto rows = std::to_array<ControlRow>({
@@ -142,10 +126,10 @@ constexpr auto rows = std::to_array<ControlRow>({
     hidden(drawn(Line19, "Line19", Kind::line, drawing::emitterVoltage<Control>)),
     drawn(Shape1, "Shape1", Kind::shape, drawing::transistor<Control>),
     disabled(field(Text1, "Text1", zones::parameter(circuitTop, 6), " s/uso",
-                   unused(notation::dQIc, {"Sin uso en este circuito", "Without use in this circuit"}))),
+                   unused(notation::dQIc))),
     field(Text2, "Text2", zones::parameter(transistorTop, 0), "100", notation::Beta),
     disabled(field(Text3, "Text3", zones::parameter(circuitTop, 7), " s/uso",
-                   unused(notation::T, {"Sin uso en este circuito", "Without use in this circuit"}))),
+                   unused(notation::T))),
     field(Text4, "Text4", zones::parameter(generatorTop, 0), "10", notation::Rg),
     field(Text5, "Text5", zones::parameter(transistorTop, 1), "30", notation::EcMax),
     field(Text6, "Text6", zones::parameter(transistorTop, 2), "100", notation::IcMax),
@@ -161,11 +145,10 @@ constexpr auto rows = std::to_array<ControlRow>({
                     notation::meaning(notation::RL, {"Resistor de colector, y de emisor", "Collector resistor, and emitter's"}))))),
     hidden(disabled(field(Text16, "Text16", at(466, 459, 80, 22), "", notation::above(notation::Rb2)))),
     disabled(field(Text17, "Text17", at(466, 169, 80, 22), "", notation::above(notation::Rb1))),
-    disabled(field(Text18, "Text18", at(646, 224, 90, 22), "", besideItsPart(notation::in(
-                   notation::meaning(notation::QIc, {"Miliamperímetro: QIc obtenida", "Milliammeter: QIc obtained"}), "")))),
+    disabled(field(Text18, "Text18", at(646, 224, 90, 22), "", besideItsPart(obtained))),
     disabled(field(Text20, "Text20", at(718, 119, 80, 22), "", besideItsPart(notation::Es))),
     result(Label20, "Label20", at(636, 446, 150, 36)),
-    result(Label21, "Label21", at(466, 486, 132, 36)),
+    result(Label21, "Label21", at(462, 487, 148, 36)),
     result(Label22, "Label22", at(640, 188, 150, 18)),
     result(Label23, "Label23", at(662, 330, 140, 20)),
     result(Label24, "Label24", at(466, 196, 126, 36)),
@@ -193,8 +176,8 @@ constexpr auto rows = std::to_array<ControlRow>({
     cloneToolAgain(Image9, "Image9"),
     helpTool(Image35, "Image35"),
     helpToolOpen(Image34, "Image34"),
-    help(Text22, "Text22", {"Ayuda en español", "Help in Spanish"}),
-    help(Text23, "Text23", {"Ayuda en inglés", "Help in English"}),
+    helpPage(Text22, "Text22", {"Ayuda en español", "Help in Spanish"}),
+    helpPage(Text23, "Text23", {"Ayuda en inglés", "Help in English"}),
     {.id = SSPanel2, .name = "SSPanel2", .kind = Kind::panel, .place = zones::voice, .look = Look::prompt, .overlay = true},
 });
 

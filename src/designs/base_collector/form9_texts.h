@@ -35,10 +35,6 @@ inline constexpr Saying lowSupply{
               "The source voltage is low, if chooses to elevate it you will obtain more entrance impedance..."},
     .title = {"Es aconsejable elevar la fuente  de alimentación", "Is advisable to elevate the feeding source"},
     .flags = 20};
-inline constexpr Saying supplyTooLow{
-    .text  = {"La tensión de  fuente es insuficiente , aumentela...", "The source voltage is low, elevated please..."},
-    .title = {"Es aconsejable elevar la fuente  de alimentación", "Is advisable to elevate the feeding source"},
-    .flags = 10};
 inline constexpr Saying loadVoltageTooLow{
     .text  = {"Aumente valor de RL", "Up value for RL"},
     .title = {"Tensión en ERL es insuficiente para Eopp", "  ERL Voltage isn't enought for Eopp"},

@@ -68,6 +68,14 @@ protected:
     host::Window* window = nullptr;
 };
 
+TEST_F(Form9Finished, LeavesCommaAndMetricMeasuresInThePersonsSettings)
+{
+    engine.values().MeasurementSystem = "1";
+    engine.userRun([this] { engine.host().Show(*engine.host().NewInstance("Form9")); });
+    EXPECT_EQ(engine.values().DecimalSeparator, ",");
+    EXPECT_EQ(engine.values().MeasurementSystem, "0");
+}
+
 // Rb2 = 10 x (12.0078 // 10) = 54.5616; 17.3766 V / 72 K - 12.6078 V / 54.5616 K = 241.34 - 231.07 uA: 1.0268 mA
 TEST_F(Form9Finished, IsADesignWhosePresetGivesItsCurrent)
 {
