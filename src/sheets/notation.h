@@ -34,10 +34,15 @@ inline constexpr Quantity Es   {"E_s",     "V",  {"Tensión de la fuente de alim
 inline constexpr Quantity Ebias{"-E_bias", "V",  {"Fuente negativa", "Negative supply"}};
 inline constexpr Quantity EsNegative{"-E_s", "V", {"Fuente negativa de emisor", "Negative emitter supply"}};
 inline constexpr Quantity Eq   {"E_q",     "V",  {"Tensión Colector - Emisor", "Collector - Emitter voltage"}};
+inline constexpr Quantity Eb   {"E_b",     "V",  {"Tensión de base", "Base voltage"}};
+inline constexpr Quantity Ibias{"I_bias",  "mA", {"Corriente de polarización de base", "Bias current of the base"}};
 inline constexpr Quantity ERes {"E_Res",   "V",  {"Tensión de estabilidad", "Voltage of stability"}};
 // parts
 inline constexpr Quantity Res{"R_es", "Ω",  {"Resistor de emisor", "Emitter resistor"}};
 inline constexpr Quantity RL {"R_L",  "kΩ", {"Resistor de colector", "Collector resistor"}};
+inline constexpr Quantity RL1{"R_L1", "kΩ", {"Resistor de colector del primer par", "Collector resistor of the first pair"}};
+inline constexpr Quantity RL2{"R_L2", "kΩ", {"Resistor de colector del segundo par", "Collector resistor of the second pair"}};
+inline constexpr Quantity Res1{"R_es1", "kΩ", {"Resistor de emisor de Q5", "Emitter resistor of Q5"}};
 inline constexpr Quantity RLw{"R_Lw", "kΩ", {"Resistencia de carga", "Load resistance"}};
 inline constexpr Quantity Rb1{"R_b1", "kΩ", {"Preset, resistor superior de base", "Preset, upper base resistor"}};
 inline constexpr Quantity Rb2{"R_b2", "kΩ", {"Resistor inferior de base", "Lower base resistor"}};
@@ -49,13 +54,13 @@ inline constexpr auto all = std::to_array<Quantity>({
     dQIc, T, dVbe, S,
     Vg, fo, Eopp, Ein, Po,
     Beta, EcMax, IcMax, Vj,
-    QIc, Es, Ebias, EsNegative, Eq, ERes,
-    Res, RL, RLw, Rb1, Rb2, Rg, Cbp,
+    QIc, Es, Ebias, EsNegative, Eq, Eb, Ibias, ERes,
+    Res, RL, RL1, RL2, Res1, RLw, Rb1, Rb2, Rg, Cbp,
 });
 
 /// Names on a drawing that no field measures: parts, and what is worked out beside them.
 inline constexpr auto partNames = std::to_array<std::string_view>({
-    "Q_1", "Q_2", "C_in", "C_out", "r'_e", "E_RL", "E_Rb1", "E_d",
+    "Q_1", "Q_2", "Q_3", "Q_4", "Q_5", "Q_6", "Q_7", "D_1", "C_1", "C_in", "C_out", "r'_e", "E_RL", "E_Rb1", "E_d",
 });
 // clang-format on
 

@@ -2,6 +2,7 @@
 // The window's own slots, help on pointing, the help pages and the pop-ups of the picture.
 #include "designs/differential/form3.h"
 #include "designs/differential/form3_texts.h"
+#include "designs/differential/start_temperature.h"
 
 #include <algorithm>
 
@@ -12,8 +13,7 @@ using sheets::When;
 
 namespace window_detail {
 
-constexpr double startTemperature = 90.0; // what this sheet makes of `TemperaturaCompartida`
-constexpr int helpMargin = 100;           // from the main window's inner edge
+constexpr int helpMargin = 100; // from the main window's inner edge
 
 } // namespace window_detail
 
@@ -29,7 +29,7 @@ std::unique_ptr<host::Window> create(host::SheetHost& host)
 
 void Form3::load()
 {
-    host().values().TemperaturaCompartida = window_detail::startTemperature;
+    host().values().TemperaturaCompartida = differential::startTemperature;
     host().setVisible("MDIForm1", "SSPanel1", false);
     setCaption(pick(spec().sheetTitle));
     write(Label6, texts::transistorHeading);
@@ -58,7 +58,7 @@ void Form3::opened()
 void Form3::leaveStability(host::EventArgs& args)
 {
     leaveField(args);
-    host().values().TemperaturaCompartida = window_detail::startTemperature;
+    host().values().TemperaturaCompartida = differential::startTemperature;
 }
 
 // --- help

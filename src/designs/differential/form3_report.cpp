@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The report of `Form3`: its lines in both languages. The English one has exercises, the Spanish one measurements to make.
+#include "designs/differential/exercises.h"
 #include "designs/differential/form3.h"
 #include "sheets/report_text.h"
 
@@ -9,14 +10,6 @@ using sheets::ReportRow;
 using sheets::ReportText;
 
 namespace report {
-
-using Lines = std::span<const std::string_view>;
-
-struct Exercise {
-    std::string_view heading{};
-    Lines statement{};
-    Lines data{};
-};
 
 // clang-format off
 constexpr std::string_view statement1[] = {"Design the amplifier with the smallest change of the quiescent current",
@@ -31,17 +24,12 @@ constexpr std::string_view data4[]      = {"Rlw (Kohm) = 1 kohm", "Vg = 1000"};
 constexpr std::string_view statement5[] = {"Double the output signal and see what Es and Ec(max) must be."};
 constexpr std::string_view data5[]      = {"Eopp = 20 Vpp"};
 
-constexpr Exercise exercises[] = {
+constexpr differential::Exercise exercises[] = {
     {"Exercise N° 1 ", statement1, data1},
     {"Exercise N° 2 ", statement2, data2},
     {"Exercise N° 3 ", statement3, data3},
     {"Exercise N° 4 ", statement4, data4},
     {"Exercise N° 5 ", statement5, data5},
-};
-
-constexpr std::string_view reminder[] = {
-    "Remembers to save the results obtained for each design in a file report",
-    "with the Text Editor  ",
 };
 
 constexpr ReportRow transistorEnglish[] = {
@@ -126,13 +114,8 @@ std::string english(const Form3& sheet)
 {
     ReportText text;
     text.heading(sheet, "Report Design", "Design :   Long Tail pair ");
-    for (const Exercise& exercise : exercises) {
-        text.oneStep(exercise.heading);
-        for (const std::string_view line : exercise.statement)
-            text.twoSteps(line);
-        text.tabs(exercise.data);
-    }
-    text.tabs(reminder);
+    differential::append(text, exercises);
+    text.tabs(differential::englishReminder);
     text.oneStep("Results of the design of Differential Simple: ");
     text.oneStep("Parameters of the Transistor: ").rows(sheet, transistorEnglish);
     text.oneStep("Parameters of the Circuit: ").rows(sheet, circuitEnglish);
