@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "designs/common_emitter/form2.h"
+#include "designs/differential/form13_controls.h"
 #include "designs/differential/form3_controls.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
@@ -33,6 +34,7 @@ host::Catalogue catalogue()
         &form2::spec,
 
         &form3::spec,
+        &form13::spec,
 
         // around them
         &palette::spec,
