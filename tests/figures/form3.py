@@ -5,31 +5,11 @@
 Prints a walk: what a student enters, and what must then be shown. The committed tests/walks/form3/figures.walk is this
 script's output; the walk player compares every character.
 """
-import math
+import sys
 
+sys.dont_write_bytecode = True
 
-def currency(number):
-    """Four decimals, the nearest, ties to the even one (Python's round does just that)."""
-    return round(number * 10000) / 10000
-
-
-def shown(number):
-    scaled = round(number * 10000)
-    whole, fraction = divmod(abs(scaled), 10000)
-    return ("-" if scaled < 0 else "") + (f"{whole}.{fraction:04d}".rstrip("0") if fraction else str(whole))
-
-
-def digits(number):
-    return "%.15G" % (number + 0.0)
-
-
-def whole(number):
-    return digits(float(math.trunc(number)))
-
-
-def quoted(text):
-    return '"' + text.replace("\\", "\\\\").replace('"', '\\"').replace("\n", "\\n") + '"'
-
+from walk_figures import currency, digits, quoted, shown, whole
 
 TEXTS = {
     "english": {

@@ -112,7 +112,7 @@ inline constexpr auto givens = std::to_array<Given>({
     {Text5, &Quantities::Es},  {Text6, &Quantities::RL2}, {Text9, &Quantities::RL1},
 });
 
-// Slots of the sheet's own; the frame has the rest. Most fields have nothing to do when they are left.
+// Slots of the sheet's own; the frame has the rest.
 inline constexpr auto ownSlots = std::to_array<host::SlotRow>({
     {host::noControl, host::Event::load,      host::slot<&Form13::load>},
     {host::noControl, host::Event::activate,  host::slot<&Form13::activate>},
@@ -153,14 +153,6 @@ inline constexpr auto ownSlots = std::to_array<host::SlotRow>({
     {Text11,          host::Event::click,     host::slot<&Form13::clickRLw>},
     {Text11,          host::Event::key,       host::slot<&Form13::keyRLw>},
     {Text11,          host::Event::lostFocus, host::slot<&Form13::leaveRLw>},
-    // tested when the next field gets the focus
-    {Text1,           host::Event::lostFocus, nullptr},
-    {Text2,           host::Event::lostFocus, nullptr},
-    {Text3,           host::Event::lostFocus, nullptr},
-    {Text5,           host::Event::lostFocus, nullptr},
-    {Text6,           host::Event::lostFocus, nullptr},
-    {Text8,           host::Event::lostFocus, nullptr},
-    {Text9,           host::Event::lostFocus, nullptr},
 });
 // clang-format on
 inline constexpr auto slots = sheets::sheetSlots<Form13, tools>(chain, ownSlots);

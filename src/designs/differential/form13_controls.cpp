@@ -126,7 +126,8 @@ constexpr auto controls = std::to_array<ControlRow>({
     label(Label28, "Label28", zones::nextStep, Look::hint),
 
     hidden(label(Label34, "Label34", at(8, 508, 220, 50), Look::lesson)),
-    hidden(label(Label18, "Label18", at(772, 558, 180, 30), Look::toolButton)),
+    hidden({.id = Label18, .name = "Label18", .kind = Kind::label, .place = at(772, 558, 180, 30),
+            .meaning = {"Diseñar la fuente en otra ventana", "Design the source in another window"}, .look = Look::toolButton}),
     {.id = SSCommand1, .name = "SSCommand1", .kind = Kind::button, .place = viewButton,
      .meaning = {"El circuito completo, ó su versión con espejo", "The full circuit, or its version with a mirror"}},
 
