@@ -46,24 +46,32 @@ class Design:
         self.expect("Label17.caption", "Eres1= " + shown(self.ERes) + " V")
         self.expect("Label12.caption", "Res1= " + shown(self.ERes) + " K")
         self.Vg = self.enter("Text2", "Vg", 1000.0)
+        self.Eopp = float(self.entries.get("Eopp", "3"))
+        if "Ein" in self.entries:
+            self.Eopp = ((self.Vg * float(self.entries["Ein"])) * 1.41) * 2
+        self.ERL2 = 0.5 * (4 * self.ERes)
+        goes_on = self.ERL2 < self.Eopp / 2
+        if goes_on:
+            self.ERL2 = self.Eopp / 2
+            print("answer no")
         if "Ein" in self.entries:
             print("clear\nenter Text3")
-            self.Ein = self.enter("Text4", "Ein", 0.0)
-            self.Eopp = ((self.Vg * self.Ein) * 1.41) * 2
+            self.enter("Text4", "Ein", 0.0)
         else:
-            self.Eopp = self.enter("Text3", "Eopp", 3.0)
+            self.enter("Text3", "Eopp", 3.0)
+        if goes_on:
+            print("expect-box * * 308")
         self.supply()
 
     def supply(self):
         self.expect("Label19.caption", "Ein = " + shown(((self.Eopp / self.Vg) / 2) * 0.707) + " Vef")
         RL2Start = 4 * self.ERes
         self.Res34 = max(1, round(self.ERes))
-        ERL2 = 0.5 * RL2Start
         self.EQmin = self.Eopp + 1
-        EsMin = (ERL2 + self.ERes) + self.EQmin
+        EsMin = (self.ERL2 + self.ERes) + self.EQmin
         for label in ("Label5", "Label8"):
             self.expect(label + ".caption", "RL2= " + shown(RL2Start) + " K")
-        self.expect("Label9.caption", "ERL2= " + shown(ERL2) + " V")
+        self.expect("Label9.caption", "ERL2= " + shown(self.ERL2) + " V")
         self.expect("Label14.caption", " EQ4 = " + shown(self.EQmin) + " V")
         self.expect("Label15.caption", " EQ3 = " + shown(self.EQmin) + " V")
         self.expect("Label23.caption", "Eopp = " + shown(self.Eopp) + " Vpp\nEo(r.m.s.) = " +

@@ -65,20 +65,21 @@ void Form13::load()
     setPlaceOf(image2, {pictureLeft, 0, mirrorWidth, pictureHeight});
 }
 
-// The texts come first: the field then says what it wants.
+// The greeting stands until the field says what it wants, which it does only when it was not in hand already; the boxes are
+// written last, since the field that is left fills them too.
 void Form13::activate()
 {
     frameActivate();
     host().values().TemperaturaCompartida = differential::startTemperature;
     host().Hide("Form16");
+    write(Label25, texts::beginning);
+    show(Text1);
+    host().SetFocus(*this, Text1);
     write(SSCommand1, visible(Image1) ? texts::viewMirror : texts::viewCircuit);
     write(Label18, texts::sourceDoor);
-    write(Label25, texts::beginning);
     write(Label26, texts::data);
     write(Label27, texts::considerations);
     write(Label6, texts::heading);
-    show(Text1);
-    host().SetFocus(*this, Text1);
 }
 
 void Form13::opened()
