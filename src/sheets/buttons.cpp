@@ -136,6 +136,15 @@ void DesignSheet::openHelpBoxes()
     show(sheet_.tools.help.second);
 }
 
+void DesignSheet::openHelpBoxesAt(int left)
+{
+    openHelpBoxes();
+    host::Place place = sheet_.helpBoxes.place;
+    place.left = left;
+    setPlaceOf(sheet_.helpBoxes.spanish, place);
+    setPlaceOf(sheet_.helpBoxes.english, place);
+}
+
 void DesignSheet::closeHelpBoxes()
 {
     hide(sheet_.helpBoxes.spanish, sheet_.helpBoxes.english, sheet_.tools.help.second);

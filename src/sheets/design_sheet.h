@@ -23,6 +23,12 @@ using rules::Real;
 inline constexpr std::int16_t enterKey = 13;
 inline constexpr std::int16_t escapeKey = 27;
 
+/// True for a filtered key that changes the text of its field.
+constexpr bool changesField(std::int16_t filteredKey)
+{
+    return filteredKey != 0 && filteredKey != enterKey && filteredKey != escapeKey;
+}
+
 /// One line of a circuit file. `noControl` is a line that carries no value.
 struct FileLine {
     host::Handle control = host::noControl;
@@ -117,6 +123,7 @@ public:
     void clickReport(); ///< an editor that is open already keeps its text
     void clickClone(host::EventArgs& args);
     void openHelpBoxes();
+    void openHelpBoxesAt(int left); ///< for a sheet that counts the place of its boxes from an edge of the main window
     void closeHelpBoxes();
 
     /// A temperature was converted: the temperature field, if it has the focus, takes it at once.

@@ -30,10 +30,8 @@ using namespace inputs;
 bool Form13::entered(host::EventArgs& args)
 {
     const std::int16_t key = filteredKey(args);
-    if (key == sheets::enterKey)
-        return true;
-    q_.passed = q_.passed && (key == 0 || key == sheets::escapeKey);
-    return false;
+    q_.passed = q_.passed && !sheets::changesField(key);
+    return key == sheets::enterKey;
 }
 
 /// Enter in a field that holds something; an empty one is told so and keeps the focus.

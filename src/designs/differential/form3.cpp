@@ -93,11 +93,7 @@ void Form3::hoverPart(host::EventArgs& args)
 // Right-aligned in the main window, whatever the size of the sheet.
 void Form3::openHelpBoxes()
 {
-    DesignSheet::openHelpBoxes();
-    host::Place place = sheetSpec.helpBoxes.place;
-    place.left = host().clientArea().width - place.width - window_detail::helpMargin;
-    setPlaceOf(Text19, place);
-    setPlaceOf(Text20, place);
+    openHelpBoxesAt(host().clientArea().width - sheetSpec.helpBoxes.place.width - window_detail::helpMargin);
 }
 
 void Form3::clickEnglishHelp()

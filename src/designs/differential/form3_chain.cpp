@@ -41,7 +41,7 @@ bool Form3::entered(host::EventArgs& args)
 {
     const std::int16_t key = filteredKey(args);
     if (key != sheets::enterKey) {
-        q_.passed = q_.passed && (key == 0 || key == sheets::escapeKey);
+        q_.passed = q_.passed && !sheets::changesField(key);
         return false;
     }
     hideNotes();
