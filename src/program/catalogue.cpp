@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "designs/common_emitter/form2.h"
+#include "designs/differential/form12_controls.h"
 #include "designs/differential/form13_controls.h"
 #include "designs/differential/form3_controls.h"
 #include "editors/editor.h"
@@ -35,6 +36,7 @@ host::Catalogue catalogue()
 
         &form3::spec,
         &form13::spec,
+        &form12::spec,
 
         // around them
         &palette::spec,
