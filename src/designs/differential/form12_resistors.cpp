@@ -156,6 +156,7 @@ void Form12::focusRb2()
     }
     if (q_.K != Real(0.0))
         q_.S = 1.0 / q_.K;
+    setText(Label4, "S = " + shown(q_.S));
     setText(Text7, shown(q_.Rb2Calc));
     tellPageOf(Text7);
 }
