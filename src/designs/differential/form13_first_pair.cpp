@@ -10,7 +10,6 @@ using host::Handle;
 
 namespace first_pair {
 
-constexpr double leastGiven = 0.0001; // kohm
 constexpr double leastRes1 = 0.001;
 constexpr double perKilo = 1000.0;
 constexpr double microfarads = 1000000.0;

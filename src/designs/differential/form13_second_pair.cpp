@@ -8,9 +8,7 @@ namespace velmor::form13 {
 
 namespace second_pair {
 
-constexpr double leastGiven = 0.0001; // V or kohm
 constexpr double highestEQ = 50.0;    // V, whatever the transistor
-constexpr int answerYes = 6;
 
 } // namespace second_pair
 
