@@ -51,7 +51,15 @@ struct Form13Finished : Program<form13::Form13> {
     void design()
     {
         using namespace form13;
-        enter({{Text1}, {Text2}, {Text3}, {Text5, "15"}, {Text6, "12"}, {Text7}, {Text8}, {Text9, "12"}, {Text10, "2.7"}});
+        enter({{Text1},
+               {Text2},
+               {Text3},
+               {Text5, "15"},
+               {Text6, "12"},
+               {Text7},
+               {Text8},
+               {Text9, "12"},
+               {Text10, "2.7"}});
     }
 };
 

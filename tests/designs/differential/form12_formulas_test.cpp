@@ -16,7 +16,7 @@ TEST(Form12Formulas, TheSupplyCarriesTwoJunctions)
 
 TEST(Form12Formulas, TheCollectorNeverHasLessThanThreeVolts)
 {
-    EXPECT_DOUBLE_EQ(eqFromEbias(5.2, 2.0).value(), 3.0);  // 2 V
+    EXPECT_DOUBLE_EQ(eqFromEbias(5.2, 2.0).value(), 3.0); // 2 V
     EXPECT_DOUBLE_EQ(eqFromEbias(6.25, 2.0).value(), 3.05);
     EXPECT_DOUBLE_EQ(eqFromEbias(0.0, 2.0).value(), 3.0);
 }
