@@ -128,6 +128,9 @@ inline constexpr auto ownSlots = std::to_array<host::SlotRow>({
     {Text10,          host::Event::click,     host::slot<&Form12::clickAnalysis>},
 });
 // clang-format on
+/// What a box returns that is answered OK.
+inline constexpr int answerOk = 1;
+
 /// Fields whose click writes a value.
 inline constexpr auto clicked = std::to_array<host::Handle>({Text2, Text3, Text9, Text4, Text5, Text6, Text7});
 inline constexpr auto slots = sheets::sheetSlots<Form12, tools>(

@@ -37,10 +37,12 @@ void Form12::tellAnalysis()
                           words(texts::analysisEnd));
 }
 
-// Enter has nothing to go on to: a click begins anew.
+// Enter has nothing to go on to, and rewrites nothing: a click begins anew.
 void Form12::keyAnalysis(host::EventArgs& args)
 {
-    entered(args);
+    const std::int16_t key = filteredKey(args);
+    if (key == sheets::enterKey && isEmpty(Text10))
+        tell(Text10, sheets::When::empty);
 }
 
 void Form12::clickAnalysis()

@@ -85,11 +85,11 @@ constexpr auto controls = std::to_array<ControlRow>({
     stroke(Shape24, "Shape24", drawings::shape24),
 
     hidden(result(Label1, "Label1", at(462, 316, 96, 20))),
-    hidden(result(Label2, "Label2", at(640, 316, 100, 20))),
+    hidden(result(Label2, "Label2", at(676, 302, 100, 20))),
     hidden(result(Label3, "Label3", at(546, 512, 130, 20))),
-    hidden(result(Label4, "Label4", at(340, 360, 80, 20))),
+    hidden(result(Label4, "Label4", at(342, 346, 80, 20))),
     hidden(result(Label5, "Label5", at(462, 346, 60, 20))),
-    hidden(result(Label6, "Label6", at(640, 410, 110, 20))),
+    hidden(result(Label6, "Label6", at(664, 401, 110, 20))),
     hidden(label(Label7, "Label7", at(16, 406, 204, 20), Look::heading)),
 
     given(Text1, "Text1", 0, "  QIc", notation::QIc),
@@ -108,7 +108,7 @@ constexpr auto controls = std::to_array<ControlRow>({
 
     {.id = Label8, .name = "Label8", .kind = Kind::label, .place = zones::voice, .look = Look::prompt, .overlay = true},
     label(Label9, "Label9", zones::nextStep, Look::hint),
-    {.id = SSPanel1, .name = "SSPanel1", .kind = Kind::panel, .place = page, .look = Look::lesson, .fontSize = 11},
+    {.id = SSPanel1, .name = "SSPanel1", .kind = Kind::panel, .place = page, .look = Look::lesson},
 
     cloneTool(Image3, "Image3"),
     cloneToolAgain(Image4, "Image4"),

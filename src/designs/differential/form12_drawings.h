@@ -58,7 +58,8 @@ inline constexpr auto shape5 = onPaper({Mark{.symbol = Symbol::terminal, .from =
                                         {.symbol = Symbol::terminal, .from = {710, 200}}});
 inline constexpr auto shape6 = onPaper({node(590, 240)});
 inline constexpr auto shape7 = onPaper({Mark{.symbol = Symbol::text, .from = {590, 118},
-    .note = {"amplificador diferencial a alimentar", "differential amplifier to feed"}, .side = Side::above, .ink = Ink::quiet, .size = 84}});
+    .note = {"amplificador diferencial a alimentar", "differential amplifier to feed"}, .side = Side::above, .ink = Ink::quiet,
+            .size = 84}});
 
 // the divider
 inline constexpr auto line14  = onPaper({wire(380, 220, 440, 220)});
@@ -90,13 +91,16 @@ inline constexpr auto shape16 = onPaper({Mark{.symbol = Symbol::resistor, .from 
 inline constexpr auto shape17 = onPaper({Mark{.symbol = Symbol::terminal, .from = {520, 520}, .name = "-E_bias", .side = Side::left,
                                               .field = Text9}});
 inline constexpr auto shape18 = onPaper({node(520, 490)});
-inline constexpr auto shape19 = onPaper({Mark{.symbol = Symbol::arrow, .from = {626, 284}, .to = {626, 336}, .name = "E_q",
-                                              .side = Side::none, .field = Text3}});
+inline constexpr auto shape19 = onPaper({Mark{.symbol = Symbol::arrow, .from = {644, 284}, .to = {644, 336}, .name = "E_q",
+                                              .side = Side::right, .field = Text3}});
 
 // the analysis: the drops that make up Ebias, beside the parts and as a ladder
-inline constexpr auto line16  = onPaper({Mark{.symbol = Symbol::arrow, .from = {464, 396}, .to = {464, 444}, .name = "I_bias", .side = Side::right}});
-inline constexpr auto line35  = onPaper({Mark{.symbol = Symbol::arrow, .from = {464, 236}, .to = {464, 284}, .name = "E_b", .side = Side::right}});
-inline constexpr auto line36  = onPaper({Mark{.symbol = Symbol::arrow, .from = {614, 386}, .to = {614, 434}, .name = "E_Res", .side = Side::none}});
+inline constexpr auto line16  = onPaper({Mark{.symbol = Symbol::arrow, .from = {464, 396}, .to = {464, 444}, .name = "I_bias",
+        .side = Side::right}});
+inline constexpr auto line35  = onPaper({Mark{.symbol = Symbol::arrow, .from = {464, 236}, .to = {464, 284}, .name = "E_b",
+        .side = Side::right}});
+inline constexpr auto line36  = onPaper({Mark{.symbol = Symbol::arrow, .from = {614, 386}, .to = {614, 434}, .name = "E_Res",
+        .side = Side::right}});
 inline constexpr auto line37  = onPaper({wire(780, 220, 800, 220)});
 inline constexpr auto line38  = onPaper({wire(780, 240, 800, 240)});
 inline constexpr auto line39  = onPaper({wire(780, 340, 800, 340)});

@@ -7,7 +7,7 @@ namespace velmor::form12 {
 namespace formulas_detail {
 
 constexpr double twoJunctions = 1.2;
-constexpr double leastEq = 3.0;
+constexpr double lowestEq = 3.0;
 
 } // namespace formulas_detail
 
@@ -21,7 +21,7 @@ Real eBiasOf(Real Eq, Real Eb)
 Real eqFromEbias(Real Ebias, Real Eb)
 {
     const Real Eq = Ebias - (twoJunctions + Eb);
-    return Eq < leastEq ? Real(leastEq) : Eq;
+    return Eq < lowestEq ? Real(lowestEq) : Eq;
 }
 
 Real lowerDrop(Real Ebias, Real Eb)

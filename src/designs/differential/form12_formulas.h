@@ -12,27 +12,27 @@ using rules::Real;
 
 /// The working numbers of one sheet. Each keeps its last value between events.
 struct Quantities {
-    Real QIc;            ///< current wanted, then the one that Res gives, mA
-    Real Eb;             ///< voltage over Rb1, V
-    Real Eq;             ///< collector voltage of the source, V
-    Real Ebias;          ///< negative supply, V, as a positive number
-    Real Res;            ///< kohm
-    Real K;              ///< Ibias as a part of QIc
-    Real Rb1;            ///< kohm
-    Real Rb2;            ///< kohm
-    Real EbiasCalc;      ///< V
-    Real ResCalc;        ///< kohm
-    Real S;              ///< stability, 1 / K
-    Real Ibias;          ///< mA
-    Real Rb1Calc;        ///< kohm
-    Real Rb2Calc;        ///< kohm
-    Real IbiasRb1;       ///< mA
-    Real IbiasRb2;       ///< mA
-    Real QIcRef;         ///< mA
-    Real EbAnalysis;     ///< what the commercial values really give, V
-    Real QIcAnalysis;    ///< mA
-    Real EResAnalysis;   ///< V
-    Real EqAnalysis;     ///< V
+    Real QIc;                  ///< current wanted, then the one that Res gives, mA
+    Real Eb;                   ///< voltage over Rb1, V
+    Real Eq;                   ///< collector voltage of the source, V
+    Real Ebias;                ///< negative supply, V, as a positive number
+    Real Res;                  ///< kohm
+    Real K;                    ///< Ibias as a part of QIc
+    Real Rb1;                  ///< kohm
+    Real Rb2;                  ///< kohm
+    Real EbiasCalc;            ///< V
+    Real ResCalc;              ///< kohm
+    Real S;                    ///< stability, 1 / K
+    Real Ibias;                ///< mA
+    Real Rb1Calc;              ///< kohm
+    Real Rb2Calc;              ///< kohm
+    Real IbiasRb1;             ///< mA
+    Real IbiasRb2;             ///< mA
+    Real QIcRef;               ///< mA
+    Real EbAnalysis;           ///< what the commercial values really give, V
+    Real QIcAnalysis;          ///< mA
+    Real EResAnalysis;         ///< V
+    Real EqAnalysis;           ///< V
     bool biasAccepted = false; ///< Rb2 was left without a warning
     bool passed = false;       ///< the design has come to its end without a warning and stands as it was then
 };

@@ -13,7 +13,6 @@ constexpr double startCurrent = 1.0; // mA
 constexpr double highestQIc = 40.0;  // mA, 40 % of what a usual transistor supports
 constexpr double leastEq = 2.0;
 constexpr std::int16_t largeLetters = 12;
-constexpr int answerOk = 1;
 
 } // namespace needs
 

@@ -17,7 +17,6 @@ constexpr double leastRb1 = 1e-05; // kohm
 constexpr double leastQIc = 0.2;   // mA
 constexpr double usualK = 0.5;
 constexpr std::int16_t smallLetters = 9;
-constexpr int answerOk = 1;
 
 } // namespace resistors
 

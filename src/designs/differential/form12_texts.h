@@ -29,7 +29,8 @@ inline constexpr auto sayings = std::to_array<Saying>({
                                   "QIc: the current that the differential amplifier asks for, in mA."}},
     {Text1, When::focus, Label9, {"De 0.1 mA hasta el 40 % de lo que soporta el transistor.",
                                   "From 0.1 mA to 40 % of what the transistor supports."}},
-    {Text2, When::focus, SSPanel1, {" Elegir una tensión de base superior a 2 Volts\n (asegurandonos asi la mejor estabilidad para el circuito) ",
+    {Text2, When::focus, SSPanel1, {" Elegir una tensión de base superior a 2 Volts\n"
+                                  " (asegurandonos asi la mejor estabilidad para el circuito) ",
                                     " To choose a voltage of Base,  2V high too\n (this way is the best stability for the circuit)"}},
     {Text2, When::focus, Label8, {"Eb: tensión de base del transistor de fuente, sobre Rb1, en Volts.",
                                   "Eb: base voltage of the source transistor, over Rb1, in Volts."}},
@@ -53,7 +54,8 @@ inline constexpr auto sayings = std::to_array<Saying>({
                                   "Res: emitter resistor, in Kohms. Place the nearest commercial value."}},
     {Text4, When::focus, Label9, {"Con el valor comercial el programa calcula de nuevo QIc. Botón derecho: valores comerciales.",
                                   "With the commercial value the program works QIc out anew. Right button: commercial values."}},
-    {Text5, When::focus, Label8, {"K: qué parte de QIc circula por el divisor de base.", "K: what part of QIc flows in the divider of the base."}},
+    {Text5, When::focus, Label8, {"K: qué parte de QIc circula por el divisor de base.",
+                                  "K: what part of QIc flows in the divider of the base."}},
     {Text5, When::focus, Label9, {"De 0.3 a 1. Cuanto mayor K, menor S: más estable, y más corriente perdida.",
                                   "From 0.3 to 1. The larger K, the smaller S: more stable, and more current lost."}},
     {Text6, When::focus, Label8, {"Rb1: resistor superior del divisor, en Kohms.", "Rb1: upper resistor of the divider, in Kohms."}},
@@ -64,7 +66,8 @@ inline constexpr auto sayings = std::to_array<Saying>({
                                   "With Enter the program analyses what the commercial values give. Right button: commercial values."}},
     {Text10, When::focus, Label8, {"El análisis: lo que la fuente entrega con los valores comerciales.",
                                    "The analysis: what the source gives with the commercial values."}},
-    {Text10, When::focus, Label9, {"Click ó F3 en este cuadro: el diseño comienza de nuevo.", "Click or F3 on this field: the design starts over."}},
+    {Text10, When::focus, Label9, {"Click ó F3 en este cuadro: el diseño comienza de nuevo.",
+                                   "Click or F3 on this field: the design starts over."}},
 });
 
 // Pages that carry what has been worked out.
@@ -79,11 +82,11 @@ inline constexpr BiText rb1Page{"El valor de estabilidad es:\n                 S
 inline constexpr BiText rb1Asks{"\n Asigne un valor comercial a Rb1...\n     Rb1 = Eb / Ibias =  ",
                                 "\n Assigns a commercial value at Rb1...\n     Rb1 = Eb / Ibias =  "};
 inline constexpr BiText rb1Diode{"  Kohms \n"
-                                 " Es conveniente reemplazar el diodo D1  por un transistor de las mismas características, uniendo el Colector "
-                                 "con la Base...\n          Tensión en D1 = 0.6 V",
+                                 " Es conveniente reemplazar el diodo D1  por un transistor de las mismas características, "
+                                 "uniendo el Colector con la Base...\n          Tensión en D1 = 0.6 V",
                                  "  Kohms \n"
-                                 " Is convenient to replace the diode D1  for a transistor of the same characteristics, uniting the Collector "
-                                 "with the Base...\n          Voltage in D1 = 0.6 V"};
+                                 " Is convenient to replace the diode D1  for a transistor of the same characteristics, "
+                                 "uniting the Collector with the Base...\n          Voltage in D1 = 0.6 V"};
 inline constexpr BiText rb2Page = same("       Rb2 = ( Ebias - (Eb + EQ) ) / Ibias  ");
 inline constexpr BiText rb2Asks{"\n Asigne un valor comercial...\n"
                                 " El programa realiza un análisis de funcionamiento de acuerdo a los valores de resistores y tensiones "

@@ -28,8 +28,8 @@ struct Moved {
     int mirrorTop = -1;
 };
 constexpr Moved moved[] = {
-    {Label2, 1380, -1, 1580, -1},       {Label3, 1380, -1, 1580, -1},         {Label12, 8050, 3050, 7900, 3200},
-    {Label4, 1750, -1, 1890, -1},       {Label33, 7550, 2500, 7270, 2740},    {Label24, -1, 2680, -1, 2880},
+    {Label2, 1380, -1, 1580, -1}, {Label3, 1380, -1, 1580, -1},      {Label12, 8050, 3050, 7900, 3200},
+    {Label4, 1750, -1, 1890, -1}, {Label33, 7550, 2500, 7270, 2740}, {Label24, -1, 2680, -1, 2880},
 };
 
 /// Parts that each picture has in its own way.
@@ -114,8 +114,8 @@ void Form13::put(Handle label, const std::string& caption)
 
 void Form13::clickBox(host::EventArgs& args)
 {
-    const auto* box = std::find_if(std::begin(boxes), std::end(boxes),
-                                   [&](const Box& row) { return row.box == args.control; });
+    const auto* box =
+        std::find_if(std::begin(boxes), std::end(boxes), [&](const Box& row) { return row.box == args.control; });
     host::Place place = placeOf(args.control);
     place.height = place.height == lowBox ? box->high : lowBox;
     setPlaceOf(args.control, place);

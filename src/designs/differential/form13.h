@@ -102,6 +102,12 @@ inline constexpr auto chain = std::to_array<sheets::ChainRow>({
     {Text8, Text9}, {Text9, Text10}, {Text10, Text11}, {Text11},
 });
 
+/// The least supply (V) and the least resistor (kohm) that are accepted.
+inline constexpr double leastGiven = 0.0001;
+
+/// What a box returns that is answered Yes.
+inline constexpr int answerYes = 6;
+
 /// What Enter reads: the working number of a field.
 struct Given {
     host::Handle field = host::noControl;

@@ -22,7 +22,8 @@ inline constexpr host::Place paper = sheets::at(236, 94, 722, 518);
 
 constexpr Mark titleMark(host::BiText title)
 {
-    return {.symbol = Symbol::text, .from = {714, 505}, .note = title, .side = Side::left, .ink = Ink::quiet, .size = 80};
+    return {
+        .symbol = Symbol::text, .from = {714, 505}, .note = title, .side = Side::left, .ink = Ink::quiet, .size = 80};
 }
 
 // clang-format off
@@ -37,6 +38,7 @@ inline constexpr auto secondPair = part({
     wire(650, 300, 650, 310),
     wire(470, 310, 650, 310),
     node(560, 310),
+    {.symbol = Symbol::text, .from = {530, 297}, .name = "mA", .size = 90},
     {.symbol = Symbol::resistor, .from = {560, 310}, .to = {560, 370}, .name = "R_es", .side = Side::left, .field = Text7},
     ground(560, 370),
 });
@@ -85,6 +87,7 @@ inline constexpr auto follower = part({
     wire(820, 130, 820, 190),
     wire(820, 250, 820, 270),
     node(820, 260),
+    {.symbol = Symbol::text, .from = {892, 235}, .name = "mA", .size = 90},
     {.symbol = Symbol::resistor, .from = {820, 270}, .to = {820, 330}, .name = "R_es1", .side = Side::right, .field = Text10},
     wire(820, 330, 820, 370),
     ground(820, 370),

@@ -10,7 +10,6 @@ using host::Handle;
 
 namespace first_pair {
 
-constexpr double leastGiven = 0.0001; // kohm
 constexpr double leastRes1 = 0.001;
 constexpr double perKilo = 1000.0;
 constexpr double microfarads = 1000000.0;
@@ -66,8 +65,9 @@ void Form13::takeGain()
 
 void Form13::tellGain()
 {
-    setText(Label29, "QIc(1-2) = ERL1 / RL1\nRLac = RL1 // (200 x r'e(3-4))\nVg(1-2) = RLac / (1.25 x r'e)\n     Zin1 = " +
-                         shown(q_.ZinAlt) + " ohms");
+    setText(Label29,
+            "QIc(1-2) = ERL1 / RL1\nRLac = RL1 // (200 x r'e(3-4))\nVg(1-2) = RLac / (1.25 x r'e)\n     Zin1 = " +
+                shown(q_.ZinAlt) + " ohms");
     explain(Text10, "QIc(1-2) = " + shown(q_.QIc12) + " mA\nr'e = " + shown(q_.ReQ12) + " ohms\nVg(1-2) = " +
                         shown(q_.VgQ12) + "\nVg(3-4) = " + shown(q_.VgQ34) + "\nVg = " + whole(q_.VgTotal));
     put(Label4, shown(q_.QIc12) + "\nmA");

@@ -13,7 +13,7 @@ namespace formulas_detail {
 
 constexpr double Vj = 0.6;
 constexpr double Beta = 100.0;
-constexpr double perKilo = 1000.0;
+constexpr double ohmsPerKilohm = 1000.0;
 
 } // namespace formulas_detail
 
@@ -71,7 +71,7 @@ Real s5Of(Real RL2, Real Res34)
 
 Real vgQ34Of(Real RL2, Real ReQ34)
 {
-    return (RL2 * perKilo) / (2.5 * ReQ34);
+    return (RL2 * ohmsPerKilohm) / (2.5 * ReQ34);
 }
 
 Real inputOfEmitter(Real Res)
@@ -96,7 +96,7 @@ Real inputOfPair(Real Re)
 
 Real rlac12Of(Real RL1, Real ZinQ34)
 {
-    return sheets::parallel(RL1 * perKilo, ZinQ34);
+    return sheets::parallel(RL1 * ohmsPerKilohm, ZinQ34);
 }
 
 Real vgQ12Of(Real RLac12, Real ReQ12)

@@ -13,46 +13,46 @@ using rules::Real;
 
 /// The working numbers of one sheet. Each keeps its last value between events.
 struct Quantities {
-    Real T;           ///< ambient temperature, degrees Celsius
-    Real Vg;          ///< total voltage gain wanted
-    Real Eopp;        ///< output peak to peak, V
-    Real Ein;         ///< input, V r.m.s.
-    Real Es;          ///< supply, V
-    Real RL2;         ///< collector resistor of Q3-4, kohm
-    Real Res;         ///< emitter resistor of Q3-4, whole kohm; from Res1 on the start value ERes / 1 mA
-    Real RL1;         ///< collector resistor of Q1-2, kohm
-    Real Res1;        ///< emitter resistor of Q5, kohm
-    Real RLw;         ///< load beside Res1, kohm
-    Real ERes;        ///< V
-    Real QIc34;       ///< mA; 0.5 to begin with
-    Real RL2Start;    ///< kohm
-    Real Res34;       ///< whole kohm
-    Real ERL2;        ///< V
-    Real EQ34Min;     ///< V
-    Real EsMin2;      ///< V
-    Real ERL2New;     ///< V
-    Real RL2Calc;     ///< kohm
-    Real EQ34;        ///< V
-    Real ReQ34;       ///< r'e of Q3-4, ohm
+    Real T;        ///< ambient temperature, degrees Celsius
+    Real Vg;       ///< total voltage gain wanted
+    Real Eopp;     ///< output peak to peak, V
+    Real Ein;      ///< input, V r.m.s.
+    Real Es;       ///< supply, V
+    Real RL2;      ///< collector resistor of Q3-4, kohm
+    Real Res;      ///< emitter resistor of Q3-4, whole kohm; from Res1 on the start value ERes / 1 mA
+    Real RL1;      ///< collector resistor of Q1-2, kohm
+    Real Res1;     ///< emitter resistor of Q5, kohm
+    Real RLw;      ///< load beside Res1, kohm
+    Real ERes;     ///< V
+    Real QIc34;    ///< mA; 0.5 to begin with
+    Real RL2Start; ///< kohm
+    Real Res34;    ///< whole kohm
+    Real ERL2;     ///< V
+    Real EQ34Min;  ///< V
+    Real EsMin2;   ///< V
+    Real ERL2New;  ///< V
+    Real RL2Calc;  ///< kohm
+    Real EQ34;     ///< V
+    Real ReQ34;    ///< r'e of Q3-4, ohm
     Real VgQ34;
-    Real ZinRes;      ///< kohm
-    Real EQ12;        ///< V
-    Real ERL1;        ///< V
-    Real RL1Calc;     ///< kohm
-    Real QIc12;       ///< mA
-    Real ReQ12;       ///< r'e of Q1-2, ohm
-    Real ZinQ34;      ///< ohm
-    Real ZinAlt;      ///< ohm
-    Real RLac12;      ///< ohm
+    Real ZinRes;  ///< kohm
+    Real EQ12;    ///< V
+    Real ERL1;    ///< V
+    Real RL1Calc; ///< kohm
+    Real QIc12;   ///< mA
+    Real ReQ12;   ///< r'e of Q1-2, ohm
+    Real ZinQ34;  ///< ohm
+    Real ZinAlt;  ///< ohm
+    Real RLac12;  ///< ohm
     Real VgQ12;
     Real VgTotal;
-    Real ERes1;       ///< V
-    Real QIc5;        ///< mA
-    Real EQ5;         ///< V
-    Real Rb1;         ///< ohm
-    Real C1;          ///< F
-    Real ZinQ5;       ///< kohm
-    Real Res1Par;     ///< kohm
+    Real ERes1;          ///< V
+    Real QIc5;           ///< mA
+    Real EQ5;            ///< V
+    Real Rb1;            ///< ohm
+    Real C1;             ///< F
+    Real ZinQ5;          ///< kohm
+    Real Res1Par;        ///< kohm
     bool passed = false; ///< the design has come to its end without a warning and stands as it was then
 };
 

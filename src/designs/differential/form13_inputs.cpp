@@ -17,7 +17,6 @@ constexpr double leastVg = 1000.0;
 constexpr double largestEopp = 1000.0;
 constexpr double noEopp = 0.001;
 constexpr double noEin = 1e-06;
-constexpr int answerYes = 6;
 constexpr int leftOfLabel14 = 3720;
 
 } // namespace inputs

@@ -8,9 +8,7 @@ namespace velmor::form13 {
 
 namespace second_pair {
 
-constexpr double leastGiven = 0.0001; // V or kohm
-constexpr double highestEQ = 50.0;    // V, whatever the transistor
-constexpr int answerYes = 6;
+constexpr double highestEQ = 50.0; // V, whatever the transistor
 
 } // namespace second_pair
 
@@ -99,8 +97,9 @@ void Form13::tellSecondPair()
     q_.EQ12 = eq12Of(q_.ERes);
     q_.RL1Calc = rl1Of(q_.Res);
     q_.ERL1 = q_.Es - q_.EQ12;
-    explain(Text8, "S (Q5) = " + shown(s5Of(q_.RL2, q_.Res34)) + "\nQIc(3-4) = " + shown(q_.QIc34) + " mA\nr'e = " +
-                       shown(q_.ReQ34) + " ohms\nVg(3-4) = " + shown(q_.VgQ34) + "\nEQ(3-4) = " + shown(q_.EQ34) + " V");
+    explain(Text8, "S (Q5) = " + shown(s5Of(q_.RL2, q_.Res34)) + "\nQIc(3-4) = " + shown(q_.QIc34) +
+                       " mA\nr'e = " + shown(q_.ReQ34) + " ohms\nVg(3-4) = " + shown(q_.VgQ34) +
+                       "\nEQ(3-4) = " + shown(q_.EQ34) + " V");
     put(Label9, "ERL2= " + shown(q_.ERL2) + " V");
     put(Label14, "EQ4 = " + shown(q_.EQ34) + " V");
     put(Label15, "EQ3 = " + shown(q_.EQ34) + " V");

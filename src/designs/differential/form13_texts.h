@@ -40,11 +40,13 @@ inline constexpr auto sayings = std::to_array<Saying>({
     {Text3, When::focus, Label29, same("Ein = ((Eopp / Vg) / 2) x 0.707")},
     {Text3, When::focus, Label27, {"Si conoce la entrada y no la salida, deje el cuadro vacío: con Enter el programa pide Ein.",
                                    "If you know the input and not the output, leave the field empty: Enter asks for Ein."}},
-    {Text3, When::focus, Label25, {"  Cual es la señal pico a pico de salida, (Eopp)..?", " Which is the out - sign,  peak  to peak, (Eopp)..?"}},
+    {Text3, When::focus, Label25, {"  Cual es la señal pico a pico de salida, (Eopp)..?",
+                                   " Which is the out - sign,  peak  to peak, (Eopp)..?"}},
     {Text3, When::focus, Label28, {"Eopp: señal de salida pico a pico, de 0 a 1000 V. Vacío: no se conoce.",
                                    "Eopp: output signal peak to peak, from 0 to 1000 V. Empty: it is not known."}},
     {Text4, When::focus, Label29, same("Eopp = ((Vg x Ein) x 1.41) x 2")},
-    {Text4, When::focus, Label27, {"La salida resulta de la entrada y de la ganancia pedida.", "The output follows from the input and the gain asked for."}},
+    {Text4, When::focus, Label27, {"La salida resulta de la entrada y de la ganancia pedida.",
+                                   "The output follows from the input and the gain asked for."}},
     {Text4, When::focus, Label25, {" Coloque el valor de la señal de entrada en valor eficaz...",
                                    "Places the value of the entrance sign in  r.m.s...."}},
     {Text4, When::focus, Label28, {"Ein: señal de entrada, en Volts eficaces.", "Ein: input signal, in Volts r.m.s."}},
@@ -134,8 +136,10 @@ inline constexpr Saying highCurrent{
               "High current.., high voltage in RL2.., minus voltage EQ!!"},
     .flags = 48};
 inline constexpr Saying heavyLoad{
-    .text  = {"La resistencia estática de entrada del circuito, influye sobre la corriente de colector del diferencial que lo alimenta... ",
-              "The static resistance of entrance of the circuit, influences on the current of collector of the differential that feeds him... "},
+    .text  = {"La resistencia estática de entrada del circuito, influye sobre la corriente de colector del diferencial "
+              "que lo alimenta... ",
+              "The static resistance of entrance of the circuit, influences on the current of collector of "
+              "the differential that feeds him... "},
     .title = {"Eleve el valor de RLw o diseñe un nuevo circuito... ", " Elevates the value of RLw or design a new circuit... "},
     .flags = 48};
 
