@@ -25,11 +25,16 @@ inline constexpr Quantity Ein {"E_in",  "V rms", {"Tensión eficaz de entrada", 
 inline constexpr Quantity Po  {"P_o",   "W",     {"Potencia eficaz de salida", "Output power, r.m.s."}};
 // transistor
 inline constexpr Quantity Beta {"β",        "",   {"Ganancia de corriente del transistor, hFE", "Current gain of the transistor, hFE"}};
+inline constexpr Quantity Beta1{"β_1",      "",   {"Ganancia de corriente de Q1, hFE", "Current gain of Q1, hFE"}};
+inline constexpr Quantity Beta2{"β_2",      "",   {"Ganancia de corriente de Q2, hFE", "Current gain of Q2, hFE"}};
+inline constexpr Quantity Beta3{"β_3",      "",   {"Ganancia de corriente de Q3, hFE", "Current gain of Q3, hFE"}};
 inline constexpr Quantity EcMax{"E_c(max)", "V",  {"Tensión máxima Colector - Emisor", "Maximum Collector - Emitter voltage"}};
 inline constexpr Quantity IcMax{"I_c(max)", "mA", {"Corriente máxima de colector", "Maximum collector current"}};
 inline constexpr Quantity Vj   {"V_j",      "V",  {"Tensión de juntura, Silicio o Germanio", "Junction voltage, Silicon or Germanium"}};
 // currents and voltages
 inline constexpr Quantity QIc  {"Q_Ic",    "mA", {"Corriente de reposo de colector", "Quiescent collector current"}};
+inline constexpr Quantity QIc2 {"Q_Ic2",   "mA", {"Corriente de reposo de Q2", "Quiescent current of Q2"}};
+inline constexpr Quantity QIc3 {"Q_Ic3",   "mA", {"Corriente de reposo de Q3", "Quiescent current of Q3"}};
 inline constexpr Quantity Es   {"E_s",     "V",  {"Tensión de la fuente de alimentación", "Supply voltage"}};
 inline constexpr Quantity Ebias{"-E_bias", "V",  {"Fuente negativa", "Negative supply"}};
 inline constexpr Quantity EsNegative{"-E_s", "V", {"Fuente negativa de emisor", "Negative emitter supply"}};
@@ -40,22 +45,25 @@ inline constexpr Quantity Res{"R_es", "Ω",  {"Resistor de emisor", "Emitter res
 inline constexpr Quantity RL {"R_L",  "kΩ", {"Resistor de colector", "Collector resistor"}};
 inline constexpr Quantity RLw{"R_Lw", "kΩ", {"Resistencia de carga", "Load resistance"}};
 inline constexpr Quantity Rb1{"R_b1", "kΩ", {"Preset, resistor superior de base", "Preset, upper base resistor"}};
+inline constexpr Quantity Rb1a{"R_b1a", "kΩ", {"Parte fija de Rb1", "Fixed part of Rb1"}};
+inline constexpr Quantity Rb1b{"R_b1b", "kΩ", {"Preset, parte variable de Rb1", "Preset, variable part of Rb1"}};
 inline constexpr Quantity Rb2{"R_b2", "kΩ", {"Resistor inferior de base", "Lower base resistor"}};
 inline constexpr Quantity Rg {"R_g",  "kΩ", {"Resistencia del generador", "Resistance of the generator"}};
+inline constexpr Quantity Rs {"R_s",  "kΩ", {"Resistor en serie con la entrada", "Resistor in series with the input"}};
 inline constexpr Quantity Cbp{"C_bp", "",   {"Capacitor de desacople de emisor", "Emitter bypass capacitor"}};
 
 /// All of them: what is measured on a sheet is measured under one of these symbols.
 inline constexpr auto all = std::to_array<Quantity>({
     dQIc, T, dVbe, S,
     Vg, fo, Eopp, Ein, Po,
-    Beta, EcMax, IcMax, Vj,
-    QIc, Es, Ebias, EsNegative, Eq, ERes,
-    Res, RL, RLw, Rb1, Rb2, Rg, Cbp,
+    Beta, Beta1, Beta2, Beta3, EcMax, IcMax, Vj,
+    QIc, QIc2, QIc3, Es, Ebias, EsNegative, Eq, ERes,
+    Res, RL, RLw, Rb1, Rb1a, Rb1b, Rb2, Rg, Rs, Cbp,
 });
 
 /// Names on a drawing that no field measures: parts, and what is worked out beside them.
 inline constexpr auto partNames = std::to_array<std::string_view>({
-    "Q_1", "Q_2", "C_in", "C_out", "r'_e", "E_RL", "E_Rb1", "E_d",
+    "Q_1", "Q_2", "Q_3", "C_in", "C_out", "C_bp1", "R_La", "R_Lb", "Q_Ic1", "r'_e", "E_g", "E_RL", "E_Rb1", "E_d",
 });
 // clang-format on
 
