@@ -6,6 +6,7 @@
 
 #include "designs/common_emitter/form2.h"
 #include "designs/differential/form3_controls.h"
+#include "designs/power/form15.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
 #include "frame/form16_controls.h"
@@ -33,6 +34,8 @@ host::Catalogue catalogue()
         &form2::spec,
 
         &form3::spec,
+
+        &form15::spec,
 
         // around them
         &palette::spec,
