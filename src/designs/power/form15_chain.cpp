@@ -130,11 +130,13 @@ void Form15::focusText12(host::EventArgs& args)
     hide(Label14, Label17);
 }
 
-// It only asks: nothing can be written in it.
+// It only asks: nothing can be written in it. Enter moves on as everywhere and keeps the load as it was given.
 void Form15::keyText12(host::EventArgs& args)
 {
-    filteredKey(args);
+    const std::int16_t key = filteredKey(args);
     args.key = 0;
+    if (key == sheets::enterKey)
+        clickImage1();
 }
 
 void Form15::chooseLoad(Handle other, bool loudspeaker)

@@ -51,7 +51,7 @@ using host::Symbol;
 namespace drawing = class_a::drawing;
 
 inline constexpr auto title = titleBlock({"Clase A simple", "Class A, simple"});
-inline constexpr auto titleFrame = part({Mark{.symbol = Symbol::frame, .from = {884, 588}, .to = {1010, 608}, .ink = host::Ink::quiet}});
+inline constexpr auto titleFrame = part({Mark{.symbol = Symbol::frame, .from = {930, 588}, .to = {1010, 608}, .ink = host::Ink::quiet}});
 
 // Top edges of the two groups of parameters.
 inline constexpr int circuitTop = 94;
@@ -107,15 +107,15 @@ inline constexpr auto controls = [] {
         part(Line12, "Line12", drawing::input<Control>),
 
         hidden(result(Label1, "Label1", at(854, 262, 130, 18), "EQ")),
-        result(Label2,  "Label2",  at(290, 314, 134, 34)),
-        named(label(Label3, "Label3", zones::parameter(transistorTop, 3), Look::result, "30 V"), voltageLimitName),
+        result(Label2,  "Label2",  at(290, 306, 134, 34)),
+        named(label(Label3, "Label3", zones::parameter(transistorTop, 1), Look::result, "30 V"), voltageLimitName),
         unseen(Label4,  "Label4",  "Po"),
-        result(Label5,  "Label5",  at(290, 222, 130, 18)),
+        result(Label5,  "Label5",  at(290, 216, 130, 18)),
         hidden(result(Label8, "Label8", at(688, 286, 80, 34))),
         unseen(Label9,  "Label9",  "RL"),
         result(Label10, "Label10", at(486, 158, 108, 18)),
         unseen(Label11, "Label11", "Es"),
-        label(Label12,  "Label12", at(16, 318, 204, 22), Look::result, "Ic(máx) = 1 A"),
+        label(Label12,  "Label12", at(16, 262, 204, 22), Look::result, "Ic(máx) = 1 A"),
         result(Label13, "Label13", at(446, 384, 140, 18)),
         label(Label14,  "Label14", at(816, 484, 180, 18), Look::note),
         result(Label17, "Label17", at(650, 432, 120, 18)),
@@ -130,16 +130,16 @@ inline constexpr auto controls = [] {
 
         field(Text1, "Text1", zones::parameter(circuitTop, 0), "0.78", notation::Po),
         field(Text2, "Text2", zones::parameter(circuitTop, 1), "16", notation::in(notation::RLw, "Ω")),
-        disabled(field(Text3, "Text3", zones::parameter(circuitTop, 3), "", notation::in(notation::QIc2, "A"))),
+        disabled(field(Text3, "Text3", zones::parameter(circuitTop, 2), "", notation::in(notation::QIc2, "A"))),
         onDrawing(Text4, "Text4", 904, 119, notation::Es),
         onDrawing(Text5, "Text5", 638, 180, notation::in(notation::RL, "Ω")),
         onDrawing(Text6, "Text6", 464, 226, notation::in(notation::Rb1b, "Ω")),
         onDrawing(Text7, "Text7", 446, 312, notation::in(notation::Rb1a, "Ω")),
         onDrawing(Text8, "Text8", 448, 470, notation::in(notation::Rb2, "Ω")),
         onDrawing(Text9, "Text9", 302, 398, notation::in(notation::Rs, "Ω")),
-        hidden(field(Text10, "Text10", zones::parameter(transistorTop, 0), "100", notation::Beta2)),
-        hidden(field(Text11, "Text11", zones::parameter(transistorTop, 1), "100", notation::Beta1)),
-        hidden({.id = Text12, .name = "Text12", .kind = Kind::field, .place = at(16, circuitTop + 80, 204, 22),
+        hidden(field(Text10, "Text10", zones::parameter(transistorTop, 2), "100", notation::Beta2)),
+        hidden(field(Text11, "Text11", zones::parameter(transistorTop, 3), "100", notation::Beta1)),
+        hidden({.id = Text12, .name = "Text12", .kind = Kind::field, .place = at(16, circuitTop + 108, 204, 22),
                 .text = "Click en Resistencia ó Parlante", .meaning = {"Elija resistencia ó parlante", "Choose resistor or loudspeaker"}}),
 
         hidden(option(Image1, "Image1", Kind::image, zones::option(0), {"Carga: resistencia", "Load: resistor"}, resistorFace)),
