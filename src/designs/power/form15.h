@@ -60,6 +60,7 @@ public:
     void focusText5(host::EventArgs& args);
     void keyText5(host::EventArgs& args);
     void lostText5();
+    void focusText6(host::EventArgs& args);
     void lostText6();
     void focusText7(host::EventArgs& args);
     void lostText7();
@@ -170,6 +171,7 @@ inline constexpr auto ownSlots = std::to_array<host::SlotRow>({
     {Text5,  host::Event::focus,     host::slot<&Form15::focusText5>},
     {Text5,  host::Event::key,       host::slot<&Form15::keyText5>},
     {Text5,  host::Event::lostFocus, host::slot<&Form15::lostText5>},
+    {Text6,  host::Event::focus,     host::slot<&Form15::focusText6>},
     {Text6,  host::Event::lostFocus, host::slot<&Form15::lostText6>},
     {Text7,  host::Event::focus,     host::slot<&Form15::focusText7>},
     {Text7,  host::Event::lostFocus, host::slot<&Form15::lostText7>},

@@ -14,7 +14,6 @@ using sheets::Press;
 void Form15::focusText5(host::EventArgs& args)
 {
     focusField(args);
-    disable(Text3);
     showZinQ2(at(Text10));
 }
 
@@ -85,6 +84,13 @@ void Form15::divideRb1()
 }
 
 // --- Rb1b
+
+// From RL the way back to QIc2 is open, so that what has turned red can be mended; from here on it is closed.
+void Form15::focusText6(host::EventArgs& args)
+{
+    focusField(args);
+    disable(Text3);
+}
 
 void Form15::lostText6()
 {
