@@ -20,19 +20,13 @@ using sheets::wire;
 
 // clang-format off
 // `C` are the controls of one of the sheets: a part glows while its field is in hand.
-template <class C>
-inline constexpr auto resistorLoad = part({
-    Mark{.symbol = Symbol::resistor, .from = {800, 400}, .to = {800, 480}, .name = "R_Lw", .side = Side::right, .value = C::Text2,
-         .unit = "Ω", .field = C::Text2},
-    wire(800, 480, 800, 540),
-    ground(800, 540),
-});
-template <class C>
-inline constexpr auto loudspeakerLoad = part({
-    Mark{.symbol = Symbol::loudspeaker, .from = {800, 400}, .to = {800, 480}, .name = "R_Lw", .side = Side::right, .value = C::Text2,
-         .unit = "Ω", .field = C::Text2},
-    wire(800, 480, 800, 540),
-    ground(800, 540),
+// The load hangs in column `X`, its upper end at `Y`.
+template <class C, Symbol Kind, int X, int Y>
+inline constexpr auto load = part({
+    Mark{.symbol = Kind, .from = {X, Y}, .to = {X, Y + 80}, .name = "R_Lw", .side = Side::right, .value = C::Text2, .unit = "Ω",
+         .field = C::Text2},
+    wire(X, Y + 80, X, 540),
+    ground(X, 540),
 });
 template <class C>
 inline constexpr auto driver = part({

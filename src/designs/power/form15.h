@@ -9,9 +9,9 @@
 
 #include "designs/power/form15_controls.h"
 #include "designs/power/form15_formulas.h"
+#include "designs/power/form15_report.h"
 #include "designs/power/form15_texts.h"
 #include "sheets/design_sheet.h"
-#include "sheets/report_text.h"
 #include "sheets/sheet_slots.h"
 
 namespace velmor::form15 {
@@ -90,27 +90,30 @@ protected:
 
     // power and load
     void startOver(host::EventArgs& args);
-    std::string measuredPower();
-    void tellMeasured(const std::string& caption);
+    void tellMeasured(std::string_view lineBreak);
     void leavePower(std::string_view label1);
     void takeLoad(double junctions);
     void tellLoad();
-    void chooseLoad(host::Handle other, bool loudspeaker);
+    bool isEnterAlone(host::EventArgs& args);
+    void offerLoads(host::EventArgs& args, int left);
+    void placeLoudspeaker(int left);
+    void chooseLoad(bool loudspeaker);
     void takeCoil(int left);
 
     // output transistor and supply
-    std::string criterionOfCurrent(const host::BiText& opening) const;
+    void tellCriterionOfCurrent(const host::BiText& opening);
     void proposeCurrent();
+    void takeEQ2();
     void tellSupply();
 
     // driver and bias
     Real Beta1() const { return at(Text11); }
-    void showZinQ2(Real Beta);
+    void showZinQ2(Real Zin);
     bool supplyIsBlamed() const { return q_.noSwing && q_.ERL <= Real(0.0); }
-    bool driverFeedsOutput(Real Beta);
-    void takeDriver();
+    bool outputIsLight();
+    void takeLeastDriver(Real Zin);
+    bool driverIsStrong(const sheets::Saying& tooMuch);
     bool weakDriver();
-    void tellLeastDriver(const std::string& beta);
     void divideRb1();
     void takeBias(Real ERb1);
     bool takeRb2();
@@ -118,8 +121,8 @@ protected:
     void takeInput();
     void takeGenerator();
     void leaveGenerator();
-    /// Report rows of gain and swing.
-    void reportSignal(sheets::ReportText& text) const;
+    /// The report in the words of one of the sheets.
+    std::string report(const ReportWords& report) const;
     /// Microfarads of a capacitor in farads.
     static Real microfarads(Real C) { return C * 1000000.0; }
 
@@ -214,11 +217,12 @@ inline constexpr auto values = std::to_array<host::ValueRow>({
 });
 
 // The file: texts, then captions. What is read shows the fields.
-inline constexpr auto lines = std::to_array<sheets::FileLine>({
+inline constexpr auto linesBeforeQ1 = std::to_array<sheets::FileLine>({
     {Text1}, {Text2}, {Text3, true}, {Text4, true}, {Text5, true}, {Text6, true}, {Text7, true}, {Text8, true}, {Text9, true}, {Text10},
     {Text11}, {Text12}, {Label4}, {Label1, true}, {Label2}, {Label3}, {Label5}, {Label6}, {Label7}, {Label8, true}, {Label9}, {Label10},
-    {Label11}, {Label12}, {Label13}, {Label14}, {Label15}, {Label16}, {Label17}, {Label18}, {Label19}, {Label20}, {Label21}, {Q1},
+    {Label11}, {Label12}, {Label13}, {Label14}, {Label15}, {Label16}, {Label17}, {Label18}, {Label19}, {Label20}, {Label21},
 });
+inline constexpr auto lines = sheets::joined(linesBeforeQ1, std::to_array<sheets::FileLine>({{Q1}}));
 
 inline constexpr auto tabOrder = std::to_array<host::Handle>({
     Text1, Text2, Text12, Text10, Text11, Text3, Text4, Text5, Text6, Text7, Text8, Text9, Picture1, SSCommand1, SSCommand3, SSCommand5,

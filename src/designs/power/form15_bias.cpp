@@ -14,16 +14,16 @@ using sheets::Press;
 void Form15::focusText5(host::EventArgs& args)
 {
     focusField(args);
-    showZinQ2(at(Text10));
+    showZinQ2(RLw() * at(Text10));
 }
 
-void Form15::showZinQ2(Real Beta)
+void Form15::showZinQ2(Real Zin)
 {
-    q_.ZinQ2 = RLw() * Beta;
+    q_.ZinQ2 = Zin;
     setText(Label19, "Zin= " + whole(q_.ZinQ2) + " Ohm");
 }
 
-// With nothing left for RL no value of RL helps: Enter leads back to Es once that was told.
+// A supply that leaves nothing for RL cannot be mended by any RL: that is told once, then the way to Es is free, and Enter leads there.
 void Form15::keyText5(host::EventArgs& args)
 {
     if (pressed(args) == Press::enter)
@@ -33,24 +33,34 @@ void Form15::keyText5(host::EventArgs& args)
 void Form15::lostText5()
 {
     correctBelow(Text5, loadStability * RLw());
-    if (!driverFeedsOutput(at(Text10)))
+    if (supplyIsBlamed() || !outputIsLight())
         return;
-    takeDriver();
-    divideRb1();
+    takeLeastDriver(RLw() * at(Text10));
+    setText(Label15, words(texts::leastDriver) + text(Text10) + words(texts::leastDriverIs) + shown(q_.QIc1Min) + " A");
+    if (driverIsStrong(texts::fortyPercent))
+        divideRb1();
 }
 
-// False when the output asks for more than Q1 can give; the student stays at RL. A supply that leaves nothing for RL cannot be mended
-// here: that is told once, then the way to Es is free.
-bool Form15::driverFeedsOutput(Real Beta)
+// False when the output is too heavy for RL; the student stays at RL.
+bool Form15::outputIsLight()
 {
-    if (supplyIsBlamed())
-        return false;
-    if (at(Text5) * 10.0 > q_.ZinQ2)
-        return weakDriver();
-    divide(q_.QIc1Min, q_.Eopp, RLw() * Beta);
-    tellLeastDriver(digits(Beta));
+    return at(Text5) * 10.0 > q_.ZinQ2 ? weakDriver() : true;
+}
+
+void Form15::takeLeastDriver(Real Zin)
+{
+    divide(q_.QIc1Min, q_.Eopp, Zin);
+}
+
+// False when Q1 gives less than the least; the student stays at RL. More than 40 % is told, and the chain goes on.
+bool Form15::driverIsStrong(const sheets::Saying& tooMuch)
+{
     divide(q_.QIc1, q_.ERL, at(Text5));
-    return q_.QIc1Min > q_.QIc1 ? weakDriver() : true;
+    if (q_.QIc1Min > q_.QIc1)
+        return weakDriver();
+    if (q_.QIc1 > Real(driverCurrent))
+        tell(tooMuch);
+    return true;
 }
 
 bool Form15::weakDriver()
@@ -59,17 +69,6 @@ bool Form15::weakDriver()
     tell(texts::driverTooWeak);
     goTo(Text5);
     return false;
-}
-
-void Form15::tellLeastDriver(const std::string& beta)
-{
-    setText(Label15, words(texts::leastDriver) + beta + words(texts::leastDriverIs) + shown(q_.QIc1Min) + " A");
-}
-
-void Form15::takeDriver()
-{
-    if (q_.QIc1 > Real(driverCurrent))
-        tell(texts::fortyPercent);
 }
 
 void Form15::divideRb1()

@@ -38,11 +38,11 @@ void Form15::focusText1(host::EventArgs& args)
     startOver(args);
     hide(Label1);
     if (visible(Label20))
-        tellMeasured(words(texts::measuredPower) + measuredPower() + words(texts::watts));
+        tellMeasured("");
 }
 
 // A design that was completed once is measured: QIc2 is what the student chose, and Po what it gives.
-std::string Form15::measuredPower()
+void Form15::tellMeasured(std::string_view lineBreak)
 {
     q_.QIc2 = at(Text3);
     q_.Eopp = swingOfCurrent(q_.QIc2, RLw());
@@ -50,16 +50,11 @@ std::string Form15::measuredPower()
     if (RLw() != Real(0.0))
         Po = powerOfSwing(q_.Eopp, RLw());
     write(Text1, Po);
-    return shown(Po);
-}
-
-void Form15::tellMeasured(const std::string& caption)
-{
     host::Place place = placeOf(Label18);
     place.width = widthOfLabel18;
     setPlaceOf(Label18, place);
     show(Label18);
-    setText(Label18, caption);
+    setText(Label18, words(texts::measuredPower).append(lineBreak) + shown(Po) + words(texts::watts));
 }
 
 void Form15::lostText1()
@@ -122,27 +117,42 @@ void Form15::tellLoad()
 
 void Form15::focusText12(host::EventArgs& args)
 {
-    focusField(args);
-    host::Place place = placeOf(Image2);
-    place.left = leftOffered;
-    setPlaceOf(Image2, place);
-    show(Image2, Image1);
-    hide(Label14, Label17);
+    offerLoads(args, leftOffered);
 }
 
 // It only asks: nothing can be written in it. Enter moves on as everywhere and keeps the load as it was given.
 void Form15::keyText12(host::EventArgs& args)
 {
-    const std::int16_t key = filteredKey(args);
-    args.key = 0;
-    if (key == sheets::enterKey)
+    if (isEnterAlone(args))
         clickImage1();
 }
 
-void Form15::chooseLoad(Handle other, bool loudspeaker)
+bool Form15::isEnterAlone(host::EventArgs& args)
+{
+    const std::int16_t key = filteredKey(args);
+    args.key = 0;
+    return key == sheets::enterKey;
+}
+
+void Form15::offerLoads(host::EventArgs& args, int left)
+{
+    focusField(args);
+    placeLoudspeaker(left);
+    show(Image2, Image1);
+    hide(Label14, Label17);
+}
+
+void Form15::placeLoudspeaker(int left)
+{
+    host::Place place = placeOf(Image2);
+    place.left = left;
+    setPlaceOf(Image2, place);
+}
+
+void Form15::chooseLoad(bool loudspeaker)
 {
     goTo(Text10);
-    hide(Text12, other);
+    hide(Text12);
     write(Label29, texts::coil);
     setVisible(Label29, loudspeaker);
     grow(Text2);
@@ -151,21 +161,21 @@ void Form15::chooseLoad(Handle other, bool loudspeaker)
 
 void Form15::clickImage1()
 {
-    chooseLoad(Image2, false);
+    chooseLoad(false);
+    hide(Image2);
 }
 
 void Form15::clickImage2()
 {
-    chooseLoad(Image1, true);
+    chooseLoad(true);
+    hide(Image1);
     takeCoil(leftChosen);
 }
 
 // Eopp, Eq, ERLw and QIcRLw keep the load as it was typed, until `Text2` is visited again.
 void Form15::takeCoil(int left)
 {
-    host::Place place = placeOf(Image2);
-    place.left = left;
-    setPlaceOf(Image2, place);
+    placeLoudspeaker(left);
     fill(Text2, resistanceOfCoil(RLw()));
     tellLoad();
 }
@@ -191,10 +201,12 @@ void Form15::proposeCurrent()
 
 // --- QIc2
 
-std::string Form15::criterionOfCurrent(const host::BiText& opening) const
+void Form15::tellCriterionOfCurrent(const host::BiText& opening)
 {
-    return words(opening) + shown(q_.Eopp) + words(texts::currentIs) + shown(q_.QIc2) + words(texts::loadVoltageIs) +
-           shown(q_.ERLw) + " V";
+    tellPage(Text3, words(texts::currentFormulas) + words(texts::currentOfLoad) + shown(q_.QIcRLw) + " A");
+    setText(Label15, words(opening) + shown(q_.Eopp) + words(texts::currentIs) + shown(q_.QIc2) +
+                         words(texts::loadVoltageIs) + shown(q_.ERLw) + " V");
+    write(Label16, texts::currentFormulas);
 }
 
 void Form15::focusText3(host::EventArgs& args)
@@ -202,9 +214,7 @@ void Form15::focusText3(host::EventArgs& args)
     DesignSheet::focusField(args);
     hide(Text10, Text11);
     disable(Text1, Text2);
-    tellPage(Text3, words(texts::currentFormulas) + words(texts::currentOfLoad) + shown(q_.QIcRLw) + " A");
-    setText(Label15, criterionOfCurrent(texts::currentForSwing));
-    write(Label16, texts::currentFormulas);
+    tellCriterionOfCurrent(texts::currentForSwing);
 }
 
 void Form15::lostText3()
@@ -222,10 +232,7 @@ void Form15::lostText3()
 
 void Form15::lostText4()
 {
-    correctBelow(Text4, q_.ERLw + q_.EQ2);
-    q_.Es = at(Text4);
-    q_.EQ2 = q_.Es - q_.ERLw;
-    warn(Label1, q_.EQ2 > Real(ecMax), texts::EQ2TooHigh);
+    takeEQ2();
     setText(Label1, "EQ2= " + shown(q_.EQ2) + " V");
     show(Label1);
     q_.EQ1 = q_.ERLw + junction;
@@ -234,6 +241,14 @@ void Form15::lostText4()
     q_.noSwing = false;
     fill(Text5, loadStability * RLw());
     tellSupply();
+}
+
+void Form15::takeEQ2()
+{
+    correctBelow(Text4, q_.ERLw + q_.EQ2);
+    q_.Es = at(Text4);
+    q_.EQ2 = q_.Es - q_.ERLw;
+    warn(Label1, q_.EQ2 > Real(ecMax), texts::EQ2TooHigh);
 }
 
 void Form15::tellSupply()

@@ -9,7 +9,7 @@ namespace velmor::form15 {
 using sheets::ReportRow;
 using sheets::ReportText;
 
-namespace report {
+namespace report_detail {
 
 // clang-format off
 constexpr std::string_view data2[] = {"Po = 4 W", "Rlw = 16 ohm", "Ic(máx) = 1 A"};
@@ -17,15 +17,8 @@ constexpr std::string_view data3[] = {"Po = 4 W", "Rlw = 32 ohm", "Rg = 10 K"};
 constexpr std::string_view data4[] = {"Po = 4 W", "Rlw = 8 ohm"};
 constexpr std::string_view data5[] = {"Po = 4 W", "Rlw = 4 ohm"};
 
-struct Exercise {
-    host::BiText heading{};
-    host::BiText statement{};
-    std::span<const std::string_view> data{};
-};
-constexpr host::BiText withTheseData{"Realice un diseño con los siguientes datos : ", "Make a design with the following data : "};
 constexpr Exercise exercises[] = {
-    {{"Ejercicio N° 1 ", "Exercise N° 1 "}, {"Pruebe distintas fuentes Es y observe qué parámetros cambian.",
-                                             "Try several supplies Es and observe which parameters change."}, {}},
+    {{"Ejercicio N° 1 ", "Exercise N° 1 "}, trySupplies, {}},
     {{"Ejercicio N° 2 ", "Exercise N° 2 "}, withTheseData, data2},
     {{"Ejercicio N° 3 ", "Exercise N° 3 "}, withTheseData, data3},
     {{"Ejercicio N° 4 ", "Exercise N° 4 "}, withTheseData, data4},
@@ -62,46 +55,52 @@ constexpr std::string_view questionsEnglish[] = {
     "That efficiency has the circuit at maximum power ..?",
     "Advise to continue with the design of Class  B (Darlington) ",
 };
+
+constexpr host::BiText transistors{"Parámetros de los transistores de salida: ", "Parameters of the output transistors : "};
+constexpr host::BiText circuit{"Parámetros del Circuito: ", " Circuit Parameters: "};
+constexpr host::BiText gainOf{"   Valor con circuito activo y completo", "   Value with complete and active circuit.. "};
+constexpr host::BiText swingOf{"   Valor con circuito activo", "  Value with active circuit "};
+constexpr host::BiText questionnaire{"Conteste el siguiente cuestionario: ", "Answers the following questionnaire:  "};
+
+constexpr ReportWords words{
+    .spanishTitle = "Elaboración de Informe : Clase A Simple",
+    .englishDesign = "Design :   Class A Simple ",
+    .exercises = exercises,
+    .results = {"Resultados del diseño de Potencia en Clase A Simple: ", "Results of the design of Power in Class A ,Simple : "},
+    .transistorsSpanish = transistorsSpanish,
+    .transistorsEnglish = transistorsEnglish,
+};
+using Rows = std::span<const ReportRow>;
+using Lines = std::span<const std::string_view>;
 // clang-format on
 
-} // namespace report
+} // namespace report_detail
 
 std::string Form15::reportText() const
 {
-    using namespace report;
+    return report(report_detail::words);
+}
+
+std::string Form15::report(const ReportWords& told) const
+{
+    using namespace report_detail;
     const bool english = inEnglish();
     ReportText text;
     if (english)
-        text.heading(*this, "Report Design", "Design :   Class A Simple ");
+        text.heading(*this, "Report Design", told.englishDesign);
     else
-        text.opening(*this, "Elaboración de Informe : Clase A Simple").empty();
-    for (const Exercise& exercise : exercises)
+        text.opening(*this, told.spanishTitle).empty();
+    for (const Exercise& exercise : told.exercises)
         text.oneStep(pick(exercise.heading)).twoSteps(pick(exercise.statement)).tabs(exercise.data);
     text.tabs(english ? reminderEnglish : reminderSpanish);
-    if (english) {
-        text.oneStep("Results of the design of Power in Class A ,Simple : ");
-        text.oneStep("Parameters of the output transistors : ").rows(*this, transistorsEnglish);
-        text.oneStep(" Circuit Parameters: ").rows(*this, circuitEnglish);
-    } else {
-        text.oneStep("Resultados del diseño de Potencia en Clase A Simple: ");
-        text.oneStep("Parámetros de los transistores de salida: ").rows(*this, transistorsSpanish);
-        text.oneStep("Parámetros del Circuito: ").rows(*this, circuitSpanish);
-    }
-    reportSignal(text);
-    text.tab(english ? "Answers the following questionnaire:  " : "Conteste el siguiente cuestionario: ");
-    if (english)
-        text.tabs(questionsEnglish);
-    else
-        text.tabs(questionsSpanish);
-    return text.text();
-}
-
-void Form15::reportSignal(ReportText& text) const
-{
-    text.tab("Vg (Q1)= " + whole(q_.Vg) +
-             words({"   Valor con circuito activo y completo", "   Value with complete and active circuit.. "}));
+    text.oneStep(pick(told.results));
+    text.oneStep(pick(transistors)).rows(*this, english ? told.transistorsEnglish : told.transistorsSpanish);
+    text.oneStep(pick(circuit)).rows(*this, english ? Rows(circuitEnglish) : Rows(circuitSpanish));
+    text.tab("Vg (Q1)= " + whole(q_.Vg) + std::string(pick(gainOf)));
     text.tab("fo =  200 Hertz");
-    text.tab("Eopp = " + shown(q_.Eopp) + words({"   Valor con circuito activo", "  Value with active circuit "}));
+    text.tab("Eopp = " + shown(q_.Eopp) + std::string(pick(swingOf)));
+    text.tab(pick(questionnaire)).tabs(english ? Lines(questionsEnglish) : Lines(questionsSpanish));
+    return text.text();
 }
 
 } // namespace velmor::form15
