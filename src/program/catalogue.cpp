@@ -7,6 +7,7 @@
 #include "designs/common_emitter/form2.h"
 #include "designs/differential/form3_controls.h"
 #include "designs/power/form15.h"
+#include "designs/power/form20.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
 #include "frame/form16_controls.h"
@@ -36,6 +37,7 @@ host::Catalogue catalogue()
         &form3::spec,
 
         &form15::spec,
+        &form20::spec,
 
         // around them
         &palette::spec,

@@ -66,9 +66,9 @@ constexpr ControlRow unseen(host::Handle id, std::string_view name, std::string_
 {
     return label(id, name, at(940, 560, 60, 18), Look::invisible, text);
 }
-constexpr ControlRow named(ControlRow row, std::span<const Mark> name)
+constexpr ControlRow drawnWith(ControlRow row, std::span<const Mark> drawing)
 {
-    row.drawing = name;
+    row.drawing = drawing;
     return row;
 }
 inline constexpr Mark voltageLimitName[] = {{.symbol = Symbol::label, .from = {-8, 11}, .name = "E_c(max)", .side = host::Side::left}};
@@ -108,7 +108,7 @@ inline constexpr auto controls = [] {
 
         hidden(result(Label1, "Label1", at(854, 262, 130, 18), "EQ")),
         result(Label2,  "Label2",  at(290, 306, 134, 34)),
-        named(label(Label3, "Label3", zones::parameter(transistorTop, 1), Look::result, "30 V"), voltageLimitName),
+        drawnWith(label(Label3, "Label3", zones::parameter(transistorTop, 1), Look::result, "30 V"), voltageLimitName),
         unseen(Label4,  "Label4",  "Po"),
         result(Label5,  "Label5",  at(290, 216, 130, 18)),
         hidden(result(Label8, "Label8", at(688, 286, 80, 34))),
