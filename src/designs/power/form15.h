@@ -191,7 +191,8 @@ inline constexpr auto ownSlots = std::to_array<host::SlotRow>({
 inline constexpr auto resistors = std::to_array<host::Handle>({Text5, Text6, Text7, Text8, Text9});
 // clang-format on
 inline constexpr auto slots = sheets::sheetSlots<Form15, tools>(
-    chain, sheets::joined(sheets::alike(resistors, host::Event::mouseDown, host::slot<&Form15::pressResistor>), ownSlots));
+    chain,
+    sheets::joined(sheets::alike(resistors, host::Event::mouseDown, host::slot<&Form15::pressResistor>), ownSlots));
 
 // clang-format off
 // part, field that brings it, the control by which the circuit has it, and by which it has not

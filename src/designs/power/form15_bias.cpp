@@ -78,7 +78,8 @@ void Form15::divideRb1()
     fill(Text6, q_.Rb1b);
     show(Shape2, Label8);
     setText(Label8, shown(q_.QIc1) + "\n   A");
-    setText(Label16, "  Rb1 = 10 x RL = " + shown(q_.Rb1 / 1000.0) + " K\n  Rb1b = 10 x RLw = " + shown(q_.Rb1b) + " Ohms");
+    setText(Label16,
+            "  Rb1 = 10 x RL = " + shown(q_.Rb1 / 1000.0) + " K\n  Rb1b = 10 x RLw = " + shown(q_.Rb1b) + " Ohms");
     disable(Text4);
 }
 

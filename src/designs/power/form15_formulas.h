@@ -23,39 +23,39 @@ inline constexpr double presetShare = 25;     ///< %, of Rb1
 
 /// The working numbers of one sheet. Each keeps its last value between events.
 struct Quantities {
-    Real Eopp;             ///< output peak to peak, V
-    Real Eq;               ///< V, four decimals
-    Real QIc2;             ///< A: the least one until Text3 is left, then that of the field
-    Real ERLw;             ///< V
-    Real QIcRLw;           ///< A
-    Real EQ2;              ///< V
-    Real EQ1;              ///< V
-    Real Es;               ///< V
-    Real ERL;              ///< V
-    Real ZinQ2;            ///< ohm
-    Real QIc1Min;          ///< A
-    Real QIc1;             ///< A
-    Real Rb1;              ///< ohm
-    Real Rb1b;             ///< ohm
-    Real ERb1;             ///< V
-    Real IRb1;             ///< A
-    Real Ib;               ///< A
-    Real IRb2;             ///< A
-    Real IRb2Calc;         ///< A, as worked out when Text7 was left
-    Real Rb2Calc;          ///< ohm, likewise
-    Real Cbp;              ///< F
-    Real ReDyn;            ///< r'e, ohm
-    Real Zb;               ///< ohm
-    Real Rp;               ///< ohm
-    Real Zin;              ///< ohm
-    Real Ccin;             ///< F
-    Real Vg;               ///< gain of Q1
-    Real EinPP;            ///< V
-    Real EgPP;             ///< V
-    Real EgEff;            ///< V
-    bool noSwing = false;  ///< the box about a supply that leaves nothing for RL has been shown
-    bool biased = false;   ///< Rb2 was left without a warning and nothing has changed since
-    bool passed = false;   ///< the last step of the chain has ended without a warning
+    Real Eopp;            ///< output peak to peak, V
+    Real Eq;              ///< V, four decimals
+    Real QIc2;            ///< A: the least one until Text3 is left, then that of the field
+    Real ERLw;            ///< V
+    Real QIcRLw;          ///< A
+    Real EQ2;             ///< V
+    Real EQ1;             ///< V
+    Real Es;              ///< V
+    Real ERL;             ///< V
+    Real ZinQ2;           ///< ohm
+    Real QIc1Min;         ///< A
+    Real QIc1;            ///< A
+    Real Rb1;             ///< ohm
+    Real Rb1b;            ///< ohm
+    Real ERb1;            ///< V
+    Real IRb1;            ///< A
+    Real Ib;              ///< A
+    Real IRb2;            ///< A
+    Real IRb2Calc;        ///< A, as worked out when Text7 was left
+    Real Rb2Calc;         ///< ohm, likewise
+    Real Cbp;             ///< F
+    Real ReDyn;           ///< r'e, ohm
+    Real Zb;              ///< ohm
+    Real Rp;              ///< ohm
+    Real Zin;             ///< ohm
+    Real Ccin;            ///< F
+    Real Vg;              ///< gain of Q1
+    Real EinPP;           ///< V
+    Real EgPP;            ///< V
+    Real EgEff;           ///< V
+    bool noSwing = false; ///< the box about a supply that leaves nothing for RL has been shown
+    bool biased = false;  ///< Rb2 was left without a warning and nothing has changed since
+    bool passed = false;  ///< the last step of the chain has ended without a warning
 };
 
 // clang-format off

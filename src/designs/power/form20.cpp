@@ -79,7 +79,8 @@ sheets::SheetSpec sheetTables()
     sheet.sayings = texts::sayings;
     sheet.helpBoxes.place = openPage;
     // The guide of another circuit, and kept so.
-    sheet.guide = {.es = "Emisor común realimentado por corriente.Lab", .en = "Emisor común realimentado por corriente.Lab"};
+    sheet.guide = {.es = "Emisor común realimentado por corriente.Lab",
+                   .en = "Emisor común realimentado por corriente.Lab"};
     return sheet;
 }
 
