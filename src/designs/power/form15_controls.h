@@ -79,7 +79,8 @@ constexpr ControlRow onDrawing(host::Handle id, std::string_view name, int left,
 }
 
 // The kinds of load.
-inline constexpr auto resistorFace    = joined(std::array{wire(16, 22, 36, 22), wire(48, 22, 68, 22)}, small_symbols::Resistor<42, 22, false>::marks);
+inline constexpr auto resistorFace    = joined(std::array{wire(16, 22, 36, 22), wire(48, 22, 68, 22)},
+                                               small_symbols::Resistor<42, 22, false>::marks);
 inline constexpr auto loudspeakerFace = joined(std::array{wire(14, 22, 34, 22)}, small_symbols::Loudspeaker<34, 22>::marks);
 
 } // namespace controls_detail

@@ -30,24 +30,31 @@ inline constexpr BiText bothBetas{
 // field, moment, place, Spanish, English
 inline constexpr auto sayings = std::to_array<Saying>({
     sheets::placeANumber,
-    {Text1, When::focus, Label15, {"Ingrese la potencia eficaz (rms) que se desarrollará en la carga (RLw), esta puede ser ohmmica ó inductiva. ",
-                                   "Enter the effective power (rms) that will be developed in the load (RLw), this can be resistive or inductive. "}},
+    {Text1, When::focus, Label15, {"Ingrese la potencia eficaz (rms) que se desarrollará en la carga (RLw), "
+                                   "esta puede ser ohmmica ó inductiva. ",
+                                   "Enter the effective power (rms) that will be developed in the load (RLw), "
+                                   "this can be resistive or inductive. "}},
     {Text1, When::focus, Label16, {"  Po = Po(pico) / SQR(2)", "  Po = Po(peak) / SQR(2)"}},
     {Text1, When::hover, status1, {"Po, potencia eficaz en la carga, en Watts", "Po, effective power in the load, in Watts"}},
-    {Text2, When::focus, Label15, {" En Clase A la corriente de reposo (con ó sin señal de entrada) es la máxima que circulara por Colector - Emisor.",
-                                   " In Class A the quiescent current (with or without input signal) is the maximum that will flow from Collector to Emitter."}},
+    {Text2, When::focus, Label15, {" En Clase A la corriente de reposo (con ó sin señal de entrada) es la máxima "
+                                   "que circulara por Colector - Emisor.",
+                                   " In Class A the quiescent current (with or without input signal) is the maximum "
+                                   "that will flow from Collector to Emitter."}},
     {Text2, When::focus, Label16, {"  Eopp = SQR(Po.8.RLw)", "  Eopp = SQR(Po.8.RLw)"}},
-    {Text2, When::hover, status1, {"RLw, carga, en ohms: cuanto más pequeña, mayor la corriente", "RLw, load, in ohms: the smaller it is, the larger the current"}},
+    {Text2, When::hover, status1, {"RLw, carga, en ohms: cuanto más pequeña, mayor la corriente",
+                                   "RLw, load, in ohms: the smaller it is, the larger the current"}},
     {Text12, When::focus, Label15, {"Si la bobina móvil del altoparlante sirve a la vez como carga simultánea a la c.c. y a la c.a.,"
                                     " click en el Parlante; si no, en la Resistencia.",
                                     "If the moving coil of the loudspeaker serves at the same time as load for d.c. and a.c.,"
                                     " click on the Speaker; if not, on the Resistor."}},
     {Text12, When::focus, Label16, {"  RLw (inductiva) = 1,5 x RLw (ohmmica)", "  RLw (inductive) = 1,5 x RLw (resistive)"}},
-    {Text12, When::hover, status1, {"Elija la carga: resistencia (Ctrl+1) ó parlante (Ctrl+2)", "Choose the load: resistor (Ctrl+1) or speaker (Ctrl+2)"}},
+    {Text12, When::hover, status1, {"Elija la carga: resistencia (Ctrl+1) ó parlante (Ctrl+2)",
+                                    "Choose the load: resistor (Ctrl+1) or speaker (Ctrl+2)"}},
     {Text10, When::focus, Label28, betaAndLoad},
     {Text10, When::focus, Label15, {"Beta (hFE) de los transistores: la de Q2 y la de Q1 son determinantes de las impedancias de entrada.",
                                     "Beta (hFE) of the transistors: that of Q2 and that of Q1 decide the input impedances."}},
-    {Text10, When::focus, Label16, {"  Zin (Q2) = RLw x Beta (Q2)\n  RL x 10 <= Zin (Q2)\n  QIc <= 40 % Icmáx", "  Zin (Q2) = RLw x Beta (Q2)\n  RL x 10 <= Zin (Q2)\n  QIc <= 40 % Icmax"}},
+    {Text10, When::focus, Label16, {"  Zin (Q2) = RLw x Beta (Q2)\n  RL x 10 <= Zin (Q2)\n  QIc <= 40 % Icmáx",
+                                    "  Zin (Q2) = RLw x Beta (Q2)\n  RL x 10 <= Zin (Q2)\n  QIc <= 40 % Icmax"}},
     {Text10, When::hover, status1, {"Beta (hFE) del transistor de salida", "Beta (hFE) of the output transistor"}},
     {Text11, When::focus, Label28, bothBetas},
     {Text11, When::hover, status1, {"Beta (hFE) del transistor excitador, Q1", "Beta (hFE) of the driver transistor, Q1"}},
@@ -67,12 +74,15 @@ inline constexpr auto sayings = std::to_array<Saying>({
 // --- what a step says by itself
 
 // The criterion on QIc2: the words around Eopp, QIc2Min and ERLw.
-inline constexpr BiText currentForSwing{"La corriente necesaria ( QIc2 ) para obtener Eopp, ( ", "The necessary current (QIc2) to obtain Eopp, ( "};
+inline constexpr BiText currentForSwing{"La corriente necesaria ( QIc2 ) para obtener Eopp, ( ",
+                                         "The necessary current (QIc2) to obtain Eopp, ( "};
 inline constexpr BiText currentIs      {" V ), es : ", " V ), is : "};
 inline constexpr BiText loadVoltageIs  {" A,  ERLw = ", " A,  ERLw = "};
 inline constexpr BiText currentFormulas{
-    "  Eopp = SQR(Po.8.RLw)\n  Eq = 0.66 x Eopp\n  QIc2(min) = Eopp / (2 x RLw)\n  ERLw = Eq(Q1) - Vbe( 0.6 Volt)\n  QIc(RLw) = ERLw / RLw",
-    "  Eopp = SQR(Po.8.RLw)\n  Eq = 0.66 x Eopp\n  QIc2(min) = Eopp / (2 x RLw)\n  ERLw = Eq(Q1) - Vbe( 0.6 Volt)\n  QIc(RLw) = ERLw / RLw"};
+    "  Eopp = SQR(Po.8.RLw)\n  Eq = 0.66 x Eopp\n  QIc2(min) = Eopp / (2 x RLw)\n"
+    "  ERLw = Eq(Q1) - Vbe( 0.6 Volt)\n  QIc(RLw) = ERLw / RLw",
+    "  Eopp = SQR(Po.8.RLw)\n  Eq = 0.66 x Eopp\n  QIc2(min) = Eopp / (2 x RLw)\n"
+    "  ERLw = Eq(Q1) - Vbe( 0.6 Volt)\n  QIc(RLw) = ERLw / RLw"};
 inline constexpr BiText currentOfLoad  {"\n\n  QIc(RLw) = ", "\n\n  QIc(RLw) = "};
 // The least QIc1, with the Beta it was worked out with.
 inline constexpr BiText leastDriver    {"La corriente mínima de Q1 ( QIc1 ) con Beta = ", "The minimum current of Q1 (QIc1) with Beta = "};

@@ -26,7 +26,9 @@ using namespace form15::controls_detail; // NOLINT(google-build-using-namespace)
 using host::Side;
 
 inline constexpr auto title = titleBlock({"Clase A Darlington", "Class A Darlington"});
-inline constexpr auto titleFrame = sheets::part({Mark{.symbol = Symbol::frame, .from = {902, 588}, .to = {1010, 608}, .ink = host::Ink::quiet}});
+inline constexpr auto titleFrame = sheets::part({
+    Mark{.symbol = Symbol::frame, .from = {902, 588}, .to = {1010, 608}, .ink = host::Ink::quiet},
+});
 
 // The schematic. Columns: collector resistors 620, Q2 740 and 770, Q3 790 and 820, second bootstrap 990.
 inline constexpr auto pair = sheets::part({
