@@ -66,6 +66,9 @@ host::Catalogue catalogue()
         &form10::spec,
         &form11::spec,
 
+        &form15::spec,
+        &form20::spec,
+
         // around them
         &palette::spec,
         &editors::frmEditor,

@@ -32,7 +32,6 @@ constexpr bool changesField(std::int16_t filteredKey)
 /// One line of a circuit file. `noControl` is a line that carries no value.
 struct FileLine {
     host::Handle control = host::noControl;
-<<<<<<< HEAD
     bool show = false;        ///< reading makes the control visible
     bool showFirst = false;   ///< visible before its line is read, so also where the file ends before it
     bool saysVisible = false; ///< written: whether the control is visible, "-1" or "0"

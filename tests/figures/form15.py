@@ -119,6 +119,7 @@ class Design:
                     "Current Collector Emitter no upper to Ic(max)..."))
         self.ERLw = self.QIc2 * self.RLw
         assert "ERLw" not in self.ties or self.ERLw * 10000 % 1 == 0.5
+        self.expect("Label17", "ERLw= " + shown(self.ERLw) + " V")
         self.fill("Text4", shown(self.ERLw + self.ERLw))
 
     def supply(self):

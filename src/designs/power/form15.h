@@ -93,6 +93,7 @@ protected:
     void tellMeasured(std::string_view lineBreak);
     void leavePower(std::string_view label1);
     void takeLoad(double junctions);
+    void tellERLw();
     void tellLoad();
     bool isEnterAlone(host::EventArgs& args);
     void offerLoads(host::EventArgs& args, int left);

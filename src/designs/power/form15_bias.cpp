@@ -152,6 +152,7 @@ void Form15::lostText8()
 // False when the design begins again. What is replaced is not rounded.
 bool Form15::takeRb2()
 {
+    q_.biased = false;
     if (isBeyondTolerance(at(Text8), q_.Rb2Calc)) {
         tell(texts::Rb2Unfit);
         Real Rb2 = at(Text8);

@@ -103,9 +103,14 @@ void Form15::takeLoad(double junctions)
     setText(Q1, "Eq= " + shown(q_.Eq) + " V");
     divide(q_.QIc2, q_.Eopp, 2.0 * RLw());
     q_.ERLw = lessCurrency(q_.Eq, junctions);
-    setText(Label17, "ERLw= " + shown(q_.ERLw) + " V");
+    tellERLw();
     divide(q_.QIcRLw, q_.ERLw, RLw());
     tellLoad();
+}
+
+void Form15::tellERLw()
+{
+    setText(Label17, "ERLw= " + shown(q_.ERLw) + " V");
 }
 
 void Form15::tellLoad()
@@ -223,6 +228,7 @@ void Form15::lostText3()
     q_.QIc2 = at(Text3);
     warn(Text3, q_.QIc2 > Real(icMax), texts::currentTooHigh);
     q_.ERLw = q_.QIc2 * RLw();
+    tellERLw();
     q_.EQ2 = q_.ERLw;
     q_.Es = q_.ERLw + q_.EQ2;
     fill(Text4, q_.Es);
@@ -254,7 +260,7 @@ void Form15::takeEQ2()
 void Form15::tellSupply()
 {
     setText(Label10, "ERL= " + shown(q_.ERL) + " V");
-    setText(Label17, "ERLw= " + shown(q_.ERLw) + " V");
+    tellERLw();
     setText(Q1, "EQ1= " + shown(q_.EQ1) + " V");
 }
 

@@ -129,7 +129,7 @@ inline constexpr auto controls = [] {
         hidden(label(Label29, "Label29", at(816, 504, 180, 18), Look::note)),
         result(Q1,      "Q1",      at(680, 362, 112, 18)),
 
-        field(Text1, "Text1", zones::parameter(circuitTop, 0), "0.78", notation::Po),
+        field(Text1, "Text1", at(98, circuitTop + 24, 108, 22), "0.78", notation::Po),
         field(Text2, "Text2", zones::parameter(circuitTop, 1), "16", notation::in(notation::RLw, "Ω")),
         disabled(field(Text3, "Text3", zones::parameter(circuitTop, 2), "", notation::in(notation::QIc2, "A"))),
         onDrawing(Text4, "Text4", 904, 119, notation::Es),

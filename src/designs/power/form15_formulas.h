@@ -12,7 +12,7 @@ using rules::Real;
 
 /// Vbe of each transistor, V.
 inline constexpr double junction = 0.6;
-/// Parts of QIc2 and of Rs that the course adds or asks for.
+// What the course asks for, and the limits of the transistors.
 inline constexpr double loadStability = 10;   ///< S of RL and Rb1: ten times the resistor they feed
 inline constexpr double generatorShare = 20;  ///< Rs is so many times Zin
 inline constexpr double icMax = 1;            ///< A, of Q2
@@ -113,7 +113,7 @@ Real lessCurrency(Real Eq, double drop);
 Real proposedCurrent(Real QIcRLw);
 /// RLw less 30 %, ohm: a coil's impedance stands to its resistance the other way round from what the page says.
 Real resistanceOfCoil(Real RLw);
-/// r'e = 0.025 / QIc is told with `divide`; these are its volts.
+/// The volts of r'e = 0.025 / QIc, ohm from A.
 inline constexpr double junctionVolts = 0.025;
 /// C = 1 / (125.6 x R), F from ohm: 125.6 is 2 x 3.14 x 20, so the reactance is R at 20 Hz, whatever the label says.
 inline constexpr double capacitorFactor = 125.6;
