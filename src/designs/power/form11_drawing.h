@@ -63,7 +63,7 @@ inline constexpr auto driver = part({
     wire(620, 350, 620, 390),
     Mark{.symbol = Symbol::diode, .from = {620, 390}, .to = {620, 420}},
     Mark{.symbol = Symbol::diode, .from = {620, 420}, .to = {620, 450}},
-    node(620, 450), wire(590, 450, 620, 450), wire(620, 450, 620, 490), wire(620, 490, 720, 490),
+    node(620, 450), wire(590, 450, 660, 450), wire(660, 450, 660, 490), wire(660, 490, 720, 490),
     Mark{.symbol = Symbol::npn, .from = {560, 480}, .name = "Q_1", .side = Side::right, .value = Label3, .field = Text5},
     Mark{.symbol = Symbol::resistor, .from = {590, 510}, .to = {590, 560}, .name = "R_es", .side = Side::left},
     ground(590, 560),
@@ -122,9 +122,10 @@ inline constexpr auto emitterResistors = part({
     wire(750, 300, 750, 310), wire(750, 370, 750, 390),
     Mark{.symbol = Symbol::resistor, .from = {750, 390}, .to = {750, 450}}, wire(750, 450, 750, 460), node(750, 460),
 });
-// Around the driver's base, while its calculation is on the page. Counted from the corner of its control.
-inline constexpr Mark baseFrame[] = {
-    {.symbol = Symbol::dashedFrame, .from = {2, 2}, .to = {196, 256}, .ink = host::Ink::accent},
+// What the calculation of the base begins with, above its resistors. Counted from the corner of its control.
+inline constexpr Mark stabilityMarks[] = {
+    {.symbol = Symbol::text, .from = {75, 9}, .name = "S = Rb1 / RL = 10", .side = Side::above, .ink = host::Ink::accent, .size = 90},
+    {.symbol = Symbol::wire, .from = {4, 16}, .to = {146, 16}, .ink = host::Ink::accent},
 };
 // What takes the place of Rd and the diodes: Q8 and its divider between A and B. Counted from the corner of its control.
 inline constexpr Mark substituteCircuit[] = {
