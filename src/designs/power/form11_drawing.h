@@ -63,7 +63,7 @@ inline constexpr auto driver = part({
     wire(620, 350, 620, 390),
     Mark{.symbol = Symbol::diode, .from = {620, 390}, .to = {620, 420}},
     Mark{.symbol = Symbol::diode, .from = {620, 420}, .to = {620, 450}},
-    node(620, 450), wire(590, 450, 660, 450), wire(660, 450, 660, 490), wire(660, 490, 720, 490),
+    node(620, 450), wire(590, 450, 680, 450), wire(680, 450, 680, 490), wire(680, 490, 720, 490),
     Mark{.symbol = Symbol::npn, .from = {560, 480}, .name = "Q_1", .side = Side::right, .value = Label3, .field = Text5},
     Mark{.symbol = Symbol::resistor, .from = {590, 510}, .to = {590, 560}, .name = "R_es", .side = Side::left},
     ground(590, 560),
