@@ -4,7 +4,8 @@
 //     velmor_gallery FOLDER NAME ...  windows of the program, with all that is hidden shown under NAME-all; of a sheet also
 //                                     how its drawing grows, under NAME-half and NAME-whole, and its tools
 //     velmor_gallery FOLDER NAME:CONTROL:CONTROL ...  the same, the controls clicked one after the other once the drawing is whole;
-//                                     "+" in the place of a control goes on along the chain, as after the button of a page
+//                                     "+" in the place of a control goes on along the chain, CONTROL=VALUE enters a value,
+//                                     WINDOW.CONTROL clicks in another window
 #include <cstdio>
 #include <string>
 
@@ -96,6 +97,8 @@ bool saveSamples(const QDir& folder)
     return written;
 }
 
+constexpr int mostSteps = 60;
+
 /// A program with one window open.
 struct OpenWindow {
     OpenWindow(const std::string& name, std::int16_t languageIsEnglish)
@@ -126,14 +129,27 @@ struct OpenWindow {
             ++count;
         return count;
     }
+    void play(const QString& deed)
+    {
+        const QStringList value = deed.split(QLatin1Char('='));
+        const QStringList place = value.front().split(QLatin1Char('.'));
+        host::Window* other = place.size() > 1 ? engine.host().find(place.front().toStdString()) : window;
+        const host::Handle control = other == nullptr ? host::noControl : other->named(place.back().toStdString());
+        if (deed == QLatin1String("+")) {
+            steps(mostSteps);
+        } else if (control != host::noControl && value.size() > 1) {
+            engine.userText(*other, control, value.back().toStdString());
+            engine.userKey(*other, 13);
+        } else if (control != host::noControl) {
+            engine.userClick(*other, control);
+        }
+    }
 
     QuietScreen screen;
     host::MemorySettings settings;
     host::Engine engine;
     host::Window* window = nullptr;
 };
-
-constexpr int mostSteps = 60;
 
 /// The row of tools alone, twice as large.
 void saveTools(const host::Window& window, desktop::View view, const QString& path)
@@ -160,11 +176,8 @@ void saveGrowth(const QString& stem, const QStringList& name, const desktop::Vie
     open.steps(mostSteps);
     savePicture(*open.window, view, 1.0, stem + QStringLiteral("-whole.png"));
     saveTools(*open.window, view, stem + QStringLiteral("-tools.png"));
-    for (const QString& control : name.mid(1))
-        if (control == QLatin1String("+"))
-            open.steps(mostSteps);
-        else if (const host::Handle found = open.window->named(control.toStdString()); found != host::noControl)
-            open.engine.userClick(*open.window, found);
+    for (const QString& deed : name.mid(1))
+        open.play(deed);
     if (name.size() > 1)
         savePicture(*open.window, view, 1.0, stem + QStringLiteral("-clicked.png"));
 }
