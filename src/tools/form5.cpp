@@ -61,9 +61,8 @@ namespace table {
 constexpr Mark outputs[] = {
     {.symbol = Symbol::roundFrame, .from = {0, 0}, .to = {300, 330}, .ink = host::Ink::quiet},
     {.symbol = Symbol::terminal, .from = {230, 20}, .name = "E_s", .side = Side::left},
-    {.symbol = Symbol::wire, .from = {230, 23}, .to = {230, 100}},
+    {.symbol = Symbol::wire, .from = {230, 23}, .to = {230, 40}},
     {.symbol = Symbol::wire, .from = {140, 40}, .to = {230, 40}},
-    {.symbol = Symbol::node, .from = {230, 40}},
     {.symbol = Symbol::wire, .from = {140, 40}, .to = {140, 50}},
     {.symbol = Symbol::npn, .from = {110, 80}},
     {.symbol = Symbol::wire, .from = {60, 80}, .to = {110, 80}},
@@ -86,17 +85,17 @@ constexpr Mark outputs[] = {
 constexpr host::ControlRow controls[] = {
     {.id = Image1, .name = "Image1", .kind = Kind::image, .place = {7500, 900, 4530, 4980},
      .meaning = {.es = "Salidas con los diodos provisorios", .en = "Outputs with the substitute diodes"}, .drawing = outputs},
-    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {300, 240, 6900, 2760}, .look = Look::prompt, .fontSize = 10},
-    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {300, 3090, 6900, 2880}, .look = Look::prompt, .fontSize = 10},
-    {.id = Label3, .name = "Label3", .kind = Kind::label, .place = {300, 6060, 6900, 1500}, .look = Look::prompt, .fontSize = 10},
-    {.id = Label4, .name = "Label4", .kind = Kind::label, .place = {9780, 1980, 480, 270}, .text = "Q2", .look = Look::result},
-    {.id = Label5, .name = "Label5", .kind = Kind::label, .place = {9780, 4530, 480, 270}, .text = "Q3", .look = Look::result},
+    {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {300, 240, 6900, 3000}, .look = Look::prompt, .fontSize = 10},
+    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {300, 3330, 6900, 2880}, .look = Look::prompt, .fontSize = 10},
+    {.id = Label3, .name = "Label3", .kind = Kind::label, .place = {300, 6300, 6900, 1440}, .look = Look::prompt, .fontSize = 10},
+    {.id = Label4, .name = "Label4", .kind = Kind::label, .place = {9840, 1980, 480, 270}, .text = "Q2", .look = Look::result},
+    {.id = Label5, .name = "Label5", .kind = Kind::label, .place = {9840, 4530, 480, 270}, .text = "Q3", .look = Look::result},
     {.id = Label6, .name = "Label6", .kind = Kind::label, .place = {7980, 1980, 300, 270}, .text = "A", .look = Look::result},
     {.id = Label7, .name = "Label7", .kind = Kind::label, .place = {7980, 4530, 300, 270}, .text = "B", .look = Look::result},
     {.id = Label8, .name = "Label8", .kind = Kind::label, .place = {7500, 6000, 4530, 330},
      .text = "Diodos provisorios 1N4000", .look = Look::note},
     {.id = Label9, .name = "Label9", .kind = Kind::label, .place = {7500, 480, 4530, 360}, .text = "Punto 6", .look = Look::heading},
-    {.id = Command1, .name = "Command1", .kind = Kind::button, .place = {9930, 6960, 2100, 540}, .text = "Volver"},
+    {.id = Command1, .name = "Command1", .kind = Kind::button, .place = {9930, 7140, 2100, 540}, .text = "Volver"},
 };
 static_assert(host::rowsInOrder(controls));
 
@@ -137,7 +136,7 @@ const host::WindowSpec spec{
     .name = "Form5",
     .role = host::Role::tool,
     .caption = "Para no dañar los transistores de potencia...",
-    .place = {0, 0, 12330, 7800},
+    .place = {0, 0, 12330, 7980},
     .controls = table::controls,
     .slots = table::slots,
     .create = create,

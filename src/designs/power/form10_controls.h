@@ -32,6 +32,13 @@ using host::Look;
 inline constexpr int circuitTop = 94;
 inline constexpr int transistorTop = 404;
 
+/// A field of the parameters, wide enough for fifteen digits.
+constexpr host::Place wide(int top, int row)
+{
+    host::Place place = zones::parameter(top, row);
+    place.width = 100 * twipsPerUnit;
+    return place;
+}
 constexpr host::ControlRow overlay(host::ControlRow row)
 {
     row.overlay = true;
@@ -65,19 +72,19 @@ inline constexpr auto controls = [] {
         hidden({.id = Shape1, .name = "Shape1", .kind = Kind::shape, .place = drawing::peakCurrent.place, .look = Look::result,
                 .drawing = drawing::peakCurrent.marks}),
 
-        field(Text1,  "Text1",  zones::parameter(circuitTop, 0), "4", notation::Po),
-        field(Text2,  "Text2",  zones::parameter(circuitTop, 1), "8", notation::in(notation::RLw, "Ω")),
-        hidden(field(Text10, "Text10", zones::parameter(circuitTop, 2), "24", notation::Es)),
-        hidden(field(Text5,  "Text5",  zones::parameter(circuitTop, 3), "6", notation::Ibias)),
-        hidden(field(Text6,  "Text6",  zones::parameter(circuitTop, 4), "Rb1a", notation::Rb1a)),
-        hidden(disabled(field(Text7, "Text7", zones::parameter(circuitTop, 5), "Rb1b", notation::Rb1b))),
-        hidden(field(Text8,  "Text8",  zones::parameter(circuitTop, 6), "Rb2", notation::Rb2)),
-        hidden(disabled(field(Text3, "Text3", zones::parameter(circuitTop, 7), "RLb", notation::RLb))),
-        hidden(disabled(field(Text4, "Text4", zones::parameter(circuitTop, 8), "RLa", notation::RLa))),
-        hidden(disabled(field(Text9, "Text9", zones::parameter(circuitTop, 9), "", notation::Rs))),
-        hidden(field(Text11, "Text11", zones::parameter(transistorTop, 0), "", notation::in(notation::IcMax, "A"))),
-        hidden(field(Text12, "Text12", zones::parameter(transistorTop, 1), "", notation::VceSat)),
-        hidden(disabled(field(Text13, "Text13", zones::parameter(transistorTop, 2), "  QIc", notation::in(notation::IPeak, "")))),
+        field(Text1,  "Text1",  wide(circuitTop, 0), "4", notation::Po),
+        field(Text2,  "Text2",  wide(circuitTop, 1), "8", notation::in(notation::RLw, "Ω")),
+        hidden(field(Text10, "Text10", wide(circuitTop, 2), "24", notation::Es)),
+        hidden(field(Text5,  "Text5",  wide(circuitTop, 3), "6", notation::Ibias)),
+        hidden(field(Text6,  "Text6",  wide(circuitTop, 4), "Rb1a", notation::Rb1a)),
+        hidden(disabled(field(Text7, "Text7", wide(circuitTop, 5), "Rb1b", notation::Rb1b))),
+        hidden(field(Text8,  "Text8",  wide(circuitTop, 6), "Rb2", notation::Rb2)),
+        hidden(disabled(field(Text3, "Text3", wide(circuitTop, 7), "RLb", notation::RLb))),
+        hidden(disabled(field(Text4, "Text4", wide(circuitTop, 8), "RLa", notation::RLa))),
+        hidden(disabled(field(Text9, "Text9", wide(circuitTop, 9), "", notation::Rs))),
+        hidden(field(Text11, "Text11", wide(transistorTop, 0), "", notation::in(notation::IcMax, "A"))),
+        hidden(field(Text12, "Text12", wide(transistorTop, 1), "", notation::VceSat)),
+        hidden(disabled(field(Text13, "Text13", wide(transistorTop, 2), "  QIc", notation::in(notation::IPeak, "")))),
 
         label(Label2,  "Label2",  at(246, 396, 166, 62), Look::note),
         result(Label3, "Label3",  at(826, 236, 100, 18)),
@@ -88,8 +95,8 @@ inline constexpr auto controls = [] {
         result(Label9, "Label9",  at(246, 144, 174, 36)),
         result(Label10, "Label10", at(246, 184, 174, 36)),
         label(Label11, "Label11", at(524, 424, 60, 16), Look::invisible),
-        result(Label12, "Label12", at(636, 348, 90, 30)),
-        result(Label13, "Label13", at(636, 310, 90, 36)),
+        result(Label12, "Label12", at(636, 336, 90, 32)),
+        result(Label13, "Label13", at(636, 300, 90, 34)),
         hidden(result(Label14, "Label14", at(816, 328, 104, 18), "0.47 ohm 2W")),
         hidden(result(Label15, "Label15", at(816, 414, 104, 18), "0.47 ohm 2W")),
         hidden(label(Label7, "Label7", at(zones::left, 518, zones::width, 94), Look::hint)),

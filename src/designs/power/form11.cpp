@@ -15,9 +15,16 @@ constexpr std::int32_t whiteColor = 0xFFFFFF;
 constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), ownKeys, std::to_array<host::ShortcutRow>({
     {"Ctrl+1", image2, host::KeyAction::click, host::noControl, {"Criterios de Armado", "Approaches of Armed"}},
 }));
-constexpr auto values = sheets::joined(form10::values, std::to_array<host::ValueRow>({
-    {Label16, Line10}, {Label17, Line10}, {Label18, Line10}, {Label19, Line3}, {Label20, Line3}, {Label25, Line9}, {Label26, Line5},
-}));
+// Rd stands in the driver, where the other sheet's label is beside an emitter resistor.
+constexpr auto values = [] {
+    auto all = sheets::joined(form10::values, std::to_array<host::ValueRow>({
+        {Label16, Line10}, {Label17, Line10}, {Label18, Line10}, {Label19, Line3}, {Label20, Line3}, {Label25, Line9}, {Label26, Line5},
+    }));
+    for (host::ValueRow& row : all)
+        if (row.value == Label14)
+            row.part = Line3;
+    return all;
+}();
 // clang-format on
 constexpr Handle notes[] = {Label7, Label29};
 

@@ -2,7 +2,7 @@
 // The handles that `Form11` adds to those of `Form10`, and the parts of its schematic that are drawn otherwise: Darlington pairs, an
 // emitter resistor for the driver, the circuit that replaces Rd and the diodes. Knows no slot and no formula.
 //
-// Columns: generator 270, feedback 430, driver 590, its load 620, bootstrap 690, drivers of the outputs 750, outputs 820,
+// Columns: generator 270, feedback 430, driver 590, its load 620, bootstrap 710, drivers of the outputs 750, outputs 820,
 // loudspeaker 940. Rows: supply 120, A 270, output 380, B 450, driver's base 480, ground 560.
 #pragma once
 
@@ -63,11 +63,11 @@ inline constexpr auto driver = part({
     wire(620, 350, 620, 390),
     Mark{.symbol = Symbol::diode, .from = {620, 390}, .to = {620, 420}},
     Mark{.symbol = Symbol::diode, .from = {620, 420}, .to = {620, 450}},
-    node(620, 450), wire(590, 450, 620, 450), wire(620, 450, 620, 490), wire(620, 490, 720, 490),
+    node(620, 450), wire(590, 450, 690, 450), wire(690, 450, 690, 490), wire(690, 490, 720, 490),
     Mark{.symbol = Symbol::npn, .from = {560, 480}, .name = "Q_1", .side = Side::right, .value = Label3, .field = Text5},
     Mark{.symbol = Symbol::resistor, .from = {590, 510}, .to = {590, 560}, .name = "R_es", .side = Side::left},
     ground(590, 560),
-    Mark{.symbol = Symbol::arrow, .from = {640, 212}, .to = {640, 252}, .name = "I_bias", .side = Side::right, .value = Text5,
+    Mark{.symbol = Symbol::arrow, .from = {636, 212}, .to = {636, 252}, .name = "I_bias", .side = Side::right, .value = Text5,
          .unit = "mA", .field = Text5},
 });
 inline constexpr auto feedback = part({
@@ -99,9 +99,9 @@ inline constexpr auto upperLoad = part({
     wire(620, 120, 620, 130),
     Mark{.symbol = Symbol::resistor, .from = {620, 130}, .to = {620, 190}, .name = "R_La", .side = Side::left, .value = Text4,
          .unit = "kΩ", .field = Text4},
-    wire(620, 190, 620, 210), node(620, 200), wire(620, 200, 690, 200), wire(690, 200, 690, 310),
-    Mark{.symbol = Symbol::polarised, .from = {690, 310}, .to = {690, 350}, .name = "C_ba", .side = Side::left},
-    wire(690, 350, 690, 380), node(690, 380),
+    wire(620, 190, 620, 210), node(620, 200), wire(620, 200, 710, 200), wire(710, 200, 710, 310),
+    Mark{.symbol = Symbol::polarised, .from = {710, 310}, .to = {710, 350}, .name = "C_ba", .side = Side::left},
+    wire(710, 350, 710, 380), node(710, 380),
 });
 inline constexpr auto input = part({
     wire(270, 480, 270, 500),
@@ -122,9 +122,9 @@ inline constexpr auto emitterResistors = part({
     wire(750, 300, 750, 310), wire(750, 370, 750, 390),
     Mark{.symbol = Symbol::resistor, .from = {750, 390}, .to = {750, 450}}, wire(750, 450, 750, 460), node(750, 460),
 });
-// Around the driver's base, while its calculation is on the page. Counted from the corner of its control.
-inline constexpr Mark baseFrame[] = {
-    {.symbol = Symbol::dashedFrame, .from = {2, 2}, .to = {196, 256}, .ink = host::Ink::accent},
+// What the calculation of the base begins with, above its resistors. Counted from the corner of its control.
+inline constexpr Mark stabilityMarks[] = {
+    {.symbol = Symbol::text, .from = {4, 9}, .name = "S = Rb1 / RL = 10", .ink = host::Ink::accent, .size = 90},
 };
 // What takes the place of Rd and the diodes: Q8 and its divider between A and B. Counted from the corner of its control.
 inline constexpr Mark substituteCircuit[] = {

@@ -401,8 +401,11 @@ void paintByLook(const Scene& scene)
     case Look::note:
     case Look::result:
         return paintText(scene);
-    case Look::drawn: // by the mark whose value it is
-        return;
+    case Look::drawn:
+        // Its text stands at the mark that bears it; what has a frame shows that all the same.
+        if (scene.row().kind == Kind::label)
+            return;
+        break;
     case Look::plain:
     case Look::invisible:
         break;

@@ -4,8 +4,8 @@
 //     velmor_gallery FOLDER NAME ...  windows of the program, with all that is hidden shown under NAME-all; of a sheet also
 //                                     how its drawing grows, under NAME-half and NAME-whole, and its tools
 //     velmor_gallery FOLDER NAME:DEED:DEED ...  the same, then some deeds one after the other once the drawing is whole: CONTROL
-//                                     clicked, FROM>TO dragged, FIELD=TEXT entered where the chain waits for it, "+" on along the
-//                                     chain, as after the button of a page
+//                                     clicked, WINDOW.CONTROL clicked in another window, FROM>TO dragged, FIELD=TEXT entered, "+"
+//                                     on along the chain, as after the button of a page
 #include <cstdio>
 #include <string>
 
@@ -130,7 +130,7 @@ struct OpenWindow {
         return count;
     }
 
-    /// "CONTROL" is clicked, "FROM>TO" dragged, "FIELD=TEXT" entered; "+" goes on along the chain.
+    /// "CONTROL" or "WINDOW.CONTROL" is clicked, "FROM>TO" dragged, "FIELD=TEXT" entered; "+" goes on along the chain.
     void take(const QString& deed)
     {
         const auto named = [&](QLatin1Char sign, int part) {
@@ -145,8 +145,11 @@ struct OpenWindow {
             engine.userFocus(*window, field);
             engine.userText(*window, field, deed.section(QLatin1Char('='), 1).toStdString());
             engine.userKey(*window, 13);
-        } else if (const host::Handle control = window->named(deed.toStdString()); control != host::noControl) {
-            engine.userClick(*window, control);
+        } else {
+            const QStringList place = deed.split(QLatin1Char('.'));
+            host::Window* on = place.size() > 1 ? engine.host().find(place.front().toStdString()) : window;
+            if (on != nullptr && on->named(place.back().toStdString()) != host::noControl)
+                engine.userClick(*on, on->named(place.back().toStdString()));
         }
     }
 
