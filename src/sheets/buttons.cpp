@@ -107,6 +107,16 @@ void DesignSheet::showReport(bool build)
         host().setText(name, "txtEdit", reportText());
 }
 
+host::Window* DesignSheet::openSheet(std::string_view sheetName, const host::BiText& title)
+{
+    host::Window* opened = host().NewInstance(sheetName);
+    if (opened == nullptr)
+        return nullptr;
+    host().Show(*opened);
+    host().SetWindowCaption(*opened, pick(title));
+    return opened;
+}
+
 // The pair changes places here, and opens with the other drawing in the new window when its first drawing was clicked.
 void DesignSheet::clickClone(host::EventArgs& args)
 {
@@ -114,12 +124,8 @@ void DesignSheet::clickClone(host::EventArgs& args)
     const bool first = args.control == pair.first;
     show(first ? pair.second : pair.first);
     hide(args.control);
-    host::Window* opened = host().NewInstance(name());
-    if (opened == nullptr)
-        return;
-    host().Show(*opened);
-    opened->setCaption(pick(spec().sheetTitle));
-    if (first) {
+    host::Window* opened = openSheet(name(), spec().sheetTitle);
+    if (first && opened != nullptr) {
         opened->show(pair.second);
         opened->hide(pair.first);
     }

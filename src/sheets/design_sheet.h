@@ -184,6 +184,8 @@ public:
     void MostrarAyuda();
 
     // --- buttons
+    /// Another blank sheet opens in front, under this title; null when the program has no such sheet.
+    host::Window* openSheet(std::string_view sheetName, const host::BiText& title);
     /// Guide: a new text editor of the language opens the file.
     void openGuide(const host::BiText& guide);
     /// Report: an editor that is open already is only overwritten when the student accepts.

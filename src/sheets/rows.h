@@ -26,6 +26,24 @@ consteval std::array<Row, (Counts + ...)> joined(const std::array<Row, Counts>&.
     return all;
 }
 
+/// The rows of several tables of controls, each at the index of its handle. A handle without a row does not compile, nor one with
+/// two.
+template <std::size_t Count, std::size_t... Counts>
+consteval std::array<host::ControlRow, Count> inHandleOrder(const std::array<host::ControlRow, Counts>&... tables)
+{
+    static_assert((Counts + ...) == Count, "each control has one row");
+    std::array<host::ControlRow, Count> rows{};
+    const auto place = [&](const auto& table) {
+        for (const host::ControlRow& row : table) {
+            if (!rows[row.id].name.empty())
+                throw "two rows of one control";
+            rows[row.id] = row;
+        }
+    };
+    (place(tables), ...);
+    return rows;
+}
+
 /// The same slot for several controls.
 template <std::size_t Count>
 consteval std::array<host::SlotRow, Count> alike(const std::array<host::Handle, Count>& controls, host::Event event,

@@ -7,6 +7,7 @@
 #include <array>
 #include <memory>
 
+#include "designs/common_emitter/emitter_controls.h"
 #include "sheets/sheet_slots.h"
 #include "sheets/sheet_titles.h"
 
@@ -126,11 +127,9 @@ constexpr FileLine read[] = {
     {statu33, true}, {statu61, true}, {statu62, true}, {.control = Text20, .showFirst = true},
 };
 
-constexpr Handle tabOrder[] = {
-    Text1, Text3, Text4, Text8, Text21, Text15, Text9, Text10, Text11, Text17, Text12, Text13, Text14, Text16,
-    Text2, Text5, Text6, Text7, Text18, Text19, Text20,
+constexpr auto tabOrder = sheets::joined(common_emitter::emitterTabOrder<Control>, std::to_array<Handle>({
     Picture6, Picture4, Picture10, Picture11, Picture2, Picture7, Picture1, SSCommand3, SSCommand1,
-};
+}));
 
 using host::KeyAction;
 constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), std::to_array<host::ShortcutRow>({
@@ -192,10 +191,7 @@ const host::WindowSpec spec{.name = "Form2",
                             .values = values,
                             .shownPlace = form2_tables::shownPlace};
 
-Form2::Form2(host::SheetHost& host) : DesignSheet(host, form2::spec, form2_tables::sheetSpec)
-{
-    holds(q_, quantityTable, host::Undo::takesBack);
-}
+Form2::Form2(host::SheetHost& host) : EmitterSheet(host, form2::spec, form2_tables::sheetSpec) {}
 
 void Form2::load()
 {
@@ -252,56 +248,12 @@ void Form2::hoverBackground()
     hide(Boost);
 }
 
-// Any key that a field before the last takes: what was finished is so no longer.
-Press Form2::pressed(host::EventArgs& args)
-{
-    const Press press = DesignSheet::pressed(args);
-    if (args.control != Text19 && args.key != 0)
-        q_.passed = false;
-    return press;
-}
-
-void Form2::keyField(host::EventArgs& args)
-{
-    const Press press = pressed(args);
-    if (goesOn(args.control, press))
-        goOn(args.control, press);
-}
-
-void Form2::clickField(host::EventArgs& args)
-{
-    tell(args.control, sheets::When::click);
-}
-
 // The pictures of bootstrapping lie where the notes would.
 void Form2::hoverField(host::EventArgs& args)
 {
     DesignSheet::hoverField(args);
     if (visible(Picture7) || visible(Picture2))
         hideNotes();
-}
-
-void Form2::pressTemperature(host::EventArgs& args)
-{
-    pressField(args);
-    if (args.button == host::Button::right)
-        host().Show("Form22");
-}
-
-void Form2::pressResistor(host::EventArgs& args)
-{
-    pressField(args);
-    if (args.button == host::Button::right)
-        host().Show("Form14");
-}
-
-bool Form2::sentBack(Handle emptyField, const sheets::Saying& box, Handle target)
-{
-    if (!isEmpty(emptyField))
-        return false;
-    tell(box);
-    goTo(target);
-    return true;
 }
 
 } // namespace velmor::form2

@@ -5,10 +5,9 @@
 
 #include <string>
 
+#include "designs/common_emitter/emitter_sheet.h"
 #include "designs/common_emitter/form2_controls.h"
 #include "designs/common_emitter/form2_texts.h"
-#include "host/own_values.h"
-#include "sheets/design_sheet.h"
 
 namespace velmor::form2 {
 
@@ -17,35 +16,7 @@ using sheets::Press;
 
 extern const host::WindowSpec spec;
 
-/// The working numbers of one sheet.
-struct Quantities {
-    Real ERes;           ///< V
-    Real RLw;            ///< ohm
-    Real RLac;           ///< ohm
-    Real RLComputed;     ///< ohm
-    Real ERL;            ///< V
-    Real Rb1Computed;    ///< kilohm
-    Real Zin;            ///< kilohm
-    Real ZinBoot;        ///< ohm
-    Real QIcCheck;       ///< mA
-    bool passed = false; ///< the last step of the chain has ended without a warning
-};
-
-// clang-format off
-inline constexpr auto quantityTable = host::everyMember<Quantities>(
-    host::own<&Quantities::ERes>("ERes"),
-    host::own<&Quantities::RLw>("RLw"),
-    host::own<&Quantities::RLac>("RLac"),
-    host::own<&Quantities::RLComputed>("RLComputed"),
-    host::own<&Quantities::ERL>("ERL"),
-    host::own<&Quantities::Rb1Computed>("Rb1Computed"),
-    host::own<&Quantities::Zin>("Zin"),
-    host::own<&Quantities::ZinBoot>("ZinBoot"),
-    host::own<&Quantities::QIcCheck>("QIcCheck"),
-    host::own<&Quantities::passed>("passed"));
-// clang-format on
-
-class Form2 : public sheets::DesignSheet {
+class Form2 : public common_emitter::EmitterSheet<Control> {
 public:
     explicit Form2(host::SheetHost& host);
 
@@ -54,18 +25,13 @@ public:
     void CDL_GuardarDatos() override {}
     void CDL_AbrirDatos() override;
     std::string reportText() const override;
-    const Quantities& quantities() const { return q_; }
 
     // life of the sheet, and what all fields share (form2.cpp)
     void load();
     void activate();
     void unload();
     void hoverBackground();
-    void keyField(host::EventArgs& args);
-    void clickField(host::EventArgs& args);
     void hoverField(host::EventArgs& args);
-    void pressTemperature(host::EventArgs& args);
-    void pressResistor(host::EventArgs& args);
 
     // the chain (form2_chain.cpp)
     void focusText1(host::EventArgs& args);
@@ -76,13 +42,11 @@ public:
     void keyText3(host::EventArgs& args);
     void keyText4(host::EventArgs& args);
     void lostText4();
-    void focusText8(host::EventArgs& args);
     void keyText8(host::EventArgs& args);
     void lostText8();
     void keyText21(host::EventArgs& args);
     void lostText21();
     void keyText15(host::EventArgs& args);
-    void focusText9(host::EventArgs& args);
     void lostText9();
     void lostText10();
     void focusText11(host::EventArgs& args);
@@ -91,22 +55,15 @@ public:
 
     // load, signal and supply (form2_signal.cpp)
     void focusText17(host::EventArgs& args);
-    void keyText17(host::EventArgs& args);
     void focusText12(host::EventArgs& args);
-    void keyText12(host::EventArgs& args);
     void keyText13(host::EventArgs& args);
-    void keyText14(host::EventArgs& args);
     void lostText14();
-    void focusText16(host::EventArgs& args);
     void keyText16(host::EventArgs& args);
     void lostText16();
 
     // transistor and base divider (form2_closing.cpp)
     void focusText2(host::EventArgs& args);
-    void keyText5(host::EventArgs& args);
-    void keyText6(host::EventArgs& args);
     void lostText6();
-    void keyText7(host::EventArgs& args);
     void keyText18(host::EventArgs& args);
     void lostText18();
     void focusText19(host::EventArgs& args);
@@ -114,7 +71,6 @@ public:
     void lostText19();
 
     // option pictures and tools (form2_options.cpp)
-    void hoverButton(host::EventArgs& args);
     void clickPicture6();
     void clickPicture4();
     void lostPicture6();
@@ -128,7 +84,6 @@ public:
     void clickImage34();
     void clickImage35();
     void clickSSPanel1();
-    void clickSTA70();
     void pressImage1(host::EventArgs& args);
 
 private:
@@ -139,45 +94,26 @@ private:
     bool bypassedByBase() const { return visible(Picture1) && !visible(Picture10); }
     bool polarisedByEmitter() const { return visible(Picture10) && !visible(Picture11); }
 
-    Press pressed(host::EventArgs& args);
-    bool sentBack(host::Handle emptyField, const sheets::Saying& box, host::Handle target);
-
-    // quantities that stand in fields; these are made plain numbers
-    Real takeQIc() { return take(Text8); }
-    Real takeRes() { return take(Text15); }
-    Real takeRLw() { return take(Text9); } ///< kilohm
-    Real takeVg() { return take(Text11); }
-    Real takeBeta() { return take(Text2); }
-    Real takeRb2() { return take(Text18); }
-
     // steps of the chain that stand on their own
-    void workOutERes();
-    void writeJunctionResistance();
     void askForEmitterSupply(Press press);
     void askForEmitterResistor(Press press);
-    void takeStandardResistor();
+    void enterStandardResistor();
     bool workOutRLac();
-    void refuseLoad(Real RL);
+    void refuseRL(Real RL);
     void enterSupplyByBase();
     void enterSupplyByEmitter();
     void escapeSupply();
-    bool supplyIsTooLow(Real Eq);
-    bool overTransistorLimit(Real Eq);
-    void writeEq(Real Eq);
-    void acceptSupply();
     void workOutDivider(Real BRes, Real Rin);
     void writeCapacitors();
     void finishUnbypassed();
     void finishByEmitter();
     void finishBypassed();
     void closeByEmitter();
-    bool obtainsItsCurrent();
+    bool presetGivesItsCurrent();
     void openVariant(std::string_view sheetName, const host::BiText& title);
     void drawBootstrapping(bool drawn);
     std::string englishReport() const;
     std::string spanishReport() const;
-
-    Quantities q_;
 };
 
 } // namespace velmor::form2

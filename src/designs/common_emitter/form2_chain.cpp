@@ -19,8 +19,7 @@ void Form2::focusText1(host::EventArgs& args)
     show(Picture6);
     hide(Label21);
     write(SSPanel1, enabled(Text19) ? varyRb1Prompt : startPrompt);
-    disable(Text2, Text3, Text4, Voltaje, Text8, Text15, Text9, Text10, Text11, Text12, Text16, Text13, Text14, Text5,
-            Text6, Text7, Text21);
+    disableChain();
 }
 
 void Form2::clickText1()
@@ -101,19 +100,7 @@ void Form2::lostText4()
     workOutERes();
 }
 
-void Form2::workOutERes()
-{
-    q_.ERes = sheets::stabilityVoltage(at(Text3), at(Text4), at(Text1));
-    setText(Voltaje, shown(q_.ERes));
-}
-
 // --- QIc
-
-void Form2::focusText8(host::EventArgs& args)
-{
-    focusField(args);
-    disable(Text1, Text3, Text4);
-}
 
 void Form2::keyText8(host::EventArgs& args)
 {
@@ -137,18 +124,8 @@ void Form2::askForEmitterSupply(Press press)
 
 void Form2::askForEmitterResistor(Press press)
 {
-    workOutERes();
-    const std::string_view ending = press == Press::escape ? " ohms, " : " ohms";
-    setText(res, shown(emitterResistor(q_.ERes, takeQIc())).append(ending));
-    writeJunctionResistance();
-    hide(sta1, status40);
-    show(res);
+    showIdealResistor(press == Press::escape ? " ohms, " : " ohms");
     goOn(Text8, press);
-}
-
-void Form2::writeJunctionResistance()
-{
-    setText(statu17, " R'e =" + shown(sheets::junctionResistance(takeQIc())) + "     ohms");
 }
 
 void Form2::lostText8()
@@ -194,40 +171,23 @@ void Form2::keyText15(host::EventArgs& args)
         write(Text8, quiescentCurrent(at(Text21), takeRes()));
         goOn(Text15, press);
     } else {
-        takeStandardResistor();
+        enterStandardResistor();
     }
 }
 
-// The standard resistor moves QIc, not ERes.
-void Form2::takeStandardResistor()
+void Form2::enterStandardResistor()
 {
     const Real resistor = takeRes();
-    if (resistor > 0.01 && resistor < 1) {
+    if (belowOneOhm(resistor)) {
         workOutERes();
         setText(res, shown(emitterResistor(q_.ERes, takeQIc())) + " ohms");
     } else {
         hide(Label19);
     }
-    hide(res, statu17);
-    const Real current = quiescentCurrent(q_.ERes, resistor);
-    write(Text8, current);
-    setText(VRes, digits(q_.ERes) + "  Volt");
-    show(sta1);
-    enable(Text6);
-    if (current > (40.0 / 100.0) * rules::RoundToInt16(at(Text6)))
-        tell(currentOverLimit);
-    else
-        goOn(Text15, Press::enter);
+    takeStandardResistor(resistor);
 }
 
 // --- RLw
-
-void Form2::focusText9(host::EventArgs& args)
-{
-    focusField(args);
-    disable(Text6, Text16);
-    enable(Text17);
-}
 
 void Form2::lostText9()
 {
@@ -270,12 +230,9 @@ void Form2::lostText11()
     correct(Text11);
     if (!workOutRLac())
         return;
-    q_.RLComputed = sheets::collectorResistor(q_.RLw, q_.RLac);
-    const Real kilohms = q_.RLComputed / 1000.0;
-    setText(statu19, "    " + whole(kilohms) + " K " + " ");
-    write(Text17, kilohms);
-    if (kilohms < 0.501)
-        refuseLoad(kilohms);
+    const Real RL = workOutRL(q_.RLw);
+    if (RL < 0.501)
+        refuseRL(RL);
 }
 
 // False when no current is left for RL: the load that the gain asks for is as large as RLw itself.
@@ -286,20 +243,12 @@ bool Form2::workOutRLac()
     else if (bypassedByBase() || polarisedByEmitter())
         q_.RLac = bypassedLoad(takeVg(), takeQIc());
     setText(statu18, " (Rlac)=           " + shown(q_.RLac) + "  ohms");
-    if (q_.RLw - q_.RLac >= 0.1)
-        return true;
-    tell(loadTooLarge);
-    goTo(Text8);
-    return false;
+    return leavesCurrentForRL(q_.RLw);
 }
 
-void Form2::refuseLoad(Real RL)
+void Form2::refuseRL(Real RL)
 {
-    hide(Text18, Text15);
-    write(status40, loadImpossible.text);
-    show(status40);
-    tell(loadImpossible);
-    goTo(Text8);
+    refuseLoad(loadImpossible);
     if (visible(Picture1) || (visible(Picture10) && RL > 0 && RL < 0.01))
         tell(raiseGain);
     else if (visible(Picture10) && RL <= 0)

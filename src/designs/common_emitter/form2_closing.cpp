@@ -18,38 +18,7 @@ void Form2::focusText2(host::EventArgs& args)
     enable(Text16);
 }
 
-// --- Ec(max), reached by a click
-
-void Form2::keyText5(host::EventArgs& args)
-{
-    if (pressed(args) != Press::enter)
-        return;
-    tell(Text5, When::enter);
-    const bool supplyIsOpen = enabled(Text16);
-    if (supplyIsOpen)
-        correct(Text5);
-    goTo(supplyIsOpen ? Text16 : Text6);
-}
-
 // --- Ic(max)
-
-void Form2::keyText6(host::EventArgs& args)
-{
-    const Press press = pressed(args);
-    if (!goesOn(Text6, press))
-        return;
-    if (press == Press::escape) {
-        goOn(Text6, press);
-        return;
-    }
-    correct(Text6);
-    if (takeQIc() > (at(Text6) * 40.0) / 100.0) {
-        tell(overTransistorCurrent);
-        return;
-    }
-    tell(Text6, When::enter);
-    goTo(isEmpty(Text16) ? Text15 : Text7);
-}
 
 void Form2::lostText6()
 {
@@ -57,18 +26,6 @@ void Form2::lostText6()
         goTo(Text5);
     else
         correct(Text6);
-}
-
-// --- Vj
-
-void Form2::keyText7(host::EventArgs& args)
-{
-    const Press press = pressed(args);
-    if (!goesOn(Text7, press))
-        return;
-    hide(sta3);
-    show(statu22);
-    goOn(Text7, press);
 }
 
 // --- Rb2
@@ -95,7 +52,7 @@ void Form2::lostText18()
     const Real emitter = visible(Picture1) ? sheets::junctionResistance(takeQIc()) : takeRes();
     const Real BRes = transistorInput(takeBeta(), emitter);
     const Real Rin = inputWithoutRb1(takeRb2(), BRes);
-    setText(statu23, "B x Res=" + shown(BRes / 1000.0) + " K" + "\n" + "Rin=" + whole(Rin) + " K");
+    writeInput(BRes, Rin);
     if (polarisedByEmitter()) {
         show(Label20);
         write(statu24, noUpperResistor);
@@ -113,8 +70,7 @@ void Form2::workOutDivider(Real BRes, Real Rin)
     const Real ERb1 = upperBaseVoltage(at(Text16), takeQIc(), at(Text17), takeRes(), at(Text7));
     const Real Rb1 = upperBaseResistor(ERb1, Rin, takeRes(), takeQIc(), at(Text7));
     q_.Rb1Computed = Rb1;
-    setText(statu24, (" Preset  Rb1= " + shown(Rb1) + " K").append(pick(presetAdvice)));
-    setText(statu30, digits(ERb1) + " Volts");
+    writePreset(Rb1, ERb1);
     // A student who comes here before there is a supply has no divider yet: its resistances would cancel each other.
     if (ERb1 <= 0)
         return;
@@ -144,7 +100,7 @@ void Form2::focusText19(host::EventArgs& args)
 {
     focusField(args);
     show(SSPanel1);
-    write(Text10, stabilityFactor(CurrencyValue(takeRb2()), takeRes()));
+    writeStability(takeRes());
 }
 
 void Form2::keyText19(host::EventArgs& args)
@@ -158,8 +114,7 @@ void Form2::keyText19(host::EventArgs& args)
         finishByEmitter();
     else if (bypassedByBase())
         finishBypassed();
-    hide(statu22, statu23, statu24);
-    show(statu31, statu32, statu33, Boost, sta4);
+    showImpedances();
 }
 
 void Form2::finishUnbypassed()
@@ -178,7 +133,7 @@ void Form2::finishByEmitter()
     setText(statu31, " Zin= " + whole(Zin) + "  ohms");
     setText(statu32, shown(couplingMicrofarads(fo, Zin)) + " mf");
     setText(statu33, shown(couplingMicrofarads(fo, takeRLw() * 1000.0)) + " mf");
-    setText(Text20, digits(bypassCapacitor(takeQIc(), fo)) + " microF");
+    writeBypassCapacitor();
     write(STA70, noBootstrapHint);
     goTo(Picture4);
     disable(Picture2);
@@ -188,7 +143,7 @@ void Form2::finishBypassed()
 {
     hide(Picture1, Picture6, Picture2, Picture7);
     show(Text20);
-    setText(Text20, digits(bypassCapacitor(takeQIc(), at(Text12))) + " microF");
+    writeBypassCapacitor();
     write(STA70, noBootstrapHint);
     disable(Picture2);
 }
@@ -201,29 +156,23 @@ void Form2::lostText19()
         return;
     }
     correct(Text19);
-    q_.passed = obtainsItsCurrent();
+    q_.passed = presetGivesItsCurrent();
     if (q_.passed)
         return;
     tell(adjustPreset);
     goTo(Text19);
 }
 
-// The current that the preset in use really gives, within a tenth of the one designed.
-bool Form2::obtainsItsCurrent()
+bool Form2::presetGivesItsCurrent()
 {
     const Real wanted = takeQIc();
-    q_.QIcCheck = obtainedCurrent({.Es = at(Text16),
+    return obtainsItsCurrent(wanted, obtainedCurrent({.Es = at(Text16),
                                    .QIc = wanted,
                                    .Res = takeRes(),
                                    .RL = at(Text17),
                                    .Rb1 = at(Text19),
                                    .Rb2 = takeRb2(),
-                                   .Beta = takeBeta()});
-    write(statu24, adjustPresetAdvice);
-    setText(Label24, shown(q_.QIcCheck) + " mA");
-    show(Label24);
-    const Real band = wanted * 10.0 / 100.0;
-    return q_.QIcCheck >= wanted - band && q_.QIcCheck <= wanted + band;
+                                   .Beta = takeBeta()}));
 }
 
 // Without Rb1 nothing is to be adjusted: what is left to tell is the voltage of the emitter.

@@ -16,20 +16,10 @@ constexpr int minimised = 1;
 
 using namespace options_detail;
 
-void Form2::hoverButton(host::EventArgs& args)
-{
-    tell(args.control, sheets::When::hover);
-    show(Boost);
-}
-
 // Another kind of sheet opens in front; this one starts over behind it.
 void Form2::openVariant(std::string_view sheetName, const host::BiText& title)
 {
-    host::Window* opened = host().NewInstance(sheetName);
-    if (opened != nullptr) {
-        host().Show(*opened);
-        host().SetWindowCaption(*opened, pick(title));
-    }
+    openSheet(sheetName, title);
     goTo(Text1);
 }
 
@@ -135,11 +125,6 @@ void Form2::clickSSPanel1()
     setPlaceOf(SSPanel1, place);
     if (!grows)
         write(SSPanel1, helpTitle);
-}
-
-void Form2::clickSTA70()
-{
-    setVisible(STA70, !visible(STA70));
 }
 
 void Form2::pressImage1(host::EventArgs& args)
