@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "designs/common_emitter/desaco.h"
 #include "designs/common_emitter/form2.h"
 #include "designs/differential/form3_controls.h"
 #include "editors/editor.h"
@@ -31,6 +32,7 @@ host::Catalogue catalogue()
 
         // sheets, family by family
         &form2::spec,
+        &desaco::spec,
 
         &form3::spec,
 

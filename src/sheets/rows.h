@@ -55,15 +55,22 @@ consteval std::array<host::SlotRow, Count> alike(const std::array<host::Handle, 
     return rows;
 }
 
+/// The fields of a chain in its order, which begins that of the Tab key.
+template <std::size_t Count>
+consteval std::array<host::Handle, Count> fieldsOf(const std::array<ChainRow, Count>& chain)
+{
+    std::array<host::Handle, Count> fields{};
+    for (std::size_t i = 0; i < Count; ++i)
+        fields[i] = chain[i].field;
+    return fields;
+}
+
 /// The same slot for every field of a chain.
 template <std::size_t Count>
 consteval std::array<host::SlotRow, Count> alike(const std::array<ChainRow, Count>& chain, host::Event event,
                                                  host::SlotFunction run)
 {
-    std::array<host::Handle, Count> fields{};
-    for (std::size_t i = 0; i < Count; ++i)
-        fields[i] = chain[i].field;
-    return alike(fields, event, run);
+    return alike(fieldsOf(chain), event, run);
 }
 
 // What makes two rows the same row of two tables.

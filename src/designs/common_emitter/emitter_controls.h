@@ -243,12 +243,16 @@ inline constexpr std::array<host::Handle, 19> emitterNotes{
     C::status12, C::status13, C::status14, C::status15, C::status16, C::statu36, C::sta5, C::Label21,
 };
 
-/// The order of the Tab key: the chain, then the option pictures and buttons of each sheet.
+/// The keys of what the pointer alone would reach.
 template <class C>
-inline constexpr std::array<host::Handle, 21> emitterTabOrder{
-    C::Text1, C::Text3, C::Text4, C::Text8, C::Text21, C::Text15, C::Text9, C::Text10, C::Text11, C::Text17, C::Text12, C::Text13,
-    C::Text14, C::Text16, C::Text2, C::Text5, C::Text6, C::Text7, C::Text18, C::Text19, C::Text20,
-};
+inline constexpr auto emitterKeys = std::to_array<host::ShortcutRow>({
+    {"Shift+F2",  C::Image1,    host::KeyAction::hover,      host::noControl, {"Borrar las notas", "Take the notes away"}},
+    {"F5",        C::Voltaje,   host::KeyAction::hover,      host::noControl, {"Fórmula de ERes", "Formula of ERes"}},
+    {"F7",        C::statu17,   host::KeyAction::hover,      host::noControl, {"Nota de r'e", "Note on r'e"}},
+    {"F8",        C::statu18,   host::KeyAction::hover,      host::noControl, {"Nota de RLac", "Note on RLac"}},
+    {"F9",        C::statu23,   host::KeyAction::hover,      host::noControl, {"Nota de Rin", "Note on Rin"}},
+    {"Shift+F11", C::STA70,     host::KeyAction::click,      host::noControl, {"Ocultar el próximo paso", "Hide the next step"}},
+});
 
 /// Parts that come with the same field on each sheet.
 // part, field that brings it

@@ -11,7 +11,7 @@ namespace formulas_detail {
 constexpr double twoPi = 6.28;
 constexpr double tenth = 0.1;
 constexpr double million = 1000000.0;
-constexpr double fixedJunction = 0.6;
+constexpr double junctionMillivolts = 25.0;
 
 } // namespace formulas_detail
 
@@ -29,6 +29,11 @@ Real bypassedLoad(Real Vg, Real QIc)
     return Vg * junctionResistance(QIc);
 }
 
+Real fullyBypassedLoad(Real Vg, Real QIc)
+{
+    return Vg * junctionMillivolts / QIc;
+}
+
 Real unbypassedLoad(Real Vg, Real Res)
 {
     return Vg * Res;
@@ -37,6 +42,11 @@ Real unbypassedLoad(Real Vg, Real Res)
 Real realGain(Real RLac, Real Res)
 {
     return RLac / (Res / 1000.0);
+}
+
+Real fullyBypassedGain(Real RLac, Real QIc)
+{
+    return RLac / (junctionResistance(QIc) / 1000.0);
 }
 
 Real leastSupply(Real ERes, Real ERL, Real Eopp)
@@ -84,6 +94,11 @@ Real upperBaseResistor(Real ERb1, Real Rin, Real Res, Real QIc, Real Vj)
     return (ERb1 * Rin) / ((((Res / 1000.0) * QIc) / 1000.0) * 1000.0 + Vj);
 }
 
+Real fullyBypassedUpperResistor(Real ERb1, Real Rin, Real Res, Real QIc, Real Vj)
+{
+    return ERb1 * Rin / (Res * QIc / 1000.0 + Vj);
+}
+
 Real inputImpedance(Real Rin, Real Rb1)
 {
     return parallel(Rin, Rb1);
@@ -93,6 +108,12 @@ Real inputImpedanceBypassed(Real Rb2, Real Rb1, Real BRes)
 {
     const Real divider = parallel(Rb2, Rb1);
     return (divider * BRes / 1000.0) / (divider + BRes / 1000.0);
+}
+
+Real fullyBypassedInput(Real Beta, Real QIc, Real Rb1)
+{
+    const Real junction = Beta * junctionMillivolts / QIc;
+    return junction * Rb1 * 1000.0 / (junction + Rb1 * 1000.0);
 }
 
 Real inputImpedanceByEmitter(Real Rb2, Real Beta, Real QIc)
@@ -132,12 +153,16 @@ Real bypassCapacitor(Real QIc, Real fo)
     return rules::TruncToInteger((1.0 / ((0.025 / (QIc / 1000.0)) * (fo * twoPi))) * million);
 }
 
+Real bypassMicrofarads(Real QIc, Real fo)
+{
+    return 1.0 / (fo * twoPi * junctionMillivolts / QIc) * million;
+}
+
 Real obtainedCurrent(const CurrentCheck& circuit)
 {
-    const Real ERes = circuit.Res * (circuit.QIc / 1000.0);
-    const Real Eq = circuit.Es - (circuit.RL * circuit.QIc + ERes);
-    const Real upper = ((Eq + circuit.RL * circuit.QIc) - fixedJunction) / (circuit.Rb1 * 1000.0);
-    const Real lower = (ERes + fixedJunction) / (circuit.Rb2 * 1000.0);
+    const Real Eq = circuit.Es - (circuit.RL * circuit.QIc + circuit.ERes);
+    const Real upper = ((Eq + circuit.RL * circuit.QIc) - circuit.Vj) / (circuit.Rb1 * 1000.0);
+    const Real lower = (circuit.ERes + circuit.Vj) / (circuit.Rb2 * 1000.0);
     return (upper - lower) * circuit.Beta * 1000.0;
 }
 

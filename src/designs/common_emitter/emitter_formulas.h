@@ -20,11 +20,18 @@ Real quiescentCurrent(Real emitterVoltage, Real Res);
 /// RLac in ohm = Vg x r'e, the load of a bypassed stage; QIc in mA.
 Real bypassedLoad(Real Vg, Real QIc);
 
+/// RLac in ohm = Vg x 25 / QIc, the same load on a sheet of its own for it; QIc in mA. Multiplied before it is divided, as that
+/// sheet writes it: the last digit may differ.
+Real fullyBypassedLoad(Real Vg, Real QIc);
+
 /// RLac in ohm = Vg x Res, the load of a stage without bypass; Res in ohm.
 Real unbypassedLoad(Real Vg, Real Res);
 
 /// Vg = RLac / Res, with RLac in kilohm, Res in ohm.
 Real realGain(Real RLac, Real Res);
+
+/// Vg = RLac / r'e, with RLac in kilohm, QIc in mA.
+Real fullyBypassedGain(Real RLac, Real QIc);
 
 /// Es in V = ERes + ERL + Eopp + 1, all in V: the least supply.
 Real leastSupply(Real ERes, Real ERL, Real Eopp);
@@ -56,11 +63,17 @@ Real upperBaseVoltage(Real Es, Real QIc, Real RL, Real Res, Real Vj);
 /// Rb1 in kilohm = (ERb1 x Rin) / (ERes + Vj), with ERes = Res x QIc; QIc in mA.
 Real upperBaseResistor(Real ERb1, Real Rin, Real Res, Real QIc, Real Vj);
 
+/// The same Rb1 in kilohm as a fully bypassed sheet writes it = ERb1 x Rin / (Res x QIc / 1000 + Vj); QIc in mA.
+Real fullyBypassedUpperResistor(Real ERb1, Real Rin, Real Res, Real QIc, Real Vj);
+
 /// Zin in kilohm of a stage without bypass = (Rin x Rb1) / (Rin + Rb1).
 Real inputImpedance(Real Rin, Real Rb1);
 
 /// Zin in kilohm of a bypassed stage: Rb2, Rb1 and BRes (in ohm) in parallel.
 Real inputImpedanceBypassed(Real Rb2, Real Rb1, Real BRes);
+
+/// Zin in ohm of a fully bypassed sheet: Beta x 25 / QIc in parallel with Rb1 (in kilohm); Rb2 is left out.
+Real fullyBypassedInput(Real Beta, Real QIc, Real Rb1);
 
 /// Zin in ohm of a stage polarised by emitter: Rb2 (in kilohm) in parallel with Beta x r'e.
 Real inputImpedanceByEmitter(Real Rb2, Real Beta, Real QIc);
@@ -84,19 +97,23 @@ Real secondBootstrapCapacitor(Real Rb1, Real fo);
 /// Cbp in whole microfarads = (1 / (r'e x fo x 6.28)) x 1000000, with r'e = 0.025 V / QIc; QIc in mA.
 Real bypassCapacitor(Real QIc, Real fo);
 
+/// Cbp in microfarads = 1 / (fo x 6.28 x 25 / QIc) x 1000000, with its fraction; QIc in mA.
+Real bypassMicrofarads(Real QIc, Real fo);
+
 /// What the collector current really becomes with the Rb1 in use.
 struct CurrentCheck {
     Real Es;  ///< V
     Real QIc; ///< mA
-    Real Res; ///< ohm
+    Real ERes; ///< V
     Real RL;  ///< kilohm
     Real Rb1; ///< kilohm
     Real Rb2; ///< kilohm
     Real Beta;
+    Real Vj = 0.6; ///< V; fixed where the sheet does not read its field here
 };
 
-/// QIc in mA = (IRb1 - IRb2) x Beta, with IRb1 = (Eq + RL x QIc - 0.6) / Rb1 and IRb2 = (ERes + 0.6) / Rb2. The 0.6 V is fixed:
-/// the junction voltage in the field is not read here.
+/// QIc in mA = (IRb1 - IRb2) x Beta, with IRb1 = (Eq + RL x QIc - Vj) / Rb1, IRb2 = (ERes + Vj) / Rb2 and
+/// Eq = Es - (RL x QIc + ERes).
 Real obtainedCurrent(const CurrentCheck& circuit);
 
 } // namespace velmor::common_emitter

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "host/bitext.h"
 #include "sheets/saying.h"
@@ -53,6 +54,10 @@ inline constexpr auto emitterSayings = std::to_array<Saying>({
       "ambiente de trabajo y el corrimiento de corriente de reposo (delta QIc) elegido.",
       " In the next step you will obtain the minimum voltage of stability that should be present in the Emitter, chord to the ambient "
       "temperature of work and the landslide of quiescent current  (delta QIc) elect."}},
+    {C::Text4, When::enter, C::STA70, {" Escape... valor predeterminado.  ", " Esc...  predeterminated value.  "}},
+    {C::Text4, When::escape, C::STA70,
+     {"                                                                                    Escape... valor predeterminado.  ",
+      "                                                                                    Esc...predeterminated value.  "}},
     {C::Text4, When::hover, C::SSPanel1,
      {"El aumento de polarización directa  aumenta la corriente y la temperatura y nuevamente la polarización directa, provocando lo "
       "que se conoce como efecto avalancha",
@@ -139,6 +144,11 @@ inline constexpr auto emitterSayings = std::to_array<Saying>({
     {C::Text13, When::enter, C::STA70,
      {" Coloque cifra superior a la tensión mínima...                                   Esc.., valor predeterminado de 25 voltios",
       " It places superior values to the minimum voltage...                             Esc.., predetermined value of 25 volts"}},
+    {C::Text13, When::escape, C::STA70,
+     {"                                                                               Pulse Enter, o modifique al valor deseado, "
+      "luego...  ENTER",
+      "                                                                               Pulses Enter, or modify to the wanted value, "
+      "then... ENTER"}},
     {C::Text13, When::hover, C::status11,
      {" Máxima tensión de salida    pico a pico, Sin datos...Esc.",
       " Maximum voltage of output   pick to pick, Without data... Esc."}},
@@ -231,6 +241,19 @@ inline constexpr auto emitterSayings = std::to_array<Saying>({
      {"  Resistencia que       encontraria el            generador de           señales, sin estar         Rb1",
       "Resistance that would find the generator of signs, without Rb1 being"}},
 });
+
+/// Prompts of the two sheets that can be polarised by emitter.
+template <class C>
+inline constexpr auto modeSayings = std::to_array<Saying>({
+    {C::Text21, When::empty, C::STA70,
+     {" Coloque valor del Manual de Transistor, este debe ser superior al valor de  Eq calculado.\nEsc...predeterminado",
+      "It places value of the Manual of Transistor, this it should be superior to the value of calculated Eq.\n Esc... predetermined"}},
+    {C::Text21, When::enter, C::STA70,
+     {"                                                                                    Especificacion circuital...       "
+      "Esc...valor predeterminado ",
+      "                                                                                    Circuit especification ...       Esc... "
+      "predeterminated value"}},
+});
 // clang-format on
 
 namespace emitter_texts_detail {
@@ -242,10 +265,18 @@ inline constexpr BiText designApproach{.es = "Criterio de diseño...", .en = "De
 
 // Boxes, in the order in which a student may meet them.
 
-/// An empty field at Enter, where the sheet names no other box.
-inline constexpr Saying emptyField{.when = When::empty,
-                                   .text = {.es = "Debe colocar una cifra", .en = "It should place a figure"},
-                                   .title = emitter_texts_detail::dataError};
+/// The box of Enter in this empty field.
+constexpr Saying ofField(host::Handle field, Saying box)
+{
+    box.about = field;
+    box.when = When::empty;
+    return box;
+}
+
+inline constexpr Saying emptyFigure{.text = {.es = "Debe colocar una cifra", .en = "It should place a figure"},
+                                    .title = emitter_texts_detail::dataError};
+/// Enter in an empty field, where the sheet names no other box.
+inline constexpr Saying emptyField = ofField(host::noControl, emptyFigure);
 /// An empty field was left.
 inline constexpr Saying emptyLeft{.text = {.es = "Debe colocar una cifra", .en = "It should place a value"},
                                   .title = emitter_texts_detail::dataError};
@@ -305,12 +336,34 @@ inline constexpr Saying adjustPreset{.text = {.es = "Corriente de Colector obten
 // Captions and prompts that belong to no single moment.
 inline constexpr BiText headingTransistor{.es = "Parámetros del transistor", .en = "Transistor Parameters"};
 inline constexpr BiText headingCircuit{.es = "Parámetros del Circuito", .en = "Circuit Parameters"};
+inline constexpr BiText capacitorsInMicrofarads{.es = "Capacitores en microfaradios", .en = "Capacitors in microfarads"};
+/// The caption of the option pictures of the bypass.
+inline constexpr BiText bypassName{.es = "Desacoplado", .en = "Bypass"};
 inline constexpr BiText tooLow{.es = " tensión muy baja Colector - Emisor",
                                .en = "Voltage very low Collector - Emitter"};
 inline constexpr BiText presetAdvice{.es = "  Coloque valor comercial...", .en = "  Put normalized value..."};
 inline constexpr BiText adjustPresetAdvice{
     .es = "Pulse Click...   y ajuste el valor del preset hasta obtener la QIc deseada...",
     .en = "Click pulses... and adjust the value of the preset until obtaining the wanted QIc..."};
+/// How a design begins, in Spanish; an English sheet says it too, in one place.
+inline constexpr std::string_view startInSpanish =
+    "Ingrese la variación máxima de corriente de reposo admisible con los cambios de temperatura de trabajo. Para "
+    "circutos criticos (electromedicina) utilice valores de 1 a 3. ";
+// The English side speaks Spanish, and always did.
+inline constexpr BiText varyRb1Prompt{
+    .es =
+        "varíe de a valores unitarios el valor de Rb1 hasta obtener la QIc especificada en 'Parámetros del Circuito ' "
+        "cumpliendose así la distribución de tensiones...",
+    .en = startInSpanish};
+inline constexpr BiText noBootstrapHint{
+    .es = " No se puede  realizar Bootstrapping \n Salvo indicacion, capacitores en "
+          "microfaradios",
+    .en = "Bootstrapping can not be carried out\nExcept for indication, capacitors in "
+          "microfarade"};
+inline constexpr BiText tooLowAtEscape{.es = " Tensión muy baja Colector - Emisor",
+                                       .en = " Collector - Emitter Voltage very low "};
+inline constexpr BiText noUpperResistorAtEnter{.es = " Sin resistor Rb1...pulse ENTER",
+                                               .en = "Without resister Rb1... press ENTER"};
 inline constexpr BiText bypassHint{.es = " Pulsando DESACOPLADO, obtendra mas ganancia..",
                                    .en = "Pressing Bypass, you will obtain more gain.."};
 

@@ -127,19 +127,13 @@ constexpr FileLine read[] = {
     {statu33, true}, {statu61, true}, {statu62, true}, {.control = Text20, .showFirst = true},
 };
 
-constexpr auto tabOrder = sheets::joined(common_emitter::emitterTabOrder<Control>, std::to_array<Handle>({
-    Picture6, Picture4, Picture10, Picture11, Picture2, Picture7, Picture1, SSCommand3, SSCommand1,
+constexpr auto tabOrder = sheets::joined(sheets::fieldsOf(chain), std::to_array<Handle>({
+    Text20, Picture6, Picture4, Picture10, Picture11, Picture2, Picture7, Picture1, SSCommand3, SSCommand1,
 }));
 
 using host::KeyAction;
-constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), std::to_array<host::ShortcutRow>({
-    {"Shift+F2",  Image1,    KeyAction::hover,      noControl, {"Borrar las notas", "Take the notes away"}},
-    {"F5",        Voltaje,   KeyAction::hover,      noControl, {"Fórmula de ERes", "Formula of ERes"}},
-    {"F7",        statu17,   KeyAction::hover,      noControl, {"Nota de r'e", "Note on r'e"}},
-    {"F8",        statu18,   KeyAction::hover,      noControl, {"Nota de RLac", "Note on RLac"}},
-    {"F9",        statu23,   KeyAction::hover,      noControl, {"Nota de Rin", "Note on Rin"}},
+constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), common_emitter::emitterKeys<Control>, std::to_array<host::ShortcutRow>({
     {"F11",       SSPanel1,  KeyAction::click,      noControl, {"Agrandar el panel de ayuda", "Enlarge the help panel"}},
-    {"Shift+F11", STA70,     KeyAction::click,      noControl, {"Ocultar el próximo paso", "Hide the next step"}},
     {"Ctrl+1",    Picture6,  KeyAction::click,      noControl, {"Desacoplado", "Bypass"}},
     {"Ctrl+2",    Picture4,  KeyAction::click,      noControl, {"Parcialmente desacoplado", "Parcial Bypass"}},
     {"Ctrl+3",    Picture11, KeyAction::click,      Picture10, {"Polarizado p/Emisor, o p/Base", "Polarized by Emitter, or by Base"}},

@@ -168,7 +168,7 @@ bool Form2::presetGivesItsCurrent()
     const Real wanted = takeQIc();
     return obtainsItsCurrent(wanted, obtainedCurrent({.Es = at(Text16),
                                    .QIc = wanted,
-                                   .Res = takeRes(),
+                                   .ERes = takeRes() * (wanted / 1000.0),
                                    .RL = at(Text17),
                                    .Rb1 = at(Text19),
                                    .Rb2 = takeRb2(),

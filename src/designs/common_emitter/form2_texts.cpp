@@ -8,18 +8,11 @@ namespace velmor::form2 {
 
 namespace texts_detail {
 
-// Enter in the empty first field has a box of its own.
-constexpr Saying emptyText1 = [] {
-    Saying row = sheets::placeANumber;
-    row.about = Text1;
-    return row;
-}();
-
 // clang-format off
 // field, moment, place, Spanish, English
 constexpr auto ownSayings = std::to_array<Saying>({
     common_emitter::emptyField,
-    emptyText1,
+    common_emitter::ofField(Text1, sheets::placeANumber),
     {Text1, When::focus, STA70,
      {"Con Enter ó Esc comienza el diseño de un amplificador 'Clase A', realimentado por corriente, polarizado por base. En BOTONES "
       "encontrara otras opciones...",
@@ -29,27 +22,10 @@ constexpr auto ownSayings = std::to_array<Saying>({
     {Text3, When::enter, STA70,
      {"Para Qic inferior a 10 mA coloque cifra de 2,5 a 3  ",
       "For inferior Qic to 10 MA places value from 2,5 to 3\n              For Qic superior to 10 mA places the value 3"}},
-    {Text4, When::enter, STA70, {" Escape... valor predeterminado.  ", " Esc...  predeterminated value.  "}},
-    {Text4, When::escape, STA70,
-     {"                                                                                    Escape... valor predeterminado.  ",
-      "                                                                                    Esc...predeterminated value.  "}},
     {Text8, When::enter, STA70,
      {"Coloque un valor normalizado...  ",
       "                                                                                                             Put a normalized "
       "value...  "}},
-    {Text21, When::empty, STA70,
-     {" Coloque valor del Manual de Transistor, este debe ser superior al valor de  Eq calculado.\nEsc...predeterminado",
-      "It places value of the Manual of Transistor, this it should be superior to the value of calculated Eq.\n Esc... predetermined"}},
-    {Text21, When::enter, STA70,
-     {"                                                                                    Especificacion circuital...       "
-      "Esc...valor predeterminado ",
-      "                                                                                    Circuit especification ...       Esc... "
-      "predeterminated value"}},
-    {Text13, When::escape, STA70,
-     {"                                                                               Pulse Enter, o modifique al valor deseado, "
-      "luego...  ENTER",
-      "                                                                               Pulses Enter, or modify to the wanted value, "
-      "then... ENTER"}},
 });
 
 // Names of the buttons under the pointer.
@@ -71,7 +47,7 @@ constexpr auto buttonNames = std::to_array<Saying>({
 });
 // clang-format on
 
-constexpr auto allSayings = sheets::joined(common_emitter::emitterSayings<Control>, ownSayings, buttonNames);
+constexpr auto allSayings = sheets::joined(common_emitter::emitterSayings<Control>, common_emitter::modeSayings<Control>, ownSayings, buttonNames);
 
 } // namespace texts_detail
 

@@ -29,14 +29,14 @@ inline constexpr auto captions = std::to_array<Saying>({
     {.place = Label11,   .text = common_emitter::headingCircuit},
     {.place = Label19,   .text = {"Coloque -Es sin el signo", "Put -Es without its sign"}},
     {.place = Label20,   .text = {"Sin resistor Rb1", "Without resistor Rb1"}},
-    {.place = sta4,      .text = {"Capacitores en microfaradios", "Capacitors in microfarads"}},
-    {.place = Picture6,  .text = {"Desacoplado", "Bypass"}},
+    {.place = sta4,      .text = common_emitter::capacitorsInMicrofarads},
+    {.place = Picture6,  .text = common_emitter::bypassName},
     {.place = Picture4,  .text = {"Parcialmente desacoplado", "Parcial Bypass"}},
     {.place = Picture11, .text = {"Polarizado p/Emisor", "Polarized by Emitter"}},
     {.place = Picture10, .text = {"Polarizado p/Emisor", "Polarized by Emitter"}},
     {.place = Picture2,  .text = {"Bootstrapping", "Bootstrapping"}},
     {.place = Picture7,  .text = {"Bootstrapping", "Bootstrapping"}},
-    {.place = Picture1,  .text = {"Desacoplado", "Bypass"}},
+    {.place = Picture1,  .text = common_emitter::bypassName},
 });
 // clang-format on
 
@@ -51,19 +51,7 @@ inline constexpr BiText startPrompt{
         "circutos criticos (electromedicina) utilice valores de 1 a 3. \nDerecho del Mouse es Ayuda...",
     .en = "it enters the maximum variation of quiescent current acceptable  with the changes of work temperature. For "
           "critical circutos (electro medicine) used values of 1 at 3. "};
-// The English side speaks Spanish, and always did.
-inline constexpr BiText varyRb1Prompt{
-    .es =
-        "varíe de a valores unitarios el valor de Rb1 hasta obtener la QIc especificada en 'Parámetros del Circuito ' "
-        "cumpliendose así la distribución de tensiones...",
-    .en =
-        "Ingrese la variación máxima de corriente de reposo admisible con los cambios de temperatura de trabajo. Para "
-        "circutos criticos (electromedicina) utilice valores de 1 a 3. "};
 inline constexpr BiText helpTitle{.es = "Ayuda", .en = "Help"};
-inline constexpr BiText tooLowAtEscape{.es = " Tensión muy baja Colector - Emisor",
-                                       .en = " Collector - Emitter Voltage very low "};
-inline constexpr BiText noUpperResistorAtEnter{.es = " Sin resistor Rb1...pulse ENTER",
-                                               .en = "Without resister Rb1... press ENTER"};
 inline constexpr BiText noUpperResistor{.es = "Without resistor Rb1... ENTER pulse",
                                         .en = "Without resistor Rb1... ENTER pulse"};
 inline constexpr BiText bootstrapHint{
@@ -71,11 +59,6 @@ inline constexpr BiText bootstrapHint{
           "capacitores en microFaradios        ",
     .en = "If you wants bigger entrance impedance, BOOTSTRAPPING pulse. \nExcept for indication, "
           "capacitors in microFarade"};
-inline constexpr BiText noBootstrapHint{
-    .es = " No se puede  realizar Bootstrapping \n Salvo indicacion, capacitores en "
-          "microfaradios",
-    .en = "Bootstrapping can not be carried out\nExcept for indication, capacitors in "
-          "microfarade"};
 inline constexpr BiText archivedBase{.es = "Circuito de Archivo : Emisor Común",
                                      .en = "Archive Circuit : Common Emitter"};
 inline constexpr BiText archivedEmitter{.es = "Circuito de Archivo : Polarizado por Emisor ",
