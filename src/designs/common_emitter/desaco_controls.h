@@ -60,8 +60,10 @@ inline constexpr auto signalIntoBase = part({
     Mark{.symbol = Symbol::arrow, .from = {480, 327}, .to = {516, 327}, .field = Text18},
 });
 
-// What differs from the rows of the family: r'e shows from the start, RLw has a caption of its own above that of RLac.
+// What differs from the rows of the family: the capacitor and r'e show from the start, RLw has a caption of its own above that
+// of RLac.
 inline constexpr auto differentRows = std::to_array<ControlRow>({
+    drawn(Image2, "image2", Kind::image, drawing::bypassCapacitor),
     field(Text11, "Text11", zones::parameter(circuitTop, 6), "55", notation::Vg),
     result(statu17, "statu17", at(672, 370, 112, 18)),
     hidden(result(statu18, "statu18", at(912, 502, 100, 34))),

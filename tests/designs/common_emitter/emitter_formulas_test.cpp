@@ -99,7 +99,7 @@ TEST(EmitterFormulas, CapacitorsUseTheRoundedTwoPiOfTheCourse)
 TEST(EmitterFormulas, TheObtainedCurrentUsesTheFixedJunction)
 {
     // I1 = (11.625 + 22 - 0.6) / 120000, I2 = 1.975 / 12000: (0.00027520833 - 0.00016458333) x 80000
-    const CurrentCheck circuit{.Es = 35, .QIc = 1, .Res = 1375, .RL = 22, .Rb1 = 120, .Rb2 = 12, .Beta = 80};
+    const CurrentCheck circuit{.Es = 35, .QIc = 1, .ERes = 1.375, .RL = 22, .Rb1 = 120, .Rb2 = 12, .Beta = 80};
     EXPECT_NEAR(obtainedCurrent(circuit).value(), 8.85, 1e-9);
 }
 
