@@ -155,7 +155,8 @@ void Desaco::lostText11()
 void Desaco::focusText12(host::EventArgs& args)
 {
     const Real realLoad = showRealLoad(args);
-    setText(Text11, shown(fullyBypassedGain(realLoad, takeQIc())));
+    if (realLoad > 0)
+        setText(Text11, shown(fullyBypassedGain(realLoad, takeQIc())));
 }
 
 } // namespace velmor::desaco

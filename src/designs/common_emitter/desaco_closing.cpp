@@ -146,6 +146,9 @@ void Desaco::lostText19()
     if (sentBack(Text19, Text1))
         return;
     correct(Text19);
+    // Only an odd file brings the student here without Rb2.
+    if (at(Text18) <= 0)
+        return;
     const Real QIc = takeQIc();
     q_.passed = obtainsItsCurrent(QIc, obtainedCurrent({.Es = at(Text16),
                                                         .QIc = QIc,

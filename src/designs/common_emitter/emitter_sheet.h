@@ -180,10 +180,12 @@ void EmitterSheet<C>::disableChain()
             C::Text16, C::Text13, C::Text14, C::Text5, C::Text6, C::Text7, C::Text21);
 }
 
+// Only an odd file brings an allowed drift of 0; the voltage is then the one before.
 template <class C>
 void EmitterSheet<C>::workOutERes()
 {
-    q_.ERes = sheets::stabilityVoltage(at(C::Text3), at(C::Text4), at(C::Text1));
+    if (at(C::Text1) > 0)
+        q_.ERes = sheets::stabilityVoltage(at(C::Text3), at(C::Text4), at(C::Text1));
     setText(C::Voltaje, shown(q_.ERes));
 }
 
@@ -283,12 +285,14 @@ void EmitterSheet<C>::keyText17(host::EventArgs& args)
     goOn(C::Text17, press);
 }
 
-/// The load for the signal with the RL that was accepted, in kilohm.
+/// The load for the signal with the RL that was accepted, in kilohm; 0 where an odd file has left nothing to work it out from.
 template <class C>
 Real EmitterSheet<C>::showRealLoad(host::EventArgs& args)
 {
     focusField(args);
     disable(C::Text16, C::Text2, C::Text5, C::Text6, C::Text7, C::Text19, C::Text18, C::Text13, C::Text14);
+    if (takeRLw() + at(C::Text17) <= 0)
+        return 0;
     const Real realLoad = sheets::parallel(takeRLw(), at(C::Text17));
     setText(C::statu18, "Rlac = " + shown(realLoad) + " K");
     show(C::statu18);
@@ -469,7 +473,8 @@ void EmitterSheet<C>::writeStability(Real Res)
 template <class C>
 void EmitterSheet<C>::writeBypassCapacitor()
 {
-    setText(C::Text20, digits(bypassCapacitor(takeQIc(), at(C::Text12))) + " microF");
+    if (at(C::Text12) > 0)
+        setText(C::Text20, digits(bypassCapacitor(takeQIc(), at(C::Text12))) + " microF");
 }
 
 // The current that the preset in use really gives, within a tenth of the one designed. Both in mA.
