@@ -90,10 +90,15 @@ void DesignSheet::clickReport()
 
 void DesignSheet::openReportAsking()
 {
+    showReport(mayWriteReport());
+}
+
+bool DesignSheet::mayWriteReport()
+{
     host().Arrange(2);
     if (!anyArrangementMark(host()))
         host().setChecked("mnuVert", true);
-    showReport(!isOpen(host(), pick(reportEditor)) || tell(overwriteReport) == answerOk);
+    return !isOpen(host(), pick(reportEditor)) || tell(overwriteReport) == answerOk;
 }
 
 void DesignSheet::showReport(bool build)

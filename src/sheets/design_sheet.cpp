@@ -74,8 +74,12 @@ void DesignSheet::Abrir()
 std::string DesignSheet::Datos() const
 {
     std::vector<std::string> lines;
-    for (const FileLine& line : sheet_.written)
-        lines.push_back(line.control == host::noControl ? std::string() : text(line.control));
+    for (const FileLine& line : sheet_.written) {
+        if (line.saysVisible)
+            lines.emplace_back(visible(line.control) ? "-1" : "0");
+        else
+            lines.push_back(line.control == host::noControl ? std::string() : text(line.control));
+    }
     return rules::joinCircuitLines(lines);
 }
 

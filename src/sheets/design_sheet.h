@@ -28,6 +28,7 @@ struct FileLine {
     host::Handle control = host::noControl;
     bool show = false;      ///< reading makes the control visible
     bool showFirst = false; ///< visible before its line is read, so also where the file ends before it
+    bool saysVisible = false; ///< written: whether the control is visible, "-1" or "0"
 };
 
 /// Pages that lie on the sheet and come and go with the pair of the help tool.
@@ -190,6 +191,9 @@ public:
     void openGuide(const host::BiText& guide);
     /// Report: an editor that is open already is only overwritten when the student accepts.
     void openReportAsking();
+    /// Its two halves: arranging the windows and asking, true when the report may be written; then showing the editor, and writing.
+    bool mayWriteReport();
+    void showReport(bool build);
     /// A press on the ground of the drawing. Right button with Shift or Ctrl: the menu of options; right button alone: the bar
     /// of circuits, and the pair exchanged; left button: the menu of files.
     void pressPicture(const host::EventArgs& args, const ImagePair& pair);
@@ -203,7 +207,6 @@ private:
     void VerificarGuardar();
     const Saying* saying(host::Handle field, When when) const;
     void rearrange();
-    void showReport(bool build);
 
     const SheetSpec& sheet_;
     std::string nombreArchivo_;

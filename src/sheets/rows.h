@@ -44,6 +44,25 @@ consteval std::array<host::ControlRow, Count> inHandleOrder(const std::array<hos
     return rows;
 }
 
+/// The controls of a sheet that is told as another one with differences and more of them: the other's rows, those of the tables in
+/// the place of their like or behind them, each at the index of its handle. A handle without a row does not compile.
+template <std::size_t Count, std::size_t Other, std::size_t... Counts>
+consteval std::array<host::ControlRow, Count> withControlsOf(const std::array<host::ControlRow, Other>& other,
+                                                             const std::array<host::ControlRow, Counts>&... tables)
+{
+    std::array<host::ControlRow, Count> rows{};
+    const auto place = [&](const auto& table) {
+        for (const host::ControlRow& row : table)
+            rows[row.id] = row;
+    };
+    place(other);
+    (place(tables), ...);
+    for (const host::ControlRow& row : rows)
+        if (row.name.empty())
+            throw "a control has no row";
+    return rows;
+}
+
 /// The same slot for several controls.
 template <std::size_t Count>
 consteval std::array<host::SlotRow, Count> alike(const std::array<host::Handle, Count>& controls, host::Event event,

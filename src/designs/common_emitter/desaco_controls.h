@@ -60,13 +60,13 @@ inline constexpr auto signalIntoBase = part({
     Mark{.symbol = Symbol::arrow, .from = {480, 327}, .to = {516, 327}, .field = Text18},
 });
 
-// What differs from the rows of the family: the capacitor and r'e show from the start, RLw has a caption of its own above that
-// of RLac.
+// What differs from the rows of the family: the capacitor and r'e show from the start, and RLac stands with all its digits under
+// the caption that RLw has of its own here.
 inline constexpr auto differentRows = std::to_array<ControlRow>({
     drawn(Image2, "image2", Kind::image, drawing::bypassCapacitor),
     field(Text11, "Text11", zones::parameter(circuitTop, 6), "55", notation::Vg),
     result(statu17, "statu17", at(672, 370, 112, 18)),
-    hidden(result(statu18, "statu18", at(912, 502, 100, 34))),
+    hidden(result(statu18, "statu18", at(836, 545, 176, 18))),
 });
 inline constexpr auto ownRows = std::to_array<ControlRow>({
     paper(Image1, "Image1", title),

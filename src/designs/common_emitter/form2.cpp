@@ -185,7 +185,7 @@ const host::WindowSpec spec{.name = "Form2",
                             .values = values,
                             .shownPlace = form2_tables::shownPlace};
 
-Form2::Form2(host::SheetHost& host) : EmitterSheet(host, form2::spec, form2_tables::sheetSpec) {}
+Form2::Form2(host::SheetHost& host) : EmitterModes(host, form2::spec, form2_tables::sheetSpec) {}
 
 void Form2::load()
 {

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "designs/common_emitter/emitter_sheet.h"
+#include "designs/common_emitter/emitter_modes.h"
 #include "designs/common_emitter/form2_controls.h"
 #include "designs/common_emitter/form2_texts.h"
 
@@ -16,7 +16,7 @@ using sheets::Press;
 
 extern const host::WindowSpec spec;
 
-class Form2 : public common_emitter::EmitterSheet<Control> {
+class Form2 : public common_emitter::EmitterModes<common_emitter::EmitterSheet<Control>, Control> {
 public:
     explicit Form2(host::SheetHost& host);
 
@@ -36,7 +36,6 @@ public:
     // the chain (form2_chain.cpp)
     void focusText1(host::EventArgs& args);
     void clickText1();
-    void keyText1(host::EventArgs& args);
     void lostText1();
     void focusText3(host::EventArgs& args);
     void keyText3(host::EventArgs& args);
@@ -45,7 +44,6 @@ public:
     void keyText8(host::EventArgs& args);
     void lostText8();
     void keyText21(host::EventArgs& args);
-    void lostText21();
     void keyText15(host::EventArgs& args);
     void lostText9();
     void lostText10();
@@ -74,10 +72,7 @@ public:
     void clickPicture6();
     void clickPicture4();
     void lostPicture6();
-    void clickPicture1();
     void lostPicture1();
-    void clickPicture11();
-    void clickPicture10();
     void clickPicture2();
     void clickPicture7();
     void clickGuide();
@@ -88,11 +83,6 @@ public:
 
 private:
     void opened() override;
-
-    // which circuit is being designed: the option pictures say it
-    bool unbypassed() const { return !visible(Picture10) && !visible(Picture1); }
-    bool bypassedByBase() const { return visible(Picture1) && !visible(Picture10); }
-    bool polarisedByEmitter() const { return visible(Picture10) && !visible(Picture11); }
 
     // steps of the chain that stand on their own
     void askForEmitterSupply(Press press);
@@ -111,7 +101,6 @@ private:
     void closeByEmitter();
     bool presetGivesItsCurrent();
     void openVariant(std::string_view sheetName, const host::BiText& title);
-    void drawBootstrapping(bool drawn);
     std::string englishReport() const;
     std::string spanishReport() const;
 };

@@ -29,21 +29,6 @@ void Form2::clickText1()
     hide(Label21);
 }
 
-void Form2::keyText1(host::EventArgs& args)
-{
-    const Press press = pressed(args);
-    if (!goesOn(Text1, press))
-        return;
-    if (visible(Picture11)) {
-        hide(Picture10, Picture11);
-        tell(Text1, When::enter);
-        host().Unload("Form21");
-    } else if (press == Press::escape) {
-        show(Picture10);
-    }
-    goTo(Text3);
-}
-
 void Form2::lostText1()
 {
     hide(Label24);
@@ -152,12 +137,6 @@ void Form2::keyText21(host::EventArgs& args)
     write(Text15, resistor);
 }
 
-void Form2::lostText21()
-{
-    if (at(Text21) < q_.ERes)
-        write(Text21, q_.ERes);
-}
-
 // --- Res
 
 void Form2::keyText15(host::EventArgs& args)
@@ -166,13 +145,10 @@ void Form2::keyText15(host::EventArgs& args)
     if (!goesOn(Text15, press))
         return;
     correctFrom(Text15, 0.01, 0.01);
-    // What `Text21` shows after a finished design, or out of a file, is no supply to divide.
-    if (visible(Text21) && at(Text21) > 0) {
-        write(Text8, quiescentCurrent(at(Text21), takeRes()));
-        goOn(Text15, press);
-    } else {
+    if (hasEmitterSupply())
+        goOnByEmitterSupply();
+    else
         enterStandardResistor();
-    }
 }
 
 void Form2::enterStandardResistor()

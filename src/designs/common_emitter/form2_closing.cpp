@@ -126,13 +126,8 @@ void Form2::finishUnbypassed()
 
 void Form2::finishByEmitter()
 {
-    setText(Text19, "");
-    show(Text20);
-    const Real fo = at(Text12);
-    const Real Zin = inputImpedanceByEmitter(takeRb2(), takeBeta(), takeQIc());
-    setText(statu31, " Zin= " + whole(Zin) + "  ohms");
-    setText(statu32, shown(couplingMicrofarads(fo, Zin)) + " mf");
-    setText(statu33, shown(couplingMicrofarads(fo, takeRLw() * 1000.0)) + " mf");
+    writeImpedanceByEmitter();
+    setText(statu33, shown(couplingMicrofarads(at(Text12), takeRLw() * 1000.0)) + " mf");
     writeBypassCapacitor();
     write(STA70, noBootstrapHint);
     goTo(Picture4);
@@ -179,12 +174,8 @@ bool Form2::presetGivesItsCurrent()
 void Form2::closeByEmitter()
 {
     const bool bypassed = bypassedByBase();
-    setText(Text19, "");
-    host::Place place = placeOf(Text21);
-    place.width = 1500;
-    setPlaceOf(Text21, place);
-    setText(Text21, "- Ebias =" + digits(rules::RoundToInt16(takeRes() * takeQIc() / 1000.0)) + " Volts");
-    disable(Text2, Text6, Text7, Text19, Picture2);
+    writeEbias();
+    disable(Picture2);
     goTo(Picture4);
     if (!bypassed)
         return;

@@ -38,42 +38,16 @@ void Form2::clickPicture4()
     openVariant("ParcDesac", sheets::parcDesacFromForm2);
 }
 
-void Form2::clickPicture1()
-{
-    if (visible(Picture1)) {
-        goTo(Text1);
-        write(STA70, common_emitter::bypassHint);
-    }
-    show(Picture6);
-    hide(Picture1, Picture10, Picture11);
-}
-
 void Form2::lostPicture1()
 {
     hide(Image2);
     goTo(Text1);
 }
 
-void Form2::clickPicture11()
-{
-    show(Image2, Text21, Picture10);
-    hide(Picture11, Picture6, Picture1);
-    tell(common_emitter::bypassAssigned);
-    goTo(Text1);
-    setText(Text11, "55");
-}
-
-void Form2::clickPicture10()
-{
-    hide(Picture10);
-    show(Picture11);
-}
-
 void Form2::clickPicture2()
 {
     drawBootstrapping(true);
-    if (at(Text19) != 0)
-        setText(statu72, "Cbp2=\n" + shown(common_emitter::secondBootstrapCapacitor(at(Text19), at(Text12))));
+    writeSecondBootstrap();
     hide(Image2);
 }
 
@@ -81,17 +55,6 @@ void Form2::clickPicture2()
 void Form2::clickPicture7()
 {
     drawBootstrapping(false);
-}
-
-// Bootstrapping divides both resistors of the base: their plain drawings give way to the halves, and what is known of the plain
-// stage to what is known of this one.
-void Form2::drawBootstrapping(bool drawn)
-{
-    for (const host::Handle control : {Line20, Picture3, Picture5, Picture7, statu61, statu62, statu71, statu72})
-        setVisible(control, drawn);
-    for (const host::Handle control :
-         {Line15, Line16, Picture2, sta1, statu31, statu32, status5, status6, status7, status8, status9})
-        setVisible(control, !drawn);
 }
 
 void Form2::clickGuide()
