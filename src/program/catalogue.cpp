@@ -6,6 +6,7 @@
 
 #include "designs/common_emitter/desaco.h"
 #include "designs/common_emitter/form2.h"
+#include "designs/common_emitter/parc_desac.h"
 #include "designs/differential/form3_controls.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
@@ -33,6 +34,7 @@ host::Catalogue catalogue()
         // sheets, family by family
         &form2::spec,
         &desaco::spec,
+        &parc_desac::spec,
 
         &form3::spec,
 

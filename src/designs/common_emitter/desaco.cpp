@@ -43,10 +43,9 @@ std::unique_ptr<host::Window> create(host::SheetHost& host)
     return std::make_unique<Desaco>(host);
 }
 
-/// The help boxes open beside the drawing, wherever the main window ends.
 host::Place shownPlace(const host::Window& window, Handle control)
 {
-    return control == Text22 || control == Text23 ? sheets::at(898, 94, 296, 518) : window.placeOf(control);
+    return control == Text22 || control == Text23 ? shownHelpPlace : window.placeOf(control);
 }
 
 } // namespace desaco_tables

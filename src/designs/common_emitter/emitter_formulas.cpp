@@ -64,6 +64,16 @@ Real collectorEmitterVoltageByEmitter(Real Es, Real QIc, Real RL)
     return Es - RL * QIc;
 }
 
+Real partlyBypassedVoltage(Real Es, Real ERes, Real QIc, Real RL)
+{
+    return Es - (ERes + QIc * RL);
+}
+
+Real escapedVoltage(Real Es, Real QIc, Real Res, Real RL)
+{
+    return Es - (QIc * Res / 1000.0 + RL * QIc);
+}
+
 CurrencyValue lowerBaseResistor(Real Res, Real S)
 {
     return CurrencyValue(Res * S);
@@ -82,6 +92,21 @@ Real transistorInput(Real Beta, Real emitterResistance)
 Real inputWithoutRb1(Real Rb2, Real BRes)
 {
     return parallel(Rb2, BRes);
+}
+
+Real partlyBypassedInput(Real Rb2, Real BRes)
+{
+    return Rb2 * 1000.0 * BRes / (Rb2 * 1000.0 + BRes);
+}
+
+Real partlyBypassedUpperVoltage(Real Es, Real Res, Real QIc, Real RL, Real Vj)
+{
+    return Es - (Res * QIc / 1000.0 + QIc * RL) + QIc * RL - Vj;
+}
+
+Real partlyBypassedUpperResistor(Real ERb1, Real Rin, Real ERes, Real Vj)
+{
+    return ERb1 * Rin / (ERes + Vj);
 }
 
 Real upperBaseVoltage(Real Es, Real QIc, Real RL, Real Res, Real Vj)
@@ -108,6 +133,12 @@ Real inputImpedanceBypassed(Real Rb2, Real Rb1, Real BRes)
 {
     const Real divider = parallel(Rb2, Rb1);
     return (divider * BRes / 1000.0) / (divider + BRes / 1000.0);
+}
+
+Real partlyBypassedImpedance(Real Rb2, Real Rb1, Real Beta, Real Res)
+{
+    const Real divider = parallel(Rb2, Rb1);
+    return (divider * Beta * Res / 1000.0) / (divider + Beta * Res / 1000.0);
 }
 
 Real fullyBypassedInput(Real Beta, Real QIc, Real Rb1)

@@ -42,6 +42,12 @@ Real collectorEmitterVoltage(Real Es, Real QIc, Real Res, Real RL);
 /// Eq in V = Es - RL x QIc, the supply of a stage polarised by emitter; QIc in mA, RL in kilohm.
 Real collectorEmitterVoltageByEmitter(Real Es, Real QIc, Real RL);
 
+/// Eq in V = Es - (ERes + QIc x RL) of a partly bypassed stage, with QIc in mA, RL in kilohm.
+Real partlyBypassedVoltage(Real Es, Real ERes, Real QIc, Real RL);
+
+/// Eq in V = Es - (QIc x Res / 1000 + RL x QIc), with the unbypassed Res (in ohm) alone: what Esc takes; QIc in mA, RL in kilohm.
+Real escapedVoltage(Real Es, Real QIc, Real Res, Real RL);
+
 /// Rb2 in ohm = Res x S, to four decimals; Res in ohm.
 CurrencyValue lowerBaseResistor(Real Res, Real S);
 
@@ -55,6 +61,16 @@ Real transistorInput(Real Beta, Real emitterResistance);
 /// Rin = (Rb2 x BRes) / (Rb2 + BRes), with Rb2 in kilohm and BRes in ohm, unconverted: nearly Rb2 itself, and so the course
 /// keeps it.
 Real inputWithoutRb1(Real Rb2, Real BRes);
+
+/// Rin in ohm of a partly bypassed stage = (Rb2 x 1000 x BRes) / (Rb2 x 1000 + BRes), with Rb2 in kilohm, BRes in ohm.
+Real partlyBypassedInput(Real Rb2, Real BRes);
+
+/// ERb1 in V = Es - (Res x QIc / 1000 + QIc x RL) + QIc x RL - Vj of a partly bypassed stage, Res being the whole resistor in ohm;
+/// QIc in mA, RL in kilohm.
+Real partlyBypassedUpperVoltage(Real Es, Real Res, Real QIc, Real RL, Real Vj);
+
+/// Rb1 in ohm = ERb1 x Rin / (ERes + Vj), with Rin in ohm, the rest in V.
+Real partlyBypassedUpperResistor(Real ERb1, Real Rin, Real ERes, Real Vj);
 
 /// ERb1 in V = Es - (QIc x RL + QIc x Res) + QIc x RL - Vj, with QIc in mA, RL in kilohm, Res in ohm. Both terms with RL are
 /// a thousand times too small and cancel each other; they stand as the course writes them.
@@ -71,6 +87,10 @@ Real inputImpedance(Real Rin, Real Rb1);
 
 /// Zin in kilohm of a bypassed stage: Rb2, Rb1 and BRes (in ohm) in parallel.
 Real inputImpedanceBypassed(Real Rb2, Real Rb1, Real BRes);
+
+/// Zin in kilohm of a partly bypassed stage: Rb2 (in kilohm) beside Rb1 (in ohm), unconverted, and both beside Beta x Res / 1000
+/// (Res in ohm). The mixture gives nearly Rb2 for the two, and so the course keeps it.
+Real partlyBypassedImpedance(Real Rb2, Real Rb1, Real Beta, Real Res);
 
 /// Zin in ohm of a fully bypassed sheet: Beta x 25 / QIc in parallel with Rb1 (in kilohm); Rb2 is left out.
 Real fullyBypassedInput(Real Beta, Real QIc, Real Rb1);

@@ -364,6 +364,8 @@ inline constexpr BiText tooLowAtEscape{.es = " Tensión muy baja Colector - Emis
                                        .en = " Collector - Emitter Voltage very low "};
 inline constexpr BiText noUpperResistorAtEnter{.es = " Sin resistor Rb1...pulse ENTER",
                                                .en = "Without resister Rb1... press ENTER"};
+inline constexpr BiText archivedEmitterSheet{.es = "Circuito de Archivo : Emisor Común",
+                                     .en = "Archive Circuit : Common Emitter"};
 inline constexpr BiText bypassHint{.es = " Pulsando DESACOPLADO, obtendra mas ganancia..",
                                    .en = "Pressing Bypass, you will obtain more gain.."};
 

@@ -221,7 +221,7 @@ void Form2::Abrir()
 void Form2::opened()
 {
     const bool byEmitter = !isEmpty(Text20);
-    write(SSPanel1, byEmitter ? archivedEmitter : archivedBase);
+    write(SSPanel1, byEmitter ? archivedEmitter : common_emitter::archivedEmitterSheet);
     setVisible(Image2, byEmitter);
     if (!byEmitter)
         hide(Text21);

@@ -59,8 +59,6 @@ inline constexpr BiText bootstrapHint{
           "capacitores en microFaradios        ",
     .en = "If you wants bigger entrance impedance, BOOTSTRAPPING pulse. \nExcept for indication, "
           "capacitors in microFarade"};
-inline constexpr BiText archivedBase{.es = "Circuito de Archivo : Emisor Común",
-                                     .en = "Archive Circuit : Common Emitter"};
 inline constexpr BiText archivedEmitter{.es = "Circuito de Archivo : Polarizado por Emisor ",
                                         .en = "Archive Circuit : Emmiter polarized"};
 inline constexpr BiText guideByBase{.es = "guia1.Lab", .en = "Feedback Current.Lab"};
