@@ -27,7 +27,7 @@ constexpr sheets::FileLine read[] = {
 };
 
 constexpr auto tabOrder = sheets::joined(sheets::fieldsOf(chain), std::to_array<Handle>({
-    Text20, Picture8, Picture6, Picture1, Picture11, Picture10, Picture2, Picture7, SSCommand3, SSCommand1,
+    Text20, Picture8, Picture6, Picture1, Picture10, Picture11, Picture2, Picture7, SSCommand3, SSCommand1,
 }));
 
 constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), common_emitter::emitterKeys<Controls>,

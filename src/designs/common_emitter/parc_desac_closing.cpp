@@ -197,6 +197,9 @@ void ParcDesac::lostText19()
         closeBypassed();
     } else {
         hide(Picture2, Picture7);
+        // Only an odd file brings the student here without Rb2.
+        if (at(Text18) <= 0)
+            return;
         q_.passed = presetGivesItsCurrent();
         if (q_.passed)
             return;
