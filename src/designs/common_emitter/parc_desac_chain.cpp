@@ -123,6 +123,7 @@ void ParcDesac::keyText15(host::EventArgs& args)
     if (pressed(args) != Press::enter)
         return;
     if (hasEmitterSupply()) {
+        correctFrom(Text15, 0.01, 0.01);
         goOnByEmitterSupply();
         return;
     }

@@ -110,4 +110,67 @@ TEST(EmitterFormulas, NothingDividesByZeroInSilence)
     EXPECT_THROW(couplingMicrofarads(0, 10), host::ProgramFailure);
 }
 
+// What the wholly bypassed sheet works out its own way.
+
+TEST(FullyBypassedFormulas, TheLoadAndTheGainAreThoseOfTheJunction)
+{
+    // 55 x 25 / 1.1
+    EXPECT_DOUBLE_EQ(fullyBypassedLoad(55, 1.1).value(), 1250);
+    // 1.375 K over 25 ohm
+    EXPECT_DOUBLE_EQ(fullyBypassedGain(1.375, 1).value(), 55);
+    EXPECT_THROW(fullyBypassedLoad(55, 0), host::ProgramFailure);
+}
+
+TEST(FullyBypassedFormulas, TheInputIsBetaTimesTheJunctionBesideRb1Alone)
+{
+    // 80 x 25 / 1 = 2000 ohm beside 2 K
+    EXPECT_DOUBLE_EQ(fullyBypassedInput(80, 1, 2).value(), 1000);
+    EXPECT_DOUBLE_EQ(fullyBypassedInput(80, 1, 6).value(), 1500);
+}
+
+TEST(FullyBypassedFormulas, Rb1AndTheCapacitorOfTheEmitter)
+{
+    // 8 V x 12 K / (1000 ohm x 1.4 mA / 1000 + 0.6 V) = 96 / 2
+    EXPECT_DOUBLE_EQ(fullyBypassedUpperResistor(8, 12, 1000, 1.4, 0.6).value(), 48);
+    // 1 / (20 x 6.28 x 25) = 1 / 3140 F
+    EXPECT_NEAR(bypassMicrofarads(1, 20).value(), 318.4713375796, 1e-9);
+    EXPECT_THROW(bypassMicrofarads(1, 0), host::ProgramFailure);
+}
+
+// What the partly bypassed sheet works out its own way.
+
+TEST(PartlyBypassedFormulas, TheVoltagesCountTheWholeResistorOnceAndTheLoadNotAtAll)
+{
+    // 15 - (3 + 1 x 4.7)
+    EXPECT_DOUBLE_EQ(partlyBypassedVoltage(15, 3, 1, 4.7).value(), 7.3);
+    // Esc counts what is left without bypass alone: 25 - (1 x 300 / 1000 + 4.7)
+    EXPECT_DOUBLE_EQ(escapedVoltage(25, 1, 300, 4.7).value(), 20);
+    // 15 - (3000 x 1 / 1000 + 4.7) + 4.7 - 0.6
+    EXPECT_DOUBLE_EQ(partlyBypassedUpperVoltage(15, 3000, 1, 4.7, 0.6).value(), 11.4);
+}
+
+TEST(PartlyBypassedFormulas, TheDividerIsWorkedOutInOhm)
+{
+    // 30 K beside 600 K
+    EXPECT_NEAR(partlyBypassedInput(30, 600000).value(), 28571.4285714286, 1e-9);
+    // 11.4 V x 36000 ohm / (3 + 0.6) V
+    EXPECT_DOUBLE_EQ(partlyBypassedUpperResistor(11.4, 36000, 3, 0.6).value(), 114000);
+}
+
+TEST(PartlyBypassedFormulas, TheImpedanceMixesKilohmAndOhmAsTheCourseDoes)
+{
+    // 30 (K) beside 30 (ohm) read 15; beside 200 x 75 / 1000 = 15 that is 7.5
+    EXPECT_DOUBLE_EQ(partlyBypassedImpedance(30, 30, 200, 75).value(), 7.5);
+}
+
+TEST(PartlyBypassedFormulas, TheObtainedCurrentReadsTheJunctionThatItIsGiven)
+{
+    // (11.4 V / 91.2 K - 3.6 V / 30 K) x 200
+    EXPECT_NEAR(obtainedCurrent({.Es = 15, .QIc = 1, .ERes = 3, .RL = 4.7, .Rb1 = 91.2, .Rb2 = 30, .Beta = 200, .Vj = 0.6}).value(),
+                1, 1e-12);
+    // with 0.2 V: (11.8 / 91.2 - 3.2 / 30) x 200
+    EXPECT_NEAR(obtainedCurrent({.Es = 15, .QIc = 1, .ERes = 3, .RL = 4.7, .Rb1 = 91.2, .Rb2 = 30, .Beta = 200, .Vj = 0.2}).value(),
+                4.5438596491, 1e-9);
+}
+
 } // namespace velmor::emitter_formulas_test

@@ -2,65 +2,16 @@
 // The whole program with one `Form2` in it, played as a student would, without a screen.
 #pragma once
 
-#include <string>
-
+#include "designs/common_emitter/emitter_program.h"
 #include "designs/common_emitter/form2.h"
-#include "host/engine.h"
-#include "program/catalogue.h"
-#include "quiet_screen.h"
 
 namespace velmor::test {
 
-class Form2Program {
-public:
+struct Form2Program : EmitterProgram<form2::Form2, form2::Control> {
     explicit Form2Program(std::int16_t languageIsEnglish = host::trueValue)
-        : engine(program::catalogue(), screen, settings)
+        : EmitterProgram("Form2", languageIsEnglish)
     {
-        engine.values().LanguageIsEnglish = languageIsEnglish;
-        engine.loadMainWindow();
-        engine.userRun([this] {
-            window_ = engine.host().NewInstance("Form2");
-            engine.host().Show(*window_);
-        });
     }
-
-    form2::Form2& sheet() { return static_cast<form2::Form2&>(*window_); }
-    std::string focus() const
-    {
-        const host::Handle held = window_->focus();
-        return held == host::noControl ? "none" : std::string(window_->row(held).name);
-    }
-    void key(std::int16_t code) { engine.userKey(*window_, code); }
-    void enter() { key(13); }
-    void escape() { key(27); }
-    /// Replaces the text of the field in hand, as typing does.
-    void type(std::string_view text) { engine.userText(*window_, window_->focus(), text); }
-    void typeAndEnter(std::string_view text)
-    {
-        type(text);
-        enter();
-    }
-    void click(host::Handle control) { engine.userClick(*window_, control); }
-    void hover(host::Handle control) { engine.userHover(*window_, control); }
-    /// Plays a default design from the field in hand up to the focus of the field; Rb2 is 12, Rb1 as proposed.
-    void playTo(host::Handle field)
-    {
-        for (int guard = 0; guard < 40 && window_->focus() != field; ++guard) {
-            if (window_->focus() == form2::Text16)
-                type(supply);
-            if (window_->focus() == form2::Text18)
-                type("12");
-            enter();
-        }
-    }
-
-    AskedScreen screen;
-    host::MemorySettings settings;
-    host::Engine engine;
-    std::string supply = "35"; ///< V, what `playTo` enters
-
-private:
-    host::Window* window_ = nullptr;
 };
 
 } // namespace velmor::test
