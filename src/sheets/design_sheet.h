@@ -26,8 +26,8 @@ inline constexpr std::int16_t escapeKey = 27;
 /// One line of a circuit file. `noControl` is a line that carries no value.
 struct FileLine {
     host::Handle control = host::noControl;
-    bool show = false;      ///< reading makes the control visible
-    bool showFirst = false; ///< visible before its line is read, so also where the file ends before it
+    bool show = false;        ///< reading makes the control visible
+    bool showFirst = false;   ///< visible before its line is read, so also where the file ends before it
     bool saysVisible = false; ///< written: whether the control is visible, "-1" or "0"
 };
 

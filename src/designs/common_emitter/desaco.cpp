@@ -79,8 +79,7 @@ Desaco::Desaco(host::SheetHost& host) : Desaco(host, desaco::spec, sheetSpec) {}
 
 Desaco::Desaco(host::SheetHost& host, const host::WindowSpec& window, const sheets::SheetSpec& sheet)
     : EmitterSheet(host, window, sheet)
-{
-}
+{}
 
 // The title is given by whoever opens the sheet.
 void Desaco::load()

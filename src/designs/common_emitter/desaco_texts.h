@@ -85,9 +85,11 @@ inline constexpr BiText startPrompt{
 /// The help boxes.
 inline constexpr BiText helpText{
     .es = "           Emisor Común\n\n"
-          "El capacitor de desacople Cbp lleva el emisor a masa para la señal. Sin él, la señal que se desarrolla en Res se opone "
+          "El capacitor de desacople Cbp lleva el emisor a masa para la señal. Sin él, la señal que se desarrolla en "
+          "Res se opone "
           "a la de entrada: la realimentación baja la ganancia.\n\n"
-          "Desacoplado, la señal no se realimenta en Res: sube la ganancia, Vg = RLac / r'e, y disminuye la impedancia de "
+          "Desacoplado, la señal no se realimenta en Res: sube la ganancia, Vg = RLac / r'e, y disminuye la impedancia "
+          "de "
           "entrada, que ya no es Beta x Res sino Beta x r'e.\n\n"
           "Para la corriente continua nada cambia: Res sigue estabilizando la corriente de reposo QIc frente a la "
           "temperatura.\n\n"
@@ -97,11 +99,15 @@ inline constexpr BiText helpText{
     .en = "         Common Emitter.\n\n"
           "The capacitor Cbp takes the emitter to ground for the sign: it is not fed back in Res. The gain rises to "
           "Vg = RLac / r'e, and the input impedance falls from Beta x Res to Beta x r'e.\n\n"
-          "The \"Boots...\" icon of the sheet without bypass raises the input impedance by feeding the sign back to the base "
-          "divider. It needs a sign at the emitter: with the emitter bypassed there is none, and bootstrapping can not be "
+          "The \"Boots...\" icon of the sheet without bypass raises the input impedance by feeding the sign back to "
+          "the base "
+          "divider. It needs a sign at the emitter: with the emitter bypassed there is none, and bootstrapping can not "
+          "be "
           "carried out.\n\n"
-          "The incidence of RLw on QIc: a small load wants a small RL for the same gain, and the sign Eopp needs at least "
-          "half of itself as continuous voltage on RL. So the smaller RLw, the larger QIc must be; and with QIc the input "
+          "The incidence of RLw on QIc: a small load wants a small RL for the same gain, and the sign Eopp needs at "
+          "least "
+          "half of itself as continuous voltage on RL. So the smaller RLw, the larger QIc must be; and with QIc the "
+          "input "
           "impedance falls once more.\n\n"
           "For direct current nothing changes: Res stabilizes QIc against the temperature as before."};
 

@@ -122,12 +122,12 @@ Real bypassMicrofarads(Real QIc, Real fo);
 
 /// What the collector current really becomes with the Rb1 in use.
 struct CurrentCheck {
-    Real Es;  ///< V
-    Real QIc; ///< mA
+    Real Es;   ///< V
+    Real QIc;  ///< mA
     Real ERes; ///< V
-    Real RL;  ///< kilohm
-    Real Rb1; ///< kilohm
-    Real Rb2; ///< kilohm
+    Real RL;   ///< kilohm
+    Real Rb1;  ///< kilohm
+    Real Rb2;  ///< kilohm
     Real Beta;
     Real Vj = 0.6; ///< V; fixed where the sheet does not read its field here
 };

@@ -98,8 +98,8 @@ void EmitterModes<Sheet, C>::goOnByEmitterSupply()
 template <class Sheet, class C>
 void EmitterModes<Sheet, C>::drawBootstrapping(bool drawn)
 {
-    for (const host::Handle control : std::initializer_list<host::Handle>{C::Line20, C::Picture3, C::Picture5, C::Picture7,
-                                                                          C::statu61, C::statu62, C::statu71, C::statu72})
+    for (const host::Handle control : std::initializer_list<host::Handle>{
+             C::Line20, C::Picture3, C::Picture5, C::Picture7, C::statu61, C::statu62, C::statu71, C::statu72})
         this->setVisible(control, drawn);
     for (const host::Handle control :
          std::initializer_list<host::Handle>{C::Line15, C::Line16, C::Picture2, C::sta1, C::statu31, C::statu32,

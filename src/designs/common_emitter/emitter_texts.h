@@ -336,7 +336,8 @@ inline constexpr Saying adjustPreset{.text = {.es = "Corriente de Colector obten
 // Captions and prompts that belong to no single moment.
 inline constexpr BiText headingTransistor{.es = "Parámetros del transistor", .en = "Transistor Parameters"};
 inline constexpr BiText headingCircuit{.es = "Parámetros del Circuito", .en = "Circuit Parameters"};
-inline constexpr BiText capacitorsInMicrofarads{.es = "Capacitores en microfaradios", .en = "Capacitors in microfarads"};
+inline constexpr BiText capacitorsInMicrofarads{.es = "Capacitores en microfaradios",
+                                                .en = "Capacitors in microfarads"};
 /// The caption of the option pictures of the bypass.
 inline constexpr BiText bypassName{.es = "Desacoplado", .en = "Bypass"};
 inline constexpr BiText tooLow{.es = " tensión muy baja Colector - Emisor",
@@ -365,7 +366,7 @@ inline constexpr BiText tooLowAtEscape{.es = " Tensión muy baja Colector - Emis
 inline constexpr BiText noUpperResistorAtEnter{.es = " Sin resistor Rb1...pulse ENTER",
                                                .en = "Without resister Rb1... press ENTER"};
 inline constexpr BiText archivedEmitterSheet{.es = "Circuito de Archivo : Emisor Común",
-                                     .en = "Archive Circuit : Common Emitter"};
+                                             .en = "Archive Circuit : Common Emitter"};
 inline constexpr BiText bypassHint{.es = " Pulsando DESACOPLADO, obtendra mas ganancia..",
                                    .en = "Pressing Bypass, you will obtain more gain.."};
 

@@ -162,12 +162,12 @@ bool Form2::presetGivesItsCurrent()
 {
     const Real wanted = takeQIc();
     return obtainsItsCurrent(wanted, obtainedCurrent({.Es = at(Text16),
-                                   .QIc = wanted,
-                                   .ERes = takeRes() * (wanted / 1000.0),
-                                   .RL = at(Text17),
-                                   .Rb1 = at(Text19),
-                                   .Rb2 = takeRb2(),
-                                   .Beta = takeBeta()}));
+                                                      .QIc = wanted,
+                                                      .ERes = takeRes() * (wanted / 1000.0),
+                                                      .RL = at(Text17),
+                                                      .Rb1 = at(Text19),
+                                                      .Rb2 = takeRb2(),
+                                                      .Beta = takeBeta()}));
 }
 
 // Without Rb1 nothing is to be adjusted: what is left to tell is the voltage of the emitter.

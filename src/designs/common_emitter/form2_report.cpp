@@ -107,7 +107,10 @@ std::string Form2::englishReport() const
     report.tabs(englishClosing);
     if (circuit != unknown)
         report.oneStep(english[circuit].results);
-    return report.rows(*this, designRows<Control>("Vg) = ")).rows(*this, englishResults<Control>).tabs(englishQuestions).text();
+    return report.rows(*this, designRows<Control>("Vg) = "))
+        .rows(*this, englishResults<Control>)
+        .tabs(englishQuestions)
+        .text();
 }
 
 std::string Form2::spanishReport() const
@@ -123,7 +126,10 @@ std::string Form2::spanishReport() const
         report.oneStep(spanish[circuit].results);
         writeSpanishCurrent(report, *this, circuit, q_.QIcCheck);
     }
-    return report.rows(*this, designRows<Control>("Vg) = ")).rows(*this, spanishResults<Control>).tabs(spanishQuestions).text();
+    return report.rows(*this, designRows<Control>("Vg) = "))
+        .rows(*this, spanishResults<Control>)
+        .tabs(spanishQuestions)
+        .text();
 }
 
 } // namespace velmor::form2

@@ -47,7 +47,8 @@ constexpr auto buttonNames = std::to_array<Saying>({
 });
 // clang-format on
 
-constexpr auto allSayings = sheets::joined(common_emitter::emitterSayings<Control>, common_emitter::modeSayings<Control>, ownSayings, buttonNames);
+constexpr auto allSayings = sheets::joined(common_emitter::emitterSayings<Control>,
+                                           common_emitter::modeSayings<Control>, ownSayings, buttonNames);
 
 } // namespace texts_detail
 

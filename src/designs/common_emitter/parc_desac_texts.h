@@ -71,9 +71,10 @@ inline constexpr BiText fileFilter{
 inline constexpr BiText guideFile{.es = "Parcdesac.Lab", .en = "Feedback Current.Lab"};
 inline constexpr BiText capacitorHelp{
     .es = "Ayuda:  Los valores de los capacitores son en microFaradios",
-    .en = "Helps: design Approach: so that the design parameters are completed, it will adjust the ' Preset ' that "
-          "replaces at Rb1 until obtaining a collector current (QIc), similar to the one assigned in those ' Parameters "
-          "of the Circuit '"};
+    .en =
+        "Helps: design Approach: so that the design parameters are completed, it will adjust the ' Preset ' that "
+        "replaces at Rb1 until obtaining a collector current (QIc), similar to the one assigned in those ' Parameters "
+        "of the Circuit '"};
 inline constexpr BiText sameImpedance{
     .es = " Los valores de impedancia de entrada NO difieren de los valores obtenidos al polarizarlos por Base..",
     .en = "The values of entrance impedance don't differ of the values obtained when polarizing them for Base.."};
@@ -84,8 +85,9 @@ inline constexpr BiText betaByEmitter{
 inline constexpr BiText noUpperResistor{.es = " Sin resistor Rb1...pulse ENTER",
                                         .en = "Without resister Rb1... ENTER pulse"};
 inline constexpr BiText bootstrapHint{
-    .es = "Si desea mayor impedancia de entrada, pulse BOOTSTRAPPING. \nSalvo indicacion, capacitores en microFaradios  "
-          "      ",
+    .es =
+        "Si desea mayor impedancia de entrada, pulse BOOTSTRAPPING. \nSalvo indicacion, capacitores en microFaradios  "
+        "      ",
     .en = "If you wants bigger entrance impedance, BOOTSTRAPPING pulse. \nExcept for indication, capacitores in "
           "microFarade"};
 inline constexpr BiText bootstrapName{.es = "Bootstrapping", .en = "Bootstrapping"};
@@ -93,20 +95,23 @@ inline constexpr BiText bootstrapName{.es = "Bootstrapping", .en = "Bootstrappin
 /// The help boxes.
 inline constexpr BiText helpText{
     .es = "           Emisor Común\n\n"
-          "El resistor de emisor se divide en dos. La suma, ERes / QIc, estabiliza la corriente de reposo. Una parte queda "
+          "El resistor de emisor se divide en dos. La suma, ERes / QIc, estabiliza la corriente de reposo. Una parte "
+          "queda "
           "sin desacoplar y fija la ganancia: Vg = RLac / Res. El resto lleva el capacitor.\n\n"
           "La parte sin desacoplar debe ser al menos diez veces r'e: así la ganancia ya no depende de r'e, ni del "
           "transistor, ni de la temperatura, y la impedancia de entrada vuelve a crecer.\n\n"
-          "Elija este circuito para cargas menores de 10 Kohm, impedancia de entrada superior a 3 Kohm, ganancias de 10 a 20 "
+          "Elija este circuito para cargas menores de 10 Kohm, impedancia de entrada superior a 3 Kohm, ganancias de "
+          "10 a 20 "
           "y fuentes de poco valor.\n\n"
           "Con Bootstrapping aumenta aún más la impedancia de entrada.",
-    .en = "         Common Emitter.\n\n"
-          "The emitter resistor is divided in two. The sum, ERes / QIc, stabilizes the quiescent current. One part stays "
-          "without bypass and fixes the gain: Vg = RLac / Res. The rest carries the capacitor.\n\n"
-          "The part without bypass should be at least ten times r'e: so the gain does not depend any more on r'e, on the "
-          "transistor or on the temperature, and the input impedance grows again.\n\n"
-          "Choose this circuit for loads under 10 Kohm, an input impedance above 3 Kohm, gains of 10 to 20 and small "
-          "supplies.\n\n"
-          "The \"Boots...\" icon raises the input impedance further still."};
+    .en =
+        "         Common Emitter.\n\n"
+        "The emitter resistor is divided in two. The sum, ERes / QIc, stabilizes the quiescent current. One part stays "
+        "without bypass and fixes the gain: Vg = RLac / Res. The rest carries the capacitor.\n\n"
+        "The part without bypass should be at least ten times r'e: so the gain does not depend any more on r'e, on the "
+        "transistor or on the temperature, and the input impedance grows again.\n\n"
+        "Choose this circuit for loads under 10 Kohm, an input impedance above 3 Kohm, gains of 10 to 20 and small "
+        "supplies.\n\n"
+        "The \"Boots...\" icon raises the input impedance further still."};
 
 } // namespace velmor::parc_desac

@@ -166,11 +166,15 @@ TEST(PartlyBypassedFormulas, TheImpedanceMixesKilohmAndOhmAsTheCourseDoes)
 TEST(PartlyBypassedFormulas, TheObtainedCurrentReadsTheJunctionThatItIsGiven)
 {
     // (11.4 V / 91.2 K - 3.6 V / 30 K) x 200
-    EXPECT_NEAR(obtainedCurrent({.Es = 15, .QIc = 1, .ERes = 3, .RL = 4.7, .Rb1 = 91.2, .Rb2 = 30, .Beta = 200, .Vj = 0.6}).value(),
-                1, 1e-12);
+    EXPECT_NEAR(
+        obtainedCurrent({.Es = 15, .QIc = 1, .ERes = 3, .RL = 4.7, .Rb1 = 91.2, .Rb2 = 30, .Beta = 200, .Vj = 0.6})
+            .value(),
+        1, 1e-12);
     // with 0.2 V: (11.8 / 91.2 - 3.2 / 30) x 200
-    EXPECT_NEAR(obtainedCurrent({.Es = 15, .QIc = 1, .ERes = 3, .RL = 4.7, .Rb1 = 91.2, .Rb2 = 30, .Beta = 200, .Vj = 0.2}).value(),
-                4.5438596491, 1e-9);
+    EXPECT_NEAR(
+        obtainedCurrent({.Es = 15, .QIc = 1, .ERes = 3, .RL = 4.7, .Rb1 = 91.2, .Rb2 = 30, .Beta = 200, .Vj = 0.2})
+            .value(),
+        4.5438596491, 1e-9);
 }
 
 } // namespace velmor::emitter_formulas_test

@@ -8,10 +8,8 @@
 namespace velmor::test {
 
 struct Form2Program : EmitterProgram<form2::Form2, form2::Control> {
-    explicit Form2Program(std::int16_t languageIsEnglish = host::trueValue)
-        : EmitterProgram("Form2", languageIsEnglish)
-    {
-    }
+    explicit Form2Program(std::int16_t languageIsEnglish = host::trueValue) : EmitterProgram("Form2", languageIsEnglish)
+    {}
 };
 
 } // namespace velmor::test

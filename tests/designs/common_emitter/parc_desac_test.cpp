@@ -93,7 +93,8 @@ TEST(ParcDesacBypassed, ItClosesWithoutRb1)
     EXPECT_TRUE(program.sheet().visible(Text20));
     EXPECT_EQ(program.sheet().text(Text20), "318 microF");
     EXPECT_FALSE(program.sheet().visible(Picture1));
-    EXPECT_EQ(program.sheet().text(STA70), "Bootstrapping can not be carried out\nExcept for indication, capacitors in microfarade");
+    EXPECT_EQ(program.sheet().text(STA70),
+              "Bootstrapping can not be carried out\nExcept for indication, capacitors in microfarade");
     EXPECT_FALSE(program.sheet().visible(statu24));
     EXPECT_TRUE(program.sheet().visible(statu31));
 }
@@ -108,7 +109,8 @@ TEST(ParcDesacBypassed, LeavingItsRb1GoesToBetaAndHidesThePictures)
     EXPECT_EQ(program.focus(), "Text2");
     EXPECT_EQ(program.sheet().text(statu24), "Without resister Rb1... ENTER pulse");
     EXPECT_EQ(program.sheet().text(Label24), "0 mA");
-    for (const host::Handle picture : {host::Handle{Picture1}, host::Handle{Picture6}, host::Handle{Picture2}, host::Handle{Picture7}})
+    for (const host::Handle picture :
+         {host::Handle{Picture1}, host::Handle{Picture6}, host::Handle{Picture2}, host::Handle{Picture7}})
         EXPECT_FALSE(program.sheet().visible(picture));
     EXPECT_TRUE(program.sheet().quantities().passed);
 }
@@ -141,7 +143,8 @@ TEST(ParcDesacBypassed, LeavingTheFirstFieldTurnsTheOfferIntoTheChoice)
     ParcDesacProgram both;
     both.sheet().show(Picture6, Picture11);
     both.sheet().host().SetFocus(both.sheet(), Picture8);
-    for (const host::Handle picture : {host::Handle{Picture1}, host::Handle{Picture6}, host::Handle{Picture10}, host::Handle{Picture11}})
+    for (const host::Handle picture :
+         {host::Handle{Picture1}, host::Handle{Picture6}, host::Handle{Picture10}, host::Handle{Picture11}})
         EXPECT_FALSE(both.sheet().visible(picture));
 }
 
@@ -149,8 +152,10 @@ TEST(ParcDesac, TheEnglishReportIsWrittenAndNotHandedOver)
 {
     ParcDesacProgram program;
     const std::string report = program.sheet().reportText();
-    EXPECT_NE(report.find("          Common Emitter, Feedback for Current, polarized for Base, Bypass\r\n\r\n"), std::string::npos);
-    EXPECT_NE(report.find("                Make a design with predetermined data : \r\n                Then it varied Rb1 until obtaining the "
+    EXPECT_NE(report.find("          Common Emitter, Feedback for Current, polarized for Base, Bypass\r\n\r\n"),
+              std::string::npos);
+    EXPECT_NE(report.find("                Make a design with predetermined data : \r\n                Then it varied "
+                          "Rb1 until obtaining the "
                           "current Qic according to Circuit  Parameters... \r\n"),
               std::string::npos);
     EXPECT_NE(report.find("\tpolarized by Emitter..?\r\n"), std::string::npos);
