@@ -132,7 +132,8 @@ constexpr auto tabOrder = sheets::joined(sheets::fieldsOf(chain), std::to_array<
 }));
 
 using host::KeyAction;
-constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), common_emitter::emitterKeys<Control>, std::to_array<host::ShortcutRow>({
+constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), common_emitter::emitterKeys<Control>,
+                                          std::to_array<host::ShortcutRow>({
     {"F11",       SSPanel1,  KeyAction::click,      noControl, {"Agrandar el panel de ayuda", "Enlarge the help panel"}},
     {"Ctrl+1",    Picture6,  KeyAction::click,      noControl, {"Desacoplado", "Bypass"}},
     {"Ctrl+2",    Picture4,  KeyAction::click,      noControl, {"Parcialmente desacoplado", "Parcial Bypass"}},

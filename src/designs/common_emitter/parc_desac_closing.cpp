@@ -90,6 +90,7 @@ void ParcDesac::keyText18(host::EventArgs& args)
         return;
     write(STA70, sameImpedance);
     write(statu24, noUpperResistorAtEnter);
+    show(statu24);
     goTo(Text19);
 }
 
@@ -232,8 +233,9 @@ void ParcDesac::closeByEmitter()
 
 void ParcDesac::closeBypassed()
 {
-    write(statu24, noUpperResistor);
+    write(statu24, adjustPresetAdvice);
     setText(Label24, shown(q_.QIcCheck) + " mA");
+    show(Label24);
     goTo(Text2);
     hide(Picture1, Picture6, Picture2, Picture7);
     q_.passed = true;

@@ -107,7 +107,8 @@ TEST(ParcDesacBypassed, LeavingItsRb1GoesToBetaAndHidesThePictures)
     program.playTo(Text19);
     program.click(Text18);
     EXPECT_EQ(program.focus(), "Text2");
-    EXPECT_EQ(program.sheet().text(statu24), "Without resister Rb1... ENTER pulse");
+    EXPECT_EQ(program.sheet().text(statu24),
+              "Click pulses... and adjust the value of the preset until obtaining the wanted QIc...");
     EXPECT_EQ(program.sheet().text(Label24), "0 mA");
     for (const host::Handle picture :
          {host::Handle{Picture1}, host::Handle{Picture6}, host::Handle{Picture2}, host::Handle{Picture7}})
