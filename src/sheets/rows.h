@@ -121,6 +121,10 @@ constexpr bool sameRow(const host::GrowthRow& one, const host::GrowthRow& other)
 {
     return one.part == other.part && one.field == other.field;
 }
+constexpr bool sameRow(const host::ValueRow& one, const host::ValueRow& other)
+{
+    return one.value == other.value;
+}
 
 namespace rows_detail {
 

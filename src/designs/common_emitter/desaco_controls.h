@@ -68,7 +68,7 @@ inline constexpr auto differentRows = std::to_array<ControlRow>({
     drawn(Image2, "image2", Kind::image, drawing::bypassCapacitor),
     field(Text11, "Text11", zones::parameter(circuitTop, 6), "55", notation::Vg),
     result(statu17, "statu17", at(672, 370, 112, 18)),
-    hidden(result(statu18, "statu18", at(836, 545, 176, 18))),
+    hidden(result(statu18, "statu18", at(836, 564, 176, 18))),
 });
 inline constexpr auto ownRows = std::to_array<ControlRow>({
     paper(Image1, "Image1", title),

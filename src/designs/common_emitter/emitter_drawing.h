@@ -119,28 +119,34 @@ inline constexpr auto bypassCapacitor = part({
     wire(810, 490, 810, 520),
     ground(810, 520),
 });
-// Bootstrapping: both resistors of the divider in halves, their middles tied to the emitter.
-inline constexpr auto bootstrapWires = part({
-    wire(430, 130, 620, 130),
-    wire(430, 130, 430, 140),
-    Mark{.symbol = Symbol::resistor, .from = {430, 140}, .to = {430, 200}, .name = "R_b1/2", .side = Side::left},
-    wire(430, 200, 430, 250),
-    node(430, 230),
-    Mark{.symbol = Symbol::resistor, .from = {430, 250}, .to = {430, 310}, .name = "R_b1/2", .side = Side::left},
-    wire(430, 310, 430, 350),
-    Mark{.symbol = Symbol::resistor, .from = {430, 350}, .to = {430, 400}, .name = "R_b2/2", .side = Side::right},
-    wire(430, 400, 430, 450),
-    node(430, 410),
-    Mark{.symbol = Symbol::resistor, .from = {430, 450}, .to = {430, 510}, .name = "R_b2/2", .side = Side::left},
-    wire(430, 510, 430, 520),
-    ground(430, 520),
-    wire(430, 230, 470, 230),
-    wire(510, 230, 560, 230),
-    wire(560, 230, 560, 410),
-    node(560, 410),
-    wire(430, 410, 470, 410),
-    wire(510, 410, 620, 410),
-});
+// Bootstrapping: both resistors of the divider in halves, their middles tied to the emitter, in the given row.
+consteval auto bootstrapWiresTo(int emitter)
+{
+    return part({
+        wire(430, 130, 620, 130),
+        wire(430, 130, 430, 140),
+        Mark{.symbol = Symbol::resistor, .from = {430, 140}, .to = {430, 200}, .name = "R_b1/2", .side = Side::left},
+        wire(430, 200, 430, 250),
+        node(430, 230),
+        Mark{.symbol = Symbol::resistor, .from = {430, 250}, .to = {430, 310}, .name = "R_b1/2", .side = Side::left},
+        wire(430, 310, 430, 350),
+        Mark{.symbol = Symbol::resistor, .from = {430, 350}, .to = {430, 400}, .name = "R_b2/2", .side = Side::right},
+        wire(430, 400, 430, 450),
+        node(430, 410),
+        Mark{.symbol = Symbol::resistor, .from = {430, 450}, .to = {430, 510}, .name = "R_b2/2", .side = Side::left},
+        wire(430, 510, 430, 520),
+        ground(430, 520),
+        wire(430, 230, 470, 230),
+        wire(510, 230, 560, 230),
+        wire(560, 230, 560, 410),
+        node(560, emitter),
+        wire(430, 410, 470, 410),
+        wire(510, 410, 560, 410),
+        wire(560, emitter, 620, emitter),
+        node(620, emitter),
+    });
+}
+inline constexpr auto bootstrapWires = bootstrapWiresTo(410);
 inline constexpr auto firstBootstrap = part({
     Mark{.symbol = Symbol::capacitor, .from = {470, 410}, .to = {510, 410}},
 });

@@ -66,8 +66,9 @@ inline constexpr auto bypassCapacitor = part({
     wire(790, 510, 790, 520),
     ground(790, 520),
 });
+inline constexpr auto bootstrapWires = drawing::bootstrapWiresTo(380);
 inline constexpr auto emitterVoltage = part({
-    Mark{.symbol = Symbol::arrow, .from = {590, 510}, .to = {590, 390}, .field = Text4},
+    Mark{.symbol = Symbol::arrow, .from = {600, 510}, .to = {600, 390}, .field = Text4},
 });
 
 inline constexpr auto differentRows = std::to_array<ControlRow>({
@@ -88,16 +89,21 @@ inline constexpr auto differentRows = std::to_array<ControlRow>({
     marked(result(VRes, "VRes", at(676, 462, 100, 18)), emitterVoltageName),
     hidden(result(res, "res", at(640, 484, 146, 36))),
     hidden(result(sta1, "sta1", at(806, 462, 84, 36))),
-    hidden(option(Picture6, "Picture6", Kind::picture, zones::option(1), {"Desacoplar todo el emisor", "Bypass the whole emitter"},
+    hidden(option(Picture6, "Picture6", Kind::picture, zones::option(4), {"Desacoplar todo el emisor", "Bypass the whole emitter"},
                   bypassMarks)),
-    inForce(Picture1, "Picture1", 2, {"Desacoplado: vuelve al comienzo", "Bypassed: back to the beginning"}, bypassMarks),
+    inForce(Picture1, "Picture1", 5, {"Desacoplado: vuelve al comienzo", "Bypassed: back to the beginning"}, bypassMarks),
     choice(Picture8, "Picture8", 0, {"Abrir otro circuito igual, vacío", "Open another blank circuit of this kind"}, partialMarks),
 });
 // Those of the modes that are drawn alike on Form2, and the options at their places here.
 inline constexpr auto ownRows = std::to_array<ControlRow>({
     hidden(drawn(Shape1, "Shape1", Kind::shape, bypassedResistor)),
     hidden(drawn(Shape2, "Shape2", Kind::shape, wholeResistor)),
-    hidden(choice(Picture11, "Picture11", 3, {"Polarizar por emisor", "Polarize by emitter"}, emitterSupplyMarks)),
+    hidden(drawn(Line20, "Line20", Kind::line,  bootstrapWires)),
+    hidden(choice(Picture11, "Picture11", 1, {"Polarizar por emisor", "Polarize by emitter"}, emitterSupplyMarks)),
+    inForce(Picture10, "Picture10", 1,
+       {"Polarizado por emisor: volver a polarizar por base", "Polarized by emitter: polarize by base again"}, emitterSupplyMarks),
+    hidden(choice(Picture2, "Picture2", 2, {"Aplicar bootstrapping", "Apply bootstrapping"}, bootstrapMarks)),
+    inForce(Picture7, "Picture7", 3, {"Con bootstrapping: quitarlo", "With bootstrapping: take it away"}, bootstrapMarks),
 });
 
 } // namespace controls_detail
@@ -107,14 +113,20 @@ inline constexpr auto controls = sheets::withControlsOf<allControls>(
 static_assert(host::rowsInOrder(controls));
 
 // part, field that brings it, belongs while this shows, and while these do not
-inline constexpr auto growth = sheets::joined(common_emitter::emitterGrowth<Controls>, std::to_array<host::GrowthRow>({
-    {Line2,  Text15, host::noControl, Text21}, {Shape1, Text15, host::noControl, Text21}, {Shape2, Text15, Text21},
+inline constexpr auto emitterGrowth = sheets::withRowsOf(common_emitter::emitterGrowth<Controls>, std::to_array<host::GrowthRow>({
+    {Line2, Text15, host::noControl, Text21},
+}));
+inline constexpr auto growth = sheets::joined(emitterGrowth, std::to_array<host::GrowthRow>({
+    {Shape1, Text15, host::noControl, Text21}, {Shape2, Text15, Text21},
     {Line3,  Text15, host::noControl, Text21}, {Line4, Text15, Text21},
     {Line15, Text18, host::noControl, Picture7}, {Line20, Text18, Picture7},
     {Line16, Text19, host::noControl, Picture10, Picture7},
 }));
-inline constexpr auto values =
-    sheets::joined(common_emitter::emitterValues<Controls>, common_emitter::modeValues<Controls>);
+// What stands beside the emitter branch belongs to its lead, which both circuits have.
+inline constexpr auto values = sheets::withRowsOf(
+    sheets::joined(common_emitter::emitterValues<Controls>, common_emitter::modeValues<Controls>), std::to_array<host::ValueRow>({
+    {Image2, Line1}, {Text15, Line1}, {res, Line1}, {VRes, Line1}, {sta1, Line1}, {Text20, Line1},
+}));
 // clang-format on
 
 } // namespace velmor::parc_desac
