@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "designs/common_emitter/form2.h"
+#include "designs/common_emitter/form8.h"
 #include "designs/differential/form3_controls.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
@@ -31,6 +32,7 @@ host::Catalogue catalogue()
 
         // sheets, family by family
         &form2::spec,
+        &form8::spec,
 
         &form3::spec,
 

@@ -65,6 +65,8 @@ void DesignSheet::Abrir()
             continue;
         if (line.show)
             show(line.control);
+        if (line.disable)
+            disable(line.control);
         setText(line.control, *read);
     }
     opened();

@@ -28,6 +28,7 @@ struct FileLine {
     host::Handle control = host::noControl;
     bool show = false;      ///< reading makes the control visible
     bool showFirst = false; ///< visible before its line is read, so also where the file ends before it
+    bool disable = false;   ///< reading disables the field: what it holds is a record
 };
 
 /// Pages that lie on the sheet and come and go with the pair of the help tool.

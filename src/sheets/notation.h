@@ -55,7 +55,8 @@ inline constexpr auto all = std::to_array<Quantity>({
 
 /// Names on a drawing that no field measures: parts, and what is worked out beside them.
 inline constexpr auto partNames = std::to_array<std::string_view>({
-    "Q_1", "Q_2", "C_in", "C_out", "r'_e", "E_RL", "E_Rb1", "E_d",
+    "Q_1", "Q_2", "C_in", "C_out", "C_dp", "r'_e", "E_RL", "E_Rb1", "E_d",
+    "I_b", "I_Rb1", "I_Rb2",
 });
 // clang-format on
 
