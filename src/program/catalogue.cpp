@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "designs/common_emitter/form18.h"
 #include "designs/common_emitter/form2.h"
 #include "designs/common_emitter/form8.h"
 #include "designs/differential/form3_controls.h"
@@ -33,6 +34,7 @@ host::Catalogue catalogue()
         // sheets, family by family
         &form2::spec,
         &form8::spec,
+        &form18::spec,
 
         &form3::spec,
 

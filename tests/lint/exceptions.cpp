@@ -15,7 +15,7 @@ namespace exceptions_detail {
 std::vector<Exception> read()
 {
     static const std::regex form(
-        "(spot|no-symbol|otherwise|together|unreached|one-language) ([^ :]+)(?: ([^ :]+))?: (.+)");
+        "(spot|no-symbol|late|otherwise|together|unreached|one-language) ([^ :]+)(?: ([^ :]+))?: (.+)");
     std::vector<Exception> all;
     for (const auto& file : std::filesystem::directory_iterator(places::source() + "/tests/lint/exceptions")) {
         std::ifstream lines(file.path());
@@ -72,6 +72,12 @@ std::span<const Spot> withoutSymbol()
 std::span<const Spot> reachedOtherwise()
 {
     static const auto rows = ofKind<Spot>("otherwise", spotOf);
+    return rows;
+}
+
+std::span<const Spot> lateTools()
+{
+    static const auto rows = ofKind<Spot>("late", spotOf);
     return rows;
 }
 

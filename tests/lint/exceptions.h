@@ -25,6 +25,7 @@ const std::vector<Exception>& exceptions();
 std::span<const Spot> spots();            ///< "spot": draws nothing by itself
 std::span<const Spot> withoutSymbol();    ///< "no-symbol"
 std::span<const Spot> reachedOtherwise(); ///< "otherwise": has no key of its own
+std::span<const Spot> lateTools();        ///< "late": a tool that the design brings, hidden at first
 std::span<const NeverTogether> neverTogether();
 std::span<const Unreached> unreached();
 std::span<const OneLanguage> oneLanguage();

@@ -73,8 +73,14 @@ std::vector<Model> modelsOf(const sheets::Tools& tools)
 bool alike(const ControlRow& row, const ControlRow& model)
 {
     return row.place == model.place && row.look == model.look && row.drawing.data() == model.drawing.data() &&
-           row.meaning.es == model.meaning.es && row.meaning.en == model.meaning.en && row.visible == model.visible &&
-           !row.overlay;
+           row.meaning.es == model.meaning.es && row.meaning.en == model.meaning.en && !row.overlay;
+}
+
+bool comesLate(const Sheet& sheet, const ControlRow& row, std::span<const Spot> late)
+{
+    return std::any_of(late.begin(), late.end(), [&](const Spot& spot) {
+        return host::sameName(spot.window, sheet.window.name) && host::sameName(spot.control, row.name);
+    });
 }
 
 /// A tool, the control that stands for it while it is hidden, and its key.
@@ -182,15 +188,18 @@ Complaints zones(const Sheet& sheet)
     return complaints;
 }
 
-Complaints tools(const Sheet& sheet)
+Complaints tools(const Sheet& sheet, std::span<const Spot> late)
 {
     Complaints complaints;
     for (const Model& model : modelsOf(sheet.tables.tools)) {
         if (model.tool == noControl)
             continue;
-        if (!sheet.has(model.tool))
+        if (!sheet.has(model.tool)) {
             complaints.push_back("the " + std::string(model.what) + " does not exist");
-        else if (!alike(sheet.window.controls[model.tool], model.row))
+            continue;
+        }
+        const ControlRow& row = sheet.window.controls[model.tool];
+        if (!alike(row, model.row) || row.visible != (model.row.visible && !comesLate(sheet, row, late)))
             complaints.push_back(sheet.named(model.tool) + " is not the " + std::string(model.what) + " of all sheets");
     }
     const sheets::Tools& all = sheet.tables.tools;

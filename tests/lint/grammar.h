@@ -25,8 +25,8 @@ struct Sheet {
 /// Voice, next step and paper stand at their places, fields with their symbol at the left among the parameters, and nothing
 /// but tools where the tools stand. Overlays lie where they like.
 Complaints zones(const Sheet& sheet);
-/// The tools look, stand and speak as on every sheet.
-Complaints tools(const Sheet& sheet);
+/// The tools look, stand and speak as on every sheet. Those told come only with the design, and are hidden at first.
+Complaints tools(const Sheet& sheet, std::span<const Spot> late = {});
 /// The tools have their keys, a pair of images one for both; no key of the house is taken; own digits count from Ctrl+1.
 Complaints sheetKeys(const Sheet& sheet, std::span<const host::ShortcutRow> keysOfTheMainWindow);
 /// Fields measure quantities of the notation in their units, SI prefixes apart, and the drawing spells them alike.

@@ -123,6 +123,15 @@ TEST_F(GrammarTools, RejectAnotherPlaceDrawingOrMeaning)
                                           "\"Image35\" is not the help of all sheets"}));
 }
 
+TEST_F(GrammarTools, RejectAToolThatIsHiddenAtFirstUnlessItComesLateAndTheOtherWayRound)
+{
+    const Spot late[] = {{"TemplateSheet", "sscommand3"}};
+    EXPECT_EQ(tools(sheet(), late), Complaints{"\"SSCommand3\" is not the report of all sheets"});
+    rows[SSCommand3].visible = false;
+    EXPECT_EQ(tools(sheet()), Complaints{"\"SSCommand3\" is not the report of all sheets"});
+    EXPECT_EQ(tools(sheet(), late), Complaints{});
+}
+
 TEST_F(GrammarTools, RejectHalfAPairAndWhatDoesNotExist)
 {
     tables.tools.clone.second = noControl;

@@ -34,7 +34,7 @@ TEST_P(EverySheet, HasEverythingInItsZone)
 
 TEST_P(EverySheet, HasTheToolsOfAllSheets)
 {
-    EXPECT_TRUE(keeps(tools(sheet)));
+    EXPECT_TRUE(keeps(tools(sheet, lateTools())));
 }
 
 TEST_P(EverySheet, HasTheKeysOfAllSheetsAndItsOwnAfterThem)

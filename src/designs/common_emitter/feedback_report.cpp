@@ -13,7 +13,6 @@ void writeEnglishStart(sheets::ReportText& report)
 
 void writeSpanishStart(sheets::ReportText& report)
 {
-    report.tabs(spanishAdvice);
     report.oneStep("Ejercicio N° 1 ").twoSteps("Realice un diseño con datos predeterminados: ");
     report.twoSteps("con Rg mayor y menor que Zin, luego con Bootstrapping... ");
     report.oneStep("Ejercicio N° 2 ").twoSteps("Realice un diseño con los siguientes datos : ").tabs(spanishSecond);

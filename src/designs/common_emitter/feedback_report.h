@@ -10,11 +10,6 @@
 namespace velmor::feedback {
 
 // clang-format off
-inline constexpr std::string_view spanishAdvice[] = {
-    "Es aconsejable para comparar resultados entre ejercicios",
-    "abrir el Editor de Informes para un ejercicio y",
-    "el Editor de Textos para otro ejercicio...",
-};
 inline constexpr std::string_view spanishSecond[] = {"fo =  400 ", "RLw =  0.4 K", "Eopp = 12.5 V", "Rg = 0.2 K", "S = 10"};
 inline constexpr std::string_view englishSecond[] = {"fo =  420 ", "RLw =  0.4 °", "Eopp =  12.5 V", "S =  10", "Rg =  0.2 k"};
 inline constexpr std::string_view englishThird[]  = {"Rlw  =  2 kohm", "S = 1", "Vg =  140", "Rg = 0.4 k"};

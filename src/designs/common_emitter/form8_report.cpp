@@ -13,6 +13,11 @@ using sheets::ReportText;
 namespace report_detail {
 
 // clang-format off
+constexpr std::string_view spanishAdvice[] = {
+    "Es aconsejable para comparar resultados entre ejercicios",
+    "abrir el Editor de Informes para un ejercicio y",
+    "el Editor de Textos para otro ejercicio...",
+};
 constexpr std::string_view spanishThird[]  = {"Rlw  =  0.4 kohm", "S = 10", "Vg = 140", "Rg = 0.6 K"};
 constexpr std::string_view spanishFourth[] = {"Rlw (Kohm) =  1 kohm", " S = 1", "Vg = 240"};
 
@@ -74,6 +79,7 @@ std::string Form8::spanishReport() const
 {
     ReportText report;
     report.heading(*this, "Elaboración de Informe", "Emisor Común Realimentado p/ tensión, polarizado p/ Base");
+    report.tabs(spanishAdvice);
     writeSpanishStart(report);
     report.oneStep("Ejercicio N° 3 ").tabs(spanishThird);
     report.oneStep("Ejercicio N° 4 ").tabs(spanishFourth);
