@@ -2,7 +2,7 @@
 // What the two sheets fed back by voltage have in common: the handles of their controls, with which each sheet's own begin, the
 // tools among them, and the first rows of their tables. Knows no slot and no formula.
 //
-// Columns of the drawing: generator 280, base 430, feedback 450 to 610, transistor 590 and 620, load 900.
+// Columns of the drawing: generator 280, base 430, decoupling 540, transistor 590 and 620, load 900.
 // Rows: supply 130, feedback 240, collector 280, base 340, ground 520.
 #pragma once
 
@@ -73,18 +73,18 @@ inline constexpr auto feedbackPreset = sheets::part({
 inline constexpr auto feedbackHalves = sheets::part({
     node(620, 240),
     wire(620, 240, 610, 240),
-    Mark{.symbol = Symbol::resistor, .from = {610, 240}, .to = {550, 240}, .name = "R_b1/2", .side = Side::above},
-    wire(550, 240, 500, 240),
-    node(520, 240),
-    Mark{.symbol = Symbol::resistor, .from = {500, 240}, .to = {440, 240}, .name = "R_b1/2", .side = Side::above},
-    wire(440, 240, 430, 240),
+    Mark{.symbol = Symbol::resistor, .from = {610, 240}, .to = {560, 240}, .name = "R_b1/2", .side = Side::below},
+    wire(560, 240, 520, 240),
+    node(540, 240),
+    Mark{.symbol = Symbol::resistor, .from = {520, 240}, .to = {460, 240}, .name = "R_b1/2", .side = Side::below},
+    wire(460, 240, 430, 240),
     wire(430, 240, 430, 340),
 });
 inline constexpr auto decoupling = sheets::part({
-    wire(520, 240, 520, 260),
-    Mark{.symbol = Symbol::capacitor, .from = {520, 260}, .to = {520, 300}, .name = "C_dp", .side = Side::right},
-    wire(520, 300, 520, 520),
-    ground(520, 520),
+    wire(540, 240, 540, 270),
+    Mark{.symbol = Symbol::capacitor, .from = {540, 270}, .to = {540, 310}, .name = "C_dp", .side = Side::left},
+    wire(540, 310, 540, 520),
+    ground(540, 520),
 });
 
 // Faces of the option pictures.
@@ -139,7 +139,7 @@ constexpr ControlRow page(host::Handle id, std::string_view name, host::BiText m
 }
 constexpr ControlRow button(host::Handle id, std::string_view name, int top, host::BiText meaning)
 {
-    return {.id = id, .name = name, .kind = Kind::button, .place = at(1032, top, 152, 30), .visible = false, .meaning = meaning};
+    return {.id = id, .name = name, .kind = Kind::button, .place = at(1022, top, 172, 32), .visible = false, .meaning = meaning};
 }
 
 } // namespace controls_detail
@@ -190,24 +190,24 @@ inline constexpr auto controls = [] {
         hidden(disabled(field(Text15, "Text15", at(300, 378, 74, 22), "", notation::above(notation::Rg)))),
         disabled(field(Text16, "Text16", at(706, 119, 122, 22), "       Es", notation::above(notation::Es))),
         disabled(field(Text17, "Text17", at(640, 162, 130, 22), "", notation::above(notation::RL))),
-        disabled(field(Text19, "Text19", at(459, 194, 122, 22), "", notation::above(notation::Rb1))),
+        disabled(field(Text19, "Text19", at(446, 194, 112, 22), "", notation::above(notation::Rb1))),
         named(Voltaje, "Voltaje", at(1154, 590, 40, 22), "S/uso"),
         named(Label2, "Label2", at(98, 206, 60, 18), "fo (Hz)"),
         named(Label10, "Label10", at(640, 144, 100, 18), "RL (Kohms)"),
-        named(Label19, "Label19", at(459, 176, 100, 18), "Rb1 (Kohm)"),
-        hidden(result(Label21, "Label21", at(244, 292, 130, 18))),
+        named(Label19, "Label19", at(446, 176, 100, 18), "Rb1 (Kohm)"),
+        hidden(result(Label21, "Label21", at(244, 272, 150, 18))),
         hidden(result(Label22, "Label22", at(640, 188, 150, 18))),
         result(Label23, "Label23", at(672, 334, 160, 18)),
         result(Label24, "Label24", at(912, 484, 100, 34)),
-        hidden(label(Label25, "Label25", at(244, 545, 200, 18), Look::note)),
+        hidden(label(Label25, "Label25", at(300, 400, 128, 16), Look::note)),
         result(Label32, "Label32", at(672, 370, 140, 18)),
         hidden(result(statu18, "statu18", at(720, 212, 186, 18))),
-        result(statu32, "statu32", at(330, 312, 110, 18)),
+        result(statu32, "statu32", at(306, 296, 118, 18)),
         hidden(result(statu33, "statu33", at(712, 296, 140, 18))),
-        hidden(result(stas, "stas", at(532, 300, 84, 18))),
-        {.id = Frame1, .name = "Frame1", .kind = Kind::panel, .place = at(1022, 352, 172, 118), .visible = false},
-        button(Command1, "Command1", 390, {"Cambiar la fuente", "Change the supply"}),
-        button(Command2, "Command2", 428, {"Continuar con esta fuente", "Go on with this supply"}),
+        hidden(result(stas, "stas", at(556, 281, 62, 18))),
+        {.id = Frame1, .name = "Frame1", .kind = Kind::panel, .place = at(1022, 352, 172, 42), .visible = false},
+        button(Command1, "Command1", 400, {"Cambiar la fuente", "Change the supply"}),
+        button(Command2, "Command2", 436, {"Continuar con esta fuente", "Go on with this supply"}),
         hidden(option(Image8, "Image8", Kind::image, zones::option(0), {"Hacer bootstrapping", "Make bootstrapping"},
                       drawing::bootstrapMarks)),
         hidden(option(Image2, "image2", Kind::image, zones::option(0), {"Quitar el bootstrapping", "Take bootstrapping away"},

@@ -30,13 +30,13 @@ using feedback::drawing::Symbol;
 inline constexpr auto title = sheets::titleBlock({"Realimentado por tensión, estabilizado", "Voltage feedback, stabilised"});
 inline constexpr auto lowerResistor = feedback::drawing::lowerDivider<OwnControl>;
 inline constexpr auto feedbackCurrent = sheets::part({
-    Mark{.symbol = Symbol::arrow, .from = {550, 258}, .to = {500, 258}, .name = "I_Rb1", .side = Side::below},
+    Mark{.symbol = Symbol::arrow, .from = {446, 272}, .to = {446, 308}, .name = "I_Rb1", .side = Side::right},
 });
 inline constexpr auto baseCurrent = sheets::part({
-    Mark{.symbol = Symbol::arrow, .from = {536, 329}, .to = {572, 329}, .name = "I_b", .side = Side::above},
+    Mark{.symbol = Symbol::arrow, .from = {480, 329}, .to = {516, 329}, .name = "I_b", .side = Side::above},
 });
 inline constexpr auto lowerCurrent = sheets::part({
-    Mark{.symbol = Symbol::arrow, .from = {416, 370}, .to = {416, 406}, .name = "I_Rb2", .side = Side::left},
+    Mark{.symbol = Symbol::arrow, .from = {446, 370}, .to = {446, 406}, .name = "I_Rb2", .side = Side::right},
 });
 inline constexpr auto obtainedCurrent = sheets::part({
     Mark{.symbol = Symbol::arrow, .from = {634, 398}, .to = {634, 430}},
@@ -66,7 +66,7 @@ inline constexpr auto controls = [] {
             disabled(hidden(drawn(Shape2, "Shape2", Kind::shape, own_drawing::obtainedCurrent))),
             disabled(hidden(drawn(Shape6, "Shape6", Kind::shape, feedback::drawing::feedbackPreset))),
             hidden(drawn(Line19, "Line19", Kind::line, own_drawing::lowerResistor)),
-            hidden(disabled(field(Text18, "Text18", at(448, 459, 66, 22), "", notation::above(notation::Rb2)))),
+            hidden(disabled(field(Text18, "Text18", at(446, 459, 64, 22), "", notation::above(notation::Rb2)))),
             hidden(result(Label26, "Label26", at(644, 405, 110, 18))),
             hidden(label(Label27, "Label27", at(644, 428, 210, 52), Look::note)),
             hidden(label(Label29, "Label29", at(644, 484, 210, 34), Look::warning)),
