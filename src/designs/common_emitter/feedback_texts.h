@@ -17,17 +17,17 @@ using sheets::Saying;
 using sheets::When;
 
 /// An empty field at Enter, in the words of most fields of these sheets.
-inline constexpr Saying placeAValue{
-    .when = When::empty,
-    .text = {.es = "Debe colocar una cifra...", .en = "It should place a value..."},
-    .title = {.es = "Error", .en = "Error"},
-    .flags = 48};
+inline constexpr Saying placeAValue{.when = When::empty,
+                                    .text = {.es = "Debe colocar una cifra...", .en = "It should place a value..."},
+                                    .title = {.es = "Error", .en = "Error"},
+                                    .flags = 48};
 
 // Told by steps, and where a file is opened.
 inline constexpr Saying raiseSupply{
     .place = Label33,
-    .text = {.es = " Es aconsejable asignar un valor mas elevado al minimo calculado, (el programa elevará el valor del "
-                   "resistor RL)",
+    .text = {.es =
+                 " Es aconsejable asignar un valor mas elevado al minimo calculado, (el programa elevará el valor del "
+                 "resistor RL)",
              .en = "It is advisable to assign a value more high to the calculated minimum, (the program will elevate "
                    "the value of the resistor RL)"}};
 inline constexpr Saying choosePreset{

@@ -158,7 +158,9 @@ std::string Form2::englishReport() const
     report.tabs(englishClosing);
     if (circuit != unknown)
         report.oneStep(english[circuit].results);
-    return report.rows(*this, designRows).rows(*this, englishResults).tabs(common_emitter::englishQuestions)
+    return report.rows(*this, designRows)
+        .rows(*this, englishResults)
+        .tabs(common_emitter::englishQuestions)
         .tab(aboutPolarisation)
         .text();
 }

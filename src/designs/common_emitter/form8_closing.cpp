@@ -7,7 +7,7 @@ namespace velmor::form8 {
 
 namespace closing_detail {
 
-constexpr int leftOfRequest = 255; // twips
+constexpr int leftOfRequest = 255;     // twips
 constexpr double presetTolerance = 20; // per cent
 
 } // namespace closing_detail

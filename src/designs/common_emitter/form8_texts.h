@@ -22,10 +22,10 @@ constexpr Saying about(host::Handle field, Saying row)
 } // namespace texts_detail
 
 // Two fields have the other sheet's words for an empty field.
-inline constexpr auto sayings = sheets::joined(
-    std::to_array<Saying>(
-        {sheets::placeANumber, texts_detail::about(Text15, placeAValue), texts_detail::about(Text16, placeAValue)}),
-    feedback::sayings);
+inline constexpr auto sayings =
+    sheets::joined(std::to_array<Saying>({sheets::placeANumber, texts_detail::about(Text15, placeAValue),
+                                          texts_detail::about(Text16, placeAValue)}),
+                   feedback::sayings);
 
 // clang-format off
 inline constexpr BiText fileFilter{.es = "Realimentado por Tensión Simple(*.RPT)|*.RPT", .en = "Feedback Voltage Simple(*.FVS)|*.FVS"};
