@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The report of `Form2`: exercises, results and questions for the teacher. The circuit is read from `Text21` and `image2`, and
 // the two languages differ in more than their words.
-#include "designs/common_emitter/emitter_questions.h"
 #include "designs/common_emitter/form2.h"
 #include "sheets/report_text.h"
 
@@ -71,7 +70,20 @@ constexpr std::string_view spanishClosing[] = {
     "Recuerde salvar los resultados obtenidos para cada diseño en un archivo",
     "con el Editor de Textos",
 };
-constexpr std::string_view aboutPolarisation = "polarized by Emitter..?";
+constexpr std::string_view englishQuestions[] = {
+    "Answer the following questionnaire : ",
+    "That parameters define the voltage of stability, ERes..?",
+    "To that parameters influence the different load values Rlw..?",
+    "To that parameters influence to elevate Vg..?",
+    "To that parameters influence to rise ERes..?",
+    "Does you mention and do justify which voltage  influence ",
+    "in the cutting off the output sign Eopp..?",
+    "Like bigger entrance impedance is obtained..?",
+    "Which the advantages and disadvantages are of using ",
+    "circuits Bypass..?",
+    "Which the advantages and disadvantages are of using circuits",
+    "polarized by Emitter..?",
+};
 constexpr std::string_view spanishQuestions[] = {
     "Conteste el siguiente cuestionario: ",
     "Que parámetros definen la tensión de estabilidad Eres..?",
@@ -158,11 +170,7 @@ std::string Form2::englishReport() const
     report.tabs(englishClosing);
     if (circuit != unknown)
         report.oneStep(english[circuit].results);
-    return report.rows(*this, designRows)
-        .rows(*this, englishResults)
-        .tabs(common_emitter::englishQuestions)
-        .tab(aboutPolarisation)
-        .text();
+    return report.rows(*this, designRows).rows(*this, englishResults).tabs(englishQuestions).text();
 }
 
 std::string Form2::spanishReport() const

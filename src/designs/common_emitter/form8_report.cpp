@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The report of `Form8`. The two languages differ in data and order, as the course's exercises do.
-#include "designs/common_emitter/emitter_questions.h"
 #include "designs/common_emitter/feedback_report.h"
 #include "designs/common_emitter/form8.h"
 #include "sheets/report_text.h"
@@ -72,7 +71,7 @@ std::string Form8::englishReport() const
     report.oneStep("Exercise N° 4 ").tabs(englishFourth);
     report.tabs(englishClosing).oneStep(englishResults).rows(*this, firstRows).rows(*this, englishRows);
     writeResults(report, *this);
-    return report.tabs(common_emitter::englishQuestions).text();
+    return report.tabs(englishQuestions).text();
 }
 
 std::string Form8::spanishReport() const
