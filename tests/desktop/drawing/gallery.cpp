@@ -3,8 +3,7 @@
 //     velmor_gallery FOLDER           the sample windows of the painters, also as PDF and SVG
 //     velmor_gallery FOLDER NAME ...  windows of the program, with all that is hidden shown under NAME-all; of a sheet also
 //                                     how its drawing grows, under NAME-half and NAME-whole, and its tools
-//     velmor_gallery FOLDER NAME:CONTROL:FIELD=TEXT ...  the same, then controls clicked and fields entered one after the other,
-//                                     where the chain waits for them
+//     velmor_gallery FOLDER NAME:CONTROL:CONTROL ...  the same, the controls clicked one after the other once the drawing is whole
 #include <cstdio>
 #include <string>
 
@@ -127,21 +126,6 @@ struct OpenWindow {
         return count;
     }
 
-    /// "CONTROL" is clicked, "FIELD=TEXT" entered.
-    void take(const QString& deed)
-    {
-        const host::Handle control = window->named(deed.section(QLatin1Char('='), 0, 0).toStdString());
-        if (control == host::noControl)
-            return;
-        if (!deed.contains(QLatin1Char('='))) {
-            engine.userClick(*window, control);
-            return;
-        }
-        engine.userFocus(*window, control);
-        engine.userText(*window, control, deed.section(QLatin1Char('='), 1).toStdString());
-        engine.userKey(*window, 13);
-    }
-
     QuietScreen screen;
     host::MemorySettings settings;
     host::Engine engine;
@@ -175,8 +159,9 @@ void saveGrowth(const QString& stem, const QStringList& name, const desktop::Vie
     open.steps(mostSteps);
     savePicture(*open.window, view, 1.0, stem + QStringLiteral("-whole.png"));
     saveTools(*open.window, view, stem + QStringLiteral("-tools.png"));
-    for (const QString& deed : name.mid(1))
-        open.take(deed);
+    for (const QString& control : name.mid(1))
+        if (const host::Handle found = open.window->named(control.toStdString()); found != host::noControl)
+            open.engine.userClick(*open.window, found);
     if (name.size() > 1)
         savePicture(*open.window, view, 1.0, stem + QStringLiteral("-clicked.png"));
 }
