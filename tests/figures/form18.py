@@ -110,5 +110,5 @@ if __name__ == "__main__":
            {"Text12": "1000", "Text5": "60", "Text6": "3000", "Text8": "800", "Text9": "1", "Text13": "0.2", "Text11": "11",
             "Text10": "200", "Text2": "30", "Text16": "30", "Text19": "1", "Text15": "0.001"}).run()
     Stable("the least current and a small swing lifted by a volt", "english",
-           {"Text12": "5000", "Text5": "50", "Text8": "0.01", "Text9": "900", "Text13": "0.9", "Text11": "200", "Text10": "1", "Text2": "480",
-            "Text17": "1200", "Text16": "40", "Text19": "1000", "Text15": "47", "bootstrap": True}).run()
+           {"Text12": "5000", "Text5": "50", "Text8": "0.01", "Text9": "900", "Text13": "0.9", "Text11": "200", "Text10": "1",
+            "Text2": "480", "Text17": "1200", "Text16": "40", "Text19": "1000", "Text15": "47", "bootstrap": True}).run()

@@ -72,11 +72,13 @@ inline constexpr auto helpPages = std::to_array<sheets::HelpPage>({
               " RLac = Vg x r'e \n\n"
               "Knowing RLac and RLw,\n\n"
               " RL = (RLw x RLac) / (Rlw - RLac)\n\n"
-              "If the gain asked for demands an RLac larger than RLw, the formula answers with nonsense. For RLw = 10 K and RLac = 20 K:\n\n"
+              "If the gain asked for demands an RLac larger than RLw, the formula answers with nonsense. For RLw = 10 K "
+              "and RLac = 20 K:\n\n"
               " RL = (200 / -10) = -20 K\n\n"
               "Raise QIc or lower Vg. Put a standard value, up to 20 % more or less than the one worked out."}},
     {.field = Text12, .shortName = " fo...", .page = {
-        .es = " En este cuadro UD, asigna un valor de frecuencia a la cuál la señal del generador diminuye un 10 % respecto de la señal que "
+        .es = " En este cuadro UD, asigna un valor de frecuencia a la cuál la señal del generador diminuye un 10 % "
+              "respecto de la señal que "
               "se desarrolla en la impedancia de entrada (Zin).\n\n"
               "A esa frecuencia la reactancia de cada capacitor es la décima parte de la resistencia que le sigue:\n\n"
               "  Cout = 1 / (2 x ¶ x fo x 0.1 x Rlw )\n\n"
@@ -130,17 +132,20 @@ inline constexpr auto helpPages = std::to_array<sheets::HelpPage>({
               "La corriente de reposo no debe superar el 40 % de este valor: con señal sube casi al doble, y los picos quedan en el 80 %.",
         .en = " In this field you assign the highest current that the transistor supports between Collector and Emitter, taken from the "
               "parameters that the Manual of Transistors gives.\n\n"
-              "The quiescent current should not pass 40 % of this value: with a signal it rises to nearly twice as much, and the peaks stay "
+              "The quiescent current should not pass 40 % of this value: with a signal it rises to nearly twice as "
+              "much, and the peaks stay "
               "at 80 %."}},
     {.field = Text7, .shortName = "Si/Ge", .page = {
         .es = " En este cuadro UD, asigna el valor de tensión que corresponde al tipo de juntura del transistor, Silicio ó Germanio\n\n"
               "Silicio: 0.6 Volt. Germanio: 0.2 Volt. Es la tensión de la base respecto del emisor, y por eso sobre Rb1 queda Eq - Vj.",
         .en = " In this field you assign the voltage that belongs to the type of junction of the transistor, Silicon or Germanium\n\n"
-              "Silicon: 0.6 Volt. Germanium: 0.2 Volt. It is the voltage of the base against the emitter, and so Eq - Vj is left for Rb1."}},
+              "Silicon: 0.6 Volt. Germanium: 0.2 Volt. It is the voltage of the base against the emitter, and so Eq - "
+              "Vj is left for Rb1."}},
     {.field = Text14, .shortName = "Ein", .page = {
         .es = "En este cuadro UD, asigna el valor de la tensión de señal alterna (en valor eficaz) que le provee un equipo o generador el "
               "cual Ud. quiere amplificar\n\n"
-              "La juntura sin resistor de emisor admite pocos milivolts antes de deformar la señal. Si la entrada es mayor, coloque unos 100 "
+              "La juntura sin resistor de emisor admite pocos milivolts antes de deformar la señal. Si la entrada es "
+              "mayor, coloque unos 100 "
               "ohm en el emisor: la ganancia baja, y con ella la distorsión.",
         .en = "In this field you assign the alternating signal voltage (r.m.s.) that the equipment or generator gives which you want to "
               "amplify\n\n"
@@ -151,7 +156,8 @@ inline constexpr auto helpPages = std::to_array<sheets::HelpPage>({
               "Se coloca en Kohm. Generador y entrada forman un divisor: si la impedancia de entrada (Zin) no es mayor que Rg, el circuito "
               "será una carga pesada y buena parte de la señal se perderá. Para elevar Zin haga Bootstrapping.",
         .en = "In this field you assign the value of the internal resistance of the generator \n\n"
-              "It is given in Kohm. Generator and input make a divider: if the input impedance (Zin) is not larger than Rg, the circuit will "
+              "It is given in Kohm. Generator and input make a divider: if the input impedance (Zin) is not larger than "
+              "Rg, the circuit will "
               "be a heavy load and a good part of the signal will be lost. To raise Zin make Bootstrapping."}},
     {.field = Text19, .shortName = "Rb1", .page = {
         .es = "En este cuadro UD, asigna el valor de resistencia que actúa como drenaje de la corriente de bias (corriente de Base).\n\n"

@@ -29,7 +29,8 @@ const host::BiText helpText{
           "     IRb1 = (Eq - Vj) / Rb1\n"
           "     IRb2 = IRb1 - Ib\n"
           "     Rb2 = Vj / IRb2\n\n"
-          "Put standard values and watch the current obtained: as Rb2 varies, QIc changes. If the voltage is not enough, Rb2 comes out very "
+          "Put standard values and watch the current obtained: as Rb2 varies, QIc changes. If the voltage is not "
+          "enough, Rb2 comes out very "
           "small or negative, and the supply has to be raised.\n\n"
           "To raise the input impedance split Rb1 in two halves and decouple their middle with Cdp (Bootstrapping)."};
 // clang-format on

@@ -33,7 +33,8 @@ const host::BiText helpText{
           "3) The supply. The least is EQ + ERL; if you put more, the difference goes to RL.\n"
           "4) The preset Rb1, within 20 % of what was worked out.\n"
           "5) The resistance of the generator, to know whether the input is a heavy load.\n\n"
-          "If it is, split Rb1 in two halves and take their middle to ground with the capacitor Cdp: the signal no longer comes back to the "
+          "If it is, split Rb1 in two halves and take their middle to ground with the capacitor Cdp: the signal no "
+          "longer comes back to the "
           "base and Zin grows (Bootstrapping).\n\n"
           "ERL should be higher than EQ to conserve the stability S = Rb1 / RL."};
 // clang-format on

@@ -56,10 +56,14 @@ private:
 };
 
 struct Form8Program : FeedbackProgram<form8::Form8> {
-    explicit Form8Program(std::int16_t languageIsEnglish = host::trueValue) : FeedbackProgram("Form8", languageIsEnglish) {}
+    explicit Form8Program(std::int16_t languageIsEnglish = host::trueValue)
+        : FeedbackProgram("Form8", languageIsEnglish)
+    {}
 };
 struct Form18Program : FeedbackProgram<form18::Form18> {
-    explicit Form18Program(std::int16_t languageIsEnglish = host::trueValue) : FeedbackProgram("Form18", languageIsEnglish) {}
+    explicit Form18Program(std::int16_t languageIsEnglish = host::trueValue)
+        : FeedbackProgram("Form18", languageIsEnglish)
+    {}
 };
 
 } // namespace velmor::test
