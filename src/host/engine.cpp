@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "host/failure.h"
+#include "host/state_change.h"
 
 namespace velmor::host {
 
@@ -33,6 +34,8 @@ void Engine::outermost(const std::function<void()>& action)
     }
     ++depth_;
     inHand_ = {};
+    moment_ = Moment::passing;
+    stepWanted_.reset();
     try {
         action();
         settle();
@@ -41,10 +44,15 @@ void Engine::outermost(const std::function<void()>& action)
         fail(failure.what());
     }
     --depth_;
+    const std::optional<Direction> wanted = std::exchange(stepWanted_, std::nullopt);
+    if (!ended_)
+        endSteps();
     buryTheDead();
     screen_.bringUpToDate();
     if (ended_)
         screen_.programEnded();
+    else if (wanted)
+        userStep(*wanted);
 }
 
 void Engine::runPending()
@@ -121,7 +129,10 @@ void Engine::run(Window& window, Event event)
 
 void Engine::userRun(const std::function<void()>& action)
 {
-    outermost(action);
+    outermost([this, action] {
+        moment_ = Moment::stepEnds;
+        action();
+    });
 }
 
 void Engine::programEdited(Window& window, Handle editor)

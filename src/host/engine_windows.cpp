@@ -353,6 +353,7 @@ void Engine::arrange(int kind)
 void Engine::userActivate(Window& window)
 {
     outermost([this, &window] {
+        moment_ = Moment::activated;
         if (isLoaded(&window) && (window.shown_ || window.role() == Role::mainWindow))
             makeCurrent(window);
     });

@@ -85,6 +85,12 @@ public:
     std::optional<std::string> fileDialog(const FileDialog& dialog);
     std::string programFolder();
 
+    /// The active sheet goes one step back or forth when the running slots have ended.
+    void StepBack();
+    void StepForth();
+    bool canStepBack();
+    bool canStepForth();
+
     /// Saves nothing: ends the program once the running slots have ended.
     void endProgram();
     /// Asks every sheet, in order of creation, whether it may close. False as soon as one refuses; none is unloaded.

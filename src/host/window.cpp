@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "host/engine.h"
+#include "host/step_history.h"
 
 namespace velmor::host {
 
@@ -99,6 +100,7 @@ const std::string& Window::asked(Handle field) const
 
 void Window::markTouched(Handle control)
 {
+    ++settings_;
     if (!std::exchange(controls_[control].touched, true))
         touched_.push_back(control);
 }

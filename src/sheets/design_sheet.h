@@ -193,6 +193,8 @@ public:
     void pressPicture(const host::EventArgs& args, const ImagePair& pair);
 
 protected:
+    /// What a step has taken back or done again is a change like any other.
+    void stepped() override { modificado_ = host::trueValue; }
     /// The closing steps of `Abrir` behind the last line: the archive prompt and what the sheet shows.
     virtual void opened() {}
 

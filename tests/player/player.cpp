@@ -45,6 +45,7 @@ void Player::makeProgram()
         if (++slotsInEvent_ > slotsWithoutEnd)
             throw Endless();
     };
+    engine_->onStep = [this](const host::Window& window) { order_.adopt(window); };
     engine_->onBox = [this](const host::MessageBox& box) {
         coverage_.boxShown(box);
         if (screen_->questions > questionsWithoutEnd)
@@ -157,6 +158,8 @@ void Player::perform(const Deed& deed)
     try {
         carryOut(deed);
         check();
+        if (afterEvent && fault_.empty())
+            afterEvent();
     } catch (const Endless&) {
         report("slots or boxes without end, the last in " + coverage_.lastSlot());
     } catch (const std::exception& problem) {
