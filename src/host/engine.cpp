@@ -32,6 +32,8 @@ void Engine::outermost(const std::function<void()>& action)
         pending_.push_back(action);
         return;
     }
+    if (follower_ != nullptr)
+        follower_->eventBegins();
     ++depth_;
     inHand_ = {};
     moment_ = Moment::passing;
@@ -48,6 +50,8 @@ void Engine::outermost(const std::function<void()>& action)
     if (!ended_)
         endSteps();
     buryTheDead();
+    if (follower_ != nullptr)
+        follower_->eventEnded();
     screen_.bringUpToDate();
     if (ended_)
         screen_.programEnded();
@@ -101,7 +105,10 @@ void Engine::fail(std::string_view what)
     trace("failure " + std::string(what));
     ended_ = true;
     pending_.clear();
-    screen_.programFailed(failureText_.in(values_.LanguageIsEnglish));
+    std::string text(failureText_.in(values_.LanguageIsEnglish));
+    if (follower_ != nullptr && follower_->failing())
+        text += keptText_.in(values_.LanguageIsEnglish);
+    screen_.programFailed(text);
 }
 
 void Engine::end()

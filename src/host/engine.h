@@ -36,6 +36,7 @@
 #include <vector>
 
 #include "host/event.h"
+#include "host/follower.h"
 #include "host/screen.h"
 #include "host/settings_store.h"
 #include "host/sheet_host.h"
@@ -154,6 +155,8 @@ public:
     void setTrace(std::function<void(std::string_view)> sink) { trace_ = std::move(sink); }
     void trace(std::string_view line) const;
     void setFailureText(const BiText& text) { failureText_ = text; }
+    /// One follower at most, which lives as long as it follows.
+    void setFollower(Follower* follower) { follower_ = follower; }
     /// Counts each slot run and each box shown, for coverage by players. Null switches it off.
     std::function<void(const Window&, Handle, Event)> onSlot;
     std::function<void(const MessageBox&)> onBox;
@@ -233,9 +236,12 @@ private:
         std::string text{};
     };
     InHand inHand_;
+    Follower* follower_ = nullptr;
     std::function<void(std::string_view)> trace_;
     BiText failureText_{"El programa debe terminar: un cálculo no es posible con estos valores.",
                         "The program must end: a calculation is not possible with these values."};
+    BiText keptText_{" Su trabajo está guardado: la próxima vez se le ofrecerá en la ventana principal.",
+                     " Your work is kept: it will be offered to you in the main window next time."};
     Place client_{0, 0, 20250, 10125};
     unsigned serial_ = 0;
     int depth_ = 0;

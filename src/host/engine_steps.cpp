@@ -52,6 +52,8 @@ bool Engine::userStep(Direction direction)
     trace((direction == Direction::back ? "undo " : "redo ") + std::string(sheet->name()));
     if (onStep)
         onStep(*sheet);
+    if (follower_ != nullptr)
+        follower_->eventEnded();
     screen_.bringUpToDate();
     return true;
 }

@@ -210,6 +210,8 @@ void Engine::drop(Window& window)
     if (held == windows_.end())
         return;
     trace("unload " + std::string(window.name()));
+    if (follower_ != nullptr)
+        follower_->windowGoes(window);
     window.gone_ = true;
     window.shown_ = false;
     window.windowChanged_ = true;

@@ -271,6 +271,18 @@ bool SheetHost::canStepForth()
     return engine_.canStep(Direction::forth);
 }
 
+void SheetHost::workSaved(Window& window)
+{
+    if (engine_.follower_ != nullptr)
+        engine_.follower_->workSaved(window);
+}
+
+void SheetHost::workGivenUp(Window& window)
+{
+    if (engine_.follower_ != nullptr)
+        engine_.follower_->workGivenUp(window);
+}
+
 void SheetHost::endProgram()
 {
     engine_.end();

@@ -222,6 +222,7 @@ bool Window::runSlot(Handle control, Event event, EventArgs& args)
     const SlotFunction function = SlotIndex::of(spec_).find(control, event);
     if (function == nullptr)
         return false;
+    ++slotsRun_;
     args.control = control;
     function(*this, args);
     return true;

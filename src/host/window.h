@@ -203,6 +203,11 @@ public:
     /// Grows with each change of an editor's text.
     unsigned textRevision() const { return textRevision_; }
 
+    /// The person has made something of the window that no file holds, as far as the window itself knows.
+    virtual bool holdsUnsaved() { return false; }
+    /// Grows with whatever may have changed the window's state.
+    unsigned stirrings() const { return settings_ + textRevision_ + slotsRun_; }
+
     /// Creation number within the program, counted from 1.
     unsigned serial() const { return serial_; }
 
@@ -244,6 +249,7 @@ private:
     unsigned serial_ = 0;
     unsigned textRevision_ = 0;
     unsigned settings_ = 0;
+    unsigned slotsRun_ = 0;
     int state_ = 0;
     bool shown_ = false;
     bool everShown_ = false;

@@ -72,6 +72,7 @@ public:
     void setOperCancelo(std::int16_t value) { operCancelo_ = value; }
     std::string MiFiltro() const;
     std::int16_t modificado() const { return modificado_; }
+    bool holdsUnsaved() override { return modificado_ != 0; }
     void setModificado(std::int16_t value) { modificado_ = value; }
     /// Reads the circuit file `NombreArchivo` into the controls. A failure ends it in silence, with what was read in place.
     virtual void Abrir();

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Every key passes the window's key slot before the text box has it, and everything the mouse can do has a key.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
