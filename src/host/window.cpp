@@ -201,6 +201,7 @@ void Window::setCaption(std::string_view caption)
     if (caption_ == caption)
         return;
     caption_ = caption;
+    ++otherStirrings_;
     windowChanged_ = true;
 }
 
@@ -209,6 +210,7 @@ void Window::setPlace(const Place& place)
     if (place_ == place)
         return;
     place_ = place;
+    ++otherStirrings_;
     windowChanged_ = true;
 }
 
@@ -222,7 +224,7 @@ bool Window::runSlot(Handle control, Event event, EventArgs& args)
     const SlotFunction function = SlotIndex::of(spec_).find(control, event);
     if (function == nullptr)
         return false;
-    ++slotsRun_;
+    ++otherStirrings_;
     args.control = control;
     function(*this, args);
     return true;

@@ -206,7 +206,7 @@ public:
     /// The person has made something of the window that no file holds, as far as the window itself knows.
     virtual bool holdsUnsaved() { return false; }
     /// Grows with whatever may have changed the window's state.
-    unsigned stirrings() const { return settings_ + textRevision_ + slotsRun_; }
+    unsigned stirrings() const { return settings_ + textRevision_ + otherStirrings_; }
 
     /// Creation number within the program, counted from 1.
     unsigned serial() const { return serial_; }
@@ -249,7 +249,7 @@ private:
     unsigned serial_ = 0;
     unsigned textRevision_ = 0;
     unsigned settings_ = 0;
-    unsigned slotsRun_ = 0;
+    unsigned otherStirrings_ = 0; ///< slots run, title and place set
     int state_ = 0;
     bool shown_ = false;
     bool everShown_ = false;

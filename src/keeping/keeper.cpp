@@ -326,6 +326,12 @@ bool Keeper::failing()
     return any && failed_.empty();
 }
 
+std::string Keeper::fileOf(const Window& window) const
+{
+    const auto found = records_.find(&window);
+    return found == records_.end() || !found->second.changed ? std::string() : found->second.name;
+}
+
 void Keeper::look()
 {
     errands_.finish();

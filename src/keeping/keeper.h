@@ -55,6 +55,9 @@ public:
     /// Keeps everything that has changed, and returns when it is on the disk.
     void keepAll();
 
+    /// The name of the file in which a window's work is kept; empty while there is none to keep.
+    std::string fileOf(const host::Window& window) const;
+
     /// Looks for what programs that no longer run have left.
     void look();
     Offer offer() const;

@@ -241,6 +241,8 @@ TEST_F(KeeperTest, AnExitThatIsCancelledDropsNothing)
     ASSERT_FALSE(program.desk.engine.ended());
     program.work();
     EXPECT_EQ(files().size(), 2u);
+    program.end();
+    EXPECT_EQ(files().size(), 2u) << "the No of an exit that did not take place counts no longer";
 }
 
 TEST_F(KeeperTest, AnExitThatAsksDropsWhatWasAnsweredByNoAlone)

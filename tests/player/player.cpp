@@ -30,6 +30,8 @@ Player::~Player() = default;
 void Player::makeProgram()
 {
     using namespace player_detail;
+    if (onProgram && engine_ != nullptr)
+        onProgram(nullptr);
     failureKind_.clear();
     order_ = {};
     engine_.reset();
@@ -57,6 +59,8 @@ void Player::makeProgram()
         if (logged_)
             log_.append(line).push_back('\n');
     });
+    if (onProgram)
+        onProgram(engine_.get());
     history_.clear();
     slotsInEvent_ = 0;
     newestWindow_ = 0;

@@ -103,6 +103,10 @@ public:
     std::uint64_t events() const { return events_; }
     /// Runs after each event that was in order.
     std::function<void()> afterEvent;
+    /// Told of each program that is begun, and by null before it goes.
+    std::function<void(host::Engine*)> onProgram;
+    /// The program has ended by a failure of arithmetic.
+    bool programFailed() const { return !failureKind_.empty(); }
     std::string lastEvents() const;
     host::Engine& engine() { return *engine_; }
     /// Carries out one event and checks what must hold after it.
