@@ -172,7 +172,7 @@ private:
 
     /// What an event means for the steps of the sheets that it has changed.
     enum class Moment : std::uint8_t {
-        passing,  ///< the step goes on
+        passing,   ///< the step goes on
         activated, ///< the step ends where the design itself has changed
         stepEnds,
     };

@@ -72,8 +72,7 @@ std::string fileName(unsigned number, std::string_view window)
 using namespace keeper_detail;
 
 Keeper::Keeper(host::Engine& engine, Place place)
-    : engine_(engine), now_(place.now), folder_(std::move(place.folder), std::move(place.now)),
-      errands_(place.inThread)
+    : engine_(engine), now_(place.now), folder_(std::move(place.folder), std::move(place.now)), errands_(place.inThread)
 {
     engine_.setFollower(this);
 }
@@ -111,8 +110,8 @@ void Keeper::copy(Window& window, Record& record)
     if (record.clean == nullptr)
         record.clean = record.stands;
     const bool textIsSaved = record.textSaved && *record.textSaved == window.textRevision() && writesText(window);
-    record.changed = record.changed || (window.holdsUnsaved() && !textIsSaved) ||
-                     differInWork(*record.clean, *record.stands);
+    record.changed =
+        record.changed || (window.holdsUnsaved() && !textIsSaved) || differInWork(*record.clean, *record.stands);
 }
 
 void Keeper::askToWake()

@@ -80,13 +80,13 @@ private:
 
     /// What is known of an open window.
     struct Record {
-        std::string name;                 ///< of its file
-        State clean;                      ///< as it was when there was nothing to keep
-        State stands;                     ///< the latest copy, without long texts
-        State written;                    ///< what its file holds, or will
-        LongTexts longTexts;              ///< the latest whole copy of them
-        unsigned stirrings = 0;           ///< of the window at the latest copy
-        std::optional<unsigned> textKept; ///< revision of the text that `longTexts` holds
+        std::string name;                  ///< of its file
+        State clean;                       ///< as it was when there was nothing to keep
+        State stands;                      ///< the latest copy, without long texts
+        State written;                     ///< what its file holds, or will
+        LongTexts longTexts;               ///< the latest whole copy of them
+        unsigned stirrings = 0;            ///< of the window at the latest copy
+        std::optional<unsigned> textKept;  ///< revision of the text that `longTexts` holds
         std::optional<unsigned> textSaved; ///< revision of the text that the person has saved
         bool changed = false;
         bool saved = false;   ///< within the event that is under way

@@ -256,8 +256,8 @@ void KeptFolder::takeFolder(const fs::path& folder, std::vector<LeftFile>& found
 void KeptFolder::leaveFolder(const fs::path& folder)
 {
     const std::vector<fs::path> entries = entriesOf(folder);
-    const bool bare = std::all_of(entries.begin(), entries.end(),
-                                  [](const fs::path& path) { return path.filename() == lockName; });
+    const bool bare =
+        std::all_of(entries.begin(), entries.end(), [](const fs::path& path) { return path.filename() == lockName; });
     if (!bare)
         return;
     remove(folder / lockName);

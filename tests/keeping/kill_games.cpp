@@ -27,7 +27,8 @@ namespace velmor::kill_games {
 
 namespace fs = std::filesystem;
 
-constexpr long keepingDelay = 200;  ///< milliseconds from a change to its keeping in these games; a second in the program
+constexpr long keepingDelay =
+    200; ///< milliseconds from a change to its keeping in these games; a second in the program
 constexpr long keepingTakes = 1200; ///< what is older must be there, on a machine that does much else
 constexpr int pause = 1;            ///< milliseconds between two moves
 constexpr int together = 4;
@@ -59,7 +60,9 @@ public:
           log_(::open((folder_ / "log").c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600)),
           player_(console::wholeProgram(), {.seed = seed, .onlyWindow = {}, .windowCap = 6, .straight = seed % 2 == 0})
     {
-        player_.onProgram = [this](host::Engine* engine) { engine == nullptr ? programGoes() : programBegins(*engine); };
+        player_.onProgram = [this](host::Engine* engine) {
+            engine == nullptr ? programGoes() : programBegins(*engine);
+        };
         player_.afterEvent = [this] { tellAll(); };
     }
 
@@ -225,7 +228,7 @@ Game begin(const fs::path& root, std::uint64_t seed, std::uint64_t chance)
 {
     Game game{.folder = root / std::to_string(seed)};
     fs::create_directories(game.folder);
-    game.kill = milliseconds() + 300 + static_cast<long>(chance % 4000);
+    game.kill = milliseconds() + 300 + static_cast<long>(chance % 5000);
     game.program = ::fork();
     if (game.program == 0) {
         ::setenv("TMPDIR", game.folder.c_str(), 1);

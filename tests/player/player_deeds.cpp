@@ -11,9 +11,10 @@ namespace velmor::player {
 namespace deeds_detail {
 
 constexpr std::string_view actNames[] = {
-    "focus",    "tab",      "tab back", "click", "double click", "press",     "hover",     "key",       "text",
-    "edit",     "select",   "menu",     "opens", "choose",       "drag",      "drag over", "drag away", "timer",
-    "shortcut", "activate", "close",    "state", "resize",       "main area", "new",       "show",      "operation", "step",
+    "focus", "tab",       "tab back",  "click",  "double click", "press",     "hover",
+    "key",   "text",      "edit",      "select", "menu",         "opens",     "choose",
+    "drag",  "drag over", "drag away", "timer",  "shortcut",     "activate",  "close",
+    "state", "resize",    "main area", "new",    "show",         "operation", "step",
 };
 static_assert(std::size(actNames) == static_cast<std::size_t>(Act::count));
 

@@ -72,7 +72,7 @@ private:
     Canvas* welcome_ = nullptr;
     Canvas* bar_ = nullptr;
     QWidget* edge_ = nullptr;
-    OfferLine* offer_ = nullptr; ///< made when it is first needed
+    OfferLine* offer_ = nullptr;          ///< made when it is first needed
     const host::Window* below_ = nullptr; ///< active child at the last layout; compared only
     int strip_ = 0;
     bool hasChildren_ = false;

@@ -59,11 +59,11 @@ using namespace offer_line_detail;
 
 QString sentenceOf(const OfferedWork& work, bool english)
 {
-    const QString named = work.texts == 0     ? counted(designs, work.designs, english)
-                          : work.designs == 0 ? counted(texts, work.texts, english)
-                                              : in(both, english)
-                                                    .arg(counted(designs, work.designs, english),
-                                                         counted(texts, work.texts, english));
+    const QString named =
+        work.texts == 0 ? counted(designs, work.designs, english)
+        : work.designs == 0
+            ? counted(texts, work.texts, english)
+            : in(both, english).arg(counted(designs, work.designs, english), counted(texts, work.texts, english));
     const QString time =
         in(timeOf, english).arg(dayText(work.time.date(), english), work.time.time().toString(QStringLiteral("HH:mm")));
     return in(still[work.designs + work.texts == 1 ? 0 : 1], english).arg(named, time);
