@@ -296,6 +296,34 @@ TEST_F(KeeperTest, AnArithmeticEndKeepsTheStateBeforeTheFatalEventAndSaysSo)
     EXPECT_EQ(onlyState(), stood);
 }
 
+// A collector voltage beyond the whole numbers of the course ends the program when the supply is left.
+TEST_F(KeeperTest, ADesignThatEndsByArithmeticIsThereAtTheNextStart)
+{
+    {
+        Kept program(root, time);
+        DesignSheet& sheet = program.sheet();
+        const auto focused = [&](std::string_view field) { return sheet.focus() == sheet.named(field); };
+        for (int step = 0; step < 40 && !program.desk.engine.ended(); ++step) {
+            if (focused("Text5"))
+                program.desk.engine.userText(sheet, sheet.focus(), "40000");
+            if (focused("Text16"))
+                program.desk.engine.userText(sheet, sheet.focus(), "40");
+            program.desk.engine.userKey(sheet, 13);
+        }
+        ASSERT_TRUE(program.desk.engine.ended());
+        ASSERT_EQ(program.desk.screen.failures.size(), 1u);
+        EXPECT_NE(program.desk.screen.failures[0].find("Su trabajo está guardado"), std::string::npos);
+    }
+    Kept next(root, time);
+    next.keeper.look();
+    EXPECT_EQ(next.keeper.offer().designs, 1);
+    ASSERT_TRUE(next.keeper.openOffered());
+    host::Window& sheet = *next.desk.engine.activeChild();
+    EXPECT_EQ(next.desk.text(sheet, "Text5"), "40000");
+    EXPECT_EQ(next.desk.text(sheet, "Text16"), "40");
+    EXPECT_EQ(sheet.focus(), sheet.named("Text16"));
+}
+
 TEST_F(KeeperTest, AnArithmeticEndPromisesNothingThatIsNotKept)
 {
     scratch.put("velmor", "in the way");
