@@ -7,6 +7,7 @@
 #include "console/sheet_access.h"
 #include "console/verbs.h"
 #include "console/walk_typing.h"
+#include "host/state_change.h"
 
 namespace velmor::console {
 
@@ -143,6 +144,16 @@ void key(Walk& walk, Words words)
     pressKey(walk, static_cast<std::int16_t>(wholeNumber(words[0], Limits::min(), Limits::max())));
 }
 
+void undo(Walk& walk, Words)
+{
+    walk.engine().userStep(host::Direction::back);
+}
+
+void redo(Walk& walk, Words)
+{
+    walk.engine().userStep(host::Direction::forth);
+}
+
 void select(Walk& walk, Words words)
 {
     Window& place = walk.current();
@@ -236,6 +247,8 @@ constexpr Verb table[] = {
     {"esc",         VerbKind::deed,        0, 0, esc,         "nothing"},
     {"backspace",   VerbKind::deed,        0, 0, backspace,   "nothing"},
     {"key",         VerbKind::deed,        1, 1, key,         "CODE"},
+    {"undo",        VerbKind::deed,        0, 0, undo,        "nothing"},
+    {"redo",        VerbKind::deed,        0, 0, redo,        "nothing"},
     {"select",      VerbKind::deed,        2, 2, select,      "FROM LENGTH"},
     {"tick",        VerbKind::deed,        2, 2, tick,        "CONTROL COUNT"},
     {"minimise",    VerbKind::deed,        0, 0, minimise,    "nothing"},

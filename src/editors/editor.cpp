@@ -146,12 +146,16 @@ bool Editor::readDocument(const std::string& path)
     putText(linesOf(rules::decodeDocument(*bytes)));
     document_.isNew = false;
     document_.changed = false;
+    host().workSaved(*this);
     return true;
 }
 
 bool Editor::writeDocument(const std::string& path)
 {
-    return rules::writeWhole(path, rules::encodeDocument(recordOf(store(txtEdit).all())));
+    if (!rules::writeWhole(path, rules::encodeDocument(recordOf(store(txtEdit).all()))))
+        return false;
+    host().workSaved(*this);
+    return true;
 }
 
 void Editor::changed()
@@ -178,16 +182,21 @@ int Editor::ask(const Question& question)
     return host().MsgBox(pick(question.text), question.flags, pick(question.title));
 }
 
+bool Editor::holdsUnsaved()
+{
+    return document_.isNew ? store(txtEdit).length() > 0 : document_.changed;
+}
+
 /// The ask-to-save rule. True when the command may go on: nothing to lose, the answer No, or a save that was done.
 bool Editor::mayDiscard(const Question& keep, bool exiting)
 {
-    const bool unsaved = document_.isNew ? store(txtEdit).length() > 0 : document_.changed;
-    if (!unsaved)
+    if (!holdsUnsaved())
         return true;
     switch (ask(keep)) {
     case answerYes:
         return exiting && !document_.isNew ? writeDocument(document_.file) : runSaveAs();
     case answerNo:
+        host().workGivenUp(*this);
         return true;
     default:
         return false;

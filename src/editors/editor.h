@@ -120,6 +120,7 @@ public:
     void fonts();
     void about();
 
+    bool holdsUnsaved() override;
     const std::string& NombreDocumento() const { return document_.name; }
     bool DocumentoNuevo() const { return document_.isNew; }
     bool DocumentoCambiado() const { return document_.changed; }

@@ -56,6 +56,9 @@ public:
     void openGuide(host::EventArgs& args);
     void openProject();
     void showImport();
+    void markSteps();
+    void stepBack();
+    void stepForth();
     void markScreenMode();
     void switchToEnglish();
     void switchToSpanish();

@@ -30,6 +30,7 @@ enum Control : host::Handle {
     mnuEmComB, onceB, mnuEmisor, mnuDesac, MnuParc,
     mnuRealTenB, doceB, treceB,
     mnuFile1, mnuFile2, mnuFile3, mnuSalir2,
+    mnuEdicion, mnuDeshacer, mnuRehacer,
     mnuVer, mnuCas, mnuHoriz, mnuVert,
     mnuTools, mnuEdit, mnuImpor, mnuProy,
     mnuOp, mnuid, mnuIng, mnuEsp,

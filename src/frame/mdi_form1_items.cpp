@@ -114,6 +114,23 @@ void MDIForm1::closeActive()
     });
 }
 
+// What cannot be undone just now stands grey in the menu that opens.
+void MDIForm1::markSteps()
+{
+    setEnabled(mnuDeshacer, host().canStepBack());
+    setEnabled(mnuRehacer, host().canStepForth());
+}
+
+void MDIForm1::stepBack()
+{
+    host().StepBack();
+}
+
+void MDIForm1::stepForth()
+{
+    host().StepForth();
+}
+
 void MDIForm1::exitWithoutSaving()
 {
     if (host().MsgBox(host().pick(item_texts::exitQuestion), item_texts::exitFlags, applicationTitle) ==

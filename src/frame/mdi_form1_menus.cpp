@@ -56,7 +56,7 @@ constexpr std::array<DesignItem, 15> designItems{{
      .windowCaption = sheets::titleOf("ParcDesac")},
 }};
 
-constexpr std::array<ItemCaption, 26> itemCaptions{{
+constexpr std::array<ItemCaption, 29> itemCaptions{{
     {mnuArchivo,       {.es = "&Archivo",             .en = "&Archive"}},
     {mnuCirc,          {.es = "&Nuevos",              .en = "New"}},
     {mnuFile0,         {.es = "A&brir",               .en = "Open"}},
@@ -64,6 +64,9 @@ constexpr std::array<ItemCaption, 26> itemCaptions{{
     {mnuFile2,         {.es = "Sa&lvar como",         .en = "Save as"}},
     {mnuFile3,         {.es = "&Cerrar",              .en = "Close"}},
     {mnuSalir2,        {.es = "&Irse (Sin salvar)",   .en = "&Exit (No save)"}},
+    {mnuEdicion,       {.es = "&Edición",             .en = "&Edit"}},
+    {mnuDeshacer,      {.es = "&Deshacer",            .en = "&Undo"}},
+    {mnuRehacer,       {.es = "&Rehacer",             .en = "&Redo"}},
     {mnuVer,           {.es = "&Ventana",             .en = "&Window"}},
     {mnuCas,           {.es = "&Cascada",             .en = "Cascade"}},
     {mnuHoriz,         {.es = "&Horizontal",          .en = "&Horizontal"}},

@@ -35,7 +35,7 @@ struct ItemCaption {
 };
 
 /// Captions of the items that are neither designs nor heads of groups.
-extern const std::array<ItemCaption, 26> itemCaptions;
+extern const std::array<ItemCaption, 29> itemCaptions;
 
 /// An item that needs windows which the program may not have; it is disabled at load when it has none of them.
 struct NeededWindow {

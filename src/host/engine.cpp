@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "host/failure.h"
+#include "host/state_change.h"
 
 namespace velmor::host {
 
@@ -31,8 +32,12 @@ void Engine::outermost(const std::function<void()>& action)
         pending_.push_back(action);
         return;
     }
+    if (follower_ != nullptr)
+        follower_->eventBegins();
     ++depth_;
     inHand_ = {};
+    moment_ = Moment::passing;
+    stepWanted_.reset();
     try {
         action();
         settle();
@@ -41,10 +46,17 @@ void Engine::outermost(const std::function<void()>& action)
         fail(failure.what());
     }
     --depth_;
+    const std::optional<Direction> wanted = std::exchange(stepWanted_, std::nullopt);
+    if (!ended_)
+        endSteps();
     buryTheDead();
+    if (follower_ != nullptr)
+        follower_->eventEnded();
     screen_.bringUpToDate();
     if (ended_)
         screen_.programEnded();
+    else if (wanted)
+        userStep(*wanted);
 }
 
 void Engine::runPending()
@@ -93,7 +105,10 @@ void Engine::fail(std::string_view what)
     trace("failure " + std::string(what));
     ended_ = true;
     pending_.clear();
-    screen_.programFailed(failureText_.in(values_.LanguageIsEnglish));
+    std::string text(failureText_.in(values_.LanguageIsEnglish));
+    if (follower_ != nullptr && follower_->failing())
+        text += keptText_.in(values_.LanguageIsEnglish);
+    screen_.programFailed(text);
 }
 
 void Engine::end()
@@ -121,7 +136,10 @@ void Engine::run(Window& window, Event event)
 
 void Engine::userRun(const std::function<void()>& action)
 {
-    outermost(action);
+    outermost([this, action] {
+        moment_ = Moment::stepEnds;
+        action();
+    });
 }
 
 void Engine::programEdited(Window& window, Handle editor)

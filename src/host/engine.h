@@ -21,6 +21,8 @@
 //     that a slot rewrites counts; with Esc it is the default that the key slot has just written.
 // 11. The state of a window is copied and restored between events only, and restoring runs no slot at all: no load, no
 //     activation, no focus, no change. See `open`.
+// 12. What a sheet's event has changed becomes a step when a field has been left, a click made or a box answered, and the
+//     event is over. Leading a sheet through its steps runs no slot. See `userStep`.
 #pragma once
 
 #include <deque>
@@ -34,6 +36,7 @@
 #include <vector>
 
 #include "host/event.h"
+#include "host/follower.h"
 #include "host/screen.h"
 #include "host/settings_store.h"
 #include "host/sheet_host.h"
@@ -42,6 +45,7 @@
 
 namespace velmor::host {
 
+class StepHistory;
 struct WindowState;
 struct StateChange;
 enum class Direction : std::uint8_t;
@@ -97,6 +101,10 @@ public:
     void userResized(Window& window, const Place& place);
     /// Runs anything as an outermost event (start sequence, public operations).
     void userRun(const std::function<void()>& action);
+    /// Leads the active sheet one step back or forth: its controls, focus and working numbers, no file name, no flag, no other
+    /// window. The sheet then counts as changed. False, with nothing done, while an event is under way and where there is no
+    /// such step.
+    bool userStep(Direction direction);
 
     // the state of the program
     bool ended() const { return ended_; }
@@ -135,12 +143,25 @@ public:
     /// Leads a window through a change, without a slot. False, with nothing done, where `stateOf` gives nothing.
     bool apply(Window& window, const StateChange& change, Direction direction);
 
+    // the steps of the sheets (step_history.h)
+    bool canStep(Direction direction) const; ///< the active sheet has such a step
+    /// Null for what is no sheet, and before it was first shown.
+    const StepHistory* stepsOf(const Window& window) const;
+    /// All sheets begin anew, as after they were opened from a copy.
+    void forgetSteps();
+    /// Takes a step of the active sheet as soon as the event is over that asks for it.
+    void stepAfterwards(Direction direction) { stepWanted_ = direction; }
+
     void setTrace(std::function<void(std::string_view)> sink) { trace_ = std::move(sink); }
     void trace(std::string_view line) const;
     void setFailureText(const BiText& text) { failureText_ = text; }
+    /// One follower at most, which lives as long as it follows.
+    void setFollower(Follower* follower) { follower_ = follower; }
     /// Counts each slot run and each box shown, for coverage by players. Null switches it off.
     std::function<void(const Window&, Handle, Event)> onSlot;
     std::function<void(const MessageBox&)> onBox;
+    /// Tells of a sheet that was led a step.
+    std::function<void(const Window&)> onStep;
 
     /// A slot has put a new text into an editor: its change slot runs.
     void programEdited(Window& window, Handle editor);
@@ -149,7 +170,16 @@ private:
     friend class SheetHost;
     class Scope;
 
+    /// What an event means for the steps of the sheets that it has changed.
+    enum class Moment : std::uint8_t {
+        passing,   ///< the step goes on
+        activated, ///< the step ends where the design itself has changed
+        stepEnds,
+    };
+
     void outermost(const std::function<void()>& action);
+    void endSteps();
+    Window* steppedSheet() const;
     void settle();
     void settleFocus(Window& window);
     void buryTheDead();
@@ -206,13 +236,18 @@ private:
         std::string text{};
     };
     InHand inHand_;
+    Follower* follower_ = nullptr;
     std::function<void(std::string_view)> trace_;
     BiText failureText_{"El programa debe terminar: un cálculo no es posible con estos valores.",
                         "The program must end: a calculation is not possible with these values."};
+    BiText keptText_{" Su trabajo está guardado: la próxima vez se le ofrecerá en la ventana principal.",
+                     " Your work is kept: it will be offered to you in the main window next time."};
     Place client_{0, 0, 20250, 10125};
     unsigned serial_ = 0;
     int depth_ = 0;
     int arrangement_ = -1;
+    Moment moment_ = Moment::passing;
+    std::optional<Direction> stepWanted_;
     bool ended_ = false;
 };
 

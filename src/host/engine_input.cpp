@@ -53,6 +53,7 @@ FocusMove Engine::moveFocus(Window& window, Handle target, bool force)
     };
     window.focus_ = noControl;
     if (old != noControl) {
+        moment_ = Moment::stepEnds;
         noteAsked(window, old);
         window.markChanged(old);
         EventArgs args;
@@ -164,6 +165,7 @@ void Engine::userClick(Window& window, Handle control, int shift)
             (!window.visible(control) || (!window.enabled(control) && !window.row(control).clickableWhenDisabled)))
             return;
         takeInHand(window);
+        moment_ = Moment::stepEnds;
         if (pressMovesFocus(window, control))
             mouseSlots(window, control, shift);
     });
@@ -177,6 +179,7 @@ void Engine::userDoubleClick(Window& window, Handle control, bool withClick)
         if (control != noControl && (!window.visible(control) || !window.enabled(control)))
             return;
         takeInHand(window);
+        moment_ = Moment::stepEnds;
         if (withClick && pressMovesFocus(window, control))
             mouseSlots(window, control, 0);
         EventArgs args;
@@ -189,6 +192,7 @@ void Engine::userPress(Window& window, Handle control, Button button, int shift)
     outermost([this, &window, control, button, shift] {
         if (!isLoaded(&window) || !mouseAllowed(window, control))
             return;
+        moment_ = Moment::stepEnds;
         if (button == Button::left) {
             if (control != noControl && !window.enabled(control))
                 return;
@@ -271,6 +275,7 @@ void Engine::userMenu(Window& window, Handle item)
         if (!isLoaded(&window))
             return;
         takeInHand(window);
+        moment_ = Moment::stepEnds;
         std::vector<Handle> path{item};
         while (window.row(path.back()).parent != noControl)
             path.push_back(window.row(path.back()).parent);
@@ -291,6 +296,7 @@ void Engine::userChoose(Window& window, Handle list, int index)
         if (!isLoaded(&window) || !window.canTakeFocus(list))
             return;
         takeInHand(window);
+        moment_ = Moment::stepEnds;
         window.list(list).selected = index;
         window.listChanged(list);
         EventArgs args;
@@ -327,6 +333,7 @@ void Engine::userDrag(Window& window, Handle source, Handle target)
         if (!isLoaded(&window) || !usable(source) || !usable(target))
             return;
         takeInHand(window);
+        moment_ = Moment::stepEnds;
         EventArgs args;
         args.source = source;
         run(window, target, Event::dragEnter, args);
@@ -359,6 +366,7 @@ void Engine::userShortcut(Window& window, std::size_t row)
             EventArgs args;
             args.key = static_cast<std::int16_t>(row);
             takeInHand(window);
+            moment_ = Moment::stepEnds;
             if (isLoaded(&window))
                 run(window, noControl, Event::shortcut, args);
         });

@@ -40,6 +40,7 @@ std::vector<Window*> Engine::open(std::span<const WindowState> states)
             states[i].number({noControl, Attribute::activeChild}) != 0.0)
             activeChild_ = opened[i];
     }
+    endSteps();
     screen_.bringUpToDate();
     return opened;
 }

@@ -210,6 +210,8 @@ void Engine::drop(Window& window)
     if (held == windows_.end())
         return;
     trace("unload " + std::string(window.name()));
+    if (follower_ != nullptr)
+        follower_->windowGoes(window);
     window.gone_ = true;
     window.shown_ = false;
     window.windowChanged_ = true;
@@ -353,6 +355,7 @@ void Engine::arrange(int kind)
 void Engine::userActivate(Window& window)
 {
     outermost([this, &window] {
+        moment_ = Moment::activated;
         if (isLoaded(&window) && (window.shown_ || window.role() == Role::mainWindow))
             makeCurrent(window);
     });

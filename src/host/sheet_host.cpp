@@ -3,6 +3,7 @@
 #include "host/sheet_host.h"
 
 #include "host/engine.h"
+#include "host/state_change.h"
 
 namespace velmor::host {
 
@@ -40,7 +41,9 @@ int SheetHost::MsgBox(std::string_view text, int flags, std::string_view title)
     if (engine_.onBox)
         engine_.onBox(box);
     engine_.screen_.bringUpToDate();
-    return static_cast<int>(engine_.screen_.messageBox(box));
+    const Answer answer = engine_.screen_.messageBox(box);
+    engine_.moment_ = Engine::Moment::stepEnds;
+    return static_cast<int>(answer);
 }
 
 void SheetHost::Beep()
@@ -246,6 +249,38 @@ std::optional<std::string> SheetHost::fileDialog(const FileDialog& dialog)
 std::string SheetHost::programFolder()
 {
     return engine_.screen_.programFolder();
+}
+
+void SheetHost::StepBack()
+{
+    engine_.stepAfterwards(Direction::back);
+}
+
+void SheetHost::StepForth()
+{
+    engine_.stepAfterwards(Direction::forth);
+}
+
+bool SheetHost::canStepBack()
+{
+    return engine_.canStep(Direction::back);
+}
+
+bool SheetHost::canStepForth()
+{
+    return engine_.canStep(Direction::forth);
+}
+
+void SheetHost::workSaved(Window& window)
+{
+    if (engine_.follower_ != nullptr)
+        engine_.follower_->workSaved(window);
+}
+
+void SheetHost::workGivenUp(Window& window)
+{
+    if (engine_.follower_ != nullptr)
+        engine_.follower_->workGivenUp(window);
 }
 
 void SheetHost::endProgram()

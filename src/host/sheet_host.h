@@ -85,6 +85,17 @@ public:
     std::optional<std::string> fileDialog(const FileDialog& dialog);
     std::string programFolder();
 
+    /// The active sheet goes one step back or forth when the running slots have ended.
+    void StepBack();
+    void StepForth();
+    bool canStepBack();
+    bool canStepForth();
+
+    /// What the window holds is in a file of the person's own, or was just read from one: it need not be kept any longer.
+    void workSaved(Window& window);
+    /// The person has answered No to the window's question about saving.
+    void workGivenUp(Window& window);
+
     /// Saves nothing: ends the program once the running slots have ended.
     void endProgram();
     /// Asks every sheet, in order of creation, whether it may close. False as soon as one refuses; none is unloaded.

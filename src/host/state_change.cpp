@@ -135,21 +135,44 @@ StepWatch::StepWatch(Window& window) : window_(window), last_(copyOf(window))
 
 StateChange StepWatch::step()
 {
+    using state_change_detail::renewed;
     StateChange change;
-    noteControls(change);
-    noteWindow(change);
+    if (std::vector<Handle> touched = window_.takeTouched(); !touched.empty()) {
+        std::sort(touched.begin(), touched.end());
+        WindowState now = touchedNow(touched, change);
+        last_.numbers = renewed(last_.numbers, now.numbers, touched);
+        last_.texts = renewed(last_.texts, now.texts, touched);
+    }
+    StateChange own;
+    addWindow(own);
+    host::apply(last_, own, Direction::forth);
+    std::move(own.numbers.begin(), own.numbers.end(), std::back_inserter(change.numbers));
+    std::move(own.texts.begin(), own.texts.end(), std::back_inserter(change.texts));
     change.numbers.shrink_to_fit();
     change.texts.shrink_to_fit();
     return change;
 }
 
-void StepWatch::noteControls(StateChange& change)
+StateChange StepWatch::pending() const
+{
+    StateChange change;
+    std::vector<Handle> touched = window_.touched();
+    std::sort(touched.begin(), touched.end());
+    touchedNow(touched, change);
+    addWindow(change);
+    return change;
+}
+
+void StepWatch::lead(const StateChange& change, Direction direction)
+{
+    host::apply(window_, change, direction);
+    host::apply(last_, change, direction);
+    window_.takeTouched();
+}
+
+WindowState StepWatch::touchedNow(const std::vector<Handle>& touched, StateChange& change) const
 {
     using namespace state_change_detail;
-    std::vector<Handle> touched = window_.takeTouched();
-    if (touched.empty())
-        return;
-    std::sort(touched.begin(), touched.end());
     WindowState now{.spec = last_.spec};
     for (const Handle control : touched) {
         const std::size_t numbers = now.numbers.size();
@@ -158,33 +181,27 @@ void StepWatch::noteControls(StateChange& change)
         compareNumbers(*last_.spec, about(last_.numbers, control), std::span(now.numbers).subspan(numbers), change);
         compareTexts(*last_.spec, about(last_.texts, control), std::span(now.texts).subspan(texts), change);
     }
-    last_.numbers = renewed(last_.numbers, now.numbers, touched);
-    last_.texts = renewed(last_.texts, now.texts, touched);
+    return now;
 }
 
-void StepWatch::noteWindow(StateChange& change)
+void StepWatch::addWindow(StateChange& change) const
 {
-    const Key focus{noControl, Attribute::focus};
     const auto number = [&](const Key& key, double now) {
         const double before = last_.number(key);
-        if (KeptNumber{key, before} == KeptNumber{key, now})
-            return;
-        change.numbers.push_back({key, before, now});
-        last_.set(key, now);
+        if (!(KeptNumber{key, before} == KeptNumber{key, now}))
+            change.numbers.push_back({key, before, now});
     };
-    number(focus, window_.focus());
+    number({noControl, Attribute::focus}, window_.focus());
     std::uint16_t index = 0;
     for (const OwnView& view : StateAccess::own(window_))
         for (const OwnRow& row : view.rows) {
             const Key key{noControl, Attribute::own, index++};
             if (view.undo == Undo::leaves)
                 continue;
-            if (row.kind != OwnKind::text) {
+            if (row.kind != OwnKind::text)
                 number(key, row.number(view.record));
-            } else if (const std::string_view before = last_.text(key); before != row.text(view.record)) {
+            else if (const std::string_view before = last_.text(key); before != row.text(view.record))
                 change.texts.push_back({key, std::string(before), row.text(view.record)});
-                last_.set(key, std::string_view(row.text(view.record)));
-            }
         }
 }
 

@@ -50,10 +50,14 @@ public:
 
     /// What has changed since the last call.
     StateChange step();
+    /// The same, which the next call of `step` tells once more.
+    StateChange pending() const;
+    /// Leads the window through a change, which is no step then.
+    void lead(const StateChange& change, Direction direction);
 
 private:
-    void noteControls(StateChange& change);
-    void noteWindow(StateChange& change);
+    WindowState touchedNow(const std::vector<Handle>& touched, StateChange& change) const;
+    void addWindow(StateChange& change) const;
 
     Window& window_;
     WindowState last_;

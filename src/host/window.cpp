@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "host/engine.h"
+#include "host/step_history.h"
 
 namespace velmor::host {
 
@@ -99,6 +100,7 @@ const std::string& Window::asked(Handle field) const
 
 void Window::markTouched(Handle control)
 {
+    ++settings_;
     if (!std::exchange(controls_[control].touched, true))
         touched_.push_back(control);
 }
@@ -199,6 +201,7 @@ void Window::setCaption(std::string_view caption)
     if (caption_ == caption)
         return;
     caption_ = caption;
+    ++otherStirrings_;
     windowChanged_ = true;
 }
 
@@ -207,6 +210,7 @@ void Window::setPlace(const Place& place)
     if (place_ == place)
         return;
     place_ = place;
+    ++otherStirrings_;
     windowChanged_ = true;
 }
 
@@ -220,6 +224,7 @@ bool Window::runSlot(Handle control, Event event, EventArgs& args)
     const SlotFunction function = SlotIndex::of(spec_).find(control, event);
     if (function == nullptr)
         return false;
+    ++otherStirrings_;
     args.control = control;
     function(*this, args);
     return true;

@@ -19,6 +19,7 @@
 namespace velmor::host {
 
 class SheetHost;
+class StepHistory;
 class Window;
 
 /// What a window is for; activation, placing and closing go by it.
@@ -196,13 +197,23 @@ public:
     bool takeWindowChanged();
     /// The same for whoever follows the state of the window: controls changed since its last call, each once.
     std::vector<Handle> takeTouched();
+    const std::vector<Handle>& touched() const { return touched_; }
+    /// Grows with each control that is set to something else.
+    unsigned settings() const { return settings_; }
     /// Grows with each change of an editor's text.
     unsigned textRevision() const { return textRevision_; }
+
+    /// The person has made something of the window that no file holds, as far as the window itself knows.
+    virtual bool holdsUnsaved() { return false; }
+    /// Grows with whatever may have changed the window's state.
+    unsigned stirrings() const { return settings_ + textRevision_ + otherStirrings_; }
 
     /// Creation number within the program, counted from 1.
     unsigned serial() const { return serial_; }
 
 protected:
+    /// A step was taken back or done again. No slot runs then, and none may be run here.
+    virtual void stepped() {}
     void markChanged(Handle control);
     /// Tells of values of the window's own that belong to its state; called in the constructor, once for each record.
     template <class Record, std::size_t Count>
@@ -229,6 +240,7 @@ private:
     std::vector<OwnView> own_;
     std::vector<Handle> changes_;
     std::vector<Handle> touched_;
+    std::unique_ptr<StepHistory> steps_; ///< of a sheet, from when it was first shown
     std::string caption_;
     Place place_;
     Place normalPlace_;
@@ -236,6 +248,8 @@ private:
     unsigned focusMoves_ = 0;
     unsigned serial_ = 0;
     unsigned textRevision_ = 0;
+    unsigned settings_ = 0;
+    unsigned otherStirrings_ = 0; ///< slots run, title and place set
     int state_ = 0;
     bool shown_ = false;
     bool everShown_ = false;

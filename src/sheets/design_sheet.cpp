@@ -71,6 +71,7 @@ void DesignSheet::Abrir()
     }
     opened();
     modificado_ = 0;
+    host().workSaved(*this);
 }
 
 std::string DesignSheet::Datos() const
@@ -87,8 +88,10 @@ std::string DesignSheet::Datos() const
 
 void DesignSheet::Guardar()
 {
-    if (!nombreArchivo_.empty() && rules::writeCircuitFile(nombreArchivo_, Datos()))
-        modificado_ = 0;
+    if (nombreArchivo_.empty() || !rules::writeCircuitFile(nombreArchivo_, Datos()))
+        return;
+    modificado_ = 0;
+    host().workSaved(*this);
 }
 
 void DesignSheet::CDL_GuardarDatos()
@@ -125,6 +128,8 @@ bool DesignSheet::PreguntaGuardar()
     const int answer = host().MsgBox(pick(keepChanges), keepChangesFlags, applicationTitle);
     if (answer == answerCancel)
         cierreCancelado_ = true;
+    else if (answer != answerYes)
+        host().workGivenUp(*this);
     return answer == answerYes;
 }
 

@@ -80,6 +80,7 @@ public:
     void setOperCancelo(std::int16_t value) { operCancelo_ = value; }
     std::string MiFiltro() const;
     std::int16_t modificado() const { return modificado_; }
+    bool holdsUnsaved() override { return modificado_ != 0; }
     void setModificado(std::int16_t value) { modificado_ = value; }
     /// Reads the circuit file `NombreArchivo` into the controls. A failure ends it in silence, with what was read in place.
     virtual void Abrir();
@@ -211,6 +212,8 @@ public:
     void pressPicture(const host::EventArgs& args, const ImagePair& pair);
 
 protected:
+    /// What a step has taken back or done again is a change like any other.
+    void stepped() override { modificado_ = host::trueValue; }
     /// The closing steps of `Abrir` behind the last line: the archive prompt and what the sheet shows.
     virtual void opened() {}
 

@@ -310,5 +310,35 @@ class SecondProgram(Journey):
         again.focused("ΔQIc")
 
 
+class KeptWork(Journey):
+    def kept(self):
+        """The texts of all that is kept."""
+        texts = []
+        for folder, _, files in os.walk(self.program.home + "/state/velmor"):
+            for name in files:
+                if name.endswith(".state"):
+                    with open(folder + "/" + name, encoding="utf-8") as file:
+                        texts.append(file.read())
+        return texts
+
+    def test_the_work_of_a_killed_program_is_offered_by_the_next_one(self):
+        self.program.fill("ΔQIc", "5", "T")
+        until(lambda: any('Text1.text "5"' in text for text in self.kept()), "the work on the disk")
+        self.program.process.kill()
+        self.program.process.wait()
+        again = Program(self.screen, home=self.program.home)
+        self.addCleanup(again.close)
+        again.see(r"^1 diseño del \d+ de \w+, \d\d:\d\d sigue aquí$", "label")
+        again.press(again.see("^Recuperar$", "push button"))
+        again.gone("sigue aquí")
+        until(lambda: any(again.text(node) == "5" for node in again.all()
+                          if node.get_role_name() == "text" and (node.get_name() or "").startswith("ΔQIc,")),
+              "the work as it stood")
+        again.type("7")  # the keyboard is in the field that was in hand
+        until(lambda: any(again.text(node) == "7" for node in again.all()
+                          if node.get_role_name() == "text" and (node.get_name() or "").startswith("T,")),
+              "the key in the field that was in hand")
+
+
 if __name__ == "__main__":
     unittest.main()

@@ -14,6 +14,7 @@ std::unique_ptr<Player> Player::branched(std::string& problem)
 {
     if (engine_ == nullptr || engine_->ended() || !fault_.empty() || screen_->popupOwner != nullptr)
         return nullptr;
+    engine_->forgetSteps(); // what was opened from a copy has none
     auto twin = std::make_unique<Player>(program_, game_, ground_);
     return twin->goOnWith(*this, problem) ? std::move(twin) : nullptr;
 }

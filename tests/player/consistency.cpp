@@ -154,6 +154,7 @@ std::string SlotOrder::note(const host::Window& window, host::Handle control, ho
 void SlotOrder::adopt(const host::Window& window)
 {
     loaded_.insert(window.serial());
+    std::erase_if(focused_, [&](const auto& held) { return held.first == window.serial(); });
     const host::Handle held = window.focus();
     if (held != host::noControl && window.hasSlot(held, host::Event::focus) &&
         window.hasSlot(held, host::Event::lostFocus))

@@ -25,7 +25,8 @@ class SlotOrder {
 public:
     /// What is wrong with this slot now; empty when nothing is.
     std::string note(const host::Window& window, host::Handle control, host::Event event);
-    /// A window that was opened as it stood somewhere else: it is loaded, and its field has had its focus slot.
+    /// A window that was opened as it stood somewhere else, or led to another step: it is loaded, and its field counts as having
+    /// had its focus slot.
     void adopt(const host::Window& window);
 
 private:

@@ -30,6 +30,8 @@ Player::~Player() = default;
 void Player::makeProgram()
 {
     using namespace player_detail;
+    if (onProgram && engine_ != nullptr)
+        onProgram(nullptr);
     failureKind_.clear();
     order_ = {};
     engine_.reset();
@@ -45,6 +47,7 @@ void Player::makeProgram()
         if (++slotsInEvent_ > slotsWithoutEnd)
             throw Endless();
     };
+    engine_->onStep = [this](const host::Window& window) { order_.adopt(window); };
     engine_->onBox = [this](const host::MessageBox& box) {
         coverage_.boxShown(box);
         if (screen_->questions > questionsWithoutEnd)
@@ -56,6 +59,8 @@ void Player::makeProgram()
         if (logged_)
             log_.append(line).push_back('\n');
     });
+    if (onProgram)
+        onProgram(engine_.get());
     history_.clear();
     slotsInEvent_ = 0;
     newestWindow_ = 0;
@@ -157,6 +162,8 @@ void Player::perform(const Deed& deed)
     try {
         carryOut(deed);
         check();
+        if (afterEvent && fault_.empty())
+            afterEvent();
     } catch (const Endless&) {
         report("slots or boxes without end, the last in " + coverage_.lastSlot());
     } catch (const std::exception& problem) {

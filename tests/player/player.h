@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -48,6 +49,7 @@ enum class Act : std::uint8_t {
     newSheet,
     show,
     operation,
+    step,
     count
 };
 
@@ -99,6 +101,12 @@ public:
     /// What the program has done since the last call: slots, boxes, focus moves, windows. Kept from the first call on.
     std::string takeLog();
     std::uint64_t events() const { return events_; }
+    /// Runs after each event that was in order.
+    std::function<void()> afterEvent;
+    /// Told of each program that is begun, and by null before it goes.
+    std::function<void(host::Engine*)> onProgram;
+    /// The program has ended by a failure of arithmetic.
+    bool programFailed() const { return !failureKind_.empty(); }
     std::string lastEvents() const;
     host::Engine& engine() { return *engine_; }
     /// Carries out one event and checks what must hold after it.
@@ -141,6 +149,7 @@ private:
 
     void carryOut(const Deed& deed);
     void carryOutWindow(const Deed& deed);
+    void leadStep(host::Direction direction);
     void runOperation(host::Window& window, int operation, const std::string& path);
     void check();
     void report(const std::string& what);

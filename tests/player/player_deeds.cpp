@@ -2,6 +2,7 @@
 // From an event of the game to the engine: each act is what a person's hand does in the real window.
 #include "player/player.h"
 
+#include "host/state_change.h"
 #include "host/text_store.h"
 #include "sheets/design_sheet.h"
 
@@ -10,9 +11,10 @@ namespace velmor::player {
 namespace deeds_detail {
 
 constexpr std::string_view actNames[] = {
-    "focus",    "tab",      "tab back", "click", "double click", "press",     "hover",     "key",       "text",
-    "edit",     "select",   "menu",     "opens", "choose",       "drag",      "drag over", "drag away", "timer",
-    "shortcut", "activate", "close",    "state", "resize",       "main area", "new",       "show",      "operation",
+    "focus", "tab",       "tab back",  "click",  "double click", "press",     "hover",
+    "key",   "text",      "edit",      "select", "menu",         "opens",     "choose",
+    "drag",  "drag over", "drag away", "timer",  "shortcut",     "activate",  "close",
+    "state", "resize",    "main area", "new",    "show",         "operation", "step",
 };
 static_assert(std::size(actNames) == static_cast<std::size_t>(Act::count));
 
@@ -131,12 +133,20 @@ void Player::carryOutWindow(const Deed& deed)
     case Act::show:
         engine.userRun([&] { engine.host().Show(deed.text); });
         return;
+    case Act::step:
+        return leadStep(deed.detail == 0 ? host::Direction::back : host::Direction::forth);
     case Act::operation:
         runOperation(*deed.window, deed.detail, deed.text);
         return;
     default:
         return;
     }
+}
+
+// The focus moves without a slot.
+void Player::leadStep(host::Direction direction)
+{
+    engine_->userStep(direction);
 }
 
 // What comes through the menus of the main window, and a file name that only a program can give.

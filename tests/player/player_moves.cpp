@@ -284,7 +284,7 @@ void Player::editStep(Window& window, Handle editor)
 void Player::oddStep(Window& window)
 {
     const Handle control = anyControl(window);
-    switch (chance_.below(19)) {
+    switch (chance_.below(20)) {
     case 0:
         return perform({.act = Act::tab, .window = &window});
     case 1:
@@ -332,6 +332,8 @@ void Player::oddStep(Window& window)
         return typeText(window, plausibleNumber(chance_));
     case 17:
         return perform({.act = Act::drag, .window = &window, .control = control, .target = anyControl(window)});
+    case 18:
+        return perform({.act = Act::step, .detail = chance_.in(40) ? 1 : 0});
     default:
         if (chance_.in(window.role() == host::Role::mainWindow ? 5 : 60))
             perform({.act = Act::close, .window = &window});

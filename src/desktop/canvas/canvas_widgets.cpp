@@ -187,8 +187,10 @@ void Canvas::refreshWidget(Handle control, bool shown)
     using namespace canvas_widgets_detail;
     const host::Control& state = model_->control(control);
     if (auto* field = dynamic_cast<FieldEdit*>(widget)) {
-        if (model_->focus() != control)
+        if (model_->focus() != control) {
             field->handTaken();
+            field->forgetTyping();
+        }
         field->showText(desktop::shown(state.text));
         field->setOwnColors(state.backColor, state.foreColor);
         retone(control);

@@ -44,6 +44,14 @@ void FieldEdit::selectWhole()
     selectAll();
 }
 
+void FieldEdit::forgetTyping()
+{
+    if (!isUndoAvailable() && !isRedoAvailable())
+        return;
+    setText(text());
+    setCursorPosition(0);
+}
+
 void FieldEdit::setOwnColors(std::int32_t ground, std::int32_t ink)
 {
     if (ground == ground_ && ink == ink_)

@@ -19,6 +19,8 @@ public:
     void showText(const QString& text);
     /// As a field that gets the focus by keyboard or by the program.
     void selectWhole();
+    /// What was typed into it can no longer be undone: its text is the sheet's now.
+    void forgetTyping();
     /// From here on the selection is the person's own.
     void handTaken() { selectedWhole_ = false; }
     /// The colours a sheet gave the field; -1 the usual ones.

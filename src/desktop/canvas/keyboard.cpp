@@ -15,6 +15,7 @@
 #include "desktop/canvas/field_edit.h"
 #include "desktop/canvas/pointer.h"
 #include "desktop/drawing/texts.h"
+#include "host/state_change.h"
 #include "rules/code_page.h"
 
 namespace velmor::desktop {
@@ -46,6 +47,10 @@ constexpr CommonKeyRow commonKeyRows[] = {
     {"F2",           CommonKey::hover,      {"lo que dice el ratón sobre el campo",          "what the mouse over the field says"}},
     {"Ctrl+F1",      CommonKey::hover,      {"lo que dice el ratón sobre el campo",          "what the mouse over the field says"}},
     {"F6",           CommonKey::nextPane,   {"a la ventana siguiente",                       "to the next window"}},
+    {"Alt+Backspace", CommonKey::stepBack,  {"un paso atrás",                                "one step back"}},
+    {"Ctrl+Z",       CommonKey::undo,       {"deshace lo tecleado; si no hay, un paso atrás", "undoes typing; where there is none, one step back"}},
+    {"Ctrl+Shift+Z", CommonKey::redo,       {"rehace lo tecleado; si no hay, un paso adelante", "types it again; where there is none, one step forward"}},
+    {"Ctrl+Y",       CommonKey::redo,       {"rehace lo tecleado; si no hay, un paso adelante", "types it again; where there is none, one step forward"}},
     {"Esc",          CommonKey::close,      {"cierra una ventana de ayuda o herramienta",    "closes a window of help or a tool"}},
 };
 // clang-format on
@@ -63,6 +68,15 @@ QKeyCombination combinationOf(std::string_view keys)
 {
     const QKeySequence sequence(shown(keys), QKeySequence::PortableText);
     return sequence.isEmpty() ? QKeyCombination() : sequence[0];
+}
+
+bool isUndo(QKeyCombination keys)
+{
+    return std::any_of(std::begin(commonKeyRows), std::end(commonKeyRows), [keys](const CommonKeyRow& row) {
+        const bool undoes =
+            row.deed == CommonKey::stepBack || row.deed == CommonKey::undo || row.deed == CommonKey::redo;
+        return undoes && combinationOf(row.keys) == keys;
+    });
 }
 
 } // namespace keyboard_detail
@@ -103,7 +117,11 @@ QKeyCombination keysOf(const QKeyEvent& event)
 
 bool Keyboard::wants(const QKeyEvent& event) const
 {
-    return canvas_.model() != nullptr && shortcutRow(canvas_.model()->spec(), keysOf(event)) != noRow;
+    const host::Window* model = canvas_.model();
+    if (model == nullptr)
+        return false;
+    return shortcutRow(model->spec(), keysOf(event)) != noRow ||
+           (model->role() == host::Role::sheet && keyboard_detail::isUndo(keysOf(event)));
 }
 
 bool Keyboard::pressed(const QKeyEvent& event)
@@ -180,8 +198,36 @@ bool Keyboard::run(CommonKey deed)
         return true;
     case CommonKey::close:
         return closeTool();
+    case CommonKey::stepBack:
+        return step(host::Direction::back);
+    case CommonKey::undo:
+        return undoTyping(host::Direction::back) || step(host::Direction::back);
+    case CommonKey::redo:
+        return undoTyping(host::Direction::forth) || step(host::Direction::forth);
     }
     return false;
+}
+
+// Keys of undo are a sheet's own; they reach no slot. Editors and small windows undo typing alone.
+bool Keyboard::step(host::Direction direction)
+{
+    if (canvas_.model()->role() != host::Role::sheet)
+        return false;
+    canvas_.desk().engine->userStep(direction);
+    return true;
+}
+
+bool Keyboard::undoTyping(host::Direction direction)
+{
+    const host::Window& model = *canvas_.model();
+    const bool back = direction == host::Direction::back;
+    auto* field = model.focus() == noControl ? nullptr : dynamic_cast<FieldEdit*>(canvas_.widgetOf(model.focus()));
+    if (model.role() != host::Role::sheet || field == nullptr ||
+        !(back ? field->isUndoAvailable() : field->isRedoAvailable()))
+        return false;
+    field->handTaken();
+    back ? field->undo() : field->redo();
+    return true;
 }
 
 // A small window goes at Escape, unless the control in hand has a use of its own for the key.

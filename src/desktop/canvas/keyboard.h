@@ -21,7 +21,7 @@ class Canvas;
 class FieldEdit;
 
 /// What a key does in every window, beside the rows of the window's own table.
-enum class CommonKey : std::uint8_t { next, previous, rightPress, hover, nextPane, close };
+enum class CommonKey : std::uint8_t { next, previous, rightPress, hover, nextPane, close, stepBack, undo, redo };
 struct CommonKeyRow {
     std::string_view keys;
     CommonKey deed;
@@ -51,6 +51,8 @@ private:
     bool runCommon(QKeyCombination keys);
     bool run(CommonKey deed);
     bool closeTool();
+    bool step(host::Direction direction);
+    bool undoTyping(host::Direction direction);
     bool pressFirstButton();
     bool fieldKey(FieldEdit& field, const QKeyEvent& event);
     bool textKey(const QKeyEvent& event);

@@ -20,6 +20,7 @@
 #include "desktop/drawing/page_picture.h"
 #include "desktop/drawing/texts.h"
 #include "desktop/windows/menus.h"
+#include "desktop/windows/offer_line.h"
 #include "desktop/windows/tool_window.h"
 
 namespace velmor::desktop {
@@ -165,6 +166,23 @@ QRect MainWindow::strip() const
     return {middle_->mapToGlobal(inside.topLeft()), inside.size()};
 }
 
+OfferLine& MainWindow::offerLine()
+{
+    if (offer_ == nullptr) {
+        offer_ = new OfferLine(*desk_.inks, desk_.english(), middle_);
+        offer_->hide();
+    }
+    return *offer_;
+}
+
+void MainWindow::showOfferLine(bool shown)
+{
+    if (offer_ == nullptr || offer_->isVisibleTo(middle_) == shown)
+        return;
+    offer_->setVisible(shown);
+    layOutPanels();
+}
+
 void MainWindow::bringToFront()
 {
     if (isVisible() && !isActiveWindow()) {
@@ -176,6 +194,8 @@ void MainWindow::bringToFront()
 void MainWindow::relabel()
 {
     welcome_->relabel();
+    if (offer_ != nullptr)
+        offer_->speak(desk_.english());
     if (bar_ != nullptr)
         bar_->relabel();
 }
@@ -185,6 +205,8 @@ void MainWindow::recolor()
     area_->setBackground(desk_.inks->desk);
     edge_->setPalette(QPalette(desk_.inks->accent));
     welcome_->recolor();
+    if (offer_ != nullptr)
+        offer_->setInks(*desk_.inks);
     if (bar_ != nullptr)
         bar_->recolor();
 }
@@ -204,6 +226,11 @@ void MainWindow::layOutPanels()
     if (model_ == nullptr || middle_->width() <= 0)
         return;
     QRect rest = middle_->rect();
+    if (offer_ != nullptr && offer_->isVisibleTo(middle_)) {
+        const int height = offer_->sizeHint().height();
+        offer_->setGeometry(rest.left(), rest.top(), rest.width(), height);
+        rest.setTop(rest.top() + height);
+    }
     const Handle bar = model_->spec().mainParts.bar;
     const bool barShown = bar_ != nullptr && model_->visible(bar);
     if (barShown) {

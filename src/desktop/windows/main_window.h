@@ -13,6 +13,7 @@ namespace velmor::desktop {
 
 class Canvas;
 class Menus;
+class OfferLine;
 
 class MainWindow final : public QMainWindow, public WindowFrame {
 public:
@@ -41,6 +42,9 @@ public:
     void hovered(const host::Window& window, host::Handle control);
     /// The page that lies over the sheets goes.
     void hush();
+    /// The line that offers what was left; it is above everything inside the window while it is shown.
+    OfferLine& offerLine();
+    void showOfferLine(bool shown);
     /// Takes the size that it will have on this screen before it is shown, so that the first sheets are made to it.
     void foresee();
 
@@ -68,6 +72,7 @@ private:
     Canvas* welcome_ = nullptr;
     Canvas* bar_ = nullptr;
     QWidget* edge_ = nullptr;
+    OfferLine* offer_ = nullptr;          ///< made when it is first needed
     const host::Window* below_ = nullptr; ///< active child at the last layout; compared only
     int strip_ = 0;
     bool hasChildren_ = false;

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Every key passes the window's key slot before the text box has it, and everything the mouse can do has a key.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -141,6 +143,66 @@ TEST_F(KeyboardTest, cutAndUndoKeepModelAndWidgetAlike)
     on.keys("Ctrl+Z");
     EXPECT_EQ(on.sheet().text(Text1), on.field(Text1).text().toStdString());
     EXPECT_NE(on.sheet().text(Text1), "");
+}
+
+TEST_F(KeyboardTest, undoTakesBackTypingAndThenStepsWithoutAKeySlot)
+{
+    on.type("5");
+    on.key(Qt::Key_Tab);
+    on.type("77");
+    keys.clear();
+    on.sheet().log.clear();
+    on.keys("Ctrl+Z");
+    EXPECT_EQ(on.sheet().text(Text2), "20") << "typing in the field goes first";
+    EXPECT_EQ(on.field(Text2).text(), "20");
+    EXPECT_EQ(on.sheet().focus(), Text2);
+    on.keys("Ctrl+Z");
+    EXPECT_EQ(on.sheet().focus(), Text1);
+    EXPECT_EQ(on.sheet().text(Text1), "10");
+    EXPECT_EQ(on.field(Text1).text(), "10");
+    EXPECT_TRUE(on.field(Text1).hasFocus());
+    on.keys("Ctrl+Y");
+    EXPECT_EQ(on.sheet().focus(), Text2);
+    EXPECT_EQ(on.field(Text1).text(), "5");
+    EXPECT_TRUE(keys.empty());
+    EXPECT_EQ(std::count(on.sheet().log.begin(), on.sheet().log.end(), "Text1 focus"), 0);
+}
+
+TEST_F(KeyboardTest, altBackspaceAlwaysTakesAStepBack)
+{
+    on.type("5");
+    on.key(Qt::Key_Tab);
+    on.type("77");
+    keys.clear();
+    on.key(Qt::Key_Backspace, Qt::AltModifier);
+    EXPECT_EQ(on.sheet().text(Text2), "20") << "what was typed and not left is a step of its own";
+    on.key(Qt::Key_Backspace, Qt::AltModifier);
+    EXPECT_EQ(on.sheet().text(Text1), "10");
+    on.keys("Ctrl+Y");
+    on.keys("Ctrl+Y");
+    EXPECT_EQ(on.field(Text2).text(), "77");
+    EXPECT_TRUE(keys.empty());
+}
+
+// What was typed before the field was left is the sheet's affair: the line edit must not bring it back by itself.
+TEST_F(KeyboardTest, typingThatWasLeftIsUndoneByTheSheetAlone)
+{
+    on.type("5");
+    on.key(Qt::Key_Tab);
+    on.keys("Shift+Tab");
+    EXPECT_FALSE(on.field(Text1).isUndoAvailable());
+    on.keys("Ctrl+Z");
+    EXPECT_EQ(on.sheet().focus(), Text2);
+    EXPECT_EQ(on.sheet().text(Text1), "5");
+}
+
+TEST_F(KeyboardTest, undoWorksWhereNoFieldIsInHand)
+{
+    on.type("5");
+    on.click(Command1);
+    on.keys("Ctrl+Z");
+    EXPECT_EQ(on.sheet().focus(), Text1);
+    EXPECT_EQ(on.sheet().text(Text1), "10");
 }
 
 TEST_F(KeyboardTest, theMiddleButtonPastesNothingPastTheFilter)
