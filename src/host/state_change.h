@@ -56,7 +56,7 @@ public:
     void lead(const StateChange& change, Direction direction);
 
 private:
-    WindowState touchedNow(const std::vector<Handle>& touched, StateChange& change) const;
+    void addControls(const std::vector<Handle>& touched, StateChange& change) const;
     void addWindow(StateChange& change) const;
 
     Window& window_;

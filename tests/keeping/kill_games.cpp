@@ -195,12 +195,12 @@ void checkRun(const fs::path& folder, const Run& run, long killed, Outcome& outc
         // After an arithmetic end the last is there; after a kill, what is old enough or anything later.
         const auto old = std::find_if(told.rbegin(), told.rend(),
                                       [&](const Told& one) { return run.failed || one.time <= killed - keepingTakes; });
-        const bool isThere = kept.contains(file);
-        if (old == told.rend() && !isThere)
+        // What is younger may be there or not, also as it stood before it was first told of.
+        if (old == told.rend())
             continue;
-        outcome.required += old == told.rend() ? 0 : 1;
-        const auto from = old == told.rend() ? told.begin() : std::prev(old.base());
-        if (!isThere)
+        ++outcome.required;
+        const auto from = std::prev(old.base());
+        if (!kept.contains(file))
             outcome.fault += file + " is not there, in " + folder.string() + "\n";
         else if (std::none_of(from, told.end(), [&](const Told& one) { return one.seal == kept[file]; }))
             outcome.fault += file + " is there as it was not, or was too long ago, in " + folder.string() + "\n";
