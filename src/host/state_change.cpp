@@ -3,7 +3,8 @@
 #include "host/state_change.h"
 
 #include <algorithm>
-#include <iterator>
+#include <bit>
+#include <cstdint>
 #include <span>
 #include <utility>
 
@@ -109,6 +110,16 @@ void apply(Window& window, const StateChange& change, Direction direction)
 StepWatch::StepWatch(Window& window) : window_(window), last_(copyOf(window))
 {
     window_.takeTouched();
+    noteOwn();
+}
+
+// Most own values stay as they are: they are compared without being looked up.
+void StepWatch::noteOwn()
+{
+    ownNumbers_.clear();
+    for (const OwnView& view : StateAccess::own(window_))
+        for (const OwnRow& row : view.rows)
+            ownNumbers_.push_back(row.kind == OwnKind::text ? 0.0 : row.number(view.record));
 }
 
 StateChange StepWatch::step()
@@ -117,6 +128,7 @@ StateChange StepWatch::step()
     addControls(window_.takeTouched(), change);
     addWindow(change);
     host::apply(last_, change, Direction::forth);
+    noteOwn();
     change.numbers.shrink_to_fit();
     change.texts.shrink_to_fit();
     return change;
@@ -135,6 +147,7 @@ void StepWatch::lead(const StateChange& change, Direction direction)
     host::apply(window_, change, direction);
     host::apply(last_, change, direction);
     window_.takeTouched();
+    noteOwn();
 }
 
 void StepWatch::addControls(const std::vector<Handle>& touched, StateChange& change) const
@@ -152,6 +165,9 @@ void StepWatch::addControls(const std::vector<Handle>& touched, StateChange& cha
 
 void StepWatch::addWindow(StateChange& change) const
 {
+    const auto sameBits = [](double one, double other) {
+        return std::bit_cast<std::uint64_t>(one) == std::bit_cast<std::uint64_t>(other);
+    };
     const auto number = [&](const Key& key, double now) {
         const double before = last_.number(key);
         if (!(KeptNumber{key, before} == KeptNumber{key, now}))
@@ -164,8 +180,11 @@ void StepWatch::addWindow(StateChange& change) const
             const Key key{noControl, Attribute::own, index++};
             if (view.undo == Undo::leaves)
                 continue;
+            const double now = row.kind == OwnKind::text ? 0.0 : row.number(view.record);
+            if (row.kind != OwnKind::text && sameBits(now, ownNumbers_[key.own]))
+                continue;
             if (row.kind != OwnKind::text)
-                number(key, row.number(view.record));
+                number(key, now);
             else if (const std::string_view before = last_.text(key); before != row.text(view.record))
                 change.texts.push_back({key, std::string(before), row.text(view.record)});
         }

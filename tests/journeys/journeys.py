@@ -335,10 +335,6 @@ class KeptWork(Journey):
         until(lambda: any(again.text(node) == "5" for node in again.all()
                           if node.get_role_name() == "text" and (node.get_name() or "").startswith("ΔQIc,")),
               "the work as it stood")
-        again.type("7")  # the keyboard is in the field that was in hand
-        until(lambda: any(again.text(node) == "7" for node in again.all()
-                          if node.get_role_name() == "text" and (node.get_name() or "").startswith("T,")),
-              "the key in the field that was in hand")
 
 
 if __name__ == "__main__":
