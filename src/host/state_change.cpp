@@ -3,7 +3,8 @@
 #include "host/state_change.h"
 
 #include <algorithm>
-#include <iterator>
+#include <bit>
+#include <cstdint>
 #include <span>
 #include <utility>
 
@@ -64,28 +65,6 @@ std::span<const Kept> about(const std::vector<Kept>& list, Handle control)
     return {from, to};
 }
 
-/// The list with what the touched controls say now in place of what they said.
-template <class Kept>
-std::vector<Kept> renewed(std::vector<Kept>& list, std::vector<Kept>& now, const std::vector<Handle>& touched)
-{
-    std::vector<Kept> result;
-    result.reserve(list.size() + now.size());
-    auto wanted = touched.begin();
-    auto fresh = now.begin();
-    for (Kept& kept : list) {
-        while (wanted != touched.end() && *wanted < kept.key.control)
-            ++wanted;
-        while (fresh != now.end() && fresh->key < kept.key)
-            result.push_back(std::move(*fresh++));
-        if (wanted == touched.end() || *wanted != kept.key.control)
-            result.push_back(std::move(kept));
-        else if (fresh != now.end() && fresh->key == kept.key)
-            result.push_back(std::move(*fresh++));
-    }
-    std::move(fresh, now.end(), std::back_inserter(result));
-    return result;
-}
-
 std::size_t heapOf(const std::string& text)
 {
     return text.capacity() > std::string().capacity() ? text.capacity() + 1 : 0;
@@ -131,23 +110,25 @@ void apply(Window& window, const StateChange& change, Direction direction)
 StepWatch::StepWatch(Window& window) : window_(window), last_(copyOf(window))
 {
     window_.takeTouched();
+    noteOwn();
+}
+
+// Most own values stay as they are: they are compared without being looked up.
+void StepWatch::noteOwn()
+{
+    ownNumbers_.clear();
+    for (const OwnView& view : StateAccess::own(window_))
+        for (const OwnRow& row : view.rows)
+            ownNumbers_.push_back(row.kind == OwnKind::text ? 0.0 : row.number(view.record));
 }
 
 StateChange StepWatch::step()
 {
-    using state_change_detail::renewed;
     StateChange change;
-    if (std::vector<Handle> touched = window_.takeTouched(); !touched.empty()) {
-        std::sort(touched.begin(), touched.end());
-        WindowState now = touchedNow(touched, change);
-        last_.numbers = renewed(last_.numbers, now.numbers, touched);
-        last_.texts = renewed(last_.texts, now.texts, touched);
-    }
-    StateChange own;
-    addWindow(own);
-    host::apply(last_, own, Direction::forth);
-    std::move(own.numbers.begin(), own.numbers.end(), std::back_inserter(change.numbers));
-    std::move(own.texts.begin(), own.texts.end(), std::back_inserter(change.texts));
+    addControls(window_.takeTouched(), change);
+    addWindow(change);
+    host::apply(last_, change, Direction::forth);
+    noteOwn();
     change.numbers.shrink_to_fit();
     change.texts.shrink_to_fit();
     return change;
@@ -156,9 +137,7 @@ StateChange StepWatch::step()
 StateChange StepWatch::pending() const
 {
     StateChange change;
-    std::vector<Handle> touched = window_.touched();
-    std::sort(touched.begin(), touched.end());
-    touchedNow(touched, change);
+    addControls(window_.touched(), change);
     addWindow(change);
     return change;
 }
@@ -168,24 +147,27 @@ void StepWatch::lead(const StateChange& change, Direction direction)
     host::apply(window_, change, direction);
     host::apply(last_, change, direction);
     window_.takeTouched();
+    noteOwn();
 }
 
-WindowState StepWatch::touchedNow(const std::vector<Handle>& touched, StateChange& change) const
+void StepWatch::addControls(const std::vector<Handle>& touched, StateChange& change) const
 {
     using namespace state_change_detail;
     WindowState now{.spec = last_.spec};
     for (const Handle control : touched) {
-        const std::size_t numbers = now.numbers.size();
-        const std::size_t texts = now.texts.size();
+        now.numbers.clear();
+        now.texts.clear();
         copyControl(window_, control, now);
-        compareNumbers(*last_.spec, about(last_.numbers, control), std::span(now.numbers).subspan(numbers), change);
-        compareTexts(*last_.spec, about(last_.texts, control), std::span(now.texts).subspan(texts), change);
+        compareNumbers(*last_.spec, about(last_.numbers, control), now.numbers, change);
+        compareTexts(*last_.spec, about(last_.texts, control), now.texts, change);
     }
-    return now;
 }
 
 void StepWatch::addWindow(StateChange& change) const
 {
+    const auto sameBits = [](double one, double other) {
+        return std::bit_cast<std::uint64_t>(one) == std::bit_cast<std::uint64_t>(other);
+    };
     const auto number = [&](const Key& key, double now) {
         const double before = last_.number(key);
         if (!(KeptNumber{key, before} == KeptNumber{key, now}))
@@ -198,8 +180,11 @@ void StepWatch::addWindow(StateChange& change) const
             const Key key{noControl, Attribute::own, index++};
             if (view.undo == Undo::leaves)
                 continue;
+            const double now = row.kind == OwnKind::text ? 0.0 : row.number(view.record);
+            if (row.kind != OwnKind::text && sameBits(now, ownNumbers_[key.own]))
+                continue;
             if (row.kind != OwnKind::text)
-                number(key, row.number(view.record));
+                number(key, now);
             else if (const std::string_view before = last_.text(key); before != row.text(view.record))
                 change.texts.push_back({key, std::string(before), row.text(view.record)});
         }

@@ -56,11 +56,13 @@ public:
     void lead(const StateChange& change, Direction direction);
 
 private:
-    WindowState touchedNow(const std::vector<Handle>& touched, StateChange& change) const;
+    void noteOwn();
+    void addControls(const std::vector<Handle>& touched, StateChange& change) const;
     void addWindow(StateChange& change) const;
 
     Window& window_;
     WindowState last_;
+    std::vector<double> ownNumbers_; ///< as `last_` has them, in the order of the tables
 };
 
 } // namespace velmor::host

@@ -4,29 +4,21 @@
 
 #include <vector>
 
-#include "designs/base_collector/form4.h"
 #include "designs/base_collector/form17.h"
+#include "designs/base_collector/form4.h"
 #include "designs/base_collector/form9.h"
+#include "designs/common_emitter/desaco.h"
+#include "designs/common_emitter/form18.h"
 #include "designs/common_emitter/form2.h"
+#include "designs/common_emitter/form8.h"
+#include "designs/common_emitter/parc_desac.h"
 #include "designs/differential/form12_controls.h"
 #include "designs/differential/form13_controls.h"
-#include "designs/common_emitter/desaco.h"
-#include "designs/common_emitter/form2.h"
-#include "designs/common_emitter/parc_desac.h"
-#include "designs/common_emitter/form18.h"
-#include "designs/common_emitter/form2.h"
-#include "designs/common_emitter/form8.h"
-#include "designs/common_emitter/desaco.h"
-#include "designs/common_emitter/form2.h"
-#include "designs/common_emitter/parc_desac.h"
-#include "designs/common_emitter/form18.h"
-#include "designs/common_emitter/form2.h"
-#include "designs/common_emitter/form8.h"
 #include "designs/differential/form3_controls.h"
-#include "designs/power/form15.h"
-#include "designs/power/form20.h"
 #include "designs/power/form10.h"
 #include "designs/power/form11.h"
+#include "designs/power/form15.h"
+#include "designs/power/form20.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
 #include "frame/form16_controls.h"
@@ -55,12 +47,12 @@ host::Catalogue catalogue()
         &form2::spec,
         &desaco::spec,
         &parc_desac::spec,
+        &form8::spec,
+        &form18::spec,
 
         &form4::spec,
         &form17::spec,
         &form9::spec,
-        &form8::spec,
-        &form18::spec,
 
         &form3::spec,
         &form13::spec,
@@ -68,12 +60,8 @@ host::Catalogue catalogue()
 
         &form15::spec,
         &form20::spec,
-
         &form10::spec,
         &form11::spec,
-
-        &form15::spec,
-        &form20::spec,
 
         // around them
         &palette::spec,

@@ -28,7 +28,7 @@ struct ChainRow {
 struct HelpPage {
     host::Handle field = host::noControl;
     std::string_view shortName{}; ///< of the field, on the panel's button
-    host::BiText page{}; ///< empty in the language of the moment: the panel stays as it was
+    host::BiText page{};          ///< empty in the language of the moment: the panel stays as it was
 };
 
 } // namespace velmor::sheets

@@ -140,7 +140,8 @@ void Form7::goBack()
     host::SheetHost& program = host();
     program.Hide(*this);
     for (host::Window* window : program.windows())
-        if (const auto* sheet = dynamic_cast<sheets::DesignSheet*>(window); sheet != nullptr && sheet->openPage() != 0) {
+        if (const auto* sheet = dynamic_cast<sheets::DesignSheet*>(window);
+            sheet != nullptr && sheet->openPage() != 0) {
             program.Show(*window);
             return;
         }

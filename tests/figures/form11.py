@@ -146,7 +146,8 @@ def main():
              {"Text1": "50", "Text2": "8", "Text10": "80", "Text5": "7", "Text7": "47", "Text6": "47", "Text8": "2.2",
               "Text3": "1.2", "Text4": "4.2", "Text9": "10", "Text11": "6", "Text12": "2"}).run()
     Improved("a supply below the least one, which the student insists on", "english",
-             {"Text1": "20", "Text2": "8", "Text10": "40", "Text5": "2.5", "Text11": "3", "Text12": "1.2", "boxes": ["cancel", "yes"]}).run()
+             {"Text1": "20", "Text2": "8", "Text10": "40", "Text5": "2.5", "Text11": "3", "Text12": "1.2",
+               "boxes": ["cancel", "yes"]}).run()
     # RL = (0.5 x 40 - 2.4) / 12.8 = 1.375; its quarter 0.34375 is half way between two values of four decimals: the even 0.3438.
     Improved("a tie: the proposal of RLb is 0.34375", "spanish",
              {"Text1": "8", "Text2": "8", "Text10": "40", "Text5": "12.8", "Text3": "1", "Text4": "1"}).run()

@@ -80,9 +80,11 @@ class Program:
         self.screen = screen
         self.home = more.pop("home", None) or tempfile.mkdtemp(prefix="velmor-journey-")
         os.chmod(self.home, 0o700)
-        environment = dict(screen.environment, HOME=self.home, XDG_RUNTIME_DIR=more.pop("XDG_RUNTIME_DIR", self.home),
+        runtime = more.pop("XDG_RUNTIME_DIR", self.home)
+        environment = dict(screen.environment, HOME=self.home, XDG_RUNTIME_DIR=runtime,
                            XDG_CONFIG_HOME=self.home + "/config",
-                           XDG_DATA_HOME=self.home + "/data", XDG_STATE_HOME=self.home + "/state", QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+                           XDG_DATA_HOME=self.home + "/data", XDG_STATE_HOME=self.home + "/state",
+                           QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                            QT_QPA_PLATFORMTHEME="none", LC_ALL="es_AR.UTF-8", **more)
         self.process = subprocess.Popen([VELMOR], env=environment)
         self.root = until(self.find_root, "the program on the accessibility bus")

@@ -330,14 +330,11 @@ class KeptWork(Journey):
         self.addCleanup(again.close)
         again.see(r"^1 diseño del \d+ de \w+, \d\d:\d\d sigue aquí$", "label")
         again.press(again.see("^Recuperar$", "push button"))
-        again.gone("sigue aquí")
+        until(lambda: not again.named("sigue aquí", "label").get_state_set().contains(Atspi.StateType.SHOWING),
+              "the end of the line")
         until(lambda: any(again.text(node) == "5" for node in again.all()
                           if node.get_role_name() == "text" and (node.get_name() or "").startswith("ΔQIc,")),
               "the work as it stood")
-        again.type("7")  # the keyboard is in the field that was in hand
-        until(lambda: any(again.text(node) == "7" for node in again.all()
-                          if node.get_role_name() == "text" and (node.get_name() or "").startswith("T,")),
-              "the key in the field that was in hand")
 
 
 if __name__ == "__main__":

@@ -302,14 +302,12 @@ TEST_F(KeeperTest, ADesignThatEndsByArithmeticIsThereAtTheNextStart)
     {
         Kept program(root, time);
         DesignSheet& sheet = program.sheet();
-        const auto focused = [&](std::string_view field) { return sheet.focus() == sheet.named(field); };
-        for (int step = 0; step < 40 && !program.desk.engine.ended(); ++step) {
-            if (focused("Text5"))
-                program.desk.engine.userText(sheet, sheet.focus(), "40000");
-            if (focused("Text16"))
-                program.desk.engine.userText(sheet, sheet.focus(), "40");
+        program.desk.engine.userText(sheet, sheet.named("Text5"), "40000");
+        for (int step = 0; step < 11; ++step)
             program.desk.engine.userKey(sheet, 13);
-        }
+        ASSERT_EQ(sheet.focus(), sheet.named("Text16"));
+        program.desk.engine.userText(sheet, sheet.focus(), "40");
+        program.desk.engine.userKey(sheet, 13);
         ASSERT_TRUE(program.desk.engine.ended());
         ASSERT_EQ(program.desk.screen.failures.size(), 1u);
         EXPECT_NE(program.desk.screen.failures[0].find("Su trabajo está guardado"), std::string::npos);

@@ -194,7 +194,7 @@ TEST_F(Form3State, IsExactWhateverTheDecimalSeparatorIs)
     engine.values().DecimalSeparator = ",";
     auto state = *engine.stateOf(*sheet);
     const double numbers[] = {0.1, 1.0 / 3.0, 5e-324, 1.7976931348623157e308, -0.0, 123456789.123456789, 1e-7};
-    std::uint16_t index = 4; // behind the four flags of the frame
+    std::uint16_t index = 5; // behind the five values of the frame
     for (const double number : numbers)
         state.set({host::noControl, host::Attribute::own, index++}, number);
     const std::string text = stateText(state);

@@ -257,6 +257,14 @@ void Form4::clickField(host::EventArgs& args)
             tell(row);
 }
 
+// The page is that of the field that is pressed, whichever is in hand.
+void Form4::pressField(host::EventArgs& args)
+{
+    if (args.button == host::Button::right)
+        LimpiarTags();
+    DesignSheet::pressField(args);
+}
+
 void Form4::pressResistor(host::EventArgs& args)
 {
     pressField(args);

@@ -34,6 +34,7 @@ public:
     void keyField(host::EventArgs& args);
     void hoverField(host::EventArgs& args);
     void clickField(host::EventArgs& args);
+    void pressField(host::EventArgs& args);
     void pressResistor(host::EventArgs& args);
 
     // parameters of circuit and transistor (form4_chain.cpp)

@@ -90,7 +90,8 @@ constexpr auto allSayings = std::to_array<Saying>({
       "So that the distribution of voltage is completed, adjust the ' Preset ' that replaces at Rb1 until obtaining a current (QIc), "
       "similar to the one assigned in ' Circuit Parameters '. Make CLICK in Rb1 and when it finishes the adjustment, CLICK over ' Leaf "
       "of Analysis '."}},
-    {Text17, When::focus, Label5, {"Coloque el valor del preset, en Kohm, y pulse Enter", "Put the value of the preset, in Kohm, and press Enter"}},
+    {Text17, When::focus, Label5, {"Coloque el valor del preset, en Kohm, y pulse Enter",
+                                   "Put the value of the preset, in Kohm, and press Enter"}},
 });
 // clang-format on
 

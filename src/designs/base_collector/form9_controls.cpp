@@ -148,7 +148,7 @@ constexpr auto rows = std::to_array<ControlRow>({
     disabled(field(Text18, "Text18", at(646, 224, 90, 22), "", besideItsPart(obtained))),
     disabled(field(Text20, "Text20", at(718, 119, 80, 22), "", besideItsPart(notation::Es))),
     result(Label20, "Label20", at(636, 446, 150, 36)),
-    result(Label21, "Label21", at(462, 487, 148, 36)),
+    result(Label21, "Label21", at(462, 486, 156, 36)),
     result(Label22, "Label22", at(640, 188, 150, 18)),
     result(Label23, "Label23", at(662, 330, 140, 20)),
     result(Label24, "Label24", at(466, 196, 126, 36)),

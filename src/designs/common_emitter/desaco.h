@@ -68,6 +68,7 @@ protected:
     void opened() override;
 
     bool sentBack(host::Handle emptyField, host::Handle target);
+    Real currentInHand() const; ///< QIc of `Text8` in mA, as leaving the field counts it
     void leaveCurrent();
     void workOutDivider();
     void judgeSupply(Real Eq, Real limit);

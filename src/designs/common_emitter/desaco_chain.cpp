@@ -69,12 +69,16 @@ void Desaco::lostText8()
 }
 
 // Less than the least current counts as 1 mA, and stays as it was typed.
+Real Desaco::currentInHand() const
+{
+    return at(Text8) < chainRow(Text8).from ? Real(chainRow(Text8).otherwise) : at(Text8);
+}
+
 void Desaco::leaveCurrent()
 {
-    const Real QIc = at(Text8) < chainRow(Text8).from ? Real(chainRow(Text8).otherwise) : at(Text8);
     workOutERes();
     show(Text15, Text18);
-    write(Text15, sheets::emitterResistor(q_.ERes, QIc));
+    write(Text15, sheets::emitterResistor(q_.ERes, currentInHand()));
 }
 
 // --- Res

@@ -94,7 +94,8 @@ protected:
     // stability and emitter resistor
     void disableChain();
     void workOutERes();
-    void writeJunctionResistance();
+    void writeJunctionResistance() { writeJunctionResistance(takeQIc()); }
+    void writeJunctionResistance(Real QIc);
     void showIdealResistor(std::string_view ending);
     bool belowOneOhm(Real resistor) { return resistor > 0.01 && resistor < 1; }
     void takeStandardResistor(Real resistor);
@@ -197,9 +198,9 @@ void EmitterSheet<C>::focusText8(host::EventArgs& args)
 }
 
 template <class C>
-void EmitterSheet<C>::writeJunctionResistance()
+void EmitterSheet<C>::writeJunctionResistance(Real QIc)
 {
-    setText(C::statu17, " R'e =" + shown(sheets::junctionResistance(takeQIc())) + "     ohms");
+    setText(C::statu17, " R'e =" + shown(sheets::junctionResistance(QIc)) + "     ohms");
 }
 
 template <class C>

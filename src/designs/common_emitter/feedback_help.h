@@ -63,7 +63,7 @@ inline constexpr auto helpPages = std::to_array<sheets::HelpPage>({
               "RL y RLw en paralelo forman la carga que ve la señal:\n\n"
               " RLac = Vg x r'e \n\n"
               "Conocidas RLac y RLw se despeja:\n\n"
-              " RL = (RLw x RLac) / (Rlw - RLac)\n\n"
+              " RL = (RLw x RLac) / (Rlw - RLac) \n\n"
               "Si la ganancia pedida exige una RLac mayor que RLw, la fórmula responde con un disparate. Para RLw = 10 K y RLac = 20 K:\n\n"
               " RL = (200 / -10) = -20 K\n\n"
               "Eleve QIc ó disminuya Vg. Coloque un valor normalizado, hasta un 20 % más ó menos que el calculado.",
@@ -71,7 +71,7 @@ inline constexpr auto helpPages = std::to_array<sheets::HelpPage>({
               "RL and RLw in parallel make the load that the signal sees:\n\n"
               " RLac = Vg x r'e \n\n"
               "Knowing RLac and RLw,\n\n"
-              " RL = (RLw x RLac) / (Rlw - RLac)\n\n"
+              " RL = (RLw x RLac) / (Rlw - RLac) \n\n"
               "If the gain asked for demands an RLac larger than RLw, the formula answers with nonsense. For RLw = 10 K "
               "and RLac = 20 K:\n\n"
               " RL = (200 / -10) = -20 K\n\n"

@@ -135,6 +135,7 @@ void ParcDesac::clickPicture6()
 void ParcDesac::clickPicture2()
 {
     write(Boost, bootstrapName);
+    show(Boost);
     writeSecondBootstrap();
     drawBootstrapping(true);
     hide(Image2);
@@ -143,6 +144,7 @@ void ParcDesac::clickPicture2()
 void ParcDesac::clickPicture7()
 {
     drawBootstrapping(false);
+    hide(Boost);
     show(Image2);
 }
 

@@ -81,13 +81,16 @@ void ParcDesac::askForEmitterSupply(Press press)
     goTo(Text21);
 }
 
+// Esc takes 1 mA and tells r'e alone; the whole resistor is told to who asks with Enter.
 void ParcDesac::askForUnbypassed(Press press)
 {
-    workOutERes();
-    setText(res, " Valor total del resistor Res :\n" + shown(totalResistor()) + " ohms");
     writeJunctionResistance();
-    hide(sta1, status40);
-    show(res);
+    if (press == Press::enter) {
+        workOutERes();
+        setText(res, " Valor total del resistor Res :\n" + shown(totalResistor()) + " ohms");
+        hide(sta1, status40);
+        show(res);
+    }
     goOn(Text8, press);
 }
 
@@ -97,8 +100,8 @@ void ParcDesac::lostText8()
     Desaco::lostText8();
     if (isEmpty(Text8))
         return;
-    write(Text15, at(Text15) / 10.0);
-    writeJunctionResistance();
+    write(Text15, sheets::emitterResistor(q_.ERes, currentInHand()) / 10.0);
+    writeJunctionResistance(currentInHand());
 }
 
 // --- -Es, of a stage polarised by emitter

@@ -33,6 +33,8 @@ void Form12::load()
     setText(Text23, texts::helpText.en);
 }
 
+// The field that was in hand is left before Text1 disables the chain behind it; else leaving it would enable parts of that chain
+// again, and the results of the analysis would get the focus.
 void Form12::activate()
 {
     frameActivate();
@@ -40,6 +42,7 @@ void Form12::activate()
     host().Hide("Form16");
     disable(Text2, Text3, Text4, Text5, Text6, Text7, Text9, Text10);
     enable(Text1);
+    host().SetFocus(*this, Text1);
     write(Label11, texts::heading);
     write(Label7, texts::analysis);
     write(Text10, texts::restart);

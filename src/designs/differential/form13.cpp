@@ -65,21 +65,23 @@ void Form13::load()
     setPlaceOf(image2, {pictureLeft, 0, mirrorWidth, pictureHeight});
 }
 
-// The greeting stands until the field says what it wants, which it does only when it was not in hand already; the boxes are
-// written last, since the field that is left fills them too.
+// The greeting and the boxes are written after the focus has moved, since the field that is left and Text1 fill them too. At the
+// first showing nothing has the focus yet: then Text1 comes last and says what it wants.
 void Form13::activate()
 {
     frameActivate();
     host().values().TemperaturaCompartida = differential::startTemperature;
     host().Hide("Form16");
-    write(Label25, texts::beginning);
     show(Text1);
-    host().SetFocus(*this, Text1);
+    if (focus() != host::noControl)
+        host().SetFocus(*this, Text1);
+    write(Label25, texts::beginning);
     write(SSCommand1, visible(Image1) ? texts::viewMirror : texts::viewCircuit);
     write(Label18, texts::sourceDoor);
     write(Label26, texts::data);
     write(Label27, texts::considerations);
     write(Label6, texts::heading);
+    host().SetFocus(*this, Text1);
 }
 
 void Form13::opened()

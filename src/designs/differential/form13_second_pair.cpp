@@ -88,9 +88,10 @@ bool Form13::takeSecondPair()
     return false;
 }
 
-// Res is the rounded number, not what stands in its field; the label of Q5 counts with it too.
+// Res is the rounded number, not what stands in its field; after Res1 it has been the start value, and is rounded again.
 void Form13::tellSecondPair()
 {
+    q_.Res = wholeRes(q_.Res, 1.0);
     q_.ReQ34 = sheets::junctionResistance(q_.QIc34);
     q_.VgQ34 = vgQ34Of(q_.RL2, q_.ReQ34);
     q_.ZinRes = inputOfEmitter(q_.Res);

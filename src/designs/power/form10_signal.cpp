@@ -153,10 +153,11 @@ void Form10::tellSignal()
     setText(Label1, words(valueOfRs) + shown(q_.RsCalc / 1000.0) + words(kilohms));
 }
 
-// Rs and Zin in series, in kilohms.
+// Rs and Zin in series, in kilohms. Until a resistor is put in it is the one that the page advises.
 std::string Form10::impedance() const
 {
-    return shown(at(Text9) + q_.Zin / 1000.0);
+    const Real Rs = isEmpty(Text9) ? q_.RsCalc / 1000.0 : at(Text9);
+    return shown(Rs + q_.Zin / 1000.0);
 }
 
 void Form10::keyText9(host::EventArgs& args)

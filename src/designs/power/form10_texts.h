@@ -112,7 +112,8 @@ inline constexpr BiText valueOfRLa{" El valor calculado de RLa es :  ", " The ca
 inline constexpr BiText valueOfRs{" El valor aconsejado de Rs es :  ", " The advised value of Rs is :  "};
 inline constexpr BiText kilohms{" K, coloque valor comercial...", " K, place commercial value..."};
 inline constexpr BiText placeIcMax{" Coloque valor de\nIc(max) del manual...", " It places value of\nIc(max) of the manual..."};
-inline constexpr BiText peakCurrentIs{" La corriente pico que circula a máxima potencia es :", " The peak current that circulates to maximum power is :"};
+inline constexpr BiText peakCurrentIs{" La corriente pico que circula a máxima potencia es :",
+                                       " The peak current that circulates to maximum power is :"};
 inline constexpr BiText peakCurrentAdvice{"  Amper, elija transistores que la soporten.\n", "  Amper, choose transistors that bear it.\n"};
 inline constexpr BiText verse{" La solución a los problemas\n ecológicos es la\nextinción de la especie que\nlos causa...",
                               "Condemned for the birds of your conscience,\nliberate remorses opening up\nthe cage of your head..."};

@@ -95,8 +95,8 @@ inline constexpr auto quantityTable = host::everyMember<Quantities>(
     host::own<&Quantities::passed>("passed"));
 // clang-format on
 
-/// quantity = above / below. A divisor of zero leaves the quantity as it was: students bring divisors to zero by odd files and by
-/// choosing the loudspeaker again and again.
+/// quantity = above / below. A divisor of zero leaves the quantity as it was: an odd file brings one, and a driver whose base
+/// takes just what the divider gives.
 void divide(Real& quantity, Real above, Real below);
 
 /// Eopp = Sqr(Po x 8 x RLw), V peak to peak from W r.m.s. and ohm. What would be negative is a failure.

@@ -317,12 +317,14 @@ void Form20::lostText9()
     q_.passed = q_.biased;
 }
 
+// An RL that was emptied behind its test has no capacitor: what `Label22` says stays.
 void Form20::divideRL()
 {
     const Real RLa = lessPercent(at(Text5), 80);
     setText(Label9, "RLb = " + whole(lessPercent(at(Text5), 20)) + " Ohm");
-    Real Cbp1;
-    form15::divide(Cbp1, 1.0, form15::capacitorFactor * RLa);
+    if (RLa == Real(0.0))
+        return;
+    const Real Cbp1 = 1.0 / (form15::capacitorFactor * RLa);
     setText(Label22, "RLa = " + whole(RLa) + " Ohm\nCbp1 = " + whole(microfarads(Cbp1)) + " mF");
 }
 

@@ -48,9 +48,9 @@ constexpr CommonKeyRow commonKeyRows[] = {
     {"Ctrl+F1",      CommonKey::hover,      {"lo que dice el ratón sobre el campo",          "what the mouse over the field says"}},
     {"F6",           CommonKey::nextPane,   {"a la ventana siguiente",                       "to the next window"}},
     {"Alt+Backspace", CommonKey::stepBack,  {"un paso atrás",                                "one step back"}},
-    {"Ctrl+Z",       CommonKey::undo,       {"deshace lo tecleado; si no hay, un paso atrás", "undoes typing; where there is none, one step back"}},
-    {"Ctrl+Shift+Z", CommonKey::redo,       {"rehace lo tecleado; si no hay, un paso adelante", "types it again; where there is none, one step forward"}},
-    {"Ctrl+Y",       CommonKey::redo,       {"rehace lo tecleado; si no hay, un paso adelante", "types it again; where there is none, one step forward"}},
+    {"Ctrl+Z",       CommonKey::undo,       {"deshace lo tecleado, o un paso",             "undoes typing, or a step"}},
+    {"Ctrl+Shift+Z", CommonKey::redo,       {"rehace lo tecleado, o un paso",              "types it again, or a step forward"}},
+    {"Ctrl+Y",       CommonKey::redo,       {"rehace lo tecleado, o un paso",              "types it again, or a step forward"}},
     {"Esc",          CommonKey::close,      {"cierra una ventana de ayuda o herramienta",    "closes a window of help or a tool"}},
 };
 // clang-format on

@@ -403,7 +403,7 @@ void paintByLook(const Scene& scene)
         return paintText(scene);
     case Look::drawn:
         // Its text stands at the mark that bears it; what has a frame shows that all the same.
-        if (scene.row().kind == Kind::label)
+        if (scene.row().kind == Kind::label || scene.row().kind == Kind::panel)
             return;
         break;
     case Look::plain:

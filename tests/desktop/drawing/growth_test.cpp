@@ -171,7 +171,8 @@ TEST_F(GrowingDrawing, KeepsAValueButShowsNoPlaceholder)
     EXPECT_EQ(withText("RL"), empty);
     EXPECT_NE(withText("0.6"), empty);
     sheet.show(Line2);
-    EXPECT_NE(withText("RL"), withText("")) << "what stands beside an inked part is shown as told";
+    EXPECT_EQ(withText("RL"), withText("")) << "the part bears its name already";
+    EXPECT_NE(withText("aprox."), withText("")) << "what else stands beside an inked part is shown as told";
 }
 
 TEST_F(GrowingDrawing, GoesToPaperAndFilesAsItStands)
