@@ -87,8 +87,9 @@ int rename(const char* from, const char* to) noexcept
 
 int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept
 {
-    return goesWrong() ? -1
-                       : real<int(int, const char*, int, const char*, int)>("linkat")(fromFolder, from, toFolder, to, flags);
+    return goesWrong()
+               ? -1
+               : real<int(int, const char*, int, const char*, int)>("linkat")(fromFolder, from, toFolder, to, flags);
 }
 
 int mkdir(const char* path, mode_t mode) noexcept
