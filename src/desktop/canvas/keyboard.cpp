@@ -67,9 +67,8 @@ bool isTyped(const QKeyEvent& event)
 // A modifier alone says nothing yet, and F6 walks between the windows itself.
 bool turnsNothing(const QKeyEvent& event)
 {
-    constexpr Qt::Key still[] = {Qt::Key_Shift,   Qt::Key_Control,  Qt::Key_Alt, Qt::Key_AltGr,
-                                 Qt::Key_Meta,    Qt::Key_CapsLock, Qt::Key_F6,  Qt::Key_NumLock,
-                                 Qt::Key_Super_L, Qt::Key_Super_R};
+    constexpr Qt::Key still[] = {Qt::Key_Shift,    Qt::Key_Control, Qt::Key_Alt,     Qt::Key_AltGr,   Qt::Key_Meta,
+                                 Qt::Key_CapsLock, Qt::Key_F6,      Qt::Key_NumLock, Qt::Key_Super_L, Qt::Key_Super_R};
     return std::find(std::begin(still), std::end(still), event.key()) != std::end(still);
 }
 

@@ -138,8 +138,8 @@ void WindowKeeper::gone(host::Window& window)
 void WindowKeeper::giveKeyboardBack()
 {
     const host::Window* current = desk_.engine->current();
-    WindowFrame* frame = current != nullptr && current->role() == Role::tool && !current->spec().reading ? frameOf(*current)
-                                                                                                         : nullptr;
+    WindowFrame* frame =
+        current != nullptr && current->role() == Role::tool && !current->spec().reading ? frameOf(*current) : nullptr;
     QWidget* next = frame == nullptr ? static_cast<QWidget*>(main_) : &frame->widget();
     if (next != nullptr && next->isVisible())
         next->activateWindow();
