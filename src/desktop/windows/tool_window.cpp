@@ -37,8 +37,7 @@ ToolWindow::ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow)
     column->addWidget(view_);
     setObjectName(shown(model.name()));
     setFocusProxy(view_);
-    if (model.role() == host::Role::palette)
-        setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_ShowWithoutActivating, isQuiet());
     resting_ = model.role() == host::Role::palette;
     if (model.spec().modal)
         setWindowModality(Qt::ApplicationModal);
@@ -134,6 +133,11 @@ bool ToolWindow::isPalette() const
     return model() != nullptr && model()->role() == host::Role::palette;
 }
 
+bool ToolWindow::isQuiet() const
+{
+    return isPalette() || (model() != nullptr && model()->spec().reading);
+}
+
 bool ToolWindow::isShownInModel() const
 {
     return model() != nullptr && model()->shown() && model()->windowState() != 1;
@@ -193,7 +197,7 @@ void ToolWindow::bringToFront()
     if (!isVisible())
         return;
     raise();
-    if (model() != nullptr && model()->role() != host::Role::palette)
+    if (model() != nullptr && !isQuiet())
         activateWindow();
 }
 

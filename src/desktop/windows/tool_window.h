@@ -25,6 +25,8 @@ public:
     void farewell() override;
 
     bool isPalette() const;
+    /// Is shown without taking the keyboard from the sheet: the palette, and what is only read.
+    bool isQuiet() const;
     /// True for a palette that stands where the program has put it.
     bool rests() const { return resting_ && isShownInModel(); }
     int restHeight() const;

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
@@ -27,6 +28,8 @@ WindowKeeper::WindowKeeper(Desk& desk) : desk_(desk)
     desk_.nextPane = [this] { nextPane(); };
     desk_.taken = [this] { return taken(); };
     desk_.touched = [this](QWidget* view) { touched(view); };
+    desk_.turnTo = [this](host::Window& window) { turnTo(window); };
+    desk_.typeBehind = [this](const QKeyEvent& event) { return typeBehind(event); };
     desk_.hovered = [this](const host::Window& window, host::Handle control) {
         if (main_)
             main_->hovered(window, control);
@@ -125,7 +128,21 @@ void WindowKeeper::gone(host::Window& window)
         return;
     frames_.erase(&window);
     const QScopedValueRollback following(following_, true);
+    const bool hadKeyboard = window.role() == Role::tool && frame->widget().isActiveWindow();
     frame->farewell();
+    if (hadKeyboard)
+        giveKeyboardBack();
+}
+
+// To the tool that is in front now, else to the sheet.
+void WindowKeeper::giveKeyboardBack()
+{
+    const host::Window* current = desk_.engine->current();
+    WindowFrame* frame =
+        current != nullptr && current->role() == Role::tool && !current->spec().reading ? frameOf(*current) : nullptr;
+    QWidget* next = frame == nullptr ? static_cast<QWidget*>(main_) : &frame->widget();
+    if (next != nullptr && next->isVisible())
+        next->activateWindow();
 }
 
 void WindowKeeper::shutDown()
@@ -218,7 +235,9 @@ void WindowKeeper::followRaised()
         if (frame == nullptr)
             continue;
         frame->bringToFront();
-        if (window->role() == Role::palette)
+        if (window->spec().reading)
+            quiet_ = &frame->widget();
+        if (window->role() == Role::palette || window->spec().reading)
             continue;
         if (window->isChild() && main_)
             main_->bringToFront();
@@ -366,14 +385,50 @@ void WindowKeeper::windowActivated()
 // Window managers give the keyboard to a palette that is shown or pressed; a student writes on in the sheet.
 bool WindowKeeper::handedBack(QWidget* active)
 {
+    // Coming back to the sheet in this way is no turning to it: what is read beside it stays.
+    if (active == main_.data() && std::exchange(returning_, false)) {
+        postFocus();
+        return true;
+    }
+    if (quiet_ && active == quiet_ && wanted_ != active && main_) {
+        returning_ = true;
+        main_->activateWindow();
+        return true;
+    }
     auto* tool = dynamic_cast<ToolWindow*>(active);
     if (tool == nullptr || tool->model() == nullptr || tool->model()->role() != Role::palette || wanted_ == active)
         return false;
     host::Window* current = desk_.engine->current();
-    WindowFrame* frame = current == nullptr || current->isChild() ? nullptr : frameOf(*current);
+    const bool inSheet = current == nullptr || current->isChild() || current->spec().reading;
+    WindowFrame* frame = inSheet ? nullptr : frameOf(*current);
     QWidget* back = frame == nullptr || frame == tool ? static_cast<QWidget*>(main_) : &frame->widget();
+    returning_ = current != nullptr && current->spec().reading;
     if (back != nullptr && back->isVisible())
         back->activateWindow();
+    return true;
+}
+
+// A press or a key in the sheet while something is read beside it.
+void WindowKeeper::turnTo(host::Window& window)
+{
+    const host::Window* current = desk_.engine->current();
+    if (window.isChild() && current != nullptr && current != &window && current->spec().reading && desk_.idle())
+        desk_.engine->userActivate(window);
+}
+
+bool WindowKeeper::typeBehind(const QKeyEvent& event)
+{
+    host::Window* child = desk_.engine->activeChild();
+    if (!main_ || child == nullptr || !desk_.idle() || frameOf(*child) == nullptr)
+        return false;
+    wanted_ = nullptr;
+    main_->activateWindow();
+    desk_.engine->userActivate(*child);
+    WindowFrame* frame = desk_.engine->isLoaded(child) ? frameOf(*child) : nullptr;
+    if (frame == nullptr || desk_.closing)
+        return true;
+    QKeyEvent typed(event.type(), event.key(), event.modifiers(), event.text(), event.isAutoRepeat());
+    QCoreApplication::sendEvent(frame->view()->canvas().focusTarget(), &typed);
     return true;
 }
 
@@ -382,6 +437,8 @@ bool WindowKeeper::handedBack(QWidget* active)
 void WindowKeeper::touched(QWidget* view)
 {
     awaited_ = nullptr;
+    quiet_ = nullptr;
+    returning_ = false;
     auto* canvas = dynamic_cast<Canvas*>(view);
     if (!main_ || canvas == nullptr || canvas->model() == nullptr || canvas->model()->role() == Role::palette)
         return;
@@ -395,7 +452,7 @@ QWidget* WindowKeeper::dialogParent() const
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
     const host::Window* current = desk_.engine->current();
-    if (current != nullptr && !current->isChild())
+    if (current != nullptr && !current->isChild() && !current->spec().reading)
         if (WindowFrame* frame = frameOf(*current); frame != nullptr && frame->widget().isVisible())
             return &frame->widget();
     return main_;
@@ -429,6 +486,8 @@ void WindowKeeper::nextPane()
         if (window->role() == Role::tool || window->role() == Role::palette)
             if (WindowFrame* frame = frameOf(*window); frame != nullptr && frame->widget().isVisible())
                 panes.push_back(window);
+    // What was opened to be read is nearer than the palette, which is always there.
+    std::stable_partition(panes.begin(), panes.end(), [](const auto* pane) { return pane->role() != Role::palette; });
     if (panes.empty())
         return;
     QWidget* active = QApplication::activeWindow();
