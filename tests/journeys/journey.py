@@ -162,6 +162,14 @@ class Program:
     def see(self, pattern, role=None):
         return until(lambda: self.named(pattern, role), "%s %s" % (role or "anything", pattern))
 
+    def shows(self, pattern):
+        """Waits for a text on the sheet in hand, whatever other sheets show."""
+        def found():
+            sheet = self.in_hand()
+            return sheet and any(re.search(pattern, node.get_name() or "") for node in self.all(sheet) if has(node, Atspi.StateType.SHOWING))
+
+        until(found, "on the sheet in hand " + pattern)
+
     def gone(self, pattern):
         until(lambda: self.named(pattern) is None, "the end of " + pattern)
 
@@ -248,7 +256,7 @@ class Program:
             self.focused(then)
             for what in seen:
                 if isinstance(what, str):
-                    self.see(what)
+                    self.shows(what)
                 else:
                     self.wait_value(*what)
 
@@ -287,12 +295,24 @@ class Program:
         self.choose(*items)
         self.name_file(path)
 
+    def turn_to(self, title):
+        """Goes from window to window with the keyboard until that one is in hand."""
+        for _ in self.sheets():
+            before = self.in_hand()
+            if re.search(title, before.get_name()):
+                return
+            self.key("ctrl+Tab")
+            until(lambda: self.in_hand() not in (None, before), "the next window")
+        raise AssertionError("no window is called " + title)
+
     def reads(self, *texts):
         """Waits for an editor in hand with all these texts."""
-        def editor():
-            return next(node for node in self.all(self.in_hand()) if node.get_role_name() == "text" and node.get_name() in ("Texto", "Text"))
+        def missing():
+            sheet = self.in_hand()
+            editors = [node for node in self.all(sheet) if node.get_name() in ("Texto", "Text")] if sheet else []
+            return [text for text in texts if not any(text in self.text(editor) for editor in editors)]
 
-        until(lambda: self.in_hand() and all(text in self.text(editor()) for text in texts), "an editor with " + " / ".join(texts))
+        until(lambda: not missing(), "an editor with all of " + " / ".join(texts))
 
     def picture(self, name):
         """The screen as it is, for people to look at, where VELMOR_PICTURES names a folder."""
