@@ -96,6 +96,7 @@ class Program:
                            QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                            QT_QPA_PLATFORMTHEME="none", LC_ALL="es_AR.UTF-8", **more)
         self.fields = {}
+        self.last_in_hand = None
         self.process = subprocess.Popen([VELMOR], env=environment)
         self.root = until(self.find_root, "the program on the accessibility bus")
         until(lambda: self.windows(), "the main window")
@@ -132,8 +133,10 @@ class Program:
         return found
 
     def in_hand(self):
-        """The window on the desk that has the keyboard."""
-        return next((sheet for sheet in self.sheets() if has(sheet, Atspi.StateType.FOCUSED)), None)
+        """The window on the desk that has the keyboard, or had it before a tool came to the front."""
+        sheets = self.sheets()
+        self.last_in_hand = next((sheet for sheet in sheets if has(sheet, Atspi.StateType.FOCUSED)), self.last_in_hand)
+        return self.last_in_hand if self.last_in_hand in sheets else None
 
     def all(self, root=None):
         found = []
