@@ -209,6 +209,73 @@ class PartlyBypassed(Emitter):
         velmor.reads("EMISOR COMÚN PARCIALMENTE DESACOPLADO")
 
 
+class ByEmitter(Emitter):
+    """The stages that take their bias from a negative supply."""
+
+    def test_the_first_sheet_polarised_by_emitter(self):
+        velmor = self.program
+        velmor.focused("ΔQIc")
+        velmor.press(velmor.see("^Polarizado p/Emisor", "push button"))
+        velmor.answer("El programa asignara la condicion DESACOPLADO", "Return")
+        velmor.picture("form2-emitter-start")
+        velmor.design(
+            ("ΔQIc", "", "T"),
+            ("T", "", "ΔVbe"),
+            ("ΔVbe", "", "QIc", r"^1\.375, "),
+            ("QIc", "", "-Es"),
+            ("-Es", "", "Res", "^20000 ohms", ("-Es", "20")),  # 20 V over 1 mA; the text that stands there is no number
+            ("Res", "", "RLw", ("QIc", "1")),
+            ("RLw", "", "S"),
+            ("S", "", "Vg"),
+            ("Vg", "", "RL", r"^\(Rlac\)= 1375 ohms", ("RL", "1.59420289855072")),  # 55 x 25; 10 x 1.375 / 8.625
+            ("RL", "", "fo", ("Vg", "0.0687")),  # 10 x 1.5942 / 11.5942, over 20
+            ("fo", "", "Eopp"),
+            ("Eopp", "", "Es", ("Ein", "5.1456"), ("Es", "4.96920289855072")),  # 0.5 x 0.707 / 0.0687; 1.375 + 1.5942 + 1 + 1
+            ("Es", "10", "β", r"^Eq= 8\.4058 Volts"),
+            ("β", "", "Ic(max)"),
+            ("Ic(max)", "", "Vj"),
+            ("Vj", "", "Rb2"),
+            ("Rb2", "33", "Rb1", "^Sin resistor Rb1"),
+        )
+        velmor.picture("form2-emitter-finished")
+
+    def test_the_partly_bypassed_stage_polarised_by_emitter(self):
+        velmor = self.program
+        self.open("^Parcialmente desacoplado")
+        velmor.focused("ΔQIc")
+        velmor.key("Escape")
+        velmor.focused("T")
+        velmor.wait_value("ΔQIc", "10")
+        velmor.key("ctrl+3")  # by emitter since Esc; this takes it back, and the next one offers it with its word
+        velmor.key("ctrl+3")
+        velmor.answer("El programa asignara la condicion DESACOPLADO", "Return")
+        velmor.design(
+            ("ΔQIc", "", "T"),
+            ("T", "", "ΔVbe"),
+            ("ΔVbe", "", "QIc", r"^1\.375, "),
+            ("QIc", "", "-Es"),
+            ("-Es", "2", "Res", ("Res", "2000")),
+            ("Res", "1600", "RLw", ("QIc", "1.25")),
+        )
+        velmor.key("alt+BackSpace")
+        velmor.design(
+            ("Res", "", "RLw", ("QIc", "1")),
+            ("RLw", "", "S"),
+            ("S", "", "Vg"),
+            ("Vg", "1", "RL", r"^\(Rlac\)= 2000 ohms", ("RL", "2.66666666666667")),  # 8 x 2 / 6
+            ("RL", "2.7", "fo", r"^Rlac = 2\.0187 K", ("Vg", "1.0093")),  # 8 x 2.7 / 10.7, over 2
+            ("fo", "", "Eopp", "^-127 microF"),  # 1 / (20 x 0.628 x (1375 - 2000))
+            ("Eopp", "", "Es", ("Ein", "1.0507"), ("Es", "8.075")),
+            ("Es", "12", "β", r"^Eq= 9\.3 Volts"),  # the emitter does not count here
+            ("β", "", "Ic(max)"),
+            ("Ic(max)", "", "Vj"),
+            ("Vj", "", "Rb2"),
+            ("Rb2", "27", "Rb1", "^Sin resistor Rb1"),
+            ("Rb1", "", "Rb1", ("Cbp", "318 microF")),  # 1 / (25 ohms x 20 x 6.28)
+        )
+        velmor.picture("parcdesac-emitter-finished")
+
+
 class Feedback(Journey):
     def open(self, design, choice, begin, first):
         """A sheet fed back by voltage, by the panel that presents the two of them."""

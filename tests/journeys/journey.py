@@ -94,7 +94,8 @@ class Program:
                            XDG_CONFIG_HOME=self.home + "/config",
                            XDG_DATA_HOME=self.home + "/data", XDG_STATE_HOME=self.home + "/state",
                            QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
-                           QT_QPA_PLATFORMTHEME="none", LC_ALL="es_AR.UTF-8", **more)
+                           QT_QPA_PLATFORMTHEME="none", LC_ALL="es_AR.UTF-8")
+        environment.update(more)
         self.fields = {}
         self.last_in_hand = None
         self.process = subprocess.Popen([VELMOR], env=environment)
