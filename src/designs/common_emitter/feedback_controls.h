@@ -140,7 +140,7 @@ constexpr ControlRow page(host::Handle id, std::string_view name, host::BiText m
 /// One of the two answers to the question about the supply.
 constexpr ControlRow answer(host::Handle id, std::string_view name, int left, host::BiText meaning)
 {
-    return {.id = id, .name = name, .kind = Kind::button, .place = at(left, 172, 80, 30), .visible = false, .meaning = meaning};
+    return {.id = id, .name = name, .kind = Kind::button, .place = at(left, 172, 76, 30), .visible = false, .meaning = meaning};
 }
 
 } // namespace controls_detail
@@ -206,10 +206,10 @@ inline constexpr auto controls = [] {
         result(statu32, "statu32", at(306, 284, 118, 18)),
         hidden(result(statu33, "statu33", at(712, 296, 140, 18))),
         hidden(result(stas, "stas", at(556, 281, 62, 18))),
-        {.id = Frame1, .name = "Frame1", .kind = Kind::panel, .place = at(842, 126, 166, 40), .visible = false,
+        {.id = Frame1, .name = "Frame1", .kind = Kind::panel, .place = at(850, 126, 158, 40), .visible = false,
          .look = Look::hint},
-        answer(Command1, "Command1", 842, {"Cambiar la fuente", "Change the supply"}),
-        answer(Command2, "Command2", 928, {"Continuar con esta fuente", "Go on with this supply"}),
+        answer(Command1, "Command1", 850, {"Cambiar la fuente", "Change the supply"}),
+        answer(Command2, "Command2", 932, {"Continuar con esta fuente", "Go on with this supply"}),
         hidden(option(Image8, "Image8", Kind::image, zones::option(2), {"Hacer bootstrapping", "Make bootstrapping"},
                       drawing::bootstrapMarks)),
         hidden(option(Image2, "image2", Kind::image, zones::option(3), {"Quitar el bootstrapping", "Take bootstrapping away"},
