@@ -3,6 +3,8 @@
 
 #include <clocale>
 
+#include <QEvent>
+#include <QMdiSubWindow>
 #include <QTimer>
 
 #include "desktop/canvas/control_pane.h"
@@ -11,6 +13,21 @@
 
 namespace velmor::desktop {
 
+namespace application_detail {
+
+// Drawn when the first window is on its way to the screen. The frame of the first sheet has asked for it by then and must be told.
+void showIcon()
+{
+    QApplication::setWindowIcon(programIcon());
+    for (QWidget* widget : QApplication::allWidgets())
+        if (qobject_cast<QMdiSubWindow*>(widget) != nullptr) {
+            QEvent changed(QEvent::WindowIconChange);
+            QCoreApplication::sendEvent(widget, &changed);
+        }
+}
+
+} // namespace application_detail
+
 Application::Application(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments)
 {
     // The toolkit has taken the locale of the environment: a comma must not get into numbers.
@@ -18,8 +35,7 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
     setApplicationName(QStringLiteral("Velmor"));
     setDesktopFileName(QStringLiteral("velmor"));
     setQuitOnLastWindowClosed(false);
-    // Drawn when the first window is on its way to the screen.
-    QTimer::singleShot(0, this, [] { setWindowIcon(programIcon()); });
+    QTimer::singleShot(0, this, application_detail::showIcon);
     setStyle(new QuietStyle);
     tellAssistiveTechnology();
 }

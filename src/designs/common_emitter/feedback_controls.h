@@ -137,9 +137,10 @@ constexpr ControlRow page(host::Handle id, std::string_view name, host::BiText m
     return {.id = id, .name = name, .kind = Kind::page, .place = at(736, 94, 278, 430), .visible = false, .meaning = meaning,
             .overlay = true};
 }
-constexpr ControlRow button(host::Handle id, std::string_view name, int top, host::BiText meaning)
+/// One of the two answers to the question about the supply.
+constexpr ControlRow answer(host::Handle id, std::string_view name, int left, host::BiText meaning)
 {
-    return {.id = id, .name = name, .kind = Kind::button, .place = at(1022, top, 172, 32), .visible = false, .meaning = meaning};
+    return {.id = id, .name = name, .kind = Kind::button, .place = at(left, 172, 76, 30), .visible = false, .meaning = meaning};
 }
 
 } // namespace controls_detail
@@ -198,21 +199,22 @@ inline constexpr auto controls = [] {
         hidden(result(Label21, "Label21", at(244, 262, 150, 18))),
         hidden(result(Label22, "Label22", at(640, 188, 150, 18))),
         result(Label23, "Label23", at(672, 334, 160, 18)),
-        result(Label24, "Label24", at(912, 484, 100, 34)),
+        result(Label24, "Label24", at(918, 484, 94, 34)),
         hidden(label(Label25, "Label25", at(300, 400, 128, 16), Look::note)),
         result(Label32, "Label32", at(672, 370, 140, 18)),
         hidden(result(statu18, "statu18", at(720, 212, 186, 18))),
         result(statu32, "statu32", at(306, 284, 118, 18)),
         hidden(result(statu33, "statu33", at(712, 296, 140, 18))),
         hidden(result(stas, "stas", at(556, 281, 62, 18))),
-        {.id = Frame1, .name = "Frame1", .kind = Kind::panel, .place = at(1022, 352, 172, 42), .visible = false},
-        button(Command1, "Command1", 400, {"Cambiar la fuente", "Change the supply"}),
-        button(Command2, "Command2", 436, {"Continuar con esta fuente", "Go on with this supply"}),
-        hidden(option(Image8, "Image8", Kind::image, zones::option(0), {"Hacer bootstrapping", "Make bootstrapping"},
+        {.id = Frame1, .name = "Frame1", .kind = Kind::panel, .place = at(850, 126, 158, 40), .visible = false,
+         .look = Look::hint},
+        answer(Command1, "Command1", 850, {"Cambiar la fuente", "Change the supply"}),
+        answer(Command2, "Command2", 932, {"Continuar con esta fuente", "Go on with this supply"}),
+        hidden(option(Image8, "Image8", Kind::image, zones::option(2), {"Hacer bootstrapping", "Make bootstrapping"},
                       drawing::bootstrapMarks)),
-        hidden(option(Image2, "image2", Kind::image, zones::option(0), {"Quitar el bootstrapping", "Take bootstrapping away"},
+        hidden(option(Image2, "image2", Kind::image, zones::option(3), {"Quitar el bootstrapping", "Take bootstrapping away"},
                       drawing::noBootstrapMarks)),
-        option(Image6, "Image6", Kind::image, zones::option(1),
+        option(Image6, "Image6", Kind::image, zones::option(0),
                {"Abrir un editor de textos con el informe", "Open a text editor with the report"}, drawing::editorMarks),
         calculatorTool(Image5, "Image5"),
         reportTool(Image7, "Image7"),

@@ -24,20 +24,6 @@ inline constexpr std::string_view englishClosing[] = {
 };
 inline constexpr std::string_view englishResults = "Result of design: ";
 inline constexpr std::string_view spanishResults = "Resultados de diseño: ";
-// Those of the current-feedback sheets, as far as they fit.
-inline constexpr std::string_view englishQuestions[] = {
-    "Answer the following questionnaire : ",
-    "That parameters define the voltage of stability, ERes..?",
-    "To that parameters influence the different load values Rlw..?",
-    "To that parameters influence to elevate Vg..?",
-    "To that parameters influence to rise ERes..?",
-    "Does you mention and do justify which voltage  influence ",
-    "in the cutting off the output sign Eopp..?",
-    "Like bigger entrance impedance is obtained..?",
-    "Which the advantages and disadvantages are of using ",
-    "circuits Bypass..?",
-    "Which the advantages and disadvantages are of using circuits",
-};
 // clang-format on
 
 /// Exercises 1 and 2 with their data.

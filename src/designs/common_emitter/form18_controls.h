@@ -38,6 +38,10 @@ inline constexpr auto baseCurrent = sheets::part({
 inline constexpr auto lowerCurrent = sheets::part({
     Mark{.symbol = Symbol::arrow, .from = {446, 370}, .to = {446, 406}, .name = "I_Rb2", .side = Side::right},
 });
+inline constexpr Mark obtainedCurrentName[] = {
+    {.symbol = Symbol::text, .from = {0, -4}, .note = {"QIc obtenida", "QIc obtained"}, .side = Side::right, .ink = host::Ink::accent,
+     .size = 90},
+};
 inline constexpr auto obtainedCurrent = sheets::part({
     Mark{.symbol = Symbol::arrow, .from = {634, 398}, .to = {634, 430}},
 });
@@ -46,6 +50,7 @@ inline constexpr auto obtainedCurrent = sheets::part({
 
 inline constexpr auto controls = [] {
     using namespace sheets; // NOLINT(google-build-using-namespace): the words of the table
+    using host::ControlRow;
     using host::Kind;
     using host::Look;
     return joined(
@@ -54,9 +59,9 @@ inline constexpr auto controls = [] {
             disabled(feedback::controls[Text5]),
             field(Text10, "Text10", feedback::controls[Text10].place, "16.6", notation::S),
             label(Label10, "Label10", feedback::controls[Label10].place, Look::invisible, "RL (Kohm)"),
-            hidden(option(Image8, "Image8", Kind::image, zones::option(0), {"Quitar el bootstrapping", "Take bootstrapping away"},
+            hidden(option(Image8, "Image8", Kind::image, zones::option(3), {"Quitar el bootstrapping", "Take bootstrapping away"},
                           feedback::drawing::noBootstrapMarks)),
-            hidden(option(Image2, "image2", Kind::image, zones::option(0), {"Hacer bootstrapping", "Make bootstrapping"},
+            hidden(option(Image2, "image2", Kind::image, zones::option(2), {"Hacer bootstrapping", "Make bootstrapping"},
                           feedback::drawing::bootstrapMarks)),
         })),
         std::to_array<host::ControlRow>({
@@ -67,10 +72,14 @@ inline constexpr auto controls = [] {
             disabled(hidden(drawn(Shape6, "Shape6", Kind::shape, feedback::drawing::feedbackPreset))),
             hidden(drawn(Line19, "Line19", Kind::line, own_drawing::lowerResistor)),
             hidden(disabled(field(Text18, "Text18", at(446, 459, 64, 22), "", notation::above(notation::Rb2)))),
-            hidden(result(Label26, "Label26", at(644, 405, 110, 18))),
-            hidden(label(Label27, "Label27", at(644, 428, 210, 52), Look::note)),
+            [] {
+                ControlRow row = hidden(result(Label26, "Label26", at(644, 410, 110, 18)));
+                row.drawing = own_drawing::obtainedCurrentName;
+                return row;
+            }(),
+            hidden(label(Label27, "Label27", at(644, 430, 210, 52), Look::note)),
             hidden(label(Label29, "Label29", at(644, 484, 210, 34), Look::warning)),
-            hidden(label(Label28, "Label28", at(1022, 478, 172, 22), Look::balloon)),
+            hidden(label(Label28, "Label28", at(1022, 540, 172, 22), Look::balloon)),
         }));
 }();
 static_assert(host::rowsInOrder(controls));

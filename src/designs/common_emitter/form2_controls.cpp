@@ -14,16 +14,11 @@ namespace tables_detail {
 using namespace common_emitter;                  // NOLINT(google-build-using-namespace): the rows of the family
 using namespace common_emitter::controls_detail; // NOLINT(google-build-using-namespace): and the words of its tables
 
-// clang-format off
-// Counted from the corner of the paper.
-constexpr Mark titleBlock[] = {
-    {.symbol = Symbol::text, .from = {640, 501}, .note = {"Emisor común, clase A", "Common emitter, class A"}, .ink = Ink::quiet,
-     .size = 80},
-    {.symbol = Symbol::frame, .from = {630, 492}, .to = {770, 510}, .ink = Ink::quiet},
-};
+constexpr auto title = sheets::titleBlock({"Emisor común, clase A", "Common emitter, class A"});
 
+// clang-format off
 constexpr auto ownRows = std::to_array<ControlRow>({
-    {.id = Image1, .name = "Image1", .kind = Kind::image, .place = zones::paper, .look = Look::paper, .drawing = titleBlock},
+    paper(Image1, "Image1", title),
     choice(Picture6, "Picture6", 0,
        {"Diseñar con emisor desacoplado", "Design with the emitter bypassed"}, bypassMarks),
     choice(Picture4, "Picture4", 1,

@@ -59,11 +59,11 @@ inline constexpr auto wholeResistor = part({
     wire(620, 510, 620, 520),
 });
 inline constexpr auto bypassCapacitor = part({
-    wire(620, 450, 790, 450),
-    wire(790, 450, 790, 460),
-    Mark{.symbol = Symbol::capacitor, .from = {790, 460}, .to = {790, 510}},
-    wire(790, 510, 790, 520),
-    ground(790, 520),
+    wire(620, 450, 810, 450),
+    wire(810, 450, 810, 460),
+    Mark{.symbol = Symbol::capacitor, .from = {810, 460}, .to = {810, 510}},
+    wire(810, 510, 810, 520),
+    ground(810, 520),
 });
 inline constexpr auto bootstrapWires = drawing::bootstrapWiresTo(380);
 inline constexpr auto emitterVoltage = part({
@@ -84,10 +84,9 @@ inline constexpr auto differentRows = std::to_array<ControlRow>({
     disabled(field(Text2, "Text2", zones::parameter(transistorTop, 0), "200", notation::Beta)),
     disabled(field(Text5, "Text5", zones::parameter(transistorTop, 1), "50", notation::EcMax)),
     hidden(disabled(field(Text15, "Text15", at(640, 412, 130, 22), "", notation::above(notation::Res)))),
-    hidden(disabled(field(Text20, "Text20", at(802, 430, 84, 22), "", notation::above(notation::Cbp)))),
-    marked(result(VRes, "VRes", at(676, 462, 100, 18)), emitterVoltageName),
+    marked(result(VRes, "VRes", at(667, 462, 100, 18)), emitterVoltageName),
     hidden(result(res, "res", at(640, 484, 146, 36))),
-    hidden(result(sta1, "sta1", at(806, 462, 84, 36))),
+    hidden(result(sta1, "sta1", at(828, 466, 62, 36))),
     hidden(option(Picture6, "Picture6", Kind::picture, zones::option(4), {"Desacoplar todo el emisor", "Bypass the whole emitter"},
                   bypassMarks)),
     inForce(Picture1, "Picture1", 5, {"Desacoplado: vuelve al comienzo", "Bypassed: back to the beginning"}, bypassMarks),
