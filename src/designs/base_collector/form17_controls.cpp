@@ -169,6 +169,12 @@ constexpr host::ValueRow valueRows[] = {
 static_assert(host::rowsInOrder(rows));
 static_assert(rows.size() == controlCount);
 
+/// "Rb1" below a field that bears the symbol already; with its value it says more.
+bool isBareName(const host::Window& window, host::Handle label)
+{
+    return window.text(label).find('=') == std::string::npos;
+}
+
 } // namespace controls_detail
 
 const std::span<const host::ControlRow> controls = controls_detail::rows;
@@ -178,8 +184,11 @@ const std::span<const host::ValueRow> values = controls_detail::valueRows;
 host::Place shownPlace(const host::Window& window, host::Handle control)
 {
     switch (control) {
-    case Label21:
     case Label24:
+        return controls_detail::isBareName(window, Label24) ? host::Place{} : controls[control].place;
+    case Label30:
+        return controls_detail::isBareName(window, Label30) ? host::Place{} : window.placeOf(control);
+    case Label21:
     case Text22:
     case Text23:
         return controls[control].place;
