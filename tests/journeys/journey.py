@@ -7,6 +7,7 @@ import shutil
 import subprocess
 import tempfile
 import time
+import unittest
 import warnings
 
 import gi
@@ -42,6 +43,14 @@ def until(condition, what):
         if time.monotonic() > end:
             raise AssertionError("never came: " + what)
         time.sleep(STEP)
+
+
+def children(node):
+    return [child for child in (node.get_child_at_index(i) for i in range(node.get_child_count())) if child is not None]
+
+
+def has(node, state):
+    return node.get_state_set().contains(state)
 
 
 class Screen:
@@ -86,6 +95,8 @@ class Program:
                            XDG_DATA_HOME=self.home + "/data", XDG_STATE_HOME=self.home + "/state",
                            QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                            QT_QPA_PLATFORMTHEME="none", LC_ALL="es_AR.UTF-8", **more)
+        self.fields = {}
+        self.last_in_hand = None
         self.process = subprocess.Popen([VELMOR], env=environment)
         self.root = until(self.find_root, "the program on the accessibility bus")
         until(lambda: self.windows(), "the main window")
@@ -106,35 +117,77 @@ class Program:
     def windows(self):
         return [self.root.get_child_at_index(i) for i in range(self.root.get_child_count())]
 
-    def all(self):
+    def sheets(self):
+        """The windows on the desk: sheets, editors, tools."""
         found = []
 
         def walk(node):
-            for i in range(node.get_child_count()):
-                child = node.get_child_at_index(i)
-                if child is not None:
+            for child in children(node):
+                if child.get_role_name() == "frame":
                     found.append(child)
+                elif child.get_role_name() in ("filler", "layered pane"):
                     walk(child)
 
-        walk(self.root)
+        for window in self.windows():
+            walk(window)
+        return found
+
+    def in_hand(self):
+        """The window on the desk that has the keyboard, or had it before a tool came to the front."""
+        sheets = self.sheets()
+        self.last_in_hand = next((sheet for sheet in sheets if has(sheet, Atspi.StateType.FOCUSED)), self.last_in_hand)
+        return self.last_in_hand if self.last_in_hand in sheets else None
+
+    def all(self, root=None):
+        found = []
+
+        def walk(node):
+            for child in children(node):
+                found.append(child)
+                walk(child)
+
+        walk(root or self.root)
         return found
 
     def named(self, pattern, role=None):
-        """What bears the name; of several the first that can be seen."""
-        found = [node for node in self.all()
-                 if re.search(pattern, node.get_name() or "") and (role is None or node.get_role_name() == role)]
-        if len(found) > 1:
-            found = [node for node in found if node.get_state_set().contains(Atspi.StateType.SHOWING)] or found
+        """What bears the name; of several what can be seen, the sheet in hand first."""
+        found = []
+        for root in (self.in_hand(), self.root):
+            if root is None:
+                continue
+            found = [node for node in self.all(root)
+                     if re.search(pattern, node.get_name() or "") and (role is None or node.get_role_name() == role)]
+            showing = [node for node in found if has(node, Atspi.StateType.SHOWING)]
+            if showing:
+                return showing[0]
         return found[0] if found else None
 
     def see(self, pattern, role=None):
         return until(lambda: self.named(pattern, role), "%s %s" % (role or "anything", pattern))
 
+    def shows(self, pattern):
+        """Waits for a text on the sheet in hand, whatever other sheets show."""
+        def found():
+            sheet = self.in_hand()
+            return sheet and any(re.search(pattern, node.get_name() or "") for node in self.all(sheet) if has(node, Atspi.StateType.SHOWING))
+
+        until(found, "on the sheet in hand " + pattern)
+
     def gone(self, pattern):
         until(lambda: self.named(pattern) is None, "the end of " + pattern)
 
     def field(self, symbol):
-        return self.see("^" + re.escape(symbol) + ",", "text")
+        """The field of the sheet in hand. To look through a sheet takes long, so what was found once is asked first."""
+        node, sheet = self.fields.get(symbol, (None, None))
+        try:
+            if node and has(node, Atspi.StateType.SHOWING) and has(sheet, Atspi.StateType.FOCUSED):
+                return node
+        except GLib.Error:  # it is closed
+            pass
+        sheet = self.in_hand()
+        self.fields = {node.get_name().split(",")[0]: (node, sheet) for node in self.all(sheet)
+                       if node.get_role_name() == "text" and has(node, Atspi.StateType.SHOWING)}
+        return self.fields[symbol][0] if symbol in self.fields else self.see("^" + re.escape(symbol) + ",", "text")
 
     @staticmethod
     def text(node):
@@ -152,7 +205,7 @@ class Program:
         until(lambda: self.value(symbol) == text, "%s = %s (last %r)" % (symbol, text, self.value(symbol)))
 
     def focused(self, symbol):
-        until(lambda: self.field(symbol).get_state_set().contains(Atspi.StateType.FOCUSED), "the focus in " + symbol)
+        until(lambda: has(self.field(symbol), Atspi.StateType.FOCUSED), "the focus in " + symbol)
 
     # what the person does
 
@@ -182,7 +235,7 @@ class Program:
     def box(self, text):
         """Waits for a message box with that text and until it has the keyboard."""
         label = self.see(text, "label")
-        until(lambda: any(node.get_state_set().contains(Atspi.StateType.FOCUSED) for node in self.all()
+        until(lambda: any(has(node, Atspi.StateType.FOCUSED) for node in self.all()
                           if node.get_role_name() == "push button"), "a button of the box")
         return label
 
@@ -194,6 +247,82 @@ class Program:
         self.key("Return")
         self.focused(then)
 
+    def design(self, *steps):
+        """Goes through the chain with Enter. A step is the field that must have the keyboard, what is typed there ("" leaves
+        what stands), the field that Enter leads to, and all that is seen then: a pattern of a text, or (field, its text)."""
+        for symbol, typed, then, *seen in steps:
+            self.focused(symbol)
+            if typed:
+                self.type(typed)
+                self.wait_value(symbol, typed)
+            self.key("Return")
+            self.focused(then)
+            for what in seen:
+                if isinstance(what, str):
+                    self.shows(what)
+                else:
+                    self.wait_value(*what)
+
+    def answer(self, text, *keys):
+        """Answers the message box that says so."""
+        box = self.box(text)
+        self.key(*keys)
+        until(lambda: has(box, Atspi.StateType.DEFUNCT) or self.named(text, "label") is None, "the end of the box " + text)
+
+    def speak(self, english):
+        self.key("ctrl+shift+i" if english else "ctrl+shift+e")
+        self.see("^Archive$" if english else "^Archivo$", "menu item")
+
+    def choose(self, *items):
+        """Clicks one menu item after the other."""
+        for item in items:
+            self.press(self.see("^" + re.escape(item) + "$", "menu item"))
+
+    def name_file(self, path):
+        """Types a name into the dialog of files that opens."""
+        dialog = self.see("", "dialog")
+        until(lambda: any(has(node, Atspi.StateType.FOCUSED) for node in self.all(dialog) if node.get_role_name() == "text"),
+              "the keyboard in the dialog of files")
+        self.type(path)
+        self.key("Return")
+
+    def save(self, path):
+        """Saves the sheet in hand, which has no file yet."""
+        self.key("ctrl+s")
+        self.name_file(path)
+        until(lambda: os.path.exists(path), path)
+
+    def open_circuit(self, path, *items):
+        """Opens a file in a new sheet, by the items of the menu of circuits."""
+        self.key("ctrl+o")
+        self.choose(*items)
+        self.name_file(path)
+
+    def turn_to(self, title):
+        """Goes from window to window with the keyboard until that one is in hand."""
+        for _ in self.sheets():
+            before = self.in_hand()
+            if re.search(title, before.get_name()):
+                return
+            self.key("ctrl+Tab")
+            until(lambda: self.in_hand() not in (None, before), "the next window")
+        raise AssertionError("no window is called " + title)
+
+    def reads(self, *texts):
+        """Waits for an editor in hand with all these texts."""
+        def missing():
+            sheet = self.in_hand()
+            editors = [node for node in self.all(sheet) if node.get_name() in ("Texto", "Text")] if sheet else []
+            return [text for text in texts if not any(text in self.text(editor) for editor in editors)]
+
+        until(lambda: not missing(), "an editor with all of " + " / ".join(texts))
+
+    def picture(self, name):
+        """The screen as it is, for people to look at, where VELMOR_PICTURES names a folder."""
+        folder = os.environ.get("VELMOR_PICTURES")
+        if folder:
+            self.screen.ask("import", "-silent", "-window", "root", "%s/%s.png" % (folder, name))
+
     def ended(self):
         return until(lambda: self.process.poll() is not None, "the end of the program") and self.process.returncode
 
@@ -202,3 +331,23 @@ class Program:
             self.process.kill()
             self.process.wait()
         shutil.rmtree(self.home, ignore_errors=True)
+
+
+class Journey(unittest.TestCase):
+    """The program as a new user finds it, on a screen of its own."""
+    size = "1366x768"
+    more = {}
+
+    def setUp(self):
+        self.screen = Screen(self.size)
+        self.addCleanup(self.screen.close)
+        self.program = Program(self.screen, **self.more)
+        self.addCleanup(self.program.close)
+
+    def leave(self, question, sheets):
+        """Closes the main window: yes, end; no, keep none of the sheets."""
+        self.program.key("alt+F4")
+        self.program.answer(question, "Return")
+        for _ in range(sheets):
+            self.program.answer("archivo ha cambiado|file has changed", "n")
+        self.assertEqual(self.program.ended(), 0)

@@ -5,43 +5,14 @@ import os
 import subprocess
 import unittest
 
-from journey import Atspi, Program, Screen, until
+from journey import Atspi, Journey, Program, has, until
 
 
-class Journey(unittest.TestCase):
-    size = "1366x768"
-    more = {}
-
-    def setUp(self):
-        self.screen = Screen(self.size)
-        self.addCleanup(self.screen.close)
-        self.program = Program(self.screen, **self.more)
-        self.addCleanup(self.program.close)
-
-    def answer(self, text, *keys):
-        box = self.program.box(text)
-        self.program.key(*keys)
-        until(lambda: box.get_state_set().contains(Atspi.StateType.DEFUNCT) or self.program.named(text, "label") is None,
-              "the end of the box " + text)
-
-    def sheets(self):
-        return [node for node in self.program.all()
-                if node.get_role_name() == "frame" and node.get_parent().get_role_name() != "application"]
-
-    def leave(self, question, sheets):
-        """Closes the main window: yes, end; no, keep none of the sheets."""
-        self.program.key("alt+F4")
-        self.answer(question, "Return")
-        for _ in range(sheets):
-            self.answer("archivo ha cambiado|file has changed", "n")
-        self.assertEqual(self.program.ended(), 0)
-
+class Design(Journey):
     def settings(self):
         with open(self.program.home + "/config/Velmor/Velmor.ini", encoding="utf-8") as file:
             return file.read()
 
-
-class Design(Journey):
     def test_a_student_designs_a_stage_with_the_keyboard_alone(self):
         velmor = self.program
         velmor.fill("ΔQIc", "10", "T")
@@ -65,8 +36,8 @@ class Design(Journey):
         velmor.focused("Es")
         # The supply that just suffices leaves too little for the transistor: two warnings, and back to Eopp.
         velmor.key("Return")
-        self.answer("Aumentar", "Return")
-        self.answer("Disminuya Eopp", "space")
+        velmor.answer("Aumentar", "Return")
+        velmor.answer("Disminuya Eopp", "space")
         velmor.focused("Eopp")
         velmor.key("Return")
         velmor.fill("Es", "30", "β")
@@ -79,7 +50,7 @@ class Design(Journey):
         velmor.focused("Rb2")
         velmor.see(r"Rb2= 13\.75 K")  # S x Res = 10 x 1375 ohms
         velmor.key("Return")
-        self.answer("Debe colocar una cifra", "Escape")
+        velmor.answer("Debe colocar una cifra", "Escape")
         velmor.fill("Rb2", "13", "Rb1")
         velmor.type("170")
         velmor.wait_value("Rb1", "170")
@@ -103,9 +74,9 @@ class Design(Journey):
         velmor = self.program
         velmor.focused("ΔQIc")
         velmor.press(velmor.see("^Abrir otro circuito igual", "push button"))
-        until(lambda: len(self.sheets()) == 2, "a second sheet")
+        until(lambda: len(velmor.sheets()) == 2, "a second sheet")
         velmor.press(velmor.see("^Emisor Común Realimentado por Corriente$", "push button"))
-        until(lambda: len(self.sheets()) == 3, "a third sheet from the palette")
+        until(lambda: len(velmor.sheets()) == 3, "a third sheet from the palette")
         velmor.key("alt+v")
         velmor.see("^Horizontal$", "menu item")
         velmor.key("v")
@@ -113,22 +84,20 @@ class Design(Journey):
         self.assertLess(max(y for _, y, _, _ in boxes) - min(y for _, y, _, _ in boxes), 3)
 
     def apart(self, count):
-        boxes = sorted(self.program.place(sheet) for sheet in self.sheets())
+        boxes = sorted(self.program.place(sheet) for sheet in self.program.sheets())
         side_by_side = all(a[0] + a[2] <= b[0] + 2 for a, b in zip(boxes, boxes[1:]))
         return boxes if len(boxes) == count and side_by_side else None
 
     def test_the_language_switches_at_run_time_and_for_the_next_start(self):
         velmor = self.program
         velmor.focused("ΔQIc")
-        velmor.key("ctrl+shift+i")
-        velmor.see("^Archive$", "menu item")
+        velmor.speak(english=True)
         velmor.key("Return")
         velmor.focused("T")
         velmor.see(r"^T, .*[Tt]emperature")
         velmor.key("Escape")
         velmor.focused("ΔVbe")
-        velmor.key("ctrl+shift+e")
-        velmor.see("^Archivo$", "menu item")
+        velmor.speak(english=False)
         self.leave("Desea abandonar", 1)
 
     def test_help_by_key_and_back(self):
@@ -137,7 +106,7 @@ class Design(Journey):
         velmor.key("Menu")
         # The menu and a button bear that name too: only the window that has the keyboard will do.
         until(lambda: [window for window in velmor.windows() if (window.get_name() or "").strip() == "Ayuda"
-                       and window.get_state_set().contains(Atspi.StateType.ACTIVE)], "the help page")
+                       and has(window, Atspi.StateType.ACTIVE)], "the help page")
         velmor.key("Escape")
         velmor.focused("ΔQIc")
         velmor.key("5")
@@ -152,8 +121,8 @@ class Pair(Journey):
         if first:
             velmor.key(first)
         velmor.key("ctrl+F4")
-        self.answer("archivo ha cambiado|file has changed", "n")
-        until(lambda: not self.sheets(), "an empty desk")
+        velmor.answer("archivo ha cambiado|file has changed", "n")
+        until(lambda: not velmor.sheets(), "an empty desk")
         velmor.key("alt+shift+F1")
         velmor.focused("ΔQIc")
 
@@ -202,8 +171,7 @@ class Pair(Journey):
         self.design()
         self.read_the_meter("^multímetro")
         velmor.press(velmor.see("^Elaborar el informe", "push button"))
-        until(lambda: "Resultados del diseño de Diferencial Simple" in self.report(), "the report")
-        self.assertIn("ERes: 19.65 V", self.report())
+        velmor.reads("Resultados del diseño de Diferencial Simple", "ERes: 19.65 V")
 
     def test_the_same_in_english(self):
         velmor = self.program
@@ -214,11 +182,7 @@ class Pair(Journey):
         self.design()
         self.read_the_meter("^multimeter")
         velmor.press(velmor.see("^Write the report", "push button"))
-        until(lambda: "Results of the design of Differential Simple" in self.report(), "the report")
-        self.assertIn("RL (kohm) = 16", self.report())
-
-    def report(self):
-        return "\n".join(self.program.text(node) for node in self.program.all() if node.get_role_name() == "text")
+        velmor.reads("Results of the design of Differential Simple", "RL (kohm) = 16")
 
 
 class Text(Journey):
@@ -228,22 +192,17 @@ class Text(Journey):
         velmor.press(velmor.see("^Abrir la guía", "push button"))
         editor = velmor.see("^Texto$", "text")
         until(lambda: "GUÍA" in velmor.text(editor).upper(), "the guide's text")
-        until(lambda: editor.get_state_set().contains(Atspi.StateType.FOCUSED), "the keyboard in the editor")
+        until(lambda: has(editor, Atspi.StateType.FOCUSED), "the keyboard in the editor")
         velmor.key("ctrl+Home")
         velmor.type("Mi trabajo")
         velmor.key("Return")
         until(lambda: velmor.text(editor).startswith("Mi trabajo\n"), "the typed line")
         path = velmor.home + "/informe.txt"
-        velmor.key("ctrl+s")
-        name = velmor.see(".*", "dialog") and until(self.name_field, "the name of the file")
-        self.assertIsNotNone(name)
-        velmor.type(path)
-        velmor.key("Return")
-        until(lambda: os.path.exists(path), "the saved file")
+        velmor.save(path)
         with open(path, "rb") as file:
             self.assertTrue(file.read().decode("cp1252").startswith("Mi trabajo"))
         velmor.key("ctrl+p")
-        until(lambda: any(node.get_role_name() == "push button" and node.get_state_set().contains(Atspi.StateType.FOCUSED)
+        until(lambda: any(node.get_role_name() == "push button" and has(node, Atspi.StateType.FOCUSED)
                           for node in velmor.all()), "the dialog for printing")
         velmor.key("Return")
         pdf = until(self.printed, "the printed file")
@@ -256,13 +215,6 @@ class Text(Journey):
             for name in names:
                 if name.endswith(".pdf"):
                     return os.path.join(folder, name)
-        return None
-
-    def name_field(self):
-        for node in self.program.all():
-            if node.get_role_name() == "text" and node.get_state_set().contains(Atspi.StateType.FOCUSED) \
-                    and not (node.get_name() or "").startswith("Texto"):
-                return node
         return None
 
 
@@ -330,7 +282,7 @@ class KeptWork(Journey):
         self.addCleanup(again.close)
         again.see(r"^1 diseño del \d+ de \w+, \d\d:\d\d sigue aquí$", "label")
         again.press(again.see("^Recuperar$", "push button"))
-        until(lambda: not again.named("sigue aquí", "label").get_state_set().contains(Atspi.StateType.SHOWING),
+        until(lambda: not has(again.named("sigue aquí", "label"), Atspi.StateType.SHOWING),
               "the end of the line")
         until(lambda: any(again.text(node) == "5" for node in again.all()
                           if node.get_role_name() == "text" and (node.get_name() or "").startswith("ΔQIc,")),

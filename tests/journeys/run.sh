@@ -1,6 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Plays the journeys with the program given, each on a session bus of its own, so that none inherits what another left.
+# Plays the journeys of journeys.py and of each *_journeys.py with the program given, each on a session bus of its own, so that
+# none inherits what another left.
 # usage: run.sh PROGRAM [JOURNEY...]
 set -eu
 VELMOR=$1
@@ -21,7 +22,7 @@ def names(suite):
             yield from names(test)
         else:
             yield test.id()
-print("\n".join(names(unittest.defaultTestLoader.loadTestsFromName("journeys"))))
+print("\n".join(names(unittest.defaultTestLoader.discover(".", pattern="*journeys.py"))))
 END
 }
 
