@@ -185,7 +185,7 @@ class Program:
         except GLib.Error:  # it is closed
             pass
         sheet = self.in_hand()
-        self.fields = {node.get_name().split(",")[0]: (node, sheet) for node in self.all(sheet)
+        self.fields = {node.get_name().split(",")[0]: (node, sheet) for node in reversed(self.all(sheet))
                        if node.get_role_name() == "text" and has(node, Atspi.StateType.SHOWING)}
         return self.fields[symbol][0] if symbol in self.fields else self.see("^" + re.escape(symbol) + ",", "text")
 
