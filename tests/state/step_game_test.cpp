@@ -60,8 +60,12 @@ public:
     void look(const host::Engine& engine, const host::Window& sheet)
     {
         const host::StepHistory& steps = *engine.stepsOf(sheet);
-        if (!steps.betweenSteps())
+        if (!steps.betweenSteps()) {
+            // What was still ahead is no more, though the step that takes its place is not whole yet.
+            if (steps.concernsDesign())
+                stood_.erase(stood_.lower_bound(steps.behind()), stood_.end());
             return;
+        }
         stood_.erase(stood_.upper_bound(steps.behind() + steps.ahead()), stood_.end());
         stood_.insert_or_assign(steps.behind(), host::copyOf(sheet));
     }
