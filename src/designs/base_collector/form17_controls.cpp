@@ -111,7 +111,7 @@ constexpr auto rows = std::to_array<ControlRow>({
     hidden(disabled(field(Text20, "Text20", at(718, 119, 80, 22), "", besideItsPart(notation::Es)))),
     result(Label20, "Label20", at(636, 486, 150, 18)),
     result(Label21, "Label21", at(462, 486, 156, 36)),
-    result(Label22, "Label22", at(324, 170, 96, 18)),
+    result(Label22, "Label22", at(300, 170, 122, 18)),
     result(Label23, "Label23", at(662, 330, 140, 20)),
     result(Label24, "Label24", at(466, 196, 132, 36)),
     result(Label25, "Label25", at(466, 312, 110, 18)),
