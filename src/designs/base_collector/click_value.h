@@ -31,7 +31,8 @@ consteval std::array<host::Handle, Count> fieldsOf(const ClickValue (&rows)[Coun
 /// The row of a field; null for one that has none.
 inline const ClickValue* clickValueOf(std::span<const ClickValue> rows, host::Handle field)
 {
-    const auto row = std::find_if(rows.begin(), rows.end(), [field](const ClickValue& one) { return one.field == field; });
+    const auto row =
+        std::find_if(rows.begin(), rows.end(), [field](const ClickValue& one) { return one.field == field; });
     return row == rows.end() ? nullptr : &*row;
 }
 
