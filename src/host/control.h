@@ -60,8 +60,8 @@ struct Place {
     friend bool operator==(const Place&, const Place&) = default;
 };
 
-/// Where a field's symbol stands.
-enum class SymbolSide : std::uint8_t { left, above };
+/// Where a field's symbol stands; with `part` the part beside the field bears it already.
+enum class SymbolSide : std::uint8_t { left, above, part };
 
 /// When a button, picture or image is the choice in force (a function, a mode, an option), and is to look chosen.
 enum class Chosen : std::uint8_t {

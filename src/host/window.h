@@ -83,7 +83,8 @@ struct WindowSpec {
     BiText sheetTitle{}; ///< of a sheet: the caption that a menu or clone gives it
     std::span<const GrowthRow> growth{};
     std::span<const ValueRow> values{};
-    /// Where a screen shows a control when that is not its place in the model; null: every control at its place.
+    /// Where a screen shows a control when that is not its place in the model; null: every control at its place. An empty
+    /// place keeps a text from the screen that would only say again what stands beside it.
     Place (*shownPlace)(const Window&, Handle) = nullptr;
     MainParts mainParts{};
 };

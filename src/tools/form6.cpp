@@ -59,7 +59,7 @@ constexpr host::ControlRow controls[] = {
      .look = Look::heading},
     {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {1800, 900, 4650, 2700},
      .text = "                Sin datos...", .look = Look::prompt},
-    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {300, 3750, 6150, 900}, .look = Look::note},
+    {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {300, 3750, 6150, 900}, .look = Look::prompt},
     {.id = Image2, .name = "Image2", .kind = Kind::image, .place = picturePlace, .visible = false,
      .meaning = {.es = "Señal sin deformar", .en = "Undistorted signal"}, .drawing = cleanSignal},
     {.id = Image3, .name = "Image3", .kind = Kind::image, .place = picturePlace, .visible = false,
@@ -77,9 +77,31 @@ constexpr host::SlotRow slots[] = {
 };
 // clang-format on
 
+/// A second text stands below the first one, alike, for comparison. Without a picture beside them both take its room.
+host::Place placeOfText(const host::Window& window, host::Handle control)
+{
+    constexpr host::Place page{1800, 900, 4650, 2700};
+    constexpr int half = 1650;
+    const bool two = !window.text(Label2).empty();
+    if (control == Label2 && !two)
+        return {};
+    host::Place place = page;
+    if (!window.visible(Image2) && !window.visible(Image3) && !window.visible(Image4) && !window.visible(Image5)) {
+        place.width += place.left - picturePlace.left;
+        place.left = picturePlace.left;
+    }
+    if (two)
+        place.height = half;
+    if (control == Label2)
+        place.top += half + 150;
+    return place;
+}
+
 // Two pictures at a time stand one below the other.
 host::Place shownPlaceOf(const host::Window& window, host::Handle control)
 {
+    if (control == Label1 || control == Label2)
+        return placeOfText(window, control);
     host::Place place = window.placeOf(control);
     if ((control == Image3 || control == Image5) && place == picturePlace && window.visible(Image2))
         place.top += place.height + 150;

@@ -19,7 +19,7 @@ bool isGround(const host::ControlRow& row)
 
 bool isWritten(const host::Window& window, const host::ControlRow& row)
 {
-    return window.visible(row.id) && !row.overlay && !isGround(row) &&
+    return window.visible(row.id) && !row.overlay && !isGround(row) && desktop::isPainted(window, row.id) &&
            window.text(row.id).find_first_not_of(" \n") != std::string::npos;
 }
 

@@ -170,7 +170,8 @@ class Program:
         """Waits for a text on the sheet in hand, whatever other sheets show."""
         def found():
             sheet = self.in_hand()
-            return sheet and any(re.search(pattern, node.get_name() or "") for node in self.all(sheet) if has(node, Atspi.StateType.SHOWING))
+            return sheet and any(re.search(pattern, node.get_name() or "") for node in self.all(sheet)
+                                 if has(node, Atspi.StateType.SHOWING))
 
         until(found, "on the sheet in hand " + pattern)
 
@@ -186,7 +187,7 @@ class Program:
         except GLib.Error:  # it is closed
             pass
         sheet = self.in_hand()
-        self.fields = {node.get_name().split(",")[0]: (node, sheet) for node in self.all(sheet)
+        self.fields = {node.get_name().split(",")[0]: (node, sheet) for node in reversed(self.all(sheet))
                        if node.get_role_name() == "text" and has(node, Atspi.StateType.SHOWING)}
         return self.fields[symbol][0] if symbol in self.fields else self.see("^" + re.escape(symbol) + ",", "text")
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Formulas that the emitter follower and the phase splitter share digit for digit: least supply, room of the
-// transistor, the current that a preset gives, and the powers of the analysis. Knows no sheet.
+// Formulas that the emitter follower and the phase splitter share digit for digit, some of them with the common base:
+// least supply, room of the transistor, the current that a preset gives, and the powers of the analysis. Knows no sheet.
 #pragma once
 
 #include "rules/real.h"

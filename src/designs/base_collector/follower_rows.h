@@ -38,7 +38,7 @@ constexpr sheets::Quantity unused(sheets::Quantity quantity)
 /// A quantity whose part bears the symbol already.
 constexpr sheets::Quantity besideItsPart(sheets::Quantity quantity)
 {
-    quantity.symbol = "";
+    quantity.side = host::SymbolSide::part;
     return quantity;
 }
 

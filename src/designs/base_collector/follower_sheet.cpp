@@ -60,9 +60,8 @@ void FollowerSheet::leaveField(host::EventArgs& args)
 
 void FollowerSheet::clickField(host::EventArgs& args)
 {
-    for (const ClickValue& row : tables_.clickValues)
-        if (row.field == args.control)
-            rewrite(row.field, row.text);
+    if (const ClickValue* row = clickValueOf(tables_.clickValues, args.control))
+        rewrite(row->field, row->text);
 }
 
 void FollowerSheet::openResistorTable(const host::EventArgs& args)

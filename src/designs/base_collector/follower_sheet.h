@@ -3,29 +3,14 @@
 // field that Enter closes behind it, and a finished design that ends with the first change. Knows no control.
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <span>
 #include <string_view>
 
+#include "designs/base_collector/click_value.h"
 #include "sheets/design_sheet.h"
 
 namespace velmor::base_collector {
 
-/// What a click writes into a field.
-struct ClickValue {
-    host::Handle field = host::noControl;
-    std::string_view text{};
-};
-/// The fields of such a table.
-template <std::size_t Count>
-consteval std::array<host::Handle, Count> fieldsOf(const ClickValue (&rows)[Count])
-{
-    std::array<host::Handle, Count> fields{};
-    for (std::size_t i = 0; i < Count; ++i)
-        fields[i] = rows[i].field;
-    return fields;
-}
 /// A field that Enter in another one closes.
 struct ClosedBehind {
     host::Handle field = host::noControl;

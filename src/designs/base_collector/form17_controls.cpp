@@ -111,7 +111,7 @@ constexpr auto rows = std::to_array<ControlRow>({
     hidden(disabled(field(Text20, "Text20", at(718, 119, 80, 22), "", besideItsPart(notation::Es)))),
     result(Label20, "Label20", at(636, 486, 150, 18)),
     result(Label21, "Label21", at(462, 486, 156, 36)),
-    result(Label22, "Label22", at(324, 170, 96, 18)),
+    result(Label22, "Label22", at(300, 170, 122, 18)),
     result(Label23, "Label23", at(662, 330, 140, 20)),
     result(Label24, "Label24", at(466, 196, 132, 36)),
     result(Label25, "Label25", at(466, 312, 110, 18)),
@@ -169,6 +169,12 @@ constexpr host::ValueRow valueRows[] = {
 static_assert(host::rowsInOrder(rows));
 static_assert(rows.size() == controlCount);
 
+/// "Rb1" below a field that bears the symbol already; with its value it says more.
+bool isBareName(const host::Window& window, host::Handle label)
+{
+    return window.text(label).find('=') == std::string::npos;
+}
+
 } // namespace controls_detail
 
 const std::span<const host::ControlRow> controls = controls_detail::rows;
@@ -178,8 +184,11 @@ const std::span<const host::ValueRow> values = controls_detail::valueRows;
 host::Place shownPlace(const host::Window& window, host::Handle control)
 {
     switch (control) {
-    case Label21:
     case Label24:
+        return controls_detail::isBareName(window, Label24) ? host::Place{} : controls[control].place;
+    case Label30:
+        return controls_detail::isBareName(window, Label30) ? host::Place{} : window.placeOf(control);
+    case Label21:
     case Text22:
     case Text23:
         return controls[control].place;

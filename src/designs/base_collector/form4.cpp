@@ -2,10 +2,10 @@
 // What holds `Form4` together: its tables of the chain, events, files and keys, its life, and what the slots of all fields share.
 #include "designs/base_collector/form4.h"
 
-#include <algorithm>
 #include <array>
 #include <memory>
 
+#include "designs/base_collector/click_value.h"
 #include "sheets/sheet_slots.h"
 #include "sheets/sheet_titles.h"
 
@@ -107,12 +107,7 @@ constexpr auto shortcuts = sheets::joined(sheets::toolKeys<tools>(), std::to_arr
     {"Ctrl+3", Image1,   KeyAction::click,  noControl, {"Quitar el editor de informes", "Put the report editor away"}},
 }));
 
-/// What a click writes into a field. A field that computes its value, or that has none, is not among them.
-struct ClickValue {
-    Handle field = noControl;
-    std::string_view text{};
-};
-constexpr ClickValue clickValues[] = {
+constexpr base_collector::ClickValue clickValues[] = {
     {Text1, "10"}, {Text3, "75"}, {Text4, "2.5"}, {Text8, "0.1"}, {Text9, "0.1"}, {Text11, "140"}, {Text10, "1"}, {Text2, "20"},
     {Text12, "20"}, {Text5, "30"}, {Text6, "100"}, {Text7, "0.6"},
 };
@@ -242,9 +237,7 @@ void Form4::clickField(host::EventArgs& args)
         write(Text14, inputVoltage());
     else if (field == Text18)
         proposeRes();
-    else if (const auto row = std::find_if(std::begin(clickValues), std::end(clickValues),
-                                           [field](const ClickValue& value) { return value.field == field; });
-             row != std::end(clickValues))
+    else if (const base_collector::ClickValue* row = base_collector::clickValueOf(clickValues, field))
         setText(field, row->text);
     if (field != Text17)
         q_.passed = false;

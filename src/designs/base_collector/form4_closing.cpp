@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The closing of `Form4`: emitter resistor, supply, collector resistor, the divider of the base, and the loop in which the student
 // turns the preset until the collector current is the one designed.
+#include "designs/base_collector/follower_formulas.h"
 #include "designs/base_collector/form4.h"
 #include "sheets/formulas.h"
 
@@ -285,9 +286,7 @@ bool Form4::workOutObtainedCurrent()
 
 bool Form4::obtainsItsCurrent() const
 {
-    const Real wanted = at(Text8);
-    const Real band = (10.0 / 100.0) * wanted;
-    return q_.ICheck <= wanted + band && q_.ICheck >= wanted - band;
+    return base_collector::withinATenth(q_.ICheck, at(Text8));
 }
 
 void Form4::keyText17(host::EventArgs& args)

@@ -175,6 +175,8 @@ host::Place shownPlace(const host::Window& window, host::Handle control)
     case Label21:
     case Label24:
         return controls[control].place;
+    case Label2:
+        return window.text(Label2).empty() ? host::Place{} : window.placeOf(control);
     case Label25:
         return atBase ? sheets::at(292, 364, 130, 18) : window.placeOf(control);
     case Text22:

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "designs/base_collector/follower_formulas.h"
 #include "sheets/formulas.h"
 
 namespace velmor::form4 {
@@ -17,7 +18,6 @@ constexpr double leastEq = 3.0;
 constexpr double fixedJunction = 0.6;
 constexpr double twoPi = 6.28;
 constexpr double tenth = 0.1;
-constexpr double rms = 0.707;
 
 Real atLeast(Real least, Real value)
 {
@@ -114,9 +114,7 @@ Real upperBaseResistor(const BaseCircuit& circuit)
 Real obtainedCurrent(const CurrentCheck& circuit)
 {
     const Real base = (circuit.Res * 1000.0) * (circuit.QIc / 1000.0) + fixedJunction;
-    const Real upper = (circuit.Es - base) / (circuit.Rb1 * 1000.0);
-    const Real lower = base / (circuit.Rb2 * 1000.0);
-    return ((upper - lower) * circuit.Beta) * 1000.0;
+    return base_collector::obtainedCurrent(circuit.Es - base, circuit.Rb1, base, circuit.Rb2, circuit.Beta);
 }
 
 Real inputCapacitor(Real fo, Real ReDyn)
@@ -131,7 +129,7 @@ Real emitterBypass(Real fo, Real Res)
 
 Real outputPower(Real Eopp, Real RLw)
 {
-    return square((Eopp / 2.0) * rms) / (RLw * 1000.0);
+    return base_collector::signalPower(Eopp, RLw);
 }
 
 Real generatorPower(Real Eopp, Real Vg, Real Zin)

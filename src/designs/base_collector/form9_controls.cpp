@@ -159,7 +159,7 @@ constexpr auto rows = std::to_array<ControlRow>({
     hidden(result(Label30, "Label30", at(846, 482, 66, 36))),
     hidden(result(Label31, "Label31", at(956, 482, 56, 36))),
     hidden(marked(result(Label32, "Label32", at(746, 226, 90, 18)), obtainedName)),
-    marked(result(Voltaje, "Voltaje", at(684, 488, 100, 18)), emitterVoltageName),
+    marked(result(Voltaje, "Voltaje", at(665, 488, 100, 18)), emitterVoltageName),
     hidden(label(Label19, "Label19", at(zones::right, 352, 172, 96), Look::hint)),
     hidden(label(Label29, "Label29", at(zones::left, 544, zones::width, 68), Look::hint)),
     hidden({.id = Frame1, .name = "Frame1", .kind = Kind::panel, .place = at(zones::right, 456, 172, 64),

@@ -109,7 +109,8 @@ inline constexpr auto line41  = onPaper({wire(790, 220, 790, 490)});
 inline constexpr auto shape20 = onPaper({Mark{.symbol = Symbol::text, .from = {810, 224}, .name = "0.6 V"}});
 inline constexpr auto shape21 = onPaper({Mark{.symbol = Symbol::label, .from = {810, 284}, .name = "E_q", .value = Text3}});
 inline constexpr auto shape22 = onPaper({Mark{.symbol = Symbol::label, .from = {810, 408}, .name = "E_Res", .value = Text8}});
-inline constexpr auto shape23 = onPaper({Mark{.symbol = Symbol::label, .from = {810, 490}, .name = "-E_bias", .value = Text9}});
+inline constexpr auto shape23 = onPaper({Mark{.symbol = Symbol::label, .from = {810, 490}, .name = "-E_bias", .value = Text9,
+                                              .unit = "V"}});
 inline constexpr auto shape24 = onPaper({Mark{.symbol = Symbol::text, .from = {790, 536},
     .note = {"sume las caidas", "add the drops"}, .side = Side::below, .ink = Ink::quiet, .size = 84}});
 // clang-format on

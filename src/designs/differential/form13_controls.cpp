@@ -26,6 +26,9 @@ using namespace sheets; // NOLINT(google-build-using-namespace): the words of th
 
 constexpr int fieldsTop = 94;
 constexpr Place help = at(898, 94, 296, 518);
+constexpr Place wideHelp = at(806, 94, 388, 518);
+constexpr Place besideStraightInput = at(246, 402, 120, 18);
+constexpr int lowHeight = 32 * twipsPerUnit;
 constexpr Place viewButton = at(966, 286, 228, 30);
 
 constexpr ControlRow picture(host::Handle id, std::string_view name, host::BiText meaning,
@@ -45,6 +48,13 @@ constexpr ControlRow grown(host::Handle id, std::string_view name, const Part<Co
 constexpr ControlRow later(host::Handle id, std::string_view name, const Place& place)
 {
     return hidden(result(id, name, place));
+}
+/// The current of a transistor: the part draws it, with its unit; the pointer finds it here.
+constexpr ControlRow current(host::Handle id, std::string_view name, const Place& place)
+{
+    ControlRow row = later(id, name, place);
+    row.look = Look::drawn;
+    return row;
 }
 /// A field of the chain: each comes when the one before it is done.
 constexpr ControlRow given(host::Handle id, std::string_view name, int row, std::string_view text,
@@ -79,33 +89,32 @@ constexpr auto controls = std::to_array<ControlRow>({
     grown(Shape10, "Shape10", drawings::straightInputs),
 
     later(Label1,  "Label1",  at(572, 100, 120, 20)),
-    later(Label2,  "Label2",  at(290, 158, 96, 20)),
-    later(Label3,  "Label3",  at(290, 182, 96, 20)),
-    later(Label4,  "Label4",  at(412, 436, 60, 32)),
-    later(Label5,  "Label5",  at(486, 148, 120, 18)),
-    later(Label7,  "Label7",  at(574, 352, 136, 18)),
-    later(Label8,  "Label8",  at(514, 168, 120, 18)),
-    later(Label9,  "Label9",  at(500, 192, 120, 18)),
-    later(Label10, "Label10", at(734, 152, 80, 18)),
-    later(Label11, "Label11", at(734, 174, 80, 18)),
-    later(Label12, "Label12", at(730, 290, 84, 36)),
-    later(Label13, "Label13", at(606, 404, 104, 18)),
-    later(Label14, "Label14", at(500, 242, 120, 18)),
-    later(Label15, "Label15", at(500, 222, 120, 18)),
-    later(Label16, "Label16", at(412, 404, 104, 18)),
-    later(Label17, "Label17", at(574, 326, 120, 18)),
-    later(Label19, "Label19", at(246, 398, 140, 18)),
-    later(Label20, "Label20", at(246, 474, 74, 18)),
-    later(Label21, "Label21", at(844, 200, 110, 18)),
-    later(Label22, "Label22", at(352, 484, 110, 18)),
-    later(Label23, "Label23", at(832, 140, 124, 38)),
-    later(Label24, "Label24", at(834, 392, 122, 18)),
-    later(Label30, "Label30", at(730, 226, 58, 18)),
-    later(Label31, "Label31", at(486, 288, 56, 18)),
-    later(Label32, "Label32", at(302, 258, 88, 18)),
-    later(Label33, "Label33", at(844, 226, 60, 18)),
-    later(Label35, "Label35", at(246, 548, 150, 18)),
-
+    later(Label2,  "Label2",  at(286, 152, 84, 18)),
+    later(Label3,  "Label3",  at(286, 170, 84, 18)),
+    current(Label4, "Label4", at(412, 443, 70, 20)),
+    later(Label5,  "Label5",  at(486, 181, 70, 18)),
+    later(Label7,  "Label7",  at(574, 341, 136, 18)),
+    later(Label8,  "Label8",  at(574, 181, 68, 18)),
+    later(Label9,  "Label9",  at(486, 199, 70, 18)),
+    later(Label10, "Label10", at(734, 136, 84, 18)),
+    later(Label11, "Label11", at(734, 181, 84, 18)),
+    later(Label12, "Label12", at(736, 282, 74, 36)),
+    later(Label13, "Label13", at(642, 398, 72, 18)),
+    later(Label14, "Label14", at(574, 227, 70, 18)),
+    later(Label15, "Label15", at(486, 227, 70, 18)),
+    later(Label16, "Label16", at(412, 398, 84, 18)),
+    later(Label17, "Label17", at(574, 322, 120, 18)),
+    later(Label19, "Label19", at(246, 357, 140, 18)),
+    later(Label20, "Label20", at(246, 444, 84, 18)),
+    later(Label21, "Label21", at(836, 172, 110, 18)),
+    later(Label22, "Label22", at(354, 490, 110, 18)),
+    later(Label23, "Label23", at(858, 198, 100, 36)),
+    later(Label24, "Label24", at(862, 386, 95, 18)),
+    later(Label30, "Label30", at(730, 243, 86, 18)),
+    current(Label31, "Label31", at(486, 281, 70, 20)),
+    later(Label32, "Label32", at(322, 261, 72, 18)),
+    current(Label33, "Label33", at(830, 266, 76, 20)),
+    later(Label35, "Label35", at(246, 377, 140, 18)),
     shown(given(Text1, "Text1", 0, "",      notation::T)),
     given(Text2,  "Text2",  1,  "1000",  notation::Vg),
     given(Text3,  "Text3",  2,  "3",     notation::Eopp),
@@ -199,15 +208,21 @@ constexpr host::Handle notes[] = {Label34};
 // clang-format on
 
 /// The pictures and what lies on them are placed by the course's own drawing; the screen keeps each beside its part. A box that
-/// was made low still shows what it is.
+/// was made low still shows what it is. The help page takes what room its text needs.
 Place place(const host::Window& window, host::Handle control)
 {
     for (const Box& box : boxes)
         if (box.box == control) {
             Place low = window.placeOf(control);
-            low.height = low.height == lowBox ? 26 * twipsPerUnit : low.height;
+            low.height = low.height == lowBox ? lowHeight : low.height;
             return low;
         }
+    if (control == Text22 || control == Text23)
+        return wideHelp;
+    if ((control == Label22 || control == Label35) && window.visible(image2))
+        return {}; // the mirror takes the inputs straight: it has no Rb1 and no C1
+    if (control == Label19 && window.visible(image2))
+        return besideStraightInput;
     if (control == Image1 || control == image2 || (control >= Label1 && control <= Label35))
         return window.row(control).place;
     return window.placeOf(control);

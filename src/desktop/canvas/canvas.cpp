@@ -188,7 +188,7 @@ bool Canvas::isGround(Handle control) const
 void Canvas::paintOne(QPainter& painter, Handle control, const QRegion& clip)
 {
     if (model_ == nullptr || !paints(control) || model_->row(control).look == host::Look::invisible ||
-        isGround(control))
+        isGround(control) || host::shownPlace(*model_, control) == host::Place{})
         return;
     if (!clip.isEmpty() && !clip.intersects(ink(control).toAlignedRect()))
         return;

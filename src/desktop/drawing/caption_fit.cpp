@@ -149,6 +149,16 @@ Answer measure(const QString& text, const QFont& font, QSizeF room, int flags)
     return {font, box, box.width() <= room.width() + 0.5 && box.height() <= room.height() + slack};
 }
 
+/// A box of explanations that was made low keeps its first line.
+QString firstLineOf(const QString& text, const Manner& manner, QSizeF room, double pixels)
+{
+    const QFontMetricsF metrics(fontOf(manner, pixels));
+    if (room.height() >= 2.0 * metrics.height())
+        return text;
+    const QString line = text.section(QLatin1Char('\n'), 0, 0);
+    return metrics.elidedText(line == text ? line : line + QStringLiteral(" …"), Qt::ElideRight, room.width());
+}
+
 /// What decides an answer; the same labels are set at every repaint.
 struct Question {
     QString text;
@@ -225,6 +235,8 @@ CaptionSetting setCaption(const host::Window& window, host::Handle control, cons
     if (isPage(manner, setting.text))
         setting.flags = (setting.flags & ~static_cast<int>(Qt::AlignVCenter)) | Qt::AlignTop;
     const double wanted = wantedPixels(window, control, manner, view);
+    if (window.row(control).look == Look::lesson)
+        setting.text = firstLineOf(setting.text, manner, setting.room.size(), wanted);
     const Answer answer = answerTo(setting.text, manner, setting.room.size(), setting.flags, wanted);
     setting.font = answer.font;
     setting.box = answer.box.translated(setting.room.topLeft());

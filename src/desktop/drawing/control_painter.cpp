@@ -447,6 +447,8 @@ bool isPainted(const host::Window& window, Handle control)
     const host::ControlRow& row = window.row(control);
     if (toneOf(GrowthPlan::of(window.spec()), window, control) == host::Tone::away)
         return false;
+    if (host::shownPlace(window, control) == host::Place{})
+        return false;
     for (Handle part = row.parent; part != host::noControl; part = window.row(part).parent)
         if (!window.visible(part))
             return false;

@@ -87,7 +87,7 @@ Setting symbolOf(const Window& window, Handle field, const View& view)
 {
     Setting setting;
     const host::ControlRow& row = window.row(field);
-    if (row.symbol.empty())
+    if (row.symbol.empty() || row.symbolSide == host::SymbolSide::part)
         return setting;
     const QRectF box = boxOf(window, field, view);
     const double space = gap * view.pixelsPerUnit();

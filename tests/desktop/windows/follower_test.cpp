@@ -6,6 +6,8 @@
 #include "designs/base_collector/form17_controls.h"
 #include "designs/base_collector/form9_controls.h"
 #include "desktop/desktop_fixture.h"
+#include "desktop/drawing/control_painter.h"
+#include "desktop/drawing/field_marks.h"
 #include "desktop/written_texts.h"
 #include "program/catalogue.h"
 
@@ -103,6 +105,27 @@ TEST_P(FollowerTest, aSplitterIsDesignedByTheKeyboardAndEveryTextFits)
     expectLeafFits("a heavy input");
     on.click(*sheet, Picture1);
     EXPECT_EQ(on.engine.instance("Form6", 0), nullptr);
+}
+
+TEST_P(FollowerTest, aFieldWhosePartBearsItsSymbolStillSaysIt)
+{
+    open("Form9");
+    EXPECT_TRUE(on.widgetOf(*sheet, form9::Text20)->accessibleName().startsWith(QStringLiteral("Es, ")));
+    desktop::View view;
+    EXPECT_TRUE(desktop::symbolBounds(*sheet, form9::Text20, view).isEmpty());
+    EXPECT_FALSE(desktop::symbolBounds(*sheet, form9::Text17, view).isEmpty());
+}
+
+TEST_P(FollowerTest, aNameIsNotWrittenBelowTheFieldThatBearsIt)
+{
+    using namespace form17;
+    open("Form17");
+    ASSERT_EQ(sheet->text(Label24), "Rb1");
+    EXPECT_FALSE(desktop::isPainted(*sheet, Label24));
+    for (const host::Handle field : {Text12, Text5, Text6, Text7, Text2, Text4, Text9})
+        enter(field);
+    EXPECT_EQ(sheet->text(Label30), " Rlw=0.5K");
+    EXPECT_TRUE(desktop::isPainted(*sheet, Label30));
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, FollowerTest, ::testing::Bool(),
