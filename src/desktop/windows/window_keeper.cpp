@@ -270,9 +270,8 @@ void WindowKeeper::followFocusBehind()
     WindowFrame* frame = child == nullptr ? nullptr : frameOf(*child);
     if (!main_ || main_->isActiveWindow() || frame == nullptr || frame->view() == nullptr)
         return;
-    QWidget* target = frame->view()->canvas().focusTarget();
-    if (main_->focusWidget() != target)
-        target->setFocus(Qt::OtherFocusReason);
+    if (main_->focusWidget() != frame->view()->canvas().focusTarget())
+        frame->view()->followFocus();
 }
 
 void WindowKeeper::postFocus()
