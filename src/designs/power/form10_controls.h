@@ -95,7 +95,7 @@ inline constexpr auto controls = [] {
         result(Label9, "Label9",  at(246, 144, 174, 36)),
         result(Label10, "Label10", at(246, 184, 174, 36)),
         label(Label11, "Label11", at(524, 424, 60, 16), Look::invisible),
-        result(Label12, "Label12", at(744, 340, 88, 34)),
+        result(Label12, "Label12", at(744, 340, 78, 34)),
         result(Label13, "Label13", at(636, 296, 80, 34)),
         hidden(result(Label14, "Label14", at(856, 328, 96, 18), "0.47 ohm 2W")),
         hidden(result(Label15, "Label15", at(856, 414, 96, 18), "0.47 ohm 2W")),

@@ -118,7 +118,7 @@ inline constexpr auto controls = [] {
         part(Line12, "Line12", drawing::input<Control>),
 
         hidden(result(Label1, "Label1", at(854, 262, 130, 18), "EQ")),
-        result(Label2,  "Label2",  at(290, 306, 134, 34)),
+        result(Label2,  "Label2",  at(290, 306, 124, 34)),
         drawnWith(label(Label3, "Label3", zones::parameter(transistorTop, 1), Look::result, "30 V"), voltageLimitName),
         unseen(Label4,  "Label4",  "Po"),
         result(Label5,  "Label5",  at(290, 216, 130, 18)),
