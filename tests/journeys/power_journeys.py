@@ -224,7 +224,8 @@ class ClassB(Power):
         velmor.type("1.3")
         velmor.key("Return")
         # 12 V over 1.8 K are 6.6667 mA, r'e is 3.75 ohms: 375 // 1000 // 10000; 1800 // 400 over 3.75; 15.9523 over 87.2727
-        velmor.shows(r"Rb1b = 265\.4867 Ohms Rs = 20 x Zin = 5309\.7345 Ohms .* Vg\(T1\) = 87\.2727 times .* Ein = Eopp / Vg = 0\.1828 Volts")
+        velmor.shows(r"Rb1b = 265\.4867 Ohms Rs = 20 x Zin = 5309\.7345 Ohms .* Vg\(T1\) = 87\.2727 times"
+                     r" .* Ein = Eopp / Vg = 0\.1828 Volts")
         velmor.key("Return")
         velmor.design(
             # 5600 / 265.4867 x 0.1828; the capacitors for 20 c/s

@@ -84,10 +84,11 @@ constexpr ControlRow onDrawing(host::Handle id, std::string_view name, int left,
 }
 
 // The kinds of load. Which one is in force is seen once the question is answered.
-inline constexpr auto resistorFace    = joined(std::array{wire(16, 20, 36, 20), wire(48, 20, 68, 20), nameOfLoad({"Resistencia", "Resistor"})},
-                                               small_symbols::Resistor<42, 20, false>::marks);
-inline constexpr auto loudspeakerFace = joined(std::array{wire(22, 20, 36, 20), nameOfLoad({"Parlante", "Speaker"})},
-                                               small_symbols::Loudspeaker<36, 20>::marks);
+inline constexpr auto resistorFace = joined(
+    std::array{wire(16, 20, 36, 20), wire(48, 20, 68, 20), nameOfLoad({"Resistencia", "Resistor"})},
+    small_symbols::Resistor<42, 20, false>::marks);
+inline constexpr auto loudspeakerFace = joined(
+    std::array{wire(22, 20, 36, 20), nameOfLoad({"Parlante", "Speaker"})}, small_symbols::Loudspeaker<36, 20>::marks);
 constexpr ControlRow kindOfLoad(ControlRow row, host::Handle unless)
 {
     return hidden(chosen(row, host::Chosen::whenShown, unless));
@@ -153,8 +154,10 @@ inline constexpr auto controls = [] {
         hidden({.id = Text12, .name = "Text12", .kind = Kind::field, .place = at(16, circuitTop + 108, 204, 22),
                 .text = "Click en Resistencia ó Parlante", .meaning = {"Elija resistencia ó parlante", "Choose resistor or loudspeaker"}}),
 
-        kindOfLoad(option(Image1, "Image1", Kind::image, zones::option(0), {"Carga: resistencia", "Load: resistor"}, resistorFace), Image2),
-        kindOfLoad(option(Image2, "image2", Kind::image, zones::option(1), {"Carga: parlante", "Load: loudspeaker"}, loudspeakerFace), Text12),
+        kindOfLoad(option(Image1, "Image1", Kind::image, zones::option(0), {"Carga: resistencia", "Load: resistor"}, resistorFace),
+                   Image2),
+        kindOfLoad(option(Image2, "image2", Kind::image, zones::option(1), {"Carga: parlante", "Load: loudspeaker"}, loudspeakerFace),
+                   Text12),
 
         guideTool(SSCommand1, "SSCommand1", Kind::button),
         calculatorTool(SSCommand3, "SSCommand3", Kind::button),

@@ -116,7 +116,7 @@ private:
     std::unordered_map<const QObject*, host::Handle> handles_;
     mutable std::vector<QRectF> ink_;
     std::vector<host::Place> places_; ///< where each control was shown last
-    bool laidOut_ = false; ///< has a size; until then nothing is worth placing
+    bool laidOut_ = false;            ///< has a size; until then nothing is worth placing
     std::unique_ptr<Pointer> pointer_;
     std::unique_ptr<Keyboard> keyboard_;
 };
