@@ -91,6 +91,7 @@ struct ControlRow {
     bool overlay = false;               ///< lies above the fields (help boxes, grown panels)
     bool clickableWhenDisabled = false; ///< the mouse counts on it even when it is disabled
     Chosen chosen = Chosen::never;      ///< of what acts as a button
+    Handle chosenUnless = noControl;    ///< while this control is visible, the choice is still open or another one
     std::int16_t fontSize = 8;          ///< points
     std::int32_t interval = 0;          ///< of a timer: milliseconds between two firings
     std::int32_t backColor = -1;        ///< 0xRRGGBB, -1 the look's own

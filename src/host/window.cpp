@@ -258,11 +258,12 @@ Place shownPlace(const Window& window, Handle control)
 
 bool isChosen(const Window& window, Handle control)
 {
-    switch (window.row(control).chosen) {
+    const ControlRow& row = window.row(control);
+    switch (row.chosen) {
     case Chosen::whenDisabled:
         return !window.enabled(control);
     case Chosen::whenShown:
-        return window.visible(control);
+        return window.visible(control) && (row.chosenUnless == noControl || !window.visible(row.chosenUnless));
     case Chosen::never:
         break;
     }

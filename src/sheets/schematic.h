@@ -204,9 +204,10 @@ constexpr host::ControlRow option(host::Handle id, std::string_view name, host::
             .drawing = drawing};
 }
 /// A button that looks chosen while its choice is in force.
-constexpr host::ControlRow chosen(host::ControlRow row, host::Chosen when)
+constexpr host::ControlRow chosen(host::ControlRow row, host::Chosen when, host::Handle unless = host::noControl)
 {
     row.chosen = when;
+    row.chosenUnless = unless;
     return row;
 }
 

@@ -74,7 +74,7 @@ constexpr host::ControlRow controls[] = {
     {.id = SSCommand2, .name = "SSCommand2", .kind = Kind::button, .place = {7050, 7830, 2100, 540}, .text = "Volver", .visible = false},
     {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {600, 420, 5100, 420}, .look = Look::heading},
     {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {6300, 420, 5100, 420}, .look = Look::heading},
-    {.id = Label3, .name = "Label3", .kind = Kind::label, .place = {600, 420, 10800, 7050},
+    {.id = Label3, .name = "Label3", .kind = Kind::label, .place = {600, 420, 10800, 6390},
      .visible = false, .look = Look::prompt, .fontSize = 11},
     {.id = Label4, .name = "Label4", .kind = Kind::label, .place = {600, 420, 6900, 7050}, .visible = false, .look = Look::prompt},
     {.id = Label5, .name = "Label5", .kind = Kind::label, .place = {7950, 150, 3760, 8175}, .visible = false, .look = Look::prompt},

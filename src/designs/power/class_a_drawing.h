@@ -31,14 +31,14 @@ inline constexpr auto load = part({
 template <class C>
 inline constexpr auto driver = part({
     Mark{.symbol = Symbol::npn, .from = {590, 370}, .name = "Q_1", .field = C::Text11},
-    Mark{.symbol = Symbol::label, .from = {636, 394}, .name = "β_1", .value = C::Text11, .field = C::Text11},
+    Mark{.symbol = Symbol::label, .from = {636, 398}, .name = "β_1", .value = C::Text11, .field = C::Text11},
     wire(620, 400, 620, 540),
     ground(620, 540),
 });
 template <class C>
 inline constexpr auto outputTransistor = part({
     Mark{.symbol = Symbol::npn, .from = {770, 270}, .name = "Q_2", .field = C::Text10},
-    Mark{.symbol = Symbol::label, .from = {816, 294}, .name = "β_2", .value = C::Text10, .field = C::Text10},
+    Mark{.symbol = Symbol::label, .from = {816, 298}, .name = "β_2", .value = C::Text10, .field = C::Text10},
 });
 template <class C>
 inline constexpr auto outputBranch = part({

@@ -23,8 +23,9 @@ constexpr int topOfLabel2 = 560;
 constexpr int topOfLabel9 = 2200;
 constexpr int topOfLabel10 = 7500;
 constexpr int widthOfSignal = 4500;
-// The voice takes the strip of the next step as well while it has more to say than two lines.
-constexpr host::Place wholeVoice = sheets::at(0, 0, 1200, 92);
+// While the voice has more to say than two lines, the next step stands beside it.
+constexpr host::Place longVoice = sheets::at(0, 0, 790, 90);
+constexpr host::Place stepBesideVoice = sheets::at(798, 4, 396, 86);
 constexpr host::Place helpOnPaper = sheets::at(246, 104, 300, 460);
 
 bool isLong(const std::string& text)
@@ -71,8 +72,10 @@ host::Place placeOnScreen(const host::Window& window, Handle control)
 {
     if (control == Text22 || control == Text23)
         return helpOnPaper;
-    if (control == Label1 && isLong(window.text(Label1)))
-        return wholeVoice;
+    if (control == Label1 || control == Label28) {
+        const bool beside = isLong(window.text(Label1));
+        return !beside ? window.placeOf(control) : control == Label1 ? longVoice : stepBesideVoice;
+    }
     const bool laid = control == Label2 || control == Label9 || control == Label10;
     return laid ? window.row(control).place : window.placeOf(control);
 }

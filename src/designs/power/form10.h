@@ -228,7 +228,7 @@ inline constexpr auto growth = std::to_array<host::GrowthRow>({
 });
 // value, part
 inline constexpr auto values = std::to_array<host::ValueRow>({
-    {Label3, Line1}, {Label4, Line1}, {Label5, Line3}, {Label6, Line3}, {Label12, Line3}, {Label13, Line3}, {Label14, Line10},
+    {Label3, Line1}, {Label4, Line1}, {Label5, Line3}, {Label6, Line3}, {Label12, Line8}, {Label13, Line3}, {Label14, Line10},
     {Label15, Line10},
 });
 

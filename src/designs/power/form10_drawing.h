@@ -2,7 +2,7 @@
 // The handles of `Form10` and the parts of its schematic, counted from the corner of the sheet on a grid of 10. Knows no slot and no
 // formula.
 //
-// Columns: generator 280, feedback 420, driver 590, its load 620, bootstrap 730, output pair 800, loudspeaker 940.
+// Columns: generator 280, feedback 420, driver 590, its load 620, bootstrap 730, output pair 840, loudspeaker 960.
 // Rows: supply 120, upper base 290, output 380, lower base 470, driver's base 500, ground 560.
 #pragma once
 
@@ -45,35 +45,35 @@ inline constexpr auto title = sheets::titleBlock({"Amplificador clase B, simetr�
                                                   "Class B amplifier, complementary symmetry"});
 
 inline constexpr auto outputPair = part({
-    Mark{.symbol = Symbol::npn, .from = {770, 290}, .name = "Q_2", .side = Side::right, .field = Text12},
-    Mark{.symbol = Symbol::pnp, .from = {770, 470}, .name = "Q_3", .side = Side::right, .field = Text12},
-    wire(800, 500, 800, 560), ground(800, 560),
+    Mark{.symbol = Symbol::npn, .from = {810, 290}, .name = "Q_2", .side = Side::right, .field = Text12},
+    Mark{.symbol = Symbol::pnp, .from = {810, 470}, .name = "Q_3", .side = Side::right, .field = Text12},
+    wire(840, 500, 840, 560), ground(840, 560),
 });
 inline constexpr auto supply = part({
-    wire(620, 120, 897, 120), node(800, 120), wire(800, 120, 800, 260),
+    wire(620, 120, 897, 120), node(840, 120), wire(840, 120, 840, 260),
     Mark{.symbol = Symbol::terminal, .from = {900, 120}, .name = "E_s", .side = Side::right, .value = Text10, .unit = "V", .field = Text10},
 });
 inline constexpr auto output = part({
-    node(800, 380), wire(800, 380, 840, 380),
-    Mark{.symbol = Symbol::polarised, .from = {840, 380}, .to = {880, 380}, .name = "C_oo", .side = Side::below},
-    wire(880, 380, 940, 380), wire(940, 380, 940, 430),
-    Mark{.symbol = Symbol::loudspeaker, .from = {940, 430}, .to = {940, 490}, .name = "R_Lw", .side = Side::left, .value = Text2,
+    node(840, 380), wire(840, 380, 880, 380),
+    Mark{.symbol = Symbol::polarised, .from = {880, 380}, .to = {920, 380}, .name = "C_oo", .side = Side::below},
+    wire(920, 380, 960, 380), wire(960, 380, 960, 430),
+    Mark{.symbol = Symbol::loudspeaker, .from = {960, 430}, .to = {960, 490}, .name = "R_Lw", .side = Side::left, .value = Text2,
          .unit = "Ω", .field = Text2},
-    wire(940, 490, 940, 560), ground(940, 560),
+    wire(960, 490, 960, 560), ground(960, 560),
 });
 inline constexpr auto driver = part({
-    node(620, 290), wire(620, 290, 770, 290), wire(620, 290, 620, 300),
+    node(620, 290), wire(620, 290, 810, 290), wire(620, 290, 620, 300),
     Mark{.symbol = Symbol::resistor, .from = {620, 300}, .to = {620, 360}, .name = "R_d", .side = Side::left},
     wire(620, 360, 620, 390),
     Mark{.symbol = Symbol::diode, .from = {620, 390}, .to = {620, 430}, .name = "E_d", .side = Side::left},
-    wire(620, 430, 620, 470), node(620, 470), wire(590, 470, 770, 470),
+    wire(620, 430, 620, 470), node(620, 470), wire(590, 470, 810, 470),
     Mark{.symbol = Symbol::npn, .from = {560, 500}, .name = "Q_1", .side = Side::right, .field = Text5},
     wire(590, 530, 590, 560), ground(590, 560),
     Mark{.symbol = Symbol::arrow, .from = {644, 218}, .to = {644, 262}, .name = "I_bias", .side = Side::right, .value = Text5,
          .unit = "mA", .field = Text5},
 });
 inline constexpr auto feedback = part({
-    wire(800, 380, 580, 380),
+    wire(840, 380, 580, 380),
     Mark{.symbol = Symbol::resistor, .from = {520, 380}, .to = {580, 380}, .name = "R_b1a", .side = Side::above, .value = Text6,
          .unit = "kΩ", .field = Text6},
 });
@@ -116,11 +116,11 @@ inline constexpr auto input = part({
     wire(400, 500, 420, 500), node(420, 500),
 });
 inline constexpr auto emitterResistors = part({
-    Mark{.symbol = Symbol::resistor, .from = {800, 320}, .to = {800, 380}, .field = Text11},
-    Mark{.symbol = Symbol::resistor, .from = {800, 380}, .to = {800, 440}, .field = Text11},
+    Mark{.symbol = Symbol::resistor, .from = {840, 320}, .to = {840, 380}, .field = Text11},
+    Mark{.symbol = Symbol::resistor, .from = {840, 380}, .to = {840, 440}, .field = Text11},
 });
 inline constexpr auto peakCurrent = part({
-    Mark{.symbol = Symbol::arrow, .from = {956, 380}, .to = {956, 424}, .name = "I_p", .side = Side::right},
+    Mark{.symbol = Symbol::arrow, .from = {976, 380}, .to = {976, 424}, .name = "I_p", .side = Side::right},
 });
 
 } // namespace drawing

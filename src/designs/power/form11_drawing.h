@@ -3,7 +3,7 @@
 // emitter resistor for the driver, the circuit that replaces Rd and the diodes. Knows no slot and no formula.
 //
 // Columns: generator 270, feedback 430, driver 590, its load 620, bootstrap 710, drivers of the outputs 750, outputs 820,
-// loudspeaker 940. Rows: supply 120, A 270, output 380, B 450, driver's base 480, ground 560.
+// loudspeaker 960. Rows: supply 120, A 270, output 380, B 450, driver's base 480, ground 560.
 #pragma once
 
 #include "designs/power/form10_drawing.h"
@@ -51,10 +51,10 @@ inline constexpr auto supply = part({
 inline constexpr auto output = part({
     node(820, 380), wire(820, 380, 850, 380),
     Mark{.symbol = Symbol::polarised, .from = {850, 380}, .to = {890, 380}, .name = "C_oo", .side = Side::above},
-    wire(890, 380, 940, 380), wire(940, 380, 940, 430),
-    Mark{.symbol = Symbol::loudspeaker, .from = {940, 430}, .to = {940, 490}, .name = "R_Lw", .side = Side::left, .value = Text2,
+    wire(890, 380, 960, 380), wire(960, 380, 960, 430),
+    Mark{.symbol = Symbol::loudspeaker, .from = {960, 430}, .to = {960, 490}, .name = "R_Lw", .side = Side::left, .value = Text2,
          .unit = "Ω", .field = Text2},
-    wire(940, 490, 940, 560), ground(940, 560),
+    wire(960, 490, 960, 560), ground(960, 560),
 });
 inline constexpr auto driver = part({
     node(620, 270), wire(620, 270, 720, 270),

@@ -72,16 +72,27 @@ constexpr ControlRow drawnWith(ControlRow row, std::span<const Mark> drawing)
     return row;
 }
 inline constexpr Mark voltageLimitName[] = {{.symbol = Symbol::label, .from = {-8, 11}, .name = "E_c(max)", .side = host::Side::left}};
+/// Written below the picture of a kind of load.
+constexpr Mark nameOfLoad(host::BiText name)
+{
+    return {.symbol = Symbol::text, .from = {42, 38}, .note = name, .side = host::Side::below, .size = 90};
+}
 /// A field beside its part, on the drawing.
 constexpr ControlRow onDrawing(host::Handle id, std::string_view name, int left, int top, const Quantity& quantity)
 {
     return disabled(field(id, name, at(left, top, 84, 22), "", notation::above(quantity)));
 }
 
-// The kinds of load.
-inline constexpr auto resistorFace    = joined(std::array{wire(16, 22, 36, 22), wire(48, 22, 68, 22)},
-                                               small_symbols::Resistor<42, 22, false>::marks);
-inline constexpr auto loudspeakerFace = joined(std::array{wire(14, 22, 34, 22)}, small_symbols::Loudspeaker<34, 22>::marks);
+// The kinds of load. Which one is in force is seen once the question is answered.
+inline constexpr auto resistorFace = joined(
+    std::array{wire(16, 20, 36, 20), wire(48, 20, 68, 20), nameOfLoad({"Resistencia", "Resistor"})},
+    small_symbols::Resistor<42, 20, false>::marks);
+inline constexpr auto loudspeakerFace = joined(
+    std::array{wire(22, 20, 36, 20), nameOfLoad({"Parlante", "Speaker"})}, small_symbols::Loudspeaker<36, 20>::marks);
+constexpr ControlRow kindOfLoad(ControlRow row, host::Handle unless)
+{
+    return hidden(chosen(row, host::Chosen::whenShown, unless));
+}
 
 } // namespace controls_detail
 
@@ -108,11 +119,11 @@ inline constexpr auto controls = [] {
         part(Line12, "Line12", drawing::input<Control>),
 
         hidden(result(Label1, "Label1", at(854, 262, 130, 18), "EQ")),
-        result(Label2,  "Label2",  at(290, 306, 134, 34)),
+        result(Label2,  "Label2",  at(290, 306, 124, 34)),
         drawnWith(label(Label3, "Label3", zones::parameter(transistorTop, 1), Look::result, "30 V"), voltageLimitName),
         unseen(Label4,  "Label4",  "Po"),
         result(Label5,  "Label5",  at(290, 216, 130, 18)),
-        hidden(result(Label8, "Label8", at(688, 286, 80, 34))),
+        hidden(result(Label8, "Label8", at(670, 286, 80, 34))),
         unseen(Label9,  "Label9",  "RL"),
         result(Label10, "Label10", at(486, 158, 108, 18)),
         unseen(Label11, "Label11", "Es"),
@@ -143,8 +154,10 @@ inline constexpr auto controls = [] {
         hidden({.id = Text12, .name = "Text12", .kind = Kind::field, .place = at(16, circuitTop + 108, 204, 22),
                 .text = "Click en Resistencia ó Parlante", .meaning = {"Elija resistencia ó parlante", "Choose resistor or loudspeaker"}}),
 
-        hidden(option(Image1, "Image1", Kind::image, zones::option(0), {"Carga: resistencia", "Load: resistor"}, resistorFace)),
-        hidden(option(Image2, "image2", Kind::image, zones::option(1), {"Carga: parlante", "Load: loudspeaker"}, loudspeakerFace)),
+        kindOfLoad(option(Image1, "Image1", Kind::image, zones::option(0), {"Carga: resistencia", "Load: resistor"}, resistorFace),
+                   Image2),
+        kindOfLoad(option(Image2, "image2", Kind::image, zones::option(1), {"Carga: parlante", "Load: loudspeaker"}, loudspeakerFace),
+                   Text12),
 
         guideTool(SSCommand1, "SSCommand1", Kind::button),
         calculatorTool(SSCommand3, "SSCommand3", Kind::button),

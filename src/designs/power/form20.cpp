@@ -66,6 +66,9 @@ host::Place shown(const host::Window& window, Handle control)
 {
     if (control == Text22 || control == Text23)
         return sheets::at(763, 98, 249, 510);
+    // First the name of the whole resistor, above its field; in the end the value of the lower part, beside that.
+    if (control == Label9 && window.text(Label9).starts_with("RLb"))
+        return sheets::at(662, 221, 106, 18);
     return form15::spec.shownPlace(window, control);
 }
 

@@ -33,11 +33,11 @@ inline constexpr auto titleFrame = sheets::part({
 // The schematic. Columns: collector resistors 620, Q2 740 and 770, Q3 790 and 820, second bootstrap 990.
 inline constexpr auto pair = sheets::part({
     Mark{.symbol = Symbol::npn, .from = {740, 270}, .name = "Q_2", .field = Text11},
-    Mark{.symbol = Symbol::label, .from = {786, 294}, .name = "β_2", .value = Text11, .field = Text11},
+    Mark{.symbol = Symbol::label, .from = {786, 298}, .name = "β_2", .value = Text11, .field = Text11},
     wire(770, 300, 770, 340),
     wire(770, 340, 790, 340),
     Mark{.symbol = Symbol::npn, .from = {790, 340}, .name = "Q_3", .field = Text10},
-    Mark{.symbol = Symbol::label, .from = {836, 364}, .name = "β_3", .value = Text10, .field = Text10},
+    Mark{.symbol = Symbol::label, .from = {836, 368}, .name = "β_3", .value = Text10, .field = Text10},
 });
 inline constexpr auto driver = sheets::part({
     Mark{.symbol = Symbol::npn, .from = {590, 370}, .name = "Q_1"},
@@ -96,7 +96,7 @@ inline constexpr auto controls = [] {
             part(Line6, "Line6", controls_detail::supply),
             part(Line7, "Line7", collectorResistors),
             hidden(result(Label1, "Label1", at(880, 320, 104, 18), "EQ3")),
-            hidden(result(Label8, "Label8", at(688, 288, 52, 34))),
+            hidden(result(Label8, "Label8", at(670, 288, 52, 34))),
             result(Label9,  "Label9",  at(470, 132, 122, 18), "RL"),
             result(Label10, "Label10", at(506, 196, 90, 18)),
             label(Label14,  "Label14", at(836, 494, 170, 18), Look::note),

@@ -46,6 +46,8 @@ Canvas::Canvas(Desk& desk, host::Window& model, Handle area, Handle except)
 {
     design_ = area == noControl ? host::Place{0, 0, model.spec().place.width, model.spec().place.height}
                                 : host::shownPlace(model, area);
+    for (const host::ControlRow& row : model.spec().controls)
+        places_.push_back(host::shownPlace(model, row.id));
     view_.inks = desk.inks;
     view_.languageIsEnglish = desk.engine->values().LanguageIsEnglish;
     setFocusPolicy(Qt::StrongFocus);

@@ -87,6 +87,7 @@ private:
     bool liesOpen(host::Handle control) const;
     bool paints(host::Handle control) const;
     const QRectF& ink(host::Handle control) const;
+    void followPlaces();
     void refresh(host::Handle control);
     void retone(host::Handle control);
     void refreshWidget(host::Handle control, bool shown);
@@ -118,8 +119,9 @@ private:
     std::vector<QWidget*> widgets_;
     std::unordered_map<const QObject*, host::Handle> handles_;
     mutable std::vector<QRectF> ink_;
-    bool laidOut_ = false; ///< has a size; until then nothing is worth placing
-    bool seen_ = false;    ///< has been painted whole
+    std::vector<host::Place> places_; ///< where each control was shown last
+    bool laidOut_ = false;            ///< has a size; until then nothing is worth placing
+    bool seen_ = false;               ///< has been painted whole
     std::unique_ptr<Pointer> pointer_;
     std::unique_ptr<Keyboard> keyboard_;
 };

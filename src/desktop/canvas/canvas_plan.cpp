@@ -45,11 +45,13 @@ void noteDrawings(CanvasPlan& plan, const host::WindowSpec& spec)
         if (std::find(all.begin(), all.end(), by) == all.end())
             all.push_back(by);
     };
-    for (const host::ControlRow& row : spec.controls)
+    for (const host::ControlRow& row : spec.controls) {
+        note(row.chosenUnless, row.id);
         for (const host::Mark& mark : row.drawing) {
             note(mark.value, row.id);
             note(mark.field, row.id);
         }
+    }
     const std::vector<GrowthPlan::Entry>& growth = GrowthPlan::of(spec).entries;
     for (const host::ControlRow& row : spec.controls)
         for (const Handle toned : growth[row.id].toning)

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The widgets over a canvas: which control has one, how it follows the model, what it is called.
+#include <utility>
+
 #include <QAccessible>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -131,6 +133,7 @@ void Canvas::apply(const std::vector<Handle>& changes)
 {
     if (model_ == nullptr)
         return;
+    followPlaces();
     bool overlays = false;
     for (const Handle control : changes) {
         refresh(control);
@@ -149,6 +152,19 @@ void Canvas::apply(const std::vector<Handle>& changes)
     }
     if (overlays)
         raiseOverlays();
+}
+
+// Where a control is shown may hang on what another one says: what moved is painted there and here.
+void Canvas::followPlaces()
+{
+    for (const host::ControlRow& row : model_->spec().controls) {
+        const host::Place now = host::shownPlace(*model_, row.id);
+        if (std::exchange(places_[row.id], now) == now)
+            continue;
+        repaintControl(row.id);
+        if (widgets_[row.id] != nullptr && laidOut_)
+            place(row.id, *widgets_[row.id]);
+    }
 }
 
 void Canvas::refresh(Handle control)

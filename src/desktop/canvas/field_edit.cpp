@@ -33,7 +33,7 @@ void FieldEdit::showText(const QString& text)
         return;
     setText(text);
     if (selectedWhole_)
-        selectAll();
+        selectFromEnd();
     else
         setCursorPosition(hasFocus() ? static_cast<int>(text.size()) : 0);
 }
@@ -41,7 +41,14 @@ void FieldEdit::showText(const QString& text)
 void FieldEdit::selectWhole()
 {
     selectedWhole_ = true;
-    selectAll();
+    selectFromEnd();
+}
+
+// The caret stands before the first letter, so that a number wider than its field shows how it begins.
+void FieldEdit::selectFromEnd()
+{
+    const int length = static_cast<int>(text().size());
+    setSelection(length, -length);
 }
 
 void FieldEdit::forgetTyping()

@@ -36,6 +36,7 @@ protected:
 
 private:
     void recolor();
+    void selectFromEnd();
 
     const Inks* inks_;
     std::int32_t ground_ = -1;

@@ -198,6 +198,7 @@ void WindowKeeper::followAll()
     followRaised();
     followActive();
     followFocus();
+    followFocusBehind();
     makeRoom();
 }
 
@@ -278,6 +279,18 @@ void WindowKeeper::followFocus()
     if (view == nullptr || (now != nullptr && now->inherits("QMenuBar")))
         return;
     view->followFocus();
+}
+
+// While another window has the keyboard, the main one remembers the field in hand of its active sheet: a field that is disabled
+// meanwhile would leave it none, and Qt would give the keyboard to the first sheet that takes it.
+void WindowKeeper::followFocusBehind()
+{
+    const host::Window* child = desk_.engine->activeChild();
+    WindowFrame* frame = child == nullptr ? nullptr : frameOf(*child);
+    if (!main_ || main_->isActiveWindow() || frame == nullptr || frame->view() == nullptr)
+        return;
+    if (main_->focusWidget() != frame->view()->canvas().focusTarget())
+        frame->view()->followFocus();
 }
 
 void WindowKeeper::postFocus()

@@ -60,6 +60,7 @@ private:
     void followRaised();
     void followActive();
     void followFocus();
+    void followFocusBehind();
     void makeRoom();
     QRegion taken() const;
     int stripHeight() const;

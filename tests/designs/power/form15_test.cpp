@@ -46,6 +46,18 @@ protected:
 INSTANTIATE_TEST_SUITE_P(BothSheets, ClassAFinished, testing::Values("Form15", "form20"),
                          [](const auto& tested) { return std::string(tested.param); });
 
+TEST_P(ClassAFinished, MarksTheKindOfLoadInForceOnceTheQuestionIsAnswered)
+{
+    for (const host::Handle chosen : {Image1, Image2}) {
+        design(Text12);
+        EXPECT_FALSE(host::isChosen(*window, Image1) || host::isChosen(*window, Image2)) << "the question is open";
+        engine.userClick(*window, chosen);
+        EXPECT_EQ(host::isChosen(*window, Image1), chosen == Image1);
+        EXPECT_EQ(host::isChosen(*window, Image2), chosen == Image2);
+        finish();
+    }
+}
+
 TEST_P(ClassAFinished, IsADesignWhoseLastFieldWasLeft)
 {
     EXPECT_FALSE(passed());

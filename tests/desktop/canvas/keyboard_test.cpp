@@ -346,6 +346,25 @@ TEST_F(KeyboardTest, f6WalksThroughTheOpenWindowsAndBack)
     EXPECT_EQ(QApplication::activeWindow(), &on.main());
 }
 
+// With two sheets open Qt would look for the keyboard's place in the first of them.
+TEST_F(KeyboardTest, aSheetThatDisablesItsFieldBehindAToolHasTheKeyboardAgainAfterwards)
+{
+    BenchWindow& second = on.newSheet();
+    host::Window& tool = on.show("Herramienta");
+    ASSERT_EQ(second.focus(), Text1);
+    on.engine.userRun([&] {
+        second.disable(Text1);
+        second.setText(Text2, "12");
+        on.engine.host().SetFocus(second, Text2);
+        on.engine.host().Hide(tool);
+    });
+    on.main().activateWindow();
+    on.settle();
+    EXPECT_EQ(on.engine.activeChild(), &second);
+    on.type(QStringLiteral("3"));
+    EXPECT_EQ(second.text(Text2), "3") << "the whole text was selected";
+}
+
 TEST_F(KeyboardTest, escapeClosesATool)
 {
     host::Window& tool = on.show("Herramienta");
