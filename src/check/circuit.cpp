@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "check/circuit.h"
+
+#include <cmath>
+
+namespace velmor::check {
+
+double saturationCurrent(double QIc, double Vj)
+{
+    return QIc / std::expm1(Vj / thermalVoltage);
+}
+
+const Part* partOf(const Circuit& circuit, std::string_view name)
+{
+    for (const Part& part : circuit.parts)
+        if (part.name == name)
+            return &part;
+    return nullptr;
+}
+
+std::string impossiblePart(const Circuit& circuit)
+{
+    const auto isAmount = [](double value) { return std::isfinite(value) && value > 0; };
+    for (const Part& part : circuit.parts) {
+        const bool isTransistor = part.kind == PartKind::npn || part.kind == PartKind::pnp;
+        if (part.kind != PartKind::generator && !isAmount(part.value))
+            return part.name;
+        if (isTransistor && !isAmount(part.beta))
+            return "Beta";
+    }
+    return isAmount(circuit.amplitude) ? "" : "Ein";
+}
+
+} // namespace velmor::check

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// One line a sheet.
+#include "designs/circuits.h"
+
+#include <array>
+
+#include "designs/common_emitter/circuits.h"
+
+namespace velmor::designs {
+
+const check::SheetTable* circuitTableOf(std::string_view window)
+{
+    static const std::array tables{
+        &form2::circuit,
+    };
+    for (const check::SheetTable* table : tables)
+        if (host::sameName(table->sheet, window))
+            return table;
+    return nullptr;
+}
+
+} // namespace velmor::designs
