@@ -23,6 +23,7 @@ enum class StageKind : std::uint8_t {
 
 /// A simplification of the course that a step of the ladder takes away.
 enum class Truth : std::uint8_t {
+    asMeant,       ///< units that the course mixes, or a slip of its, put right: of use as the first step alone
     junction,      ///< r'e stands in series with Res
     thermal,       ///< 25.865 mV for 25 mV
     current,       ///< the current that really flows for the one designed

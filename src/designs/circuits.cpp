@@ -11,7 +11,7 @@ namespace velmor::designs {
 const check::SheetTable* circuitTableOf(std::string_view window)
 {
     static const std::array tables{
-        &form2::circuit,
+        &form2::circuit, &desaco::circuit, &parc_desac::circuit, &form8::circuit, &form18::circuit,
     };
     for (const check::SheetTable* table : tables)
         if (host::sameName(table->sheet, window))

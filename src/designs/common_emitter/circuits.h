@@ -10,4 +10,17 @@ namespace form2 {
 extern const check::SheetTable circuit;
 }
 
+namespace desaco {
+extern const check::SheetTable circuit;
+}
+namespace parc_desac {
+extern const check::SheetTable circuit;
+}
+namespace form8 {
+extern const check::SheetTable circuit;
+}
+namespace form18 {
+extern const check::SheetTable circuit;
+}
+
 } // namespace velmor

@@ -75,6 +75,16 @@ inline constexpr auto unbypassedGainRungs = std::to_array<check::RungRow>({
     {Truth::alpha, baseCurrentInEmitter},
 });
 
+inline constexpr auto bypassedGainRungs = std::to_array<check::RungRow>({
+    {Truth::thermal, thermalVolts},
+    {Truth::current, trueCurrent},
+});
+inline constexpr auto bypassedInputRungs = std::to_array<check::RungRow>({
+    {Truth::lowerResistor, lowerLeftOut},
+    {Truth::thermal, thermalVolts},
+    {Truth::current, trueCurrent},
+});
+
 inline constexpr host::BiText assumptions[] = {idealGenerator, noEarlyEffect};
 
 } // namespace velmor::common_emitter

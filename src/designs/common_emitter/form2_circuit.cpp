@@ -15,8 +15,8 @@ namespace form2_circuit {
 constexpr check::PartRow parts[] = {
     {PartKind::supply,    "Es",    "cc",  "0",   {Text16}},
     {PartKind::supply,    "Ebias", "0",   "ee",  {Text21},          {.when = Text21}},
-    {PartKind::generator, "Eg",    "in",  "0",   {}},
-    {PartKind::capacitor, "Cin",   "in",  "b",   {statu32, micro}},
+    {PartKind::generator, "Eg",    "gen",  "0",   {}},
+    {PartKind::capacitor, "Cin",   "gen", "b",   {statu32, micro}},
     {PartKind::resistor,  "Rb1",   "cc",  "b",   {Text19, kilo},    {.unless = Text21}},
     {PartKind::resistor,  "Rb2",   "b",   "0",   {Text18, kilo}},
     {PartKind::resistor,  "RL",    "cc",  "c",   {Text17, kilo}},
