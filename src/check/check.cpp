@@ -113,8 +113,13 @@ void readPlots(Check& check, const Design& design, const std::vector<Plot>& plot
 void explain(Check& check, const Design& design)
 {
     Stage stage = design.stage;
-    if (const Row* QIc = rowOf(check, Quantity::QIc); QIc != nullptr && QIc->simulated)
-        stage.trueQIc = *QIc->simulated * milli;
+    const auto takeCurrent = [&check](double& current, Quantity quantity) {
+        if (const Row* row = rowOf(check, quantity); row != nullptr && row->simulated)
+            current = *row->simulated * milli;
+    };
+    takeCurrent(stage.trueQIc, Quantity::QIc);
+    takeCurrent(stage.secondTrue, Quantity::QIc3);
+    takeCurrent(stage.followerTrue, Quantity::QIc5);
     const Row* Vce = rowOf(check, Quantity::Vce);
     check.ceilings = ceilingsOf(stage, Vce == nullptr ? std::nullopt : Vce->simulated);
     for (Row& row : check.rows) {
@@ -141,6 +146,7 @@ Design designOf(const host::Window& sheet, const SheetTable& table)
 {
     Design design{.table = &table, .circuit = circuitOf(sheet, table), .fo = valueOf(sheet, table.fo)};
     design.stage = stageOf(sheet, table, design.circuit);
+    driveThroughGenerator(design.circuit, design.stage);
     for (const QuantityRow& row : table.quantities)
         design.rows.push_back({row.quantity, askedIn(sheet, row), courseOf(sheet, row)});
     return design;

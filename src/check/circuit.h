@@ -2,6 +2,7 @@
 // A finished design as a circuit: parts between named nodes, in ohm, farad, volt and ampere. It knows no sheet and no simulator.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -47,6 +48,7 @@ struct Circuit {
     std::string generator = "gen"; ///< the node of the generator; equal to `input` where that has no resistance
     double amplitude = 0;          ///< of the generator with the input that the course worked out, V peak
     std::optional<Temperatures> drift{};
+    std::size_t drifting = 1; ///< the transistor that is looked at then, from 1
     std::vector<std::string> assumed{}; ///< written into the netlist as comments
 };
 

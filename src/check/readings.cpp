@@ -65,8 +65,8 @@ Measured collectorEmitter(const Circuit& circuit, const Plot& point)
 /// The drift of QIc from the lower to the upper temperature, %.
 Measured driftOf(const Circuit& circuit, const Plot& sweep)
 {
-    const Measured cold = currentOf(circuit, sweep, 1, 0);
-    const Measured warm = currentOf(circuit, sweep, 1, 1);
+    const Measured cold = currentOf(circuit, sweep, circuit.drifting, 0);
+    const Measured warm = currentOf(circuit, sweep, circuit.drifting, 1);
     if (!cold || !warm || *cold == 0)
         return std::nullopt;
     return 100 * (*warm - *cold) / *cold;

@@ -72,7 +72,7 @@ Circuit circuitOf(const host::Window& window, const SheetTable& table)
 {
     Circuit circuit{.title = std::string(table.sheet), .output = std::string(table.output)};
     for (const PartRow& row : table.parts)
-        if (isThere(window, row.presence))
+        if (isThere(window, row.presence) && !(row.mayLack && valueOf(window, row.value) == 0))
             circuit.parts.push_back(partFrom(window, row));
     for (const TransistorRow& row : table.transistors)
         circuit.parts.push_back(transistorFrom(window, row));
@@ -82,6 +82,7 @@ Circuit circuitOf(const host::Window& window, const SheetTable& table)
     // A generator without resistance stands at the input itself.
     circuit.input = partOf(circuit, "Rg") == nullptr ? circuit.generator : "in";
     circuit.amplitude = valueOf(window, table.Ein) * std::numbers::sqrt2;
+    circuit.drifting = table.drifting;
     if (const double T = valueOf(window, table.temperature); T > 0)
         circuit.drift = Temperatures{.to = T};
     for (const host::BiText& text : table.assumed)
@@ -89,9 +90,20 @@ Circuit circuitOf(const host::Window& window, const SheetTable& table)
     return circuit;
 }
 
+void driveThroughGenerator(Circuit& circuit, const Stage& stage)
+{
+    const Part* Rg = partOf(circuit, "Rg");
+    const double Zin = inputOf(stage, allTruths());
+    if (Rg != nullptr && Zin > 0)
+        circuit.amplitude *= (Rg->value + Zin) / Zin;
+}
+
 Stage stageOf(const host::Window& window, const SheetTable& table, const Circuit& circuit)
 {
     const double QIc = table.transistors.empty() ? 0 : valueOf(window, table.transistors.front().QIc);
+    const auto currentOf = [&](std::size_t index) {
+        return index < table.transistors.size() ? valueOf(window, table.transistors[index].QIc) : 0;
+    };
     return {.kind = table.stage,
             .Beta = table.transistors.empty() ? 0 : valueOf(window, table.transistors.front().Beta),
             .designedQIc = QIc,
@@ -99,7 +111,12 @@ Stage stageOf(const host::Window& window, const SheetTable& table, const Circuit
             .RL = ohmsOf(circuit, "RL"),
             .RLw = ohmsOf(circuit, "RLw"),
             .Res = ohmsOf(circuit, "Res"),
-            .otherRLw = ohmsOf(circuit, "RLw2"),
+            .otherRLw = ohmsOf(circuit, "RLwe"),
+            .secondDesigned = currentOf(2),
+            .secondTrue = currentOf(2),
+            .followerTrue = currentOf(4),
+            .secondRL = ohmsOf(circuit, "RL2"),
+            .followerRes = ohmsOf(circuit, "Res1"),
             .Rb1 = ohmsOf(circuit, "Rb1"),
             .Rb2 = ohmsOf(circuit, "Rb2"),
             .middleGrounded = table.grounded != host::noControl && window.visible(table.grounded)};

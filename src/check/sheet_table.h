@@ -57,6 +57,7 @@ struct PartRow {
     std::string_view to{};
     Figure value{};
     Presence presence{};
+    bool mayLack = false; ///< not there while its value is 0
 };
 
 /// QIc in A and Vj in V make its IS.
@@ -96,6 +97,7 @@ struct SheetTable {
     bool (*passed)(const host::Window&) = nullptr;
     host::Handle grounded = host::noControl; ///< visible while the middle of Rb1 is grounded for the signal
     std::string_view output = "out";
+    std::size_t drifting = 1; ///< the transistor whose drift is asked for, from 1
 };
 
 /// The number that a caption or field holds: behind its "=" if it has one, where its first digit or sign stands.
@@ -105,6 +107,9 @@ double valueOf(const host::Window& window, const Figure& figure);
 
 /// The circuit of the design as the sheet holds it.
 Circuit circuitOf(const host::Window& window, const SheetTable& table);
+
+/// Raises the voltage of a generator with a resistance of its own, so that Ein arrives at the input.
+void driveThroughGenerator(Circuit& circuit, const Stage& stage);
 
 /// The same in the numbers of the textbook; the true current is still that of the design.
 Stage stageOf(const host::Window& window, const SheetTable& table, const Circuit& circuit);

@@ -113,6 +113,32 @@ double pairInput(const Stage& stage, Truths truths)
     return beside(own, truths.has(Truth::lowerResistor) ? stage.Rb2 : 0);
 }
 
+/// The two gains of the compound amplifier: RLac / r'e of the first pair, RL / (2 x r'e) of the second, and what the follower
+/// leaves of it. The course counts 1.25 and 2.5, and no follower.
+double compoundGain(const Stage& stage, Truths truths)
+{
+    Stage second = stage;
+    second.designedQIc = stage.secondDesigned;
+    second.trueQIc = stage.secondTrue;
+    Stage last = stage;
+    last.kind = StageKind::follower;
+    last.Res = stage.followerRes;
+    last.trueQIc = stage.followerTrue;
+    const bool hasFollower = truths.has(Truth::secondLoad);
+    const Truths all{Truth::junction, Truth::thermal, Truth::current, Truth::alpha, Truth::load};
+    const double factor = truths.has(Truth::pairFactor) ? 1.0 : 1.25;
+    const double firstLoad = beside(stage.RL, stage.Beta * junctionOf(second, truths));
+    const double secondLoad = beside(stage.secondRL, hasFollower ? transistorInput(last, all) : 0);
+    return firstLoad / (factor * junctionOf(stage, truths)) * secondLoad / (2 * factor * junctionOf(second, truths)) *
+           (hasFollower ? followerGain(last, all) : 1.0);
+}
+
+/// Beta x 2 x r'e, and Rb1 beside it.
+double compoundInput(const Stage& stage, Truths truths)
+{
+    return beside(2 * stage.Beta * junctionOf(stage, truths), truths.has(Truth::upperResistor) ? stage.Rb1 : 0);
+}
+
 double baseInput(const Stage& stage, Truths truths)
 {
     const double junction = junctionOf(stage, truths) / emitterShare(stage, truths);
@@ -145,6 +171,7 @@ double gainOf(const Stage& stage, Truths truths)
     case StageKind::pair:
         return pairGain(stage, truths);
     case StageKind::compound:
+        return compoundGain(stage, truths);
     case StageKind::other:
         break;
     }
@@ -165,6 +192,7 @@ double inputOf(const Stage& stage, Truths truths)
     case StageKind::pair:
         return pairInput(stage, truths);
     case StageKind::compound:
+        return compoundInput(stage, truths);
     case StageKind::other:
         break;
     }

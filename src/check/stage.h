@@ -53,8 +53,16 @@ public:
     constexpr bool has(Truth truth) const { return (bits_ >> static_cast<unsigned>(truth) & 1U) != 0; }
 
 private:
+    friend constexpr Truths allTruths();
     unsigned bits_ = 0;
 };
+/// None is left out: the textbook's formula whole.
+constexpr Truths allTruths()
+{
+    Truths all;
+    all.bits_ = ~0U;
+    return all;
+}
 
 /// One stage in numbers. A resistor that is not there is 0.
 struct Stage {
@@ -65,7 +73,13 @@ struct Stage {
     double RL = 0;          ///< ohm, and so on
     double RLw = 0;
     double Res = 0; ///< without bypass
-    double otherRLw = 0;  ///< load at the emitter of a phase splitter
+    double otherRLw = 0; ///< load at the emitter of a phase splitter
+    // the compound amplifier: its second pair, and the follower at its end
+    double secondDesigned = 0; ///< A
+    double secondTrue = 0;     ///< A
+    double followerTrue = 0;   ///< A
+    double secondRL = 0;
+    double followerRes = 0;
     double Rb1 = 0;
     double Rb2 = 0;
     bool middleGrounded = false; ///< Rb1 in two halves, their middle taken to ground for the signal

@@ -4,7 +4,9 @@
 
 #include <array>
 
+#include "designs/base_collector/circuits.h"
 #include "designs/common_emitter/circuits.h"
+#include "designs/differential/circuits.h"
 
 namespace velmor::designs {
 
@@ -12,6 +14,8 @@ const check::SheetTable* circuitTableOf(std::string_view window)
 {
     static const std::array tables{
         &form2::circuit, &desaco::circuit, &parc_desac::circuit, &form8::circuit, &form18::circuit,
+        &form4::circuit, &form17::circuit, &form9::circuit,
+        &form3::circuit, &form13::circuit,
     };
     for (const check::SheetTable* table : tables)
         if (host::sameName(table->sheet, window))

@@ -28,7 +28,7 @@ double upperResistor(const host::Window& window)
 }
 
 template <class Sheet>
-constexpr std::array<check::QuantityRow, 9> quantityRows()
+constexpr std::array<check::QuantityRow, 8> quantityRows()
 {
     return {{
         {Quantity::QIc, Text8, 1, {Text8}},
@@ -37,7 +37,6 @@ constexpr std::array<check::QuantityRow, 9> quantityRows()
         {Quantity::Zin, host::noControl, 1, {.held = check::heldBy<Sheet, &Quantities::Zin>}},
         {Quantity::fL, Text12, 1, {Text12}},
         {Quantity::dBfo, host::noControl, 1, {.scale = check::courseLevelAtFo}},
-        {.quantity = Quantity::output},
         {Quantity::Eopp, Text13, 1, {Text13}},
         {.quantity = Quantity::THD},
     }};
