@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "check/deck.h"
+#include "check/power.h"
 #include "check/readings.h"
 #include "check/verdict.h"
 
@@ -53,7 +54,10 @@ Ladder ladderOf(const Design& design, const Stage& stage, const Row& row)
 
 Ceilings ceilingsOf(const Stage& stage, Measured Vce)
 {
-    return {.cutOff = stage.trueQIc * beside(stage.RL, stage.RLw),
+    // A follower swings over what its emitter sees.
+    const double load = stage.kind == StageKind::follower ? beside(stage.Res, stage.RLw) : beside(stage.RL, stage.RLw);
+    return {.known = stage.kind != StageKind::compound && stage.kind != StageKind::other,
+            .cutOff = stage.trueQIc * load,
             .saturation = std::max(0.0, Vce.value_or(0) - saturationVoltage)};
 }
 
@@ -98,15 +102,28 @@ CheckEnd endOf(const Simulation& simulation)
     return CheckEnd::failed;
 }
 
-void readPlots(Check& check, const Design& design, const std::vector<Plot>& plots)
+void readPlots(Check& check, const Design& design, const std::vector<Plot>& plots, Simulator& simulator)
 {
     check.response = readResponse(design, plots);
     check.swing = readSwing(design, plots, 1);
     for (Row& row : check.rows)
         row.simulated = readingOf(design, plots, check.swing, row.quantity);
+    if (rowOf(check, Quantity::Pout) != nullptr)
+        measurePower(check, design, simulator, plots);
     const bool isWhole = std::all_of(check.rows.begin(), check.rows.end(), [](const Row& row) { return row.simulated.has_value(); });
     if (!isWhole)
         check.end = CheckEnd::incomplete;
+}
+
+void simulate(Check& check, const Design& design, Simulator& simulator)
+{
+    check.netlist = deckOf(design.circuit, {.response = isSmallSignal(design)});
+    Simulation simulation = simulator.run(check.netlist);
+    check.end = endOf(simulation);
+    check.details = std::move(simulation.details);
+    // What a failed run has written is not to be trusted.
+    if (check.end == CheckEnd::done)
+        readPlots(check, design, simulation.plots, simulator);
 }
 
 /// The ladders are climbed with the current that really flows.
@@ -144,7 +161,7 @@ const host::BiText& whyAsleep()
 
 Design designOf(const host::Window& sheet, const SheetTable& table)
 {
-    Design design{.table = &table, .circuit = circuitOf(sheet, table), .fo = valueOf(sheet, table.fo)};
+    Design design{.table = &table, .circuit = circuitOf(sheet, table), .fo = valueOf(sheet, table.fo), .mostPeak = valueOf(sheet, table.mostPeak)};
     design.stage = stageOf(sheet, table, design.circuit);
     driveThroughGenerator(design.circuit, design.stage);
     for (const QuantityRow& row : table.quantities)
@@ -160,12 +177,7 @@ Check checkDesign(const Design& design, Simulator& simulator)
     check.netlist = deckOf(design.circuit, {});
     const std::string impossible = impossiblePart(design.circuit);
     if (impossible.empty()) {
-        Simulation simulation = simulator.run(check.netlist);
-        check.end = endOf(simulation);
-        check.details = std::move(simulation.details);
-        // What a failed run has written is not to be trusted.
-        if (check.end == CheckEnd::done)
-            readPlots(check, design, simulation.plots);
+        simulate(check, trimmed(design, simulator), simulator);
     } else {
         check.end = CheckEnd::impossible;
     }

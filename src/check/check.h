@@ -43,7 +43,8 @@ struct Design {
     const SheetTable* table = nullptr;
     Circuit circuit{};
     Stage stage{};
-    double fo = 0; ///< Hz
+    double fo = 0;       ///< Hz
+    double mostPeak = 0; ///< A, of a class B output: Ibias x Beta; 0 where it is no question
     std::vector<Expected> rows{};
 };
 
@@ -85,6 +86,7 @@ struct Swing {
 
 /// How far the output can go from its rest before the transistor is cut off or saturated, V; the lesser bends first.
 struct Ceilings {
+    bool known = false;    ///< of a stage with one transistor at its output, or a pair
     double cutOff = 0;     ///< QIc x RLac
     double saturation = 0; ///< Vce less 0.2 V
     bool cutOffIsNearer() const { return cutOff <= saturation; }

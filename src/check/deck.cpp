@@ -87,6 +87,9 @@ std::string ordersOf(const Circuit& circuit, const Orders& orders)
     if (orders.drift && circuit.drift)
         lines += ".dc temp " + plainNumber(circuit.drift->from) + ' ' + plainNumber(circuit.drift->to) + ' ' +
                  plainNumber(circuit.drift->to - circuit.drift->from) + '\n';
+    if (orders.turned != nullptr)
+        lines += ".dc " + nameOf(*orders.turned) + ' ' + plainNumber(orders.turnFrom) + ' ' +
+                 plainNumber(orders.turnTo) + ' ' + plainNumber(orders.turnStep) + '\n';
     return lines;
 }
 

@@ -16,6 +16,10 @@ struct Orders {
     bool drift = true;     ///< operating points at two temperatures, if the circuit has any
     double drive = 1;      ///< times the input that the course worked out
     double settling = 0.02; ///< s before the wave is looked at
+    const Part* turned = nullptr; ///< a resistor that is turned from one value to another, ohm
+    double turnFrom = 0;
+    double turnTo = 0;
+    double turnStep = 0;
 };
 
 /// Of the input signal, Hz.

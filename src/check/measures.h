@@ -53,12 +53,12 @@ struct Wave {
 /// Empty when the plot does not hold so many cycles of that frequency (Hz).
 Wave waveOf(const Plot& plot, std::string_view column, double frequency, int cycles);
 
-/// Peaks of the harmonics 0 (twice the mean) to 9, in the unit of the wave.
-inline constexpr std::size_t harmonicCount = 10;
+/// Peaks of the harmonics 0 (twice the mean) to 5, in the unit of the wave.
+inline constexpr std::size_t harmonicCount = 6;
 using Harmonics = std::array<double, harmonicCount>;
 Harmonics harmonicsOf(const Wave& wave);
 
-/// Harmonics 2 to 9 as a share of the fundamental, %; nothing where there is no fundamental.
+/// Harmonics 2 to 5 as a share of the fundamental, %; nothing where there is no fundamental.
 Measured distortion(const Harmonics& harmonics);
 
 double peakToPeak(const Wave& wave);

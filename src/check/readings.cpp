@@ -156,6 +156,8 @@ Measured readingOf(const Design& design, const std::vector<Plot>& plots, const S
         return sweep == nullptr ? std::nullopt : driftOf(design.circuit, *sweep);
     }
     case Quantity::Vg:
+        // A small signal would see nothing but the crossover of a power stage.
+        return design.table->stage == StageKind::other ? std::nullopt : signalReading(design, plots, quantity);
     case Quantity::Zin:
     case Quantity::fL:
     case Quantity::dBfo:

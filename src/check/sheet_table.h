@@ -97,6 +97,11 @@ struct SheetTable {
     bool (*passed)(const host::Window&) = nullptr;
     host::Handle grounded = host::noControl; ///< visible while the middle of Rb1 is grounded for the signal
     std::string_view output = "out";
+    // class B: the preset that is turned until the middle stands at half the supply
+    std::string_view preset{};
+    std::string_view middle{};
+    /// What the output transistors can carry: the driver's current times their Beta, A; a scale of 0: the course's question is another.
+    Figure mostPeak{.scale = 0};
     std::size_t drifting = 1; ///< the transistor whose drift is asked for, from 1
 };
 

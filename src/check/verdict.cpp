@@ -56,7 +56,20 @@ bool agrees(Measure measure, double value, double reference)
     return true;
 }
 
-Judgement judgementOf(const Row& row)
+/// How far the output can swing before it bends, V peak to peak; no bound where the ceilings are not known.
+double cleanSwing(const Ceilings& ceilings)
+{
+    return 2 * std::min(ceilings.cutOff, ceilings.saturation);
+}
+
+/// The wave is asked for more than the stage can swing.
+bool isBent(const Row& row, const Ceilings& ceilings)
+{
+    const Measured reference = referenceOf(row);
+    return row.quantity == Quantity::Eopp && ceilings.known && reference && cleanSwing(ceilings) < *reference * (1 - tenth);
+}
+
+Judgement judgementOf(const Row& row, const Ceilings& ceilings)
 {
     const Measure measure = textOf(row.quantity).measure;
     const Measured reference = referenceOf(row);
@@ -66,15 +79,34 @@ Judgement judgementOf(const Row& row)
         return Judgement::unexplained;
     if (!reference || measure == Measure::shown)
         return Judgement::shown;
-    if (agrees(measure, *row.simulated, *reference))
+    if (agrees(measure, *row.simulated, *reference) && !isBent(row, ceilings))
         return Judgement::agrees;
     return measure == Measure::atLeast || measure == Measure::atMost ? Judgement::notReached : Judgement::differs;
+}
+
+/// Why the power does not come out: the current that the outputs can get, or the driver that bends first.
+Words powerReason(const Row& row, const Design& design)
+{
+    const Part* load = partOf(design.circuit, "RLw");
+    const double wanted = row.asked.value_or(row.course.value_or(0));
+    const double ohms = load == nullptr ? 1 : load->value;
+    const double peak = row.quantity == Quantity::Eopp ? wanted / 2 / ohms : std::sqrt(2 * wanted / ohms);
+    const std::string needed = amountText(peak, "A");
+    if (design.mostPeak > 0 && design.mostPeak < peak) {
+        const std::string most = amountText(design.mostPeak, "A");
+        return {"Ibias x Beta da " + most + " y la corriente pico pide " + needed + ".",
+                "Ibias x Beta gives " + most + ", and the peak current asks for " + needed + "."};
+    }
+    return {"Q1 debe mover casi toda su corriente de reposo: su r'e cambia con la señal, y la onda se dobla antes que la salida.",
+            "Q1 must swing nearly its whole quiescent current: its r'e changes with the signal, and the wave bends before the "
+            "output does."};
 }
 
 /// The reason that a row without a ladder may have.
 Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
 {
     const std::string amount = amountText(row.simulated.value_or(0), textOf(row.quantity).unit);
+    const bool isPower = design.table->stage == StageKind::other;
     switch (row.quantity) {
     case Quantity::dBfo:
         return {"Una décima en reactancia no es una décima en ganancia: la suya da " + amount + " a fo.",
@@ -82,8 +114,15 @@ Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
     case Quantity::fL:
         return {"Cada capacitor quita su parte, y las partes se suman: a -3 dB se llega recién en " + amount + ".",
                 "Each capacitor takes its share, and the shares add up: -3 dB are met only at " + amount + "."};
+    case Quantity::Vg:
+        return {"A media excursión el cruce por cero y la corriente que cambia con la señal quitan o agregan ganancia.",
+                "At half the swing the crossing of zero, and a current that changes with the signal, take or add gain."};
     case Quantity::Eopp: {
+        if (isPower)
+            return powerReason(row, design);
         const double cutOff = ceilings.cutOff;
+        if (!isBent(row, ceilings))
+            return {"La ganancia es menor que la del curso: vea Vg.", "The gain is less than the course's: see Vg."};
         if (ceilings.cutOffIsNearer())
             return {"La onda se dobla porque QIc x RLac es " + amountText(cutOff, "V") + ".",
                     "The wave bends because QIc x RLac is " + amountText(cutOff, "V") + "."};
@@ -91,13 +130,16 @@ Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
                 "The wave bends because the transistor saturates: Vce leaves " +
                     amountText(ceilings.saturation, "V") + "."};
     }
+    case Quantity::Pout:
+    case Quantity::Pclean:
+        return powerReason(row, design);
     case Quantity::drift:
         return {"La tensión sobre Res no alcanza para tanto corrimiento de Vbe.",
                 "The voltage across Res is too small for so much drift of Vbe."};
     default:
         break;
     }
-    if (design.table != nullptr && design.table->stage == StageKind::other)
+    if (isPower)
         return {"El curso cuenta 0.6 V por juntura; las del simulador siguen a su corriente.",
                 "The course counts 0.6 V a junction; those of the simulator follow their current."};
     return {"El curso cuenta una tensión de juntura fija; la del simulador sigue a la corriente, y la base toma la suya.",
@@ -172,7 +214,7 @@ std::string amountText(double value, std::string_view unit)
 
 void judge(Row& row, const Design& design, const Ceilings& ceilings)
 {
-    row.judgement = verdict_detail::judgementOf(row);
+    row.judgement = verdict_detail::judgementOf(row, ceilings);
     row.verdict = verdict_detail::verdictOf(row, design, ceilings);
 }
 
