@@ -21,14 +21,16 @@ const Part* partOf(const Circuit& circuit, std::string_view name)
 std::string impossiblePart(const Circuit& circuit)
 {
     const auto isAmount = [](double value) { return std::isfinite(value) && value > 0; };
+    bool isDriven = false;
     for (const Part& part : circuit.parts) {
+        isDriven = isDriven || part.kind == PartKind::generator;
         const bool isTransistor = part.kind == PartKind::npn || part.kind == PartKind::pnp;
         if (part.kind != PartKind::generator && !isAmount(part.value))
             return part.name;
         if (isTransistor && !isAmount(part.beta))
             return "Beta";
     }
-    return isAmount(circuit.amplitude) ? "" : "Ein";
+    return isAmount(circuit.amplitude) || !isDriven ? "" : "Ein";
 }
 
 } // namespace velmor::check

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "check/deck.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -77,12 +78,14 @@ std::string waveOrder(double settling)
 
 std::string ordersOf(const Circuit& circuit, const Orders& orders)
 {
+    const bool isDriven = std::any_of(circuit.parts.begin(), circuit.parts.end(),
+                                      [](const Part& part) { return part.kind == PartKind::generator; });
     std::string lines = ".options reltol=1e-4\n" + savedCurrents(circuit);
     if (orders.bias)
         lines += ".op\n";
-    if (orders.response)
+    if (orders.response && isDriven)
         lines += ".ac dec 50 0.01 1e6\n";
-    if (orders.wave)
+    if (orders.wave && isDriven)
         lines += waveOrder(orders.settling);
     if (orders.drift && circuit.drift)
         lines += ".dc temp " + plainNumber(circuit.drift->from) + ' ' + plainNumber(circuit.drift->to) + ' ' +

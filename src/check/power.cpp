@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <future>
+#include <utility>
 
 #include "check/deck.h"
 #include "check/readings.h"
@@ -27,6 +29,14 @@ PowerPoint runAt(const Design& design, Simulator& simulator, double drive)
     const std::string deck =
         deckOf(design.circuit, {.bias = false, .response = false, .drift = false, .drive = drive});
     return powerPointOf(design, simulator.run(deck).plots, drive);
+}
+
+/// Two runs at once: waiting is what a run costs most.
+std::pair<PowerPoint, PowerPoint> runBeside(const Design& design, Simulator& simulator, double one, double other)
+{
+    std::future<PowerPoint> beside = std::async(std::launch::async, [&] { return runAt(design, simulator, other); });
+    PowerPoint first = runAt(design, simulator, one);
+    return {first, beside.get()};
 }
 
 bool isClean(const PowerPoint& point)
@@ -139,11 +149,14 @@ PowerPoint cleanPoint(const Design& design, Simulator& simulator, const PowerPoi
     }
     while (!isClean(point) && point.drive > leastDrive) {
         const PowerPoint unclean = point;
-        point = runAt(design, simulator, unclean.drive * stepDown);
-        if (!point.distortion) // the simulator has failed: it would again
+        auto [next, afterNext] = runBeside(design, simulator, unclean.drive * stepDown, unclean.drive * stepDown * stepDown);
+        if (!next.distortion || !afterNext.distortion) // the simulator has failed: it would again
             return {};
-        if (isClean(point))
-            return refined(design, simulator, point, unclean);
+        if (isClean(next))
+            return refined(design, simulator, next, unclean);
+        if (isClean(afterNext))
+            return refined(design, simulator, afterNext, next);
+        point = afterNext;
     }
     return isClean(point) ? point : PowerPoint{};
 }
