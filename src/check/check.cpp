@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Takes a design off its sheet, lets it be simulated, and tells course and simulator apart.
 #include "check/check.h"
 
 #include <algorithm>
@@ -17,8 +18,9 @@ constexpr double leastDrive = 0.1;
 constexpr double mostDrive = 10;
 constexpr double saturationVoltage = 0.2; // V
 
-constexpr host::BiText asleep{"Termine el diseño: se comprueba cuando la cadena se recorrió hasta el final sin avisos.",
-                              "Finish the design: it can be checked once the chain has been walked to its end without a warning."};
+constexpr host::BiText asleep{
+    "Termine el diseño: se comprueba cuando la cadena se recorrió hasta el final sin avisos.",
+    "Finish the design: it can be checked once the chain has been walked to its end without a warning."};
 
 /// What was asked in a field; nothing when nobody has left it.
 Measured askedIn(const host::Window& sheet, const QuantityRow& row)
@@ -72,7 +74,8 @@ Words excuseOf(CheckEnd end)
         return {"No hay simulador: instale el paquete ngspice y compruebe otra vez.",
                 "There is no simulator: install the package ngspice and check again."};
     case CheckEnd::failed:
-        return {"El simulador terminó con una falla; vea los detalles.", "The simulator ended with a failure; see the details."};
+        return {"El simulador terminó con una falla; vea los detalles.",
+                "The simulator ended with a failure; see the details."};
     case CheckEnd::incomplete:
         return {"El simulador no dio todo lo pedido; falta lo que queda vacío.",
                 "The simulator did not give all it was asked for; what is empty is missing."};
@@ -80,7 +83,8 @@ Words excuseOf(CheckEnd end)
         return {"El simulador no terminó en cinco segundos y fue detenido.",
                 "The simulator had not finished after five seconds and was ended."};
     case CheckEnd::tooMuch:
-        return {"El simulador escribió más de lo que cabe y fue detenido.", "The simulator wrote more than can be meant and was ended."};
+        return {"El simulador escribió más de lo que cabe y fue detenido.",
+                "The simulator wrote more than can be meant and was ended."};
     }
     return {};
 }
@@ -110,7 +114,8 @@ void readPlots(Check& check, const Design& design, const std::vector<Plot>& plot
         row.simulated = readingOf(design, plots, check.swing, row.quantity);
     if (rowOf(check, Quantity::Pout) != nullptr)
         measurePower(check, design, simulator, plots);
-    const bool isWhole = std::all_of(check.rows.begin(), check.rows.end(), [](const Row& row) { return row.simulated.has_value(); });
+    const bool isWhole =
+        std::all_of(check.rows.begin(), check.rows.end(), [](const Row& row) { return row.simulated.has_value(); });
     if (!isWhole)
         check.end = CheckEnd::incomplete;
 }
@@ -161,7 +166,10 @@ const host::BiText& whyAsleep()
 
 Design designOf(const host::Window& sheet, const SheetTable& table)
 {
-    Design design{.table = &table, .circuit = circuitOf(sheet, table), .fo = valueOf(sheet, table.fo), .mostPeak = valueOf(sheet, table.mostPeak)};
+    Design design{.table = &table,
+                  .circuit = circuitOf(sheet, table),
+                  .fo = valueOf(sheet, table.fo),
+                  .mostPeak = valueOf(sheet, table.mostPeak)};
     design.stage = stageOf(sheet, table, design.circuit);
     driveThroughGenerator(design.circuit, design.stage);
     for (const QuantityRow& row : table.quantities)
@@ -193,8 +201,7 @@ Swing swingOf(const Design& design, Simulator& simulator, double drive)
     const double kept = std::clamp(drive, leastDrive, mostDrive);
     if (!impossiblePart(design.circuit).empty())
         return {.drive = kept};
-    const std::string deck =
-        deckOf(design.circuit, {.bias = false, .response = false, .drift = false, .drive = kept});
+    const std::string deck = deckOf(design.circuit, {.bias = false, .response = false, .drift = false, .drive = kept});
     return readSwing(design, simulator.run(deck).plots, kept);
 }
 

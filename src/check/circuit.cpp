@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What a circuit answers about its parts.
 #include "check/circuit.h"
 
 #include <cmath>

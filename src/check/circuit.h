@@ -43,12 +43,12 @@ struct Temperatures {
 struct Circuit {
     std::string title{}; ///< for the first line of the netlist
     std::vector<Part> parts{};
-    std::string input = "in";      ///< behind the resistance of the generator
+    std::string input = "in"; ///< behind the resistance of the generator
     std::string output = "out";
     std::string generator = "gen"; ///< the node of the generator; equal to `input` where that has no resistance
     double amplitude = 0;          ///< of the generator with the input that the course worked out, V peak
     std::optional<Temperatures> drift{};
-    std::size_t drifting = 1; ///< the transistor that is looked at then, from 1
+    std::size_t drifting = 1;           ///< the transistor that is looked at then, from 1
     std::vector<std::string> assumed{}; ///< written into the netlist as comments
 };
 

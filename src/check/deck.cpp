@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// One line a part, then the orders.
 #include "check/deck.h"
 
 #include <algorithm>

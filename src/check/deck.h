@@ -10,12 +10,12 @@ namespace velmor::check {
 
 /// What is to be worked out, and for which input.
 struct Orders {
-    bool bias = true;      ///< operating point
-    bool response = true;  ///< gain against frequency, 0.01 Hz to 1 MHz
-    bool wave = true;      ///< output wave at 1 kHz
-    bool drift = true;     ///< operating points at two temperatures, if the circuit has any
-    double drive = 1;      ///< times the input that the course worked out
-    double settling = 0.02; ///< s before the wave is looked at
+    bool bias = true;             ///< operating point
+    bool response = true;         ///< gain against frequency, 0.01 Hz to 1 MHz
+    bool wave = true;             ///< output wave at 1 kHz
+    bool drift = true;            ///< operating points at two temperatures, if the circuit has any
+    double drive = 1;             ///< times the input that the course worked out
+    double settling = 0.02;       ///< s before the wave is looked at
     const Part* turned = nullptr; ///< a resistor that is turned from one value to another, ohm
     double turnFrom = 0;
     double turnTo = 0;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Climbs one truth at a time.
 #include "check/ladder.h"
 
 #include <algorithm>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Interpolation over logarithms, resampling to even steps, sums over whole cycles.
 #include "check/measures.h"
 
 #include <algorithm>
@@ -109,7 +110,8 @@ Measured lowCorner(const Response& response)
     return std::nullopt;
 }
 
-Measured inputImpedanceAt(const Plot& plot, std::string_view inputNode, std::string_view generatorName, double frequency)
+Measured inputImpedanceAt(const Plot& plot, std::string_view inputNode, std::string_view generatorName,
+                          double frequency)
 {
     const Column* hertz = plot.column("frequency");
     const Column* volts = plot.column(voltageName(inputNode));

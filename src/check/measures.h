@@ -38,7 +38,8 @@ Measured decibelAt(const Response& response, double fo);
 Measured lowCorner(const Response& response);
 
 /// V / I at a frequency (Hz), ohm, from the node behind the generator's resistance and the current of the generator.
-Measured inputImpedanceAt(const Plot& plot, std::string_view inputNode, std::string_view generatorName, double frequency);
+Measured inputImpedanceAt(const Plot& plot, std::string_view inputNode, std::string_view generatorName,
+                          double frequency);
 
 /// The value of an operating point: volts of a node, amperes of a current.
 Measured pointOf(const Plot& plot, std::string_view column, std::size_t row = 0);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Every question is a run of the simulator with another drive.
 #include "check/power.h"
 
 #include <algorithm>
@@ -26,8 +27,7 @@ constexpr double turnStep = 0.05;
 
 PowerPoint runAt(const Design& design, Simulator& simulator, double drive)
 {
-    const std::string deck =
-        deckOf(design.circuit, {.bias = false, .response = false, .drift = false, .drive = drive});
+    const std::string deck = deckOf(design.circuit, {.bias = false, .response = false, .drift = false, .drive = drive});
     return powerPointOf(design, simulator.run(deck).plots, drive);
 }
 
@@ -149,7 +149,8 @@ PowerPoint cleanPoint(const Design& design, Simulator& simulator, const PowerPoi
     }
     while (!isClean(point) && point.drive > leastDrive) {
         const PowerPoint unclean = point;
-        auto [next, afterNext] = runBeside(design, simulator, unclean.drive * stepDown, unclean.drive * stepDown * stepDown);
+        auto [next, afterNext] =
+            runBeside(design, simulator, unclean.drive * stepDown, unclean.drive * stepDown * stepDown);
         if (!next.distortion || !afterNext.distortion) // the simulator has failed: it would again
             return {};
         if (isClean(next))

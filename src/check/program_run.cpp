@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Spawns, listens, glances at the bounds, and ends the whole group.
 #include "check/program_run.h"
 
 #include <algorithm>

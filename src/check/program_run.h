@@ -30,8 +30,8 @@ private:
 struct ProgramOrder {
     std::filesystem::path program; ///< as it was found: no search is made
     std::vector<std::string> arguments{};
-    std::filesystem::path folder;  ///< where it runs
-    std::string watchedFile{};     ///< of that folder: it must not outgrow `mostBytes`
+    std::filesystem::path folder; ///< where it runs
+    std::string watchedFile{};    ///< of that folder: it must not outgrow `mostBytes`
     std::size_t mostBytes = 64U << 20U;
     std::size_t mostWords = 64U << 10U; ///< bytes of what it says that are kept; the rest is read and dropped
     std::chrono::milliseconds limit{5000};

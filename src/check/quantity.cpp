@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The table of the quantities.
 #include "check/quantity.h"
 
 #include "host/window.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Takes the bytes apart, line by line and number by number; nothing that they claim is believed before it is counted.
 #include "check/raw_file.h"
 
 #include <algorithm>

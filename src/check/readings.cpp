@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Finds each quantity in the plots where it stands.
 #include "check/readings.h"
 
 #include <algorithm>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Reads the rows of a table off a sheet.
 #include "check/sheet_table.h"
 
 #include <numbers>

@@ -85,8 +85,8 @@ struct SheetTable {
     std::span<const PartRow> parts{};
     std::span<const TransistorRow> transistors{};
     std::span<const QuantityRow> quantities{};
-    Figure Ein{};           ///< V r.m.s.: the input that the course worked out
-    Figure fo{};            ///< Hz
+    Figure Ein{};                   ///< V r.m.s.: the input that the course worked out
+    Figure fo{};                    ///< Hz
     Figure temperature{.scale = 0}; ///< degrees Celsius, up to which the current may drift; 0: not asked for
     // the ladders: what the course does count, and what it does not
     Truths gainCounted{};

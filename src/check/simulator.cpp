@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Deck into a folder, ngspice over it, raw file out of it.
 #include "check/simulator.h"
 
 #include <fstream>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// One small function a resistance or gain, in the symbols of the course.
 #include "check/stage.h"
 
 #include "check/circuit.h"
@@ -45,8 +46,7 @@ double emitterLoad(const Stage& stage, Truths truths)
 /// Beta x (r'e + Res), with Beta + 1 for the second where alpha counts; ohm.
 double transistorInput(const Stage& stage, Truths truths)
 {
-    return stage.Beta *
-           (countedJunction(stage, truths) + emitterShare(stage, truths) * emitterLoad(stage, truths));
+    return stage.Beta * (countedJunction(stage, truths) + emitterShare(stage, truths) * emitterLoad(stage, truths));
 }
 
 /// RLac / (r'e + Res): of the stages driven at the base. The course's phase splitter has a gain of 1 whatever loads it.

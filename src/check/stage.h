@@ -23,21 +23,21 @@ enum class StageKind : std::uint8_t {
 
 /// A simplification of the course that a step of the ladder takes away.
 enum class Truth : std::uint8_t {
-    asMeant,       ///< units that the course mixes, or a slip of its, put right: of use as the first step alone
-    junction,      ///< r'e stands in series with Res
-    thermal,       ///< 25.865 mV for 25 mV
-    current,       ///< the current that really flows for the one designed
-    alpha,         ///< the emitter carries Beta + 1 parts, the collector Beta
-    ownInput,      ///< the transistor's own input resistance counts
-    upperResistor, ///< Rb1 loads the input
-    lowerResistor, ///< Rb2 loads the input
-    load,          ///< RLw stands beside the emitter's resistor
-    feedbackLoad,  ///< Rb1 loads the collector, and takes a little of the gain
-    oneMore,       ///< Rb1 counts 1 + Vg times smaller, not Vg times
+    asMeant,         ///< units that the course mixes, or a slip of its, put right: of use as the first step alone
+    junction,        ///< r'e stands in series with Res
+    thermal,         ///< 25.865 mV for 25 mV
+    current,         ///< the current that really flows for the one designed
+    alpha,           ///< the emitter carries Beta + 1 parts, the collector Beta
+    ownInput,        ///< the transistor's own input resistance counts
+    upperResistor,   ///< Rb1 loads the input
+    lowerResistor,   ///< Rb2 loads the input
+    load,            ///< RLw stands beside the emitter's resistor
+    feedbackLoad,    ///< Rb1 loads the collector, and takes a little of the gain
+    oneMore,         ///< Rb1 counts 1 + Vg times smaller, not Vg times
     emitterResistor, ///< Res lies beside r'e
-    pairFactor,    ///< 2 for 2.5
-    tail,          ///< the emitters' common resistor is no perfect source
-    secondLoad,    ///< what the second stage and its follower really load
+    pairFactor,      ///< 2 for 2.5
+    tail,            ///< the emitters' common resistor is no perfect source
+    secondLoad,      ///< what the second stage and its follower really load
 };
 
 /// Which simplifications have been taken away.
@@ -72,7 +72,7 @@ struct Stage {
     double trueQIc = 0;     ///< A
     double RL = 0;          ///< ohm, and so on
     double RLw = 0;
-    double Res = 0; ///< without bypass
+    double Res = 0;      ///< without bypass
     double otherRLw = 0; ///< load at the emitter of a phase splitter
     // the compound amplifier: its second pair, and the follower at its end
     double secondDesigned = 0; ///< A

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Compares, and finds the words.
 #include "check/verdict.h"
 
 #include <algorithm>
@@ -66,7 +67,8 @@ double cleanSwing(const Ceilings& ceilings)
 bool isBent(const Row& row, const Ceilings& ceilings)
 {
     const Measured reference = referenceOf(row);
-    return row.quantity == Quantity::Eopp && ceilings.known && reference && cleanSwing(ceilings) < *reference * (1 - tenth);
+    return row.quantity == Quantity::Eopp && ceilings.known && reference &&
+           cleanSwing(ceilings) < *reference * (1 - tenth);
 }
 
 Judgement judgementOf(const Row& row, const Ceilings& ceilings)
@@ -97,8 +99,10 @@ Words powerReason(const Row& row, const Design& design)
         return {"Ibias x Beta da " + most + " y la corriente pico pide " + needed + ".",
                 "Ibias x Beta gives " + most + ", and the peak current asks for " + needed + "."};
     }
-    return {"Q1 debe mover casi toda su corriente de reposo: su r'e cambia con la señal, y la onda se dobla antes que la salida.",
-            "Q1 must swing nearly its whole quiescent current: its r'e changes with the signal, and the wave bends before the "
+    return {"Q1 debe mover casi toda su corriente de reposo: su r'e cambia con la señal, y la onda se dobla antes que "
+            "la salida.",
+            "Q1 must swing nearly its whole quiescent current: its r'e changes with the signal, and the wave bends "
+            "before the "
             "output does."};
 }
 
@@ -115,8 +119,9 @@ Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
         return {"Cada capacitor quita su parte, y las partes se suman: a -3 dB se llega recién en " + amount + ".",
                 "Each capacitor takes its share, and the shares add up: -3 dB are met only at " + amount + "."};
     case Quantity::Vg:
-        return {"A media excursión el cruce por cero y la corriente que cambia con la señal quitan o agregan ganancia.",
-                "At half the swing the crossing of zero, and a current that changes with the signal, take or add gain."};
+        return {
+            "A media excursión el cruce por cero y la corriente que cambia con la señal quitan o agregan ganancia.",
+            "At half the swing the crossing of zero, and a current that changes with the signal, take or add gain."};
     case Quantity::Eopp: {
         if (isPower)
             return powerReason(row, design);
@@ -127,8 +132,8 @@ Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
             return {"La onda se dobla porque QIc x RLac es " + amountText(cutOff, "V") + ".",
                     "The wave bends because QIc x RLac is " + amountText(cutOff, "V") + "."};
         return {"La onda se dobla porque el transistor satura: Vce deja " + amountText(ceilings.saturation, "V") + ".",
-                "The wave bends because the transistor saturates: Vce leaves " +
-                    amountText(ceilings.saturation, "V") + "."};
+                "The wave bends because the transistor saturates: Vce leaves " + amountText(ceilings.saturation, "V") +
+                    "."};
     }
     case Quantity::Pout:
     case Quantity::Pclean:
@@ -142,8 +147,10 @@ Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
     if (isPower)
         return {"El curso cuenta 0.6 V por juntura; las del simulador siguen a su corriente.",
                 "The course counts 0.6 V a junction; those of the simulator follow their current."};
-    return {"El curso cuenta una tensión de juntura fija; la del simulador sigue a la corriente, y la base toma la suya.",
-            "The course counts a fixed junction voltage; that of the simulator follows the current, and the base takes its own."};
+    return {
+        "El curso cuenta una tensión de juntura fija; la del simulador sigue a la corriente, y la base toma la suya.",
+        "The course counts a fixed junction voltage; that of the simulator follows the current, and the base takes its "
+        "own."};
 }
 
 /// What the ladder says: its highest rung, and where that leads.

@@ -2,6 +2,7 @@
 // The commands that check a finished design in the simulator, and ask what came out. A walk may name the simulator in its settings.
 #include <array>
 #include <cmath>
+#include <sstream>
 
 #include "check/check.h"
 #include "check/verdict.h"
@@ -57,10 +58,14 @@ void traceCheck(Walk& walk)
     const check::Check& check = *walk.lastCheck();
     for (const check::Row& row : check.rows) {
         const bool hasLadder = !row.ladder.rungs.empty();
-        walk.trace("  " + std::string(check::textOf(row.quantity).name) + ": asked " + cellText(row.asked) + ", course " +
-                   cellText(row.course) + ", simulated " + cellText(row.simulated) + "; " + row.verdict.in(inEnglish(walk)) +
+        walk.trace("  " + std::string(check::textOf(row.quantity).name) + ": asked " + cellText(row.asked) +
+                   ", course " + cellText(row.course) + ", simulated " + cellText(row.simulated) + "; " +
+                   row.verdict.in(inEnglish(walk)) +
                    (hasLadder ? "; remainder " + check::amountText(row.ladder.remainder(), "dB") : ""));
     }
+    std::istringstream netlist(check.netlist);
+    for (std::string line; std::getline(netlist, line);)
+        walk.trace("  | " + line);
     if (!check.excuse.en.empty())
         walk.trace("  " + check.excuse.in(inEnglish(walk)));
 }
@@ -79,14 +84,23 @@ const check::Row* rowOf(Walk& walk, std::string_view word)
     return row;
 }
 
+/// The current window, or the sheet behind a tool window.
+const host::Window& sheetInHand(Walk& walk)
+{
+    const host::Window& current = walk.current();
+    const host::Window* child = walk.engine().activeChild();
+    return current.role() == host::Role::tool && child != nullptr ? *child : current;
+}
+
 void checkDesign(Walk& walk, Words)
 {
-    const host::Window& sheet = walk.current();
+    const host::Window& sheet = sheetInHand(walk);
     const check::SheetTable* table = designs::circuitTableOf(sheet.name());
     if (table == nullptr)
         throw WalkError(std::string(sheet.name()) + " has no design to check");
     if (!check::isAwake(sheet, *table)) {
-        walk.lastCheck() = check::Check{.excuse = {std::string(check::whyAsleep().es), std::string(check::whyAsleep().en)}};
+        walk.lastCheck() =
+            check::Check{.excuse = {std::string(check::whyAsleep().es), std::string(check::whyAsleep().en)}};
         return;
     }
     check::Ngspice simulator(walk.settings().value("Check", "Simulator").value_or(""));

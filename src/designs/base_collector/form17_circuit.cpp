@@ -73,18 +73,19 @@ constexpr host::BiText assumed[] = {noEarlyEffect};
 
 } // namespace form17_circuit
 
-const check::SheetTable circuit{.sheet = "Form17",
-                                .stage = check::StageKind::follower,
-                                .parts = form17_circuit::parts,
-                                .transistors = form17_circuit::transistors,
-                                .quantities = form17_circuit::quantities,
-                                .Ein = {Text14},
-                                .fo = {Text12},
-                                .gainCounted = {check::Truth::load},
-                                .gainRungs = form17_circuit::gainRungs,
-                                .inputCounted = {check::Truth::ownInput, check::Truth::lowerResistor, check::Truth::load},
-                                .inputRungs = form17_circuit::inputRungs,
-                                .assumed = form17_circuit::assumed,
-                                .passed = check::hasPassed<Form17>};
+const check::SheetTable circuit{
+    .sheet = "Form17",
+    .stage = check::StageKind::follower,
+    .parts = form17_circuit::parts,
+    .transistors = form17_circuit::transistors,
+    .quantities = form17_circuit::quantities,
+    .Ein = {Text14},
+    .fo = {Text12},
+    .gainCounted = {check::Truth::load},
+    .gainRungs = form17_circuit::gainRungs,
+    .inputCounted = {check::Truth::ownInput, check::Truth::lowerResistor, check::Truth::load},
+    .inputRungs = form17_circuit::inputRungs,
+    .assumed = form17_circuit::assumed,
+    .passed = check::hasPassed<Form17>};
 
 } // namespace velmor::form17

@@ -14,7 +14,8 @@ namespace parc_desac_circuit {
 double bypassedPart(const host::Window& window)
 {
     const double QIc = check::numberIn(window.text(Text8)) * milli;
-    return check::heldBy<ParcDesac, &common_emitter::Quantities::ERes>(window) / QIc - check::numberIn(window.text(Text15));
+    return check::heldBy<ParcDesac, &common_emitter::Quantities::ERes>(window) / QIc -
+           check::numberIn(window.text(Text15));
 }
 
 // Polarised by emitter there is a negative supply under Res, and no Rb1.
@@ -44,7 +45,8 @@ constexpr auto inputRungs = std::to_array<check::RungRow>({
 });
 // clang-format on
 
-constexpr auto quantities = quantityRows<Controls>({.scale = kilo, .held = check::heldBy<ParcDesac, &common_emitter::Quantities::Zin>});
+constexpr auto quantities =
+    quantityRows<Controls>({.scale = kilo, .held = check::heldBy<ParcDesac, &common_emitter::Quantities::Zin>});
 
 } // namespace parc_desac_circuit
 

@@ -70,6 +70,6 @@ const check::SheetTable circuit{.sheet = "Form10",
                                 .passed = check::hasPassed<Form10>,
                                 .preset = "Rb1b",
                                 .middle = "x",
-                                .mostPeak = {Text5, check::milli * form10_circuit::outputBeta}};
+                                .mostPeak = {Text5, check::milli* form10_circuit::outputBeta}};
 
 } // namespace velmor::form10

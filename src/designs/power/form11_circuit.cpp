@@ -72,15 +72,16 @@ constexpr host::BiText assumed[] = {
 
 } // namespace form11_circuit
 
-const check::SheetTable circuit{.sheet = "Form11",
-                                .parts = form11_circuit::parts,
-                                .transistors = form11_circuit::transistors,
-                                .quantities = form11_circuit::quantities,
-                                .Ein = {.scale = power::effective, .held = check::heldBy<Form11, &form10::Quantities::EgPP>},
-                                .assumed = form11_circuit::assumed,
-                                .passed = check::hasPassed<Form11>,
-                                .preset = "Rb1b",
-                                .middle = "x",
-                                .mostPeak = {form10::Text5, check::milli * form11_circuit::superBeta}};
+const check::SheetTable circuit{
+    .sheet = "Form11",
+    .parts = form11_circuit::parts,
+    .transistors = form11_circuit::transistors,
+    .quantities = form11_circuit::quantities,
+    .Ein = {.scale = power::effective, .held = check::heldBy<Form11, &form10::Quantities::EgPP>},
+    .assumed = form11_circuit::assumed,
+    .passed = check::hasPassed<Form11>,
+    .preset = "Rb1b",
+    .middle = "x",
+    .mostPeak = {form10::Text5, check::milli* form11_circuit::superBeta}};
 
 } // namespace velmor::form11

@@ -64,12 +64,13 @@ constexpr host::BiText assumed[] = {{"Rb1 empieza en la salida", "Rb1 starts at 
 
 } // namespace form20_circuit
 
-const check::SheetTable circuit{.sheet = "form20",
-                                .parts = form20_circuit::parts,
-                                .transistors = form20_circuit::transistors,
-                                .quantities = form20_circuit::quantities,
-                                .Ein = {.scale = power::effective, .held = check::heldBy<Form20, &form15::Quantities::EgPP>},
-                                .assumed = form20_circuit::assumed,
-                                .passed = check::hasPassed<Form20>};
+const check::SheetTable circuit{
+    .sheet = "form20",
+    .parts = form20_circuit::parts,
+    .transistors = form20_circuit::transistors,
+    .quantities = form20_circuit::quantities,
+    .Ein = {.scale = power::effective, .held = check::heldBy<Form20, &form15::Quantities::EgPP>},
+    .assumed = form20_circuit::assumed,
+    .passed = check::hasPassed<Form20>};
 
 } // namespace velmor::form20
