@@ -68,7 +68,8 @@ Simulation Ngspice::run(const std::string& deck)
                                  .arguments = {"-n", "-b", "-r", rawName, deckName},
                                  .folder = folder.path(),
                                  .watchedFile = rawName,
-                                 .mostBytes = mostRawBytes});
+                                 .mostBytes = mostRawBytes,
+                                 .limit = limit_});
     Simulation simulation{.details = std::move(run.words)};
     if (run.end == ProgramEnd::normal)
         simulation.plots = readRaw(readRawFile(folder.path()));

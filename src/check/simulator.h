@@ -3,8 +3,10 @@
 // the same.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "check/raw_file.h"
@@ -36,11 +38,15 @@ class Ngspice final : public Simulator {
 public:
     /// The path or name of the program; empty: "ngspice" on the PATH. It is looked for at each run, so that one that is
     /// installed meanwhile is found.
-    explicit Ngspice(std::string program = {}) : program_(std::move(program)) {}
+    explicit Ngspice(std::string program = {}, std::chrono::milliseconds limit = std::chrono::seconds(5))
+        : program_(std::move(program)), limit_(limit)
+    {
+    }
     Simulation run(const std::string& deck) override;
 
 private:
     std::string program_;
+    std::chrono::milliseconds limit_;
 };
 
 } // namespace velmor::check
