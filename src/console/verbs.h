@@ -32,6 +32,8 @@ struct Verb {
 std::span<const Verb> preparations();
 std::span<const Verb> deeds();
 std::span<const Verb> questions();
+/// The check of a finished design, and what it has found.
+std::span<const Verb> checks();
 
 /// Null when the language has no such command.
 const Verb* verbOf(std::string_view name);

@@ -4,10 +4,12 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
 
+#include "check/check.h"
 #include "console/console_screen.h"
 #include "console/walk_text.h"
 #include "host/engine.h"
@@ -64,6 +66,9 @@ public:
     /// Reports that the walk cannot be read any further.
     void stop(std::string_view reason);
 
+    /// What the last `check` has found; nothing before the first.
+    std::optional<check::Check>& lastCheck() { return lastCheck_; }
+
     /// A walk that has not been started finds the main window loaded.
     void loadProgram();
 
@@ -90,6 +95,7 @@ private:
     ConsoleScreen screen_;
     host::MemorySettings settings_;
     host::Engine engine_;
+    std::optional<check::Check> lastCheck_;
 };
 
 /// How a window is called in reports: "Form2#1".

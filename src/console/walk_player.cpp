@@ -81,7 +81,7 @@ WalkResult playFile(const WalkedProgram& program, const std::string& name, std::
 
 const Verb* verbOf(std::string_view name)
 {
-    for (const std::span<const Verb> verbs : {preparations(), deeds(), questions()})
+    for (const std::span<const Verb> verbs : {preparations(), deeds(), questions(), checks()})
         for (const Verb& verb : verbs)
             if (verb.name == name)
                 return &verb;

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+// Writes the rows; the words stand in quantity.cpp and verdict.cpp.
+#include "check/table_text.h"
+
+#include <array>
+
+#include "check/deck.h"
+#include "check/verdict.h"
+
+namespace velmor::check {
+
+namespace table_text_detail {
+
+constexpr std::string_view lineEnd = "\r\n";
+
+constexpr host::BiText heading{"Magnitud\tPedido\tCurso\tSimulador\tVeredicto",
+                               "Quantity\tAsked\tCourse\tSimulator\tVerdict"};
+constexpr host::BiText csvHeading{"magnitud,unidad,pedido,curso,simulador,resto dB,veredicto",
+                                  "quantity,unit,asked,course,simulator,remainder dB,verdict"};
+constexpr host::BiText fromCourse{"Del curso al simulador: ", "From the course to the simulator: "};
+constexpr host::BiText remainder{"Resto", "Remainder"};
+constexpr host::BiText assumed{"Supuesto: ", "Assumed: "};
+
+std::string_view pick(const host::BiText& text, bool english)
+{
+    return english ? text.en : text.es;
+}
+
+std::string cell(const Measured& value, std::string_view unit)
+{
+    return value ? amountText(*value, unit) : "-";
+}
+
+std::string rowLine(const Row& row, bool english)
+{
+    const QuantityText& text = textOf(row.quantity);
+    return std::string(text.name) + '\t' + cell(row.asked, text.unit) + '\t' + cell(row.course, text.unit) + '\t' +
+           cell(row.simulated, text.unit) + '\t' + row.verdict.in(english) + std::string(lineEnd);
+}
+
+std::string ladderLines(const Row& row, bool english)
+{
+    const QuantityText& text = textOf(row.quantity);
+    std::string lines(lineEnd);
+    lines += std::string(pick(fromCourse, english)) + std::string(text.name) + " = " +
+             amountText(row.ladder.start, text.unit) + std::string(lineEnd);
+    for (std::size_t i = 0; i < row.ladder.rungs.size(); ++i)
+        lines += amountText(row.ladder.rungs[i].value, text.unit) + " (" + amountText(row.ladder.stepOf(i), "dB") +
+                 ")\t" + std::string(pick(row.ladder.rungs[i].reason, english)) + std::string(lineEnd);
+    return lines + std::string(pick(remainder, english)) + ": " + amountText(row.ladder.remainder(), "dB") +
+           std::string(lineEnd);
+}
+
+std::string csvField(std::string_view text)
+{
+    if (text.find_first_of(",\"\r\n") == std::string_view::npos)
+        return std::string(text);
+    std::string quoted = "\"";
+    for (const char c : text)
+        quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
+    return quoted + '"';
+}
+
+std::string csvNumber(const Measured& value)
+{
+    return value ? plainNumber(*value) : std::string();
+}
+
+} // namespace table_text_detail
+
+using namespace table_text_detail;
+
+std::string textTable(const Check& check, const Design& design, bool english)
+{
+    std::string text = std::string(pick(heading, english)) + std::string(lineEnd);
+    for (const Row& row : check.rows)
+        text += rowLine(row, english);
+    for (const Row& row : check.rows)
+        if (!row.ladder.rungs.empty())
+            text += ladderLines(row, english);
+    for (const host::BiText& assumption : design.table->assumed)
+        text += std::string(pick(assumed, english)) + std::string(pick(assumption, english)) + std::string(lineEnd);
+    if (!check.excuse.en.empty())
+        text += check.excuse.in(english) + std::string(lineEnd);
+    return text;
+}
+
+std::string csvTable(const Check& check, bool english)
+{
+    std::string text = std::string(pick(csvHeading, english)) + std::string(lineEnd);
+    for (const Row& row : check.rows) {
+        const Measured rest = row.ladder.rungs.empty() ? Measured() : Measured(row.ladder.remainder());
+        const QuantityText& words = textOf(row.quantity);
+        const std::array fields{std::string(words.name),
+                                std::string(words.unit),
+                                csvNumber(row.asked),
+                                csvNumber(row.course),
+                                csvNumber(row.simulated),
+                                csvNumber(rest),
+                                csvField(row.verdict.in(english))};
+        for (std::size_t i = 0; i < fields.size(); ++i)
+            text += (i == 0 ? "" : ",") + fields[i];
+        text += lineEnd;
+    }
+    return text;
+}
+
+} // namespace velmor::check

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+// The verdict on a row, in words: it agrees, it differs and why, or what was asked is not reached. Never that a formula is wrong.
+#pragma once
+
+#include "check/check.h"
+
+namespace velmor::check {
+
+/// A number for reading: three or four digits, no exponent, the unit behind it; thousands of ohms as K.
+std::string amountText(double value, std::string_view unit);
+
+/// Judges the row and says so in it.
+void judge(Row& row, const Design& design, const Ceilings& ceilings);
+
+} // namespace velmor::check

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// The circuits of the differential sheets, one table a sheet, for the check of a finished design.
+#pragma once
+
+#include "check/sheet_table.h"
+
+namespace velmor {
+
+namespace form3 {
+extern const check::SheetTable circuit;
+}
+namespace form13 {
+extern const check::SheetTable circuit;
+}
+namespace form12 {
+extern const check::SheetTable circuit;
+}
+
+} // namespace velmor

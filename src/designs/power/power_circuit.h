@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// What the circuits of the power sheets share when a design is checked.
+#pragma once
+
+#include "check/sheet_table.h"
+
+namespace velmor::power {
+
+/// From volts peak to peak to volts r.m.s. of a sine.
+inline constexpr double effective = 0.35355339059327;
+
+inline constexpr check::Figure Vj{.scale = 0.6};
+
+// clang-format off
+inline constexpr host::BiText plainTransistors{"Transistores sin efecto Early ni capacidades, Vj 0.6 V",
+                                               "Transistors without Early effect and capacitances, Vj 0.6 V"};
+inline constexpr host::BiText presetTurned{"Preset ajustado hasta que el medio queda en Es / 2",
+                                           "Preset turned until the middle stands at Es / 2"};
+// clang-format on
+
+} // namespace velmor::power
