@@ -176,6 +176,7 @@ void WindowKeeper::followAll()
     }
     if (main_) {
         main_->setHasChildren(children);
+        main_->menus().followSteps();
         main_->setStrip(stripHeight());
     }
     followRaised();
@@ -227,10 +228,12 @@ void WindowKeeper::followRaised()
     }
 }
 
-// Qt chooses an active child of its own when one goes; the model's is the one that counts.
+// Qt chooses an active child of its own when one goes; the model's is the one that counts. A sheet that is asked about stands in
+// front of it meanwhile.
 void WindowKeeper::followActive()
 {
-    const host::Window* child = desk_.engine->activeChild();
+    const host::Window* asked = desk_.engine->askedAbout();
+    const host::Window* child = asked != nullptr ? asked : desk_.engine->activeChild();
     if (!main_ || child == nullptr || !child->shown())
         return;
     auto* frame = dynamic_cast<ChildFrame*>(frameOf(*child));
