@@ -2,7 +2,13 @@
 // Measures and prints plain text.
 #include "desktop/printing.h"
 
+#include <algorithm>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QFontMetricsF>
+#include <QLineEdit>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPrintDialog>
@@ -10,6 +16,7 @@
 
 #include "desktop/drawing/texts.h"
 #include "desktop/page_lines.h"
+#include "desktop/windows/questions.h"
 
 namespace velmor::desktop {
 
@@ -19,6 +26,26 @@ constexpr double twipsPerPoint = 20.0;
 constexpr double printersOwnSize = 10.0; ///< points, when the job names none
 constexpr double marginMillimetres = 15.0;
 constexpr double sideMillimetres = 10.0;
+
+constexpr host::BiText failed{"No se ha podido imprimir: el archivo o la impresora no lo permiten.",
+                              "It could not be printed: the file or the printer does not allow it."};
+constexpr int failedFlags = 48;
+
+// The toolkit's writer of PDFs does not tell that the disk was full: the end of the file does.
+bool isWholePdf(const QString& name)
+{
+    constexpr qint64 closing = 32;
+    QFile file(name);
+    return QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly) &&
+           file.seek(std::max<qint64>(0, file.size() - closing)) && file.readAll().contains("%%EOF");
+}
+
+// The dialog has one line for a file, and would fill it with a name of its own.
+void propose(QPrintDialog& dialog, const FileProposal& proposal)
+{
+    if (auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename")))
+        file->setText(QDir(proposal.folder).filePath(proposal.name + QStringLiteral(".pdf")));
+}
 
 QString withoutTabs(QString line)
 {
@@ -95,20 +122,32 @@ bool printOn(QPagedPaintDevice& device, const host::PrintJob& job)
     return painter.end();
 }
 
-void askAndPrint(QWidget* parent, const host::PrintJob& job)
+bool printTo(QPrinter& printer, const host::PrintJob& job)
+{
+    const QString file = printer.outputFormat() == QPrinter::PdfFormat ? printer.outputFileName() : QString();
+    return printOn(printer, job) && (file.isEmpty() || printing_detail::isWholePdf(file));
+}
+
+QString askAndPrint(QWidget* parent, const host::PrintJob& job, bool english, const FileProposal& proposal)
 {
     QPrinter printer(QPrinter::HighResolution);
     const double margin = printing_detail::marginMillimetres;
     printer.setPageMargins(
         QMarginsF(printing_detail::sideMillimetres, margin, printing_detail::sideMillimetres, margin),
         QPageLayout::Millimeter);
-    printer.setDocName(QStringLiteral("Velmor"));
+    printer.setDocName(proposal.name);
     if (!printer.isValid())
         printer.setOutputFormat(QPrinter::PdfFormat);
     QPrintDialog dialog(&printer, parent);
+    printing_detail::propose(dialog, proposal);
     dialog.setObjectName(QStringLiteral("printDialog"));
-    if (dialog.exec() == QDialog::Accepted)
-        printOn(printer, job);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    if (printTo(printer, job))
+        return printer.outputFileName();
+    const host::BiText& text = printing_detail::failed;
+    askMessage(parent, {std::string(english ? text.en : text.es), "Velmor", printing_detail::failedFlags}, english);
+    return {};
 }
 
 } // namespace velmor::desktop

@@ -6,9 +6,11 @@
 #include <QString>
 #include <QStringList>
 
+#include "desktop/file_places.h"
 #include "host/screen.h"
 
 class QPagedPaintDevice;
+class QPrinter;
 class QWidget;
 
 namespace velmor::desktop {
@@ -25,7 +27,10 @@ QStringList printedLines(const host::PrintJob& job, double pageTwips);
 /// Prints on a device whose page is set. False when it cannot be written.
 bool printOn(QPagedPaintDevice& device, const host::PrintJob& job);
 
-/// Asks for the printer (or a PDF file) and prints.
-void askAndPrint(QWidget* parent, const host::PrintJob& job);
+/// Prints on a printer or into its file. False when nothing can be read of it, also of a disk that became full.
+bool printTo(QPrinter& printer, const host::PrintJob& job);
+
+/// Asks for the printer (or a PDF file) and prints; says so when it cannot be done. Returns the file that was written, if any.
+QString askAndPrint(QWidget* parent, const host::PrintJob& job, bool english, const FileProposal& proposal);
 
 } // namespace velmor::desktop

@@ -3,6 +3,7 @@
 // where the program asks its own.
 #include "desktop/windows/questions.h"
 
+#include <QAbstractFileIconProvider>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -31,6 +32,17 @@ QString inAnyCapitals(const QString& patterns)
     return result.join(QLatin1Char(' '));
 }
 
+// The toolkit's own icons and kinds come from the contents of files, and reading a pipe or a device may wait for good.
+class IconsByName final : public QAbstractFileIconProvider {
+public:
+    QIcon icon(const QFileInfo& file) const override
+    {
+        return QAbstractFileIconProvider::icon(file.isDir() ? Folder : File);
+    }
+    QIcon icon(IconType kind) const override { return QAbstractFileIconProvider::icon(kind); }
+    QString type(const QFileInfo& file) const override { return file.suffix().toUpper(); }
+};
+
 } // namespace file_question_detail
 
 QStringList nameFilters(const std::string& filter)
@@ -51,11 +63,16 @@ QString endingOf(const QString& nameFilter)
     return first.contains(QLatin1Char('*')) ? QString() : first;
 }
 
-std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& asked, const QString& folder)
+std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& asked, const QString& folder,
+                                   const QString& proposed)
 {
     const bool saves = asked.kind == host::DialogKind::save;
     const QString start = asked.folder.empty() ? folder : shown(asked.folder);
-    QFileDialog dialog(parent, shownTitle(asked.title), QDir(start).exists() ? start : QDir::homePath());
+    file_question_detail::IconsByName icons;
+    // The dialog looks into its first folder as soon as it is made, with the toolkit's icons: one that holds folders alone.
+    QFileDialog dialog(parent, shownTitle(asked.title), QDir::rootPath());
+    dialog.setIconProvider(&icons);
+    dialog.setDirectory(QDir(start).exists() ? start : QDir::homePath());
     dialog.setObjectName(QStringLiteral("fileDialog"));
     dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
@@ -68,6 +85,10 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& aske
     }
     dialog.setOption(QFileDialog::DontConfirmOverwrite,
                      !saves || (asked.flags & file_question_detail::overwritePrompt) == 0);
+    // The desktop's own would speak its language, not the program's.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    if (saves && !proposed.isEmpty())
+        dialog.selectFile(proposed);
     dialog.setOption(QFileDialog::HideNameFilterDetails); // the description names its pattern itself
     const QFontMetrics letters = dialog.fontMetrics();
     dialog.resize(letters.averageCharWidth() * file_question_detail::lettersAcross,
