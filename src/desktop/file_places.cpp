@@ -72,6 +72,7 @@ using namespace file_places_detail;
 QString fileNameOf(const QString& name)
 {
     QString result = name;
+    result.replace(QStringLiteral("/ "), QStringLiteral(" ")); // "p/ corriente"
     for (QChar& letter : result)
         if (letter < QLatin1Char(' ') || QStringLiteral("/\\:*?\"<>|").contains(letter))
             letter = QLatin1Char('-');

@@ -26,6 +26,7 @@ constexpr double twipsPerPoint = 20.0;
 constexpr double printersOwnSize = 10.0; ///< points, when the job names none
 constexpr double marginMillimetres = 15.0;
 constexpr double sideMillimetres = 10.0;
+constexpr int lettersOfFile = 64; ///< of a path that are seen
 
 constexpr host::BiText failed{"No se ha podido imprimir: el archivo o la impresora no lo permiten.",
                               "It could not be printed: the file or the printer does not allow it."};
@@ -43,8 +44,11 @@ bool isWholePdf(const QString& name)
 // The dialog has one line for a file, and would fill it with a name of its own.
 void propose(QPrintDialog& dialog, const FileProposal& proposal)
 {
-    if (auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename")))
-        file->setText(QDir(proposal.folder).filePath(proposal.name + QStringLiteral(".pdf")));
+    auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
+    if (file == nullptr)
+        return;
+    file->setText(QDir(proposal.folder).filePath(proposal.name + QStringLiteral(".pdf")));
+    file->setMinimumWidth(file->fontMetrics().averageCharWidth() * lettersOfFile);
 }
 
 QString withoutTabs(QString line)

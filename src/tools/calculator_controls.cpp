@@ -17,9 +17,9 @@ namespace table {
 // clang-format off
 // What the window shows until a path is begun: the labels are empty then, and no field is there.
 constexpr host::Mark invitation[] = {
-    {.symbol = host::Symbol::text, .from = {150, 14}, .note = {"¿Qué ganancia quiere calcular?", "Which gain shall be worked out?"},
+    {.symbol = host::Symbol::text, .from = {150, 7}, .note = {"¿Qué ganancia quiere calcular?", "Which gain shall be worked out?"},
      .side = host::Side::below},
-    {.symbol = host::Symbol::text, .from = {150, 44}, .note = {"Zi igual a Zo: el primer botón.\nZi diferente de Zo: Po / Pi.",
+    {.symbol = host::Symbol::text, .from = {150, 26}, .note = {"Zi igual a Zo: el primer botón.\nZi diferente de Zo: Po / Pi.",
                                                               "Zi equal to Zo: the first button.\nZi different from Zo: Po / Pi."},
      .side = host::Side::below, .ink = host::Ink::quiet},
 };

@@ -96,7 +96,7 @@ void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen, bool report
     font.setStrikeOut(chosen.strikeout);
     if (font != editor.font())
         editor.setFont(font);
-    const double tab = blanksOfATab * QFontMetricsF(font).horizontalAdvance(QLatin1Char(' '));
+    const double tab = (readable ? 2 : 1) * blanksOfATab * QFontMetricsF(font).horizontalAdvance(QLatin1Char(' '));
     if (editor.tabStopDistance() != tab)
         editor.setTabStopDistance(tab);
 }
@@ -284,6 +284,14 @@ QWidget* Canvas::makeEditor(Handle control)
             if (model_ != nullptr && !desk_.closing && !store->programChanges())
                 desk_.engine->userEdited(*model_, control);
         });
+        // A report that takes the place of another text is dressed when the change is over.
+        connect(
+            store->document(), &QTextDocument::contentsChanged, edit,
+            [this, edit, control, report = false]() mutable {
+                if (model_ != nullptr && std::exchange(report, isReport(*edit->document())) != report)
+                    dressEditor(control, *edit);
+            },
+            Qt::QueuedConnection);
     }
     return edit;
 }

@@ -59,13 +59,15 @@ int stateAfter(const QTextBlock& block, int before)
     return before == opening && endsOpening(block) ? body : before;
 }
 
-QList<QTextLayout::FormatRange> formatsOf(ReportLine kind, int length, const QFont& around, const QColor& accent)
+// The blanks keep their width, so that indents stay those of the lines around.
+QList<QTextLayout::FormatRange> formatsOf(ReportLine kind, const QString& line, const QFont& around,
+                                          const QColor& accent)
 {
     if (kind == ReportLine::plain)
         return {};
     QTextLayout::FormatRange range;
-    range.start = 0;
-    range.length = length;
+    range.start = indentOf(line);
+    range.length = static_cast<int>(line.size()) - range.start;
     range.format.setFontWeight(QFont::Bold);
     range.format.setFontPointSize(around.pointSizeF() * (kind == ReportLine::title ? titleSize : headingSize));
     range.format.setForeground(accent);
@@ -123,8 +125,7 @@ void ReportDress::dress(int from, int length)
          block = block.next()) {
         const int before = stateBefore(block);
         const ReportLine kind = report ? kindOf(block, before) : ReportLine::plain;
-        const QList<QTextLayout::FormatRange> formats =
-            formatsOf(kind, block.length(), document_.defaultFont(), accent_);
+        const QList<QTextLayout::FormatRange> formats = formatsOf(kind, block.text(), document_.defaultFont(), accent_);
         const bool same = formats == block.layout()->formats();
         if (!same) {
             block.layout()->setFormats(formats);

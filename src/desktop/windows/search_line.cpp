@@ -156,6 +156,9 @@ void SearchLine::setInks(const Inks& inks)
     QPalette colors = palette();
     colors.setColor(QPalette::Window, inks.voice);
     colors.setColor(QPalette::WindowText, inks.ink);
+    colors.setColor(QPalette::Base, inks.field);
+    colors.setColor(QPalette::Text, inks.fieldInk);
+    colors.setColor(QPalette::PlaceholderText, inks.quiet);
     setPalette(colors);
     markHits();
 }

@@ -258,8 +258,9 @@ void WindowKeeper::followFocus()
 {
     SheetView* view = activeView();
     const QWidget* now = QApplication::focusWidget();
-    // A menu that is walked by keyboard has the focus on loan and gives it back itself.
-    if (view == nullptr || (now != nullptr && now->inherits("QMenuBar")))
+    // A menu that is walked by keyboard has the focus on loan and gives it back itself. A sheet that gets it comes to the front,
+    // where another one may be asked about.
+    if (view == nullptr || desk_.engine->askedAbout() != nullptr || (now != nullptr && now->inherits("QMenuBar")))
         return;
     view->followFocus();
 }

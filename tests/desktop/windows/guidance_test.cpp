@@ -50,7 +50,7 @@ TEST(ClosingTest, theSheetThatIsAskedAboutStandsInFrontAndIsNotActiveForThat)
     Bench::settle();
     EXPECT_EQ(inFront, frameOf(first));
     EXPECT_EQ(active, &second);
-    EXPECT_EQ(first.log, (std::vector<std::string>{"Hoja queryClose"})) << "nothing else runs in it";
+    EXPECT_EQ(first.log, (std::vector<std::string>{"Hoja ask"})) << "nothing else runs in it";
     EXPECT_EQ(area.currentSubWindow(), frameOf(second)) << "the exit was dropped";
 }
 

@@ -247,6 +247,7 @@ TEST_F(SearchTest, aReportIsShownInAReadableTypeAndKeepsItsOwnForPaper)
     on.engine.userRun([&] { on.engine.host().Hide(*editor); });
     editor = &on.show("frmEdito2");
     write(report);
+    Bench::settle();
     EXPECT_GT(text().fontInfo().pointSizeF(), 11.0);
     EXPECT_FALSE(text().fontInfo().fixedPitch());
     EXPECT_EQ(editor->font(editors::txtEdit), host::Font{});
