@@ -104,6 +104,10 @@ private:
     void paintPaleFields(QPainter& painter, const QRegion& clip);
     void paintGlow(QPainter& painter);
     void tellAbout(host::Handle control, QPoint at);
+    void paintWhole(QPainter& painter);
+    bool paintAsFirstSeen(QPainter& painter);
+    QRectF pictured() const;
+    bool liesInPicture() const;
     QWidget* makeWidget(host::Handle control);
     QWidget* makeField(host::Handle control);
     QWidget* makePage(host::Handle control);
@@ -129,6 +133,7 @@ private:
     mutable std::vector<QRectF> ink_;
     bool offering_ = false;
     bool laidOut_ = false; ///< has a size; until then nothing is worth placing
+    bool seen_ = false;    ///< has been painted whole
     std::unique_ptr<Pointer> pointer_;
     std::unique_ptr<Keyboard> keyboard_;
 };
