@@ -18,6 +18,8 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
     setApplicationName(QStringLiteral("Velmor"));
     setDesktopFileName(QStringLiteral("velmor"));
     setQuitOnLastWindowClosed(false);
+    // The desktop's own dialogs would speak its language, not the program's.
+    setAttribute(Qt::AA_DontUseNativeDialogs);
     // Drawn when the first window is on its way to the screen.
     QTimer::singleShot(0, this, [] { setWindowIcon(programIcon()); });
     setStyle(new QuietStyle);

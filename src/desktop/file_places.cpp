@@ -72,9 +72,11 @@ using namespace file_places_detail;
 QString fileNameOf(const QString& name)
 {
     QString result = name;
-    result.replace(QStringLiteral("/ "), QStringLiteral(" ")); // "p/ corriente"
+    // "p/ corriente", "p. corriente"; a name with a point would get no ending.
+    for (const QString& shortening : {QStringLiteral("/ "), QStringLiteral(". ")})
+        result.replace(shortening, QStringLiteral(" "));
     for (QChar& letter : result)
-        if (letter < QLatin1Char(' ') || QStringLiteral("/\\:*?\"<>|").contains(letter))
+        if (letter < QLatin1Char(' ') || QStringLiteral("./\\:*?\"<>|").contains(letter))
             letter = QLatin1Char('-');
     return result.simplified();
 }

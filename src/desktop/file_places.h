@@ -34,7 +34,7 @@ FileProposal proposalForPrint(host::Window* asking, const host::SettingsStore& s
 /// The file of that sort has been chosen: the next dialog begins beside it.
 void noteFolder(host::SettingsStore& settings, FileSort sort, const QString& file);
 
-/// A name without what some file system does not take, and without blanks around it.
+/// A name without what some file system does not take, without points and without blanks around it.
 QString fileNameOf(const QString& name);
 
 } // namespace velmor::desktop

@@ -85,8 +85,6 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& aske
     }
     dialog.setOption(QFileDialog::DontConfirmOverwrite,
                      !saves || (asked.flags & file_question_detail::overwritePrompt) == 0);
-    // The desktop's own would speak its language, not the program's.
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
     if (saves && !proposed.isEmpty())
         dialog.selectFile(proposed);
     dialog.setOption(QFileDialog::HideNameFilterDetails); // the description names its pattern itself

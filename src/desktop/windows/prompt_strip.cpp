@@ -107,7 +107,8 @@ void PromptStrip::mousePressEvent(QMouseEvent* event)
     host::Window& model = *canvas_.model();
     for (const host::ControlRow& row : model.spec().controls) {
         const host::Place place = host::shownPlace(model, row.id);
-        if (isPrompt(row.id) && canvas_.shows(row.id) && at.y() >= place.top && at.y() < place.top + place.height) {
+        const bool under = at.y() >= place.top && at.y() < place.top + place.height;
+        if (under && isPrompt(row.id) && canvas_.planOf(row.id).target && canvas_.shows(row.id)) {
             canvas_.desk().engine->userClick(model, row.id);
             return;
         }

@@ -87,12 +87,10 @@ void SheetView::bringUpToDate()
     if (changes.empty())
         return;
     canvas_->apply(changes);
-    if (strip_ != nullptr && strip_->isVisible() && strip_->shows(changes)) {
+    if (strip_ != nullptr && isScrolled() && strip_->shows(changes)) {
         strip_->update();
-        if (strip_->reach() == 0)
+        if (strip_->reach() != reach_)
             layOutCanvas();
-    } else if (strip_ != nullptr && isScrolled() && strip_->shows(changes) && strip_->reach() != 0) {
-        layOutCanvas();
     }
     if (menus_ != nullptr)
         menus_->apply(changes);
@@ -230,11 +228,12 @@ void SheetView::layOutPrompts()
     const double scale = sheet_view_detail::smallestScale;
     const double fitting = std::min(room.width() * twipsPerUnit / std::max(1, table.width),
                                     room.height() * twipsPerUnit / std::max(1, table.height));
-    const int reach = fitting < scale ? strip_->reach() : 0;
-    const bool shown = reach > 0 && reach * scale / twipsPerUnit <= room.height() * sheet_view_detail::stripShare;
-    const int cut = shown ? reach : 0;
+    reach_ = strip_->reach();
+    const bool leavesRoom = reach_ * scale / twipsPerUnit <= room.height() * sheet_view_detail::stripShare;
+    const bool shown = fitting < scale && reach_ > 0 && leavesRoom;
+    const int cut = shown ? reach_ : 0;
     if (shown)
-        strip_->takeHeight(reach, scale);
+        strip_->takeHeight(reach_, scale);
     if (strip_->isHidden() == shown)
         strip_->setVisible(shown);
     canvas_->setDesign({0, cut, table.width, table.height - cut});

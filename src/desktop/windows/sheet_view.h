@@ -68,6 +68,7 @@ private:
     QScrollArea* area_;
     Canvas* canvas_;
     PromptStrip* strip_ = nullptr; ///< of a sheet
+    int reach_ = 0;                ///< of its prompts, at the last layout
     SearchLine* search_ = nullptr;
     QTimer* forward_; ///< how long the tile of what comes next stands forward
     unsigned stirrings_ = 0;
