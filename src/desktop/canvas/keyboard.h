@@ -10,6 +10,7 @@
 #include <QString>
 
 #include "host/bitext.h"
+#include "host/engine.h"
 #include "host/window.h"
 
 class QInputMethodEvent;
