@@ -35,6 +35,8 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
     setApplicationName(QStringLiteral("Velmor"));
     setDesktopFileName(QStringLiteral("velmor"));
     setQuitOnLastWindowClosed(false);
+    // The desktop's own dialogs would speak its language, not the program's.
+    setAttribute(Qt::AA_DontUseNativeDialogs);
     QTimer::singleShot(0, this, application_detail::showIcon);
     setStyle(new QuietStyle);
     tellAssistiveTechnology();

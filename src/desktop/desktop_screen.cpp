@@ -14,11 +14,24 @@
 
 #include "desktop/canvas/document_store.h"
 #include "desktop/drawing/texts.h"
+#include "desktop/file_places.h"
 #include "desktop/printing.h"
 #include "desktop/windows/questions.h"
 #include "desktop/windows/window_keeper.h"
 
 namespace velmor::desktop {
+
+namespace desktop_screen_detail {
+
+/// Where a person looks for what they have written; the program's folder where there is no such place.
+QString documentsOf(const FolderPlaces& places, const std::string& programFolder)
+{
+    return QDir(places.documents).exists() ? places.documents : shown(programFolder);
+}
+
+} // namespace desktop_screen_detail
+
+using namespace desktop_screen_detail;
 
 DesktopScreen::DesktopScreen(const FolderPlaces& places, const QString& markFile) : places_(places), instance_(markFile)
 {}
@@ -56,9 +69,23 @@ host::Answer DesktopScreen::messageBox(const host::MessageBox& box)
     return ask([&](QWidget* parent) { return askMessage(parent, box, desk_.english()); });
 }
 
+/// The sheet or editor that a dialog is about.
+host::Window* DesktopScreen::asking() const
+{
+    host::Window* asked = desk_.engine->askedAbout();
+    return asked != nullptr ? asked : desk_.engine->activeChild();
+}
+
 std::optional<std::string> DesktopScreen::fileDialog(const host::FileDialog& dialog)
 {
-    return ask([&](QWidget* parent) { return askFile(parent, dialog, shown(programFolder())); });
+    const FileProposal proposal =
+        proposalFor(asking(), dialog, desk_.engine->settings(), documentsOf(places_, programFolder()));
+    host::FileDialog placed = dialog;
+    placed.folder = held(proposal.folder);
+    auto chosen = ask([&](QWidget* parent) { return askFile(parent, placed, proposal.folder, proposal.name); });
+    if (chosen)
+        noteFolder(desk_.engine->settings(), proposal.sort, shown(*chosen));
+    return chosen;
 }
 
 std::optional<std::string> DesktopScreen::inputBox(const host::InputBox& box)
@@ -143,10 +170,11 @@ void DesktopScreen::setClipboardText(std::string_view text)
 
 void DesktopScreen::print(const host::PrintJob& job)
 {
-    ask([&](QWidget* parent) {
-        askAndPrint(parent, job, desk_.english());
-        return true;
-    });
+    const FileProposal proposal =
+        proposalForPrint(asking(), desk_.engine->settings(), documentsOf(places_, programFolder()));
+    const QString written = ask([&](QWidget* parent) { return askAndPrint(parent, job, desk_.english(), proposal); });
+    if (!written.isEmpty())
+        noteFolder(desk_.engine->settings(), proposal.sort, written);
 }
 
 bool DesktopScreen::run(const std::string& program, const std::string& argument)

@@ -65,6 +65,7 @@ private:
     template <class Ask>
     auto ask(Ask question);
     void prepareFolder();
+    host::Window* asking() const;
 
     FolderPlaces places_;
     OtherInstance instance_;

@@ -4,9 +4,11 @@
 
 #include <algorithm>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontMetricsF>
+#include <QLineEdit>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPrintDialog>
@@ -24,6 +26,7 @@ constexpr double twipsPerPoint = 20.0;
 constexpr double printersOwnSize = 10.0; ///< points, when the job names none
 constexpr double marginMillimetres = 15.0;
 constexpr double sideMillimetres = 10.0;
+constexpr int lettersOfFile = 64; ///< of a path that are seen
 
 constexpr host::BiText failed{"No se ha podido imprimir: el archivo o la impresora no lo permiten.",
                               "It could not be printed: the file or the printer does not allow it."};
@@ -36,6 +39,16 @@ bool isWholePdf(const QString& name)
     QFile file(name);
     return QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly) &&
            file.seek(std::max<qint64>(0, file.size() - closing)) && file.readAll().contains("%%EOF");
+}
+
+// The dialog has one line for a file, and would fill it with a name of its own.
+void propose(QPrintDialog& dialog, const FileProposal& proposal)
+{
+    auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
+    if (file == nullptr)
+        return;
+    file->setText(QDir(proposal.folder).filePath(proposal.name + QStringLiteral(".pdf")));
+    file->setMinimumWidth(file->fontMetrics().averageCharWidth() * lettersOfFile);
 }
 
 QString withoutTabs(QString line)
@@ -145,22 +158,26 @@ bool printTo(QPrinter& printer, const host::PrintJob& job)
     return printOn(printer, job) && (file.isEmpty() || printing_detail::isWholePdf(file));
 }
 
-void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english)
+QString askAndPrint(QWidget* parent, const host::PrintJob& job, bool english, const FileProposal& proposal)
 {
     QPrinter printer(QPrinter::HighResolution);
     const double margin = printing_detail::marginMillimetres;
     printer.setPageMargins(
         QMarginsF(printing_detail::sideMillimetres, margin, printing_detail::sideMillimetres, margin),
         QPageLayout::Millimeter);
-    printer.setDocName(QStringLiteral("Velmor"));
+    printer.setDocName(proposal.name);
     if (!printer.isValid())
         printer.setOutputFormat(QPrinter::PdfFormat);
     QPrintDialog dialog(&printer, parent);
+    printing_detail::propose(dialog, proposal);
     dialog.setObjectName(QStringLiteral("printDialog"));
-    if (dialog.exec() != QDialog::Accepted || printTo(printer, job))
-        return;
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    if (printTo(printer, job))
+        return printer.outputFileName();
     const host::BiText& text = printing_detail::failed;
     askMessage(parent, {std::string(english ? text.en : text.es), "Velmor", printing_detail::failedFlags}, english);
+    return {};
 }
 
 } // namespace velmor::desktop

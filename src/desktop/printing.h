@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "desktop/file_places.h"
 #include "host/screen.h"
 
 class QPagedPaintDevice;
@@ -29,7 +30,7 @@ bool printOn(QPagedPaintDevice& device, const host::PrintJob& job);
 /// Prints on a printer or into its file. False when nothing can be read of it, also of a disk that became full.
 bool printTo(QPrinter& printer, const host::PrintJob& job);
 
-/// Asks for the printer (or a PDF file) and prints; says so when it cannot be done.
-void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english);
+/// Asks for the printer (or a PDF file) and prints; says so when it cannot be done. Returns the file that was written, if any.
+QString askAndPrint(QWidget* parent, const host::PrintJob& job, bool english, const FileProposal& proposal);
 
 } // namespace velmor::desktop

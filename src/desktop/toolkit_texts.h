@@ -7,6 +7,13 @@
 
 namespace velmor::desktop {
 
+/// What the toolkit's own Spanish leaves in English.
+class GapsInSpanish final : public QTranslator {
+public:
+    QString translate(const char* context, const char* source, const char* comment, int count) const override;
+    bool isEmpty() const override { return false; }
+};
+
 class ToolkitTexts {
 public:
     /// The texts are in that language from now on. The file is read when they are first wanted in Spanish.
@@ -16,6 +23,7 @@ public:
 
 private:
     QTranslator spanish_;
+    GapsInSpanish gaps_;
     bool asked_ = false;
     bool loaded_ = false;
     bool installed_ = false;

@@ -113,6 +113,9 @@ public:
     Window& mainWindow();
     Window* current() const { return current_; }
     Window* activeChild() const { return activeChild_; }
+    /// The sheet that is being asked whether it may close, while the program's end asks them all; null otherwise. A screen brings
+    /// it to the front; it is not active for that.
+    Window* askedAbout() const { return askedAbout_; }
     std::vector<Window*> windows() const;                      ///< loaded, in order of creation
     Window* instance(std::string_view name, int number) const; ///< number counted from 1; 0 the newest
     Window* defaultInstance(std::string_view name) const;
@@ -227,6 +230,7 @@ private:
     std::vector<Window*> history_; ///< the latest current window last
     Window* current_ = nullptr;
     Window* activeChild_ = nullptr;
+    Window* askedAbout_ = nullptr;
     std::deque<std::function<void()>> pending_;
     /// The field that had the focus when the person's event began, until it is left.
     struct InHand {

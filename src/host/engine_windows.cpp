@@ -260,7 +260,9 @@ bool Engine::askAllSheets()
             continue;
         EventArgs args;
         args.reason = CloseReason::programEnd;
+        askedAbout_ = window;
         run(*window, noControl, Event::queryClose, args);
+        askedAbout_ = nullptr;
         if (args.cancel || ended_)
             return false;
     }

@@ -118,6 +118,7 @@ Real Calculator::entered(Handle field) const
 
 void Calculator::hideAllBut(Handle field)
 {
+    hide(Shape1);
     for (const FieldRow& row : texts::fields)
         if (row.field != field) {
             hide(row.field);

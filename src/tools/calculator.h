@@ -11,7 +11,20 @@
 
 namespace velmor::calculator {
 
-enum Control : host::Handle { Text1, Text2, Text3, Text4, Text5, Text6, Command3, Command4, Command5, Label1, Label2 };
+enum Control : host::Handle {
+    Text1,
+    Text2,
+    Text3,
+    Text4,
+    Text5,
+    Text6,
+    Command3,
+    Command4,
+    Command5,
+    Label1,
+    Label2,
+    Shape1
+};
 
 extern const host::WindowSpec spec;
 std::unique_ptr<host::Window> create(host::SheetHost& host);

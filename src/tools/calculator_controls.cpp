@@ -15,6 +15,14 @@ using host::SlotRow;
 namespace table {
 
 // clang-format off
+// What the window shows until a path is begun: the labels are empty then, and no field is there.
+constexpr host::Mark invitation[] = {
+    {.symbol = host::Symbol::text, .from = {150, 7}, .note = {"¿Qué ganancia quiere calcular?", "Which gain shall be worked out?"},
+     .side = host::Side::below},
+    {.symbol = host::Symbol::text, .from = {150, 26}, .note = {"Zi igual a Zo: el primer botón.\nZi diferente de Zo: Po / Pi.",
+                                                              "Zi equal to Zo: the first button.\nZi different from Zo: Po / Pi."},
+     .side = host::Side::below, .ink = host::Ink::quiet},
+};
 constexpr host::Place fieldPlace{300, 1230, 4500, 450};
 constexpr ControlRow controls[] = {
     {.id = Text1, .name = "Text1", .kind = Kind::field, .place = fieldPlace, .visible = false, .enabled = false,
@@ -37,6 +45,7 @@ constexpr ControlRow controls[] = {
      .meaning = {.es = "Ocultar la calculadora", .en = "Hide the calculator"}},
     {.id = Label1, .name = "Label1", .kind = Kind::label, .place = {300, 2520, 4500, 840}, .look = Look::hint},
     {.id = Label2, .name = "Label2", .kind = Kind::label, .place = {300, 300, 4500, 840}, .look = Look::paper, .fontSize = 9},
+    {.id = Shape1, .name = "Shape1", .kind = Kind::shape, .place = {300, 300, 4500, 1380}, .drawing = invitation},
 };
 static_assert(host::rowsInOrder(controls));
 

@@ -15,6 +15,7 @@ python=/usr/bin/python3 # the one that knows the accessibility bus
 
 all_journeys() {
     $python - <<'END'
+import glob
 import unittest
 def names(suite):
     for test in suite:

@@ -88,6 +88,8 @@ void Form3::hoverPart(host::EventArgs& args)
 {
     hoverBackground();
     hoverField(args);
+    if (args.control == Image11 && visible(image2))
+        tell(texts::finishedLoad);
 }
 
 // Right-aligned in the main window, whatever the size of the sheet.

@@ -156,8 +156,8 @@ constexpr auto controls = std::to_array<ControlRow>({
     result(Label38, "Label38", in(62, 216, 130, 20)),
     result(Label39, "Label39", in(112, 146, 120, 20)),
     result(Label40, "Label40", in(506, 216, 130, 20)),
-    result(Label42, "Label42", in(550, 270, 44, 18), "Ent 2"),
-    result(Label43, "Label43", in(510, 145, 44, 18), "Out 2"),
+    label(Label42, "Label42", in(548, 270, 44, 18), Look::drawn, "Ent 2"),
+    label(Label43, "Label43", in(508, 145, 44, 18), Look::drawn, "Out 2"),
     hidden(label(Label44, "Label44", in(60, 124, 140, 20), Look::note)),
 
     field(Text1, "Text1", zones::parameter(circuitTop, 0), "1", notation::dQIc),
@@ -330,7 +330,7 @@ Place shown(const host::Window& window, host::Handle control)
     if (control == Text21)
         return at(966, 94, 228, 518);
     if (control == Label43 && window.placeOf(Label43).left == finishedLeftOfLabel43)
-        return in(622, 148, 46, 18);
+        return in(618, 143, 44, 18);
     return window.placeOf(control);
 }
 

@@ -60,12 +60,14 @@ inline constexpr auto didactic = onPaper({
     {.symbol = Symbol::text, .from = {110, 276}, .name = "Ent 1", .side = Side::below, .field = Text15},
     {.symbol = Symbol::wire, .from = {470, 250}, .to = {570, 250}},
     {.symbol = Symbol::terminal, .from = {570, 250}},
+    {.symbol = Symbol::label, .from = {570, 276}, .side = Side::below, .value = Label42},
     // outputs
     {.symbol = Symbol::wire, .from = {240, 180}, .to = {150, 180}},
     {.symbol = Symbol::terminal, .from = {150, 180}},
     {.symbol = Symbol::text, .from = {150, 160}, .name = "Out 1", .side = Side::above, .field = Text14},
     {.symbol = Symbol::wire, .from = {440, 180}, .to = {530, 180}},
     {.symbol = Symbol::terminal, .from = {530, 180}},
+    {.symbol = Symbol::label, .from = {530, 160}, .side = Side::above, .value = Label43},
     {.symbol = Symbol::node, .from = {240, 180}},
     {.symbol = Symbol::node, .from = {440, 180}},
     {.symbol = Symbol::meter, .from = {240, 180}, .to = {440, 180}, .name = "V", .ink = Ink::quiet},
@@ -170,6 +172,7 @@ inline constexpr auto finished = onPaper({
     {.symbol = Symbol::resistor, .from = {640, 290}, .to = {640, 350}, .name = "R_Lw", .side = Side::left, .field = Text10},
     {.symbol = Symbol::wire, .from = {640, 350}, .to = {640, 390}},
     {.symbol = Symbol::ground, .from = {640, 390}},
+    {.symbol = Symbol::label, .from = {640, 158}, .side = Side::above, .value = Label43},
 });
 
 // The bench. A sinusoid of the generator stands on a little screen of its own.

@@ -210,6 +210,10 @@ inline constexpr auto sayings = std::to_array<Saying>({
     {Image34, When::hover, Label36, {"Ocultar la ayuda", "Hide the help"}},
 });
 
+// In the finished picture the load stands at Out 1; a signal that is let go there is still one of input 2.
+inline constexpr Saying finishedLoad{.place = Label36,
+                                     .text = {.es = "Out 1: Carga (señal: Entrada 2)", .en = "Out 1: Load (signal: Input 2)"}};
+
 // Boxes, in the order in which a student may meet them.
 inline constexpr Saying belowEResMin{
     .text  = {.es = "El amplificador NO cumplira los requerimientos de estabilidad...", .en = " Place a number..."},

@@ -16,6 +16,7 @@
 #include "desktop/canvas/field_edit.h"
 #include "desktop/canvas/keyboard.h"
 #include "desktop/canvas/pointer.h"
+#include "desktop/canvas/waiting.h"
 #include "desktop/drawing/control_painter.h"
 #include "desktop/drawing/growth_plan.h"
 #include "desktop/drawing/page_picture.h"
@@ -28,6 +29,10 @@ using host::Handle;
 using host::noControl;
 
 namespace canvas_detail {
+
+constexpr double glow = 0.14; ///< how much of the accent a drop target takes on
+constexpr double glowUnderDrag = 0.32;
+constexpr int glowReach = 4; ///< logical pixels around it
 
 bool isMostOf(const QRegion& region, const QRect& whole)
 {
@@ -213,6 +218,26 @@ void Canvas::paintEvent(QPaintEvent* event)
     } else if (std::exchange(seen_, true) || !paintAsFirstSeen(painter)) {
         paintWhole(painter);
     }
+    if (offering_)
+        paintGlow(painter);
+}
+
+// Where what is being dragged may be let go; the place under it more so.
+void Canvas::paintGlow(QPainter& painter)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const host::ControlRow& row : model_->spec().controls) {
+        if (!plan_.entries[row.id].dropTarget || !shows(row.id))
+            continue;
+        const bool under = view_.hovered == row.id;
+        QColor ground = view_.inks->accent;
+        ground.setAlphaF(under ? canvas_detail::glowUnderDrag : canvas_detail::glow);
+        painter.setPen(QPen(view_.inks->accent, under ? 3.0 : 1.5));
+        painter.setBrush(ground);
+        const int reach = canvas_detail::glowReach;
+        painter.drawRoundedRect(QRectF(boxInPixels(row.id)).adjusted(-reach, -reach, reach, reach), 2.0 * reach,
+                                2.0 * reach);
+    }
 }
 
 void Canvas::paintWhole(QPainter& painter)
@@ -243,7 +268,9 @@ bool Canvas::liesInPicture() const
 // True when it was painted: from a picture, or with one made by the way.
 bool Canvas::paintAsFirstSeen(QPainter& painter)
 {
-    if (model_->role() != host::Role::sheet || view_.hovered != noControl || view_.pressed != noControl)
+    const bool asNew = view_.hovered == noControl && view_.pressed == noControl && view_.forward == noControl;
+    // A sheet whose prompts stand above it begins further down than its like.
+    if (model_->role() != host::Role::sheet || !asNew || design_.top != 0)
         return false;
     std::vector<bool> widgets(widgets_.size());
     std::transform(widgets_.begin(), widgets_.end(), widgets.begin(),
@@ -315,16 +342,27 @@ void Canvas::setPressed(Handle control)
     repaintControl(control);
 }
 
+void Canvas::setForward(Handle control)
+{
+    const Handle before = std::exchange(view_.forward, control);
+    if (before == control)
+        return;
+    repaintControl(before);
+    repaintControl(control);
+}
+
+void Canvas::setOffering(bool offering)
+{
+    if (std::exchange(offering_, offering) != offering)
+        update();
+}
+
 bool Canvas::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && model_ != nullptr) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const Handle control = controlAt(help->pos());
-        const QString tip = control == noControl ? QString() : tipOf(control);
-        if (tip.isEmpty())
-            QToolTip::hideText();
-        else
-            QToolTip::showText(help->globalPos(), shownTip(tip), this, boxInPixels(control));
+        tellAbout(control, help->globalPos());
         return true;
     }
     if (event->type() == QEvent::ShortcutOverride && keyboard_->wants(*static_cast<QKeyEvent*>(event))) {
@@ -332,6 +370,19 @@ bool Canvas::event(QEvent* event)
         return true;
     }
     return QWidget::event(event);
+}
+
+// What it is and, where it is grey, why it waits.
+void Canvas::tellAbout(Handle control, QPoint at)
+{
+    QStringList parts;
+    if (control != noControl)
+        parts = {tipOf(control), whyItWaits(*model_, control, view_.languageIsEnglish == host::trueValue)};
+    parts.removeAll(QString());
+    if (parts.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(at, shownTip(parts.join(QLatin1Char('\n'))), this, boxInPixels(control));
 }
 
 bool Canvas::eventFilter(QObject* object, QEvent* event)
@@ -344,6 +395,9 @@ bool Canvas::eventFilter(QObject* object, QEvent* event)
         if (keyboard_->wants(*static_cast<QKeyEvent*>(event)))
             event->accept();
         return false;
+    case QEvent::ToolTip:
+        tellAbout(known->second, static_cast<QHelpEvent*>(event)->globalPos());
+        return true;
     case QEvent::KeyPress:
         return keyboard_->pressed(*static_cast<QKeyEvent*>(event));
     case QEvent::InputMethod:

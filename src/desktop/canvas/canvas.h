@@ -3,6 +3,7 @@
 // state and passes on what the person does; it never changes the state itself.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -16,6 +17,7 @@
 #include "host/window.h"
 
 class QPainter;
+class QPlainTextEdit;
 
 namespace velmor::desktop {
 
@@ -60,12 +62,20 @@ public:
     QWidget* focusTarget();
     void setHovered(host::Handle control);
     void setPressed(host::Handle control);
+    /// That button comes forward, until another does; noControl: none.
+    void setForward(host::Handle control);
+    /// Something is being dragged: the places where it may be let go glow.
+    void setOffering(bool offering);
     void repaintControl(host::Handle control);
     /// Paints a control that reaches into `clip`; with an empty one, without asking whether it does.
     void paintOne(QPainter& painter, host::Handle control, const QRegion& clip);
     const CanvasPlan::Entry& planOf(host::Handle control) const { return plan_.entries[control]; }
     QString tipOf(host::Handle control) const;
     Pointer& pointer() { return *pointer_; }
+
+    /// What a key asks of the search line of an editor.
+    enum class Search { open, openReplacing, on, back };
+    std::function<void(Search)> search;
 
 protected:
     bool event(QEvent* event) override;
@@ -93,6 +103,8 @@ private:
     void refreshWidget(host::Handle control, bool shown);
     bool wantsWidget(host::Handle control) const;
     void paintPaleFields(QPainter& painter, const QRegion& clip);
+    void paintGlow(QPainter& painter);
+    void tellAbout(host::Handle control, QPoint at);
     void paintWhole(QPainter& painter);
     bool paintAsFirstSeen(QPainter& painter);
     QRectF pictured() const;
@@ -102,6 +114,7 @@ private:
     QWidget* makePage(host::Handle control);
     QWidget* makeEditor(host::Handle control);
     QWidget* makeList(host::Handle control);
+    void dressEditor(host::Handle editor, QPlainTextEdit& edit);
     bool opensFolders(host::Handle list) const;
     void place(host::Handle control, QWidget& widget);
     void label(host::Handle control, QWidget& widget);
@@ -120,6 +133,7 @@ private:
     std::unordered_map<const QObject*, host::Handle> handles_;
     mutable std::vector<QRectF> ink_;
     std::vector<host::Place> places_; ///< where each control was shown last
+    bool offering_ = false;
     bool laidOut_ = false;            ///< has a size; until then nothing is worth placing
     bool seen_ = false;               ///< has been painted whole
     std::unique_ptr<Pointer> pointer_;

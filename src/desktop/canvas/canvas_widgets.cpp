@@ -12,9 +12,11 @@
 #include "desktop/canvas/control_pane.h"
 #include "desktop/canvas/document_store.h"
 #include "desktop/canvas/field_edit.h"
+#include "desktop/canvas/report_dress.h"
 #include "desktop/drawing/control_painter.h"
 #include "desktop/drawing/growth_plan.h"
 #include "desktop/drawing/texts.h"
+#include "desktop/drawing/typefaces.h"
 
 namespace velmor::desktop {
 
@@ -28,6 +30,7 @@ constexpr double smallestText = 9.0; ///< logical pixels
 constexpr double pageMargin = 0.8;   ///< around a long text, in heights of its letters
 constexpr double rowHeight = 1.6;    ///< of a list, in heights of its letters
 constexpr int blanksOfATab = 8;
+constexpr double readablePoints = 11.5; ///< of a report
 
 QColor colorOr(std::int32_t own, const QColor& usual)
 {
@@ -73,19 +76,29 @@ public:
     }
 };
 
-// The student's own choice of typeface, in true points.
-void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen)
+bool isUntouched(const host::Font& font)
 {
-    QFont font(shown(chosen.name));
-    font.setStyleHint(QFont::Monospace);
-    font.setPointSizeF(std::max(1.0, chosen.size));
+    host::Font usual;
+    usual.color = font.color;
+    return font == usual;
+}
+
+// The student's own choice of typeface, in true points. A report in which none was made is shown in the letters of the sheets;
+// on paper it has those that are given.
+void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen, bool report)
+{
+    const bool readable = report && isUntouched(chosen);
+    QFont font = readable ? interfaceFont(12.0) : QFont(shown(chosen.name));
+    if (!readable)
+        font.setStyleHint(QFont::Monospace);
+    font.setPointSizeF(readable ? readablePoints : std::max(1.0, chosen.size));
     font.setBold(chosen.bold);
     font.setItalic(chosen.italic);
     font.setUnderline(chosen.underline);
     font.setStrikeOut(chosen.strikeout);
     if (font != editor.font())
         editor.setFont(font);
-    const double tab = blanksOfATab * QFontMetricsF(font).horizontalAdvance(QLatin1Char(' '));
+    const double tab = (readable ? 2 : 1) * blanksOfATab * QFontMetricsF(font).horizontalAdvance(QLatin1Char(' '));
     if (editor.tabStopDistance() != tab)
         editor.setTabStopDistance(tab);
 }
@@ -213,7 +226,7 @@ void Canvas::refreshWidget(Handle control, bool shown)
     } else if (auto* page = qobject_cast<QPlainTextEdit*>(widget)) {
         const QString text = desktop::shown(state.text);
         if (model_->row(control).kind == Kind::editor)
-            setEditorFont(*page, model_->font(control));
+            dressEditor(control, *page);
         else if (page->toPlainText() != text)
             page->setPlainText(text);
         colorText(*page, colorOr(state.backColor, desk_.inks->field), colorOr(state.foreColor, desk_.inks->fieldInk));
@@ -287,8 +300,28 @@ QWidget* Canvas::makeEditor(Handle control)
             if (model_ != nullptr && !desk_.closing && !store->programChanges())
                 desk_.engine->userEdited(*model_, control);
         });
+        // A report that takes the place of another text is dressed when the change is over.
+        connect(
+            store->document(), &QTextDocument::contentsChanged, edit,
+            [this, edit, control, report = false]() mutable {
+                if (model_ != nullptr && std::exchange(report, isReport(*edit->document())) != report)
+                    dressEditor(control, *edit);
+            },
+            Qt::QueuedConnection);
     }
     return edit;
+}
+
+void Canvas::dressEditor(Handle editor, QPlainTextEdit& edit)
+{
+    const bool report = isReport(*edit.document());
+    const QFont before = edit.font();
+    canvas_widgets_detail::setEditorFont(edit, model_->font(editor), report);
+    auto* dress = edit.document()->findChild<ReportDress*>();
+    if (dress == nullptr && report)
+        new ReportDress(*edit.document(), desk_.inks->accent);
+    else if (dress != nullptr && (before != edit.font() || dress->accent() != desk_.inks->accent))
+        dress->follow(desk_.inks->accent);
 }
 
 // A list of folders goes where a double click or Enter says; the arrow keys walk through it first.

@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QPlainTextEdit>
 #include <QPointer>
 
 #include "desktop/canvas/canvas.h"
@@ -78,6 +79,24 @@ QKeyCombination combinationOf(std::string_view keys)
     return sequence.isEmpty() ? QKeyCombination() : sequence[0];
 }
 
+struct SearchRow {
+    QKeyCombination keys;
+    Canvas::Search deed;
+};
+
+std::optional<Canvas::Search> searchOf(const host::Window& model, QKeyCombination keys)
+{
+    static const SearchRow rows[] = {{Qt::CTRL | Qt::Key_F, Canvas::Search::open},
+                                     {Qt::CTRL | Qt::Key_H, Canvas::Search::openReplacing},
+                                     {QKeyCombination(Qt::Key_F3), Canvas::Search::on},
+                                     {Qt::SHIFT | Qt::Key_F3, Canvas::Search::back}};
+    if (model.role() == host::Role::editor)
+        for (const SearchRow& row : rows)
+            if (row.keys == keys)
+                return row.deed;
+    return std::nullopt;
+}
+
 bool isUndo(QKeyCombination keys)
 {
     return std::any_of(std::begin(commonKeyRows), std::end(commonKeyRows), [keys](const CommonKeyRow& row) {
@@ -128,8 +147,10 @@ bool Keyboard::wants(const QKeyEvent& event) const
     const host::Window* model = canvas_.model();
     if (model == nullptr)
         return false;
-    return shortcutRow(model->spec(), keysOf(event)) != noRow ||
-           (model->role() == host::Role::sheet && keyboard_detail::isUndo(keysOf(event)));
+    const QKeyCombination keys = keysOf(event);
+    const bool steps = model->role() == host::Role::sheet || model->role() == host::Role::editor;
+    return shortcutRow(model->spec(), keys) != noRow || (steps && keyboard_detail::isUndo(keys)) ||
+           keyboard_detail::searchOf(*model, keys).has_value();
 }
 
 bool Keyboard::pressed(const QKeyEvent& event)
@@ -150,7 +171,7 @@ bool Keyboard::pressed(const QKeyEvent& event)
             return true;
     }
     const QKeyCombination keys = keysOf(event);
-    if (runShortcut(keys) || runCommon(keys))
+    if (runSearch(keys) || runShortcut(keys) || runCommon(keys))
         return true;
     const Handle held = model->focus();
     if (held == noControl)
@@ -173,6 +194,16 @@ bool Keyboard::goesBehind(const QKeyEvent& event) const
                         event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete ||
                         event.matches(QKeySequence::Paste);
     return writes && canvas_.desk().typeBehind(event);
+}
+
+// An editor's search line is the screen's own; the menu items open the program's windows.
+bool Keyboard::runSearch(QKeyCombination keys)
+{
+    const auto deed = keyboard_detail::searchOf(*canvas_.model(), keys);
+    if (!deed || !canvas_.search)
+        return false;
+    canvas_.search(*deed);
+    return true;
 }
 
 bool Keyboard::runShortcut(QKeyCombination keys)
@@ -235,7 +266,7 @@ bool Keyboard::run(CommonKey deed)
     return false;
 }
 
-// Keys of undo are a sheet's own; they reach no slot. Editors and small windows undo typing alone.
+// Keys of undo are a sheet's own; they reach no slot. Editors undo what was written, small windows typing alone.
 bool Keyboard::step(host::Direction direction)
 {
     if (canvas_.model()->role() != host::Role::sheet)
@@ -248,7 +279,12 @@ bool Keyboard::undoTyping(host::Direction direction)
 {
     const host::Window& model = *canvas_.model();
     const bool back = direction == host::Direction::back;
-    auto* field = model.focus() == noControl ? nullptr : dynamic_cast<FieldEdit*>(canvas_.widgetOf(model.focus()));
+    QWidget* inHand = model.focus() == noControl ? nullptr : canvas_.widgetOf(model.focus());
+    if (auto* text = qobject_cast<QPlainTextEdit*>(inHand); text != nullptr && !text->isReadOnly()) {
+        back ? text->undo() : text->redo();
+        return true;
+    }
+    auto* field = dynamic_cast<FieldEdit*>(inHand);
     if (model.role() != host::Role::sheet || field == nullptr ||
         !(back ? field->isUndoAvailable() : field->isRedoAvailable()))
         return false;

@@ -10,6 +10,7 @@
 #include <QString>
 
 #include "host/bitext.h"
+#include "host/engine.h"
 #include "host/window.h"
 
 class QInputMethodEvent;
@@ -48,6 +49,7 @@ public:
 
 private:
     bool goesBehind(const QKeyEvent& event) const;
+    bool runSearch(QKeyCombination keys);
     bool runShortcut(QKeyCombination keys);
     bool runCommon(QKeyCombination keys);
     bool run(CommonKey deed);

@@ -180,6 +180,7 @@ void Pointer::startDrag()
     picture_->setAttribute(Qt::WA_NoSystemBackground);
     picture_->resize(box.size());
     picture_->show();
+    canvas_.setOffering(true);
     dragging_ = true;
     over_ = noControl;
     canvas_.setCursor(Qt::ClosedHandCursor);
@@ -203,6 +204,7 @@ void Pointer::dragTo(QPoint point)
         engine.userDragLeave(*canvas_.model(), held_, over_);
     over_ = target;
     canvas_.setHovered(target);
+    canvas_.update();
     if (target != noControl && canvas_.model() != nullptr)
         engine.userDragEnter(*canvas_.model(), held_, target);
 }
@@ -228,6 +230,7 @@ bool Pointer::cancelDrag()
     delete picture_;
     held_ = noControl;
     over_ = noControl;
+    canvas_.setOffering(false);
     canvas_.setHovered(noControl);
     canvas_.setCursor(Qt::ArrowCursor);
     return true;

@@ -45,6 +45,7 @@ struct Scene {
     bool focused() const { return !view.forPrint && window.focus() == control && takesFocus(row().kind); }
     bool chosen() const { return host::isChosen(window, control); }
     bool hovered() const { return !view.forPrint && enabled() && view.hovered == control; }
+    bool forward() const { return !view.forPrint && enabled() && view.forward == control; }
     bool pressed() const { return !view.forPrint && enabled() && view.pressed == control; }
 };
 
@@ -221,6 +222,17 @@ void paintPaper(const Scene& scene)
     focusRing(scene);
 }
 
+/// The name of a result that is still to come: it would stand there as if it named what is beside it.
+bool awaitsItsResult(const Scene& scene)
+{
+    const auto isName = [](const host::Mark& mark) {
+        return mark.symbol == host::Symbol::text || mark.symbol == host::Symbol::label;
+    };
+    const auto drawing = scene.drawing();
+    return scene.row().look == Look::result && !scene.speaks() && !scene.view.pale &&
+           std::all_of(drawing.begin(), drawing.end(), isName);
+}
+
 void paintText(const Scene& scene)
 {
     QColor ground = scene.inks().paper;
@@ -230,7 +242,8 @@ void paintText(const Scene& scene)
     }
     const Look look = scene.row().look;
     const bool steppingBack = look == Look::note || !scene.enabled();
-    paintDrawing(scene);
+    if (!awaitsItsResult(scene))
+        paintDrawing(scene);
     writeCaption(scene, steppingBack ? scene.inks().quiet : scene.inks().ink, ground);
 }
 
@@ -251,14 +264,14 @@ QColor buttonGround(const Scene& scene)
         return scene.inks().accentTint;
     if (!scene.enabled())
         return scene.inks().buttonOff;
-    if (scene.pressed())
+    if (scene.pressed() || scene.forward())
         return scene.inks().accentTint;
     return groundOr(scene, scene.hovered() ? scene.inks().buttonHover : scene.inks().button);
 }
 
 QColor buttonBorder(const Scene& scene)
 {
-    if (scene.chosen() || scene.hovered())
+    if (scene.chosen() || scene.hovered() || scene.forward())
         return scene.inks().accent;
     return scene.enabled() ? scene.inks().edge : scene.inks().rule;
 }
@@ -278,7 +291,8 @@ void chosenBar(const Scene& scene)
 void paintButton(const Scene& scene)
 {
     const QColor ground = buttonGround(scene);
-    plate(scene, ground, buttonBorder(scene), 5.0, hairline(scene) * (scene.chosen() ? 2.0 : 1.0));
+    const double weight = scene.chosen() || scene.forward() ? 2.0 : 1.0;
+    plate(scene, ground, buttonBorder(scene), 5.0, hairline(scene) * weight);
     paintDrawing(scene);
     if (scene.chosen())
         chosenBar(scene);
@@ -459,8 +473,9 @@ QRectF boxOf(const host::Window& window, Handle control, const View& view)
 {
     const host::Place place = host::shownPlace(window, control);
     const double scale = view.pixelsPerTwip;
-    return {view.origin.x() + place.left * scale, view.origin.y() + place.top * scale, place.width * scale,
-            place.height * scale};
+    const double left = view.origin.x() + place.left * scale;
+    const double room = view.widest > 0.0 ? std::max(0.0, view.widest - left) : place.width * scale;
+    return {left, view.origin.y() + place.top * scale, std::min(place.width * scale, room), place.height * scale};
 }
 
 void paintControl(QPainter& painter, const host::Window& window, Handle control, const View& view)

@@ -30,7 +30,7 @@ inline QString shownTitle(std::string_view text)
 /// A tool tip wraps only as rich text, so the plain text is escaped and said to be rich.
 inline QString shownTip(const QString& text)
 {
-    return QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped());
+    return QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>")));
 }
 
 } // namespace velmor::desktop

@@ -21,6 +21,8 @@ struct View {
     const Inks* inks = &lightInks();
     host::Handle hovered = host::noControl; ///< control under the pointer
     host::Handle pressed = host::noControl; ///< button held down
+    host::Handle forward = host::noControl; ///< button that comes forward by itself
+    double widest = 0.0;   ///< painter's coordinates: no box reaches further to the right; 0: as its table says
     QRectF exposed{};      ///< painter's coordinates; `paintWindow` leaves out what lies outside; empty: all
     bool forPrint = false; ///< no snapping to pixels, no focus, no hover
     bool pale = false;     ///< of a part that the chain has not reached, or a value on one: pale strokes, quiet letters

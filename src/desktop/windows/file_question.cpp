@@ -63,7 +63,8 @@ QString endingOf(const QString& nameFilter)
     return first.contains(QLatin1Char('*')) ? QString() : first;
 }
 
-std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& asked, const QString& folder)
+std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& asked, const QString& folder,
+                                   const QString& proposed)
 {
     const bool saves = asked.kind == host::DialogKind::save;
     const QString start = asked.folder.empty() ? folder : shown(asked.folder);
@@ -84,6 +85,8 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& aske
     }
     dialog.setOption(QFileDialog::DontConfirmOverwrite,
                      !saves || (asked.flags & file_question_detail::overwritePrompt) == 0);
+    if (saves && !proposed.isEmpty())
+        dialog.selectFile(proposed);
     dialog.setOption(QFileDialog::HideNameFilterDetails); // the description names its pattern itself
     const QFontMetrics letters = dialog.fontMetrics();
     dialog.resize(letters.averageCharWidth() * file_question_detail::lettersAcross,

@@ -8,12 +8,20 @@
 #include <QMenuBar>
 
 #include "desktop/drawing/texts.h"
+#include "host/state_change.h"
 
 namespace velmor::desktop {
 
 using host::Handle;
 using host::Kind;
 using host::noControl;
+
+namespace menus_detail {
+
+constexpr std::string_view undoKey = "Ctrl+Z";
+constexpr std::string_view redoKey = "Ctrl+Y";
+
+} // namespace menus_detail
 
 bool Menus::hasMenus(const host::WindowSpec& spec)
 {
@@ -85,6 +93,20 @@ void Menus::refresh(Handle item)
         action->setCheckable(true);
     if (action->isCheckable())
         action->setChecked(state.checked);
+}
+
+// The model greys the items of undo when their menu opens; the screen does so at once. They are known by their keys.
+void Menus::followSteps()
+{
+    if (model_ == nullptr || model_->role() != host::Role::mainWindow)
+        return;
+    for (const host::ShortcutRow& row : model_->spec().shortcuts) {
+        QAction* action = row.control == noControl ? nullptr : actionOf(row.control);
+        if (action == nullptr || (row.keys != menus_detail::undoKey && row.keys != menus_detail::redoKey))
+            continue;
+        const bool back = row.keys == menus_detail::undoKey;
+        action->setEnabled(desk_.engine->canStep(back ? host::Direction::back : host::Direction::forth));
+    }
 }
 
 void Menus::apply(const std::vector<Handle>& changes)

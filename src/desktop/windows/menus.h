@@ -25,6 +25,8 @@ public:
 
     static bool hasMenus(const host::WindowSpec& spec);
     void apply(const std::vector<host::Handle>& changes);
+    /// What leads the active sheet one step back or forth is grey where there is no such step.
+    void followSteps();
     void forgetModel() { model_ = nullptr; }
     /// The menu of a row that has items; null otherwise.
     QMenu* menuOf(host::Handle menu) const;

@@ -19,8 +19,9 @@ namespace velmor::desktop {
 
 host::Answer askMessage(QWidget* parent, const host::MessageBox& box, bool english);
 
-/// `folder` is where the dialog starts when the program names none.
-std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& dialog, const QString& folder);
+/// `folder` is where the dialog starts when the program names none; `proposed` the name of a file that is saved.
+std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& dialog, const QString& folder,
+                                   const QString& proposed = {});
 
 /// `at` is the wished left top corner on the screen; the box is kept inside the screen.
 std::optional<std::string> askInput(QWidget* parent, const host::InputBox& box, QPoint at, bool english);

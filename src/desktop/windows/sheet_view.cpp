@@ -11,8 +11,11 @@
 #include <QtMath>
 
 #include "desktop/canvas/field_edit.h"
+#include "desktop/canvas/finished.h"
 #include "desktop/canvas/pointer.h"
 #include "desktop/windows/menus.h"
+#include "desktop/windows/prompt_strip.h"
+#include "desktop/windows/search_line.h"
 
 namespace velmor::desktop {
 
@@ -28,11 +31,14 @@ constexpr double smallestScale = 0.85;
 constexpr double smallestOfPictures = 0.4;
 constexpr int toolMargin = 120; ///< twips
 constexpr int scrollMargin = 40;
+constexpr int forwardFor = 6000;   ///< milliseconds
+constexpr double stripShare = 0.4; ///< of the height at most, for prompts that stay in view
 
 } // namespace sheet_view_detail
 
 SheetView::SheetView(Desk& desk, host::Window& model, QWidget* parent)
-    : QWidget(parent), desk_(desk), area_(new QScrollArea(this)), canvas_(new Canvas(desk, model))
+    : QWidget(parent), desk_(desk), area_(new QScrollArea(this)), canvas_(new Canvas(desk, model)),
+      forward_(new QTimer(this)), passed_(hasPassed(model))
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -43,10 +49,18 @@ SheetView::SheetView(Desk& desk, host::Window& model, QWidget* parent)
         menus_ = new Menus(desk, model, *bar_);
         column->addWidget(bar_);
     }
+    if (model.role() == Role::sheet) {
+        strip_ = new PromptStrip(*canvas_, this);
+        column->addWidget(strip_);
+    }
     area_->setFrameShape(QFrame::NoFrame);
     area_->setFocusPolicy(Qt::NoFocus);
     area_->setWidget(canvas_);
     column->addWidget(area_);
+    canvas_->search = [this](Canvas::Search deed) { search(deed); };
+    forward_->setSingleShot(true);
+    forward_->setInterval(sheet_view_detail::forwardFor);
+    connect(forward_, &QTimer::timeout, this, [this] { canvas_->setForward(noControl); });
     setFocusProxy(canvas_);
     canvas_->applyAll();
     model.takeChanges();
@@ -68,17 +82,91 @@ void SheetView::bringUpToDate()
 {
     if (model() == nullptr)
         return;
+    followDesign();
     const std::vector<Handle> changes = model()->takeChanges();
     if (changes.empty())
         return;
     canvas_->apply(changes);
+    if (strip_ != nullptr && isScrolled() && strip_->shows(changes)) {
+        strip_->update();
+        if (strip_->reach() != reach_)
+            layOutCanvas();
+    }
     if (menus_ != nullptr)
         menus_->apply(changes);
     followTimers();
 }
 
+// When a design has passed, the tile of what comes next stands forward for a while, once.
+void SheetView::followDesign()
+{
+    if (std::exchange(stirrings_, model()->stirrings()) == model()->stirrings())
+        return;
+    const bool now = hasPassed(*model());
+    if (std::exchange(passed_, now) == now)
+        return;
+    forward_->stop();
+    canvas_->setForward(now ? reportTool(model()->spec()) : noControl);
+    if (now)
+        forward_->start();
+}
+
+void SheetView::search(Canvas::Search deed)
+{
+    auto* text = model() == nullptr || model()->focus() == noControl
+                     ? nullptr
+                     : qobject_cast<QPlainTextEdit*>(canvas_->widgetOf(model()->focus()));
+    if (text == nullptr)
+        return;
+    if (search_ == nullptr) {
+        search_ = new SearchLine(*text, *desk_.inks, desk_.english(), this);
+        search_->installEventFilter(this);
+        layout()->addWidget(search_);
+    }
+    switch (deed) {
+    case Canvas::Search::open:
+    case Canvas::Search::openReplacing:
+        return search_->open(deed == Canvas::Search::openReplacing);
+    case Canvas::Search::on:
+        return search_->go(SearchLine::Way::forward);
+    case Canvas::Search::back:
+        return search_->go(SearchLine::Way::backward);
+    }
+}
+
+// The text makes room for its search line.
+bool SheetView::eventFilter(QObject* object, QEvent* event)
+{
+    if (object == search_ && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
+        QTimer::singleShot(0, this, [this] {
+            layout()->activate();
+            layOutCanvas();
+        });
+    return QWidget::eventFilter(object, event);
+}
+
+void SheetView::relabel()
+{
+    canvas_->relabel();
+    if (strip_ != nullptr)
+        strip_->update();
+    if (search_ != nullptr)
+        search_->speak(desk_.english());
+}
+
+void SheetView::recolor()
+{
+    canvas_->recolor();
+    if (strip_ != nullptr)
+        strip_->update();
+    if (search_ != nullptr)
+        search_->setInks(*desk_.inks);
+}
+
 void SheetView::followFocus()
 {
+    if (search_ != nullptr && search_->hasKeyboard())
+        return;
     QWidget* target = canvas_->focusTarget();
     if (target->hasFocus())
         return;
@@ -132,11 +220,33 @@ bool SheetView::isScrolled() const
     return canvas_->width() > area_->viewport()->width() || canvas_->height() > area_->viewport()->height();
 }
 
+// A sheet that would be too small to read scrolls, and its prompts keep out of that, as long as they leave it room.
+void SheetView::layOutPrompts()
+{
+    const host::Place& table = model()->spec().place;
+    const QSize room(width(), height() - (bar_ == nullptr || bar_->isHidden() ? 0 : bar_->sizeHint().height()));
+    const double scale = sheet_view_detail::smallestScale;
+    const double fitting = std::min(room.width() * twipsPerUnit / std::max(1, table.width),
+                                    room.height() * twipsPerUnit / std::max(1, table.height));
+    reach_ = strip_->reach();
+    const bool leavesRoom = reach_ * scale / twipsPerUnit <= room.height() * sheet_view_detail::stripShare;
+    const bool shown = fitting < scale && reach_ > 0 && leavesRoom;
+    const int cut = shown ? reach_ : 0;
+    if (shown)
+        strip_->takeHeight(reach_, scale);
+    if (strip_->isHidden() == shown)
+        strip_->setVisible(shown);
+    canvas_->setDesign({0, cut, table.width, table.height - cut});
+    layout()->activate();
+}
+
 void SheetView::layOutCanvas()
 {
     if (model() == nullptr)
         return;
-    if (model()->role() != Role::sheet && model()->role() != Role::editor)
+    if (model()->role() == Role::sheet)
+        layOutPrompts();
+    else if (model()->role() != Role::editor)
         canvas_->setDesign(designOfTool());
     const QSize room = area_->maximumViewportSize();
     if (model()->role() == Role::editor) {

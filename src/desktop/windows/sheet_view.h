@@ -18,6 +18,8 @@ class QTimer;
 namespace velmor::desktop {
 
 class Menus;
+class PromptStrip;
+class SearchLine;
 
 class SheetView final : public QWidget {
 public:
@@ -33,8 +35,10 @@ public:
     void bringUpToDate();
     /// Puts Qt's focus where the model's is; a field that gets it this way is selected whole.
     void followFocus();
-    void relabel() { canvas_->relabel(); }
-    void recolor() { canvas_->recolor(); }
+    void relabel();
+    void recolor();
+    /// The search line of an editor; null before it was first wanted.
+    SearchLine* searchLine() const { return search_; }
     void layOutCanvas();
     /// The size of a tool: its window's, made larger where a control would be cut off.
     host::Place designOfTool() const;
@@ -44,11 +48,15 @@ public:
     QSize wantedSize() const;
 
 protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void followTimers();
+    void followDesign();
+    void layOutPrompts();
+    void search(Canvas::Search deed);
     void bringIntoView();
     QSize roomBesideBars(QSize needed) const;
     void showCaret();
@@ -59,6 +67,12 @@ private:
     Menus* menus_ = nullptr;
     QScrollArea* area_;
     Canvas* canvas_;
+    PromptStrip* strip_ = nullptr; ///< of a sheet
+    int reach_ = 0;                ///< of its prompts, at the last layout
+    SearchLine* search_ = nullptr;
+    QTimer* forward_; ///< how long the tile of what comes next stands forward
+    unsigned stirrings_ = 0;
+    bool passed_;
     std::unordered_map<host::Handle, QTimer*> timers_;
 };
 

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "desktop/canvas/field_edit.h"
 #include "desktop/drawing/texts.h"
 #include "desktop/windows/questions.h"
 #include "desktop/windows/sheet_view.h"
@@ -37,6 +38,7 @@ ToolWindow::ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow)
     column->addWidget(view_);
     setObjectName(shown(model.name()));
     setFocusProxy(view_);
+    setAttribute(Qt::WA_AlwaysShowToolTips); // pointing tells, whichever window has the keyboard
     setAttribute(Qt::WA_ShowWithoutActivating, isQuiet());
     resting_ = model.role() == host::Role::palette;
     if (model.spec().modal)
@@ -81,10 +83,20 @@ void ToolWindow::beginAtField()
         for (const host::Handle control : host::Engine::tabOrder(*model()))
             if (model()->canTakeFocus(control)) {
                 if (model()->row(control).kind == host::Kind::field)
-                    desk_.engine->userFocus(*model(), control);
+                    beginIn(control);
                 return;
             }
     });
+}
+
+// What stands there from the last time gives way to the first key, also where the field has had the focus all the time.
+void ToolWindow::beginIn(host::Handle field)
+{
+    desk_.engine->userFocus(*model(), field);
+    if (model() == nullptr || model()->focus() != field)
+        return;
+    if (auto* edit = dynamic_cast<FieldEdit*>(view_->canvas().widgetOf(field)))
+        edit->selectWhole();
 }
 
 void ToolWindow::followSize()

@@ -41,6 +41,7 @@ protected:
 private:
     void followSize();
     void beginAtField();
+    void beginIn(host::Handle field);
     void placeFirst();
     QRect room() const;
 

@@ -193,6 +193,7 @@ void WindowKeeper::followAll()
     }
     if (main_) {
         main_->setHasChildren(children);
+        main_->menus().followSteps();
         main_->setStrip(stripHeight());
     }
     followRaised();
@@ -247,10 +248,12 @@ void WindowKeeper::followRaised()
     }
 }
 
-// Qt chooses an active child of its own when one goes; the model's is the one that counts.
+// Qt chooses an active child of its own when one goes; the model's is the one that counts. A sheet that is asked about stands in
+// front of it meanwhile.
 void WindowKeeper::followActive()
 {
-    const host::Window* child = desk_.engine->activeChild();
+    const host::Window* asked = desk_.engine->askedAbout();
+    const host::Window* child = asked != nullptr ? asked : desk_.engine->activeChild();
     if (!main_ || child == nullptr || !child->shown())
         return;
     auto* frame = dynamic_cast<ChildFrame*>(frameOf(*child));
@@ -275,8 +278,9 @@ void WindowKeeper::followFocus()
 {
     SheetView* view = activeView();
     const QWidget* now = QApplication::focusWidget();
-    // A menu that is walked by keyboard has the focus on loan and gives it back itself.
-    if (view == nullptr || (now != nullptr && now->inherits("QMenuBar")))
+    // A menu that is walked by keyboard has the focus on loan and gives it back itself. A sheet that gets it comes to the front,
+    // where another one may be asked about.
+    if (view == nullptr || desk_.engine->askedAbout() != nullptr || (now != nullptr && now->inherits("QMenuBar")))
         return;
     view->followFocus();
 }

@@ -1,0 +1,374 @@
+// SPDX-License-Identifier: MIT
+// All hits are found in one pass over the text; of their marks only those in view are made, so that a text of ten megabytes
+// scrolls as a short one does.
+#include "desktop/windows/search_line.h"
+
+#include <algorithm>
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QVBoxLayout>
+
+#include "desktop/drawing/texts.h"
+#include "host/bitext.h"
+
+namespace velmor::desktop {
+
+namespace search_line_detail {
+
+constexpr int pause = 150;              ///< milliseconds between the last change and a new search
+constexpr int shortText = 1 << 18;      ///< units; a text up to there is searched at once
+constexpr std::size_t mostMarks = 2000; ///< in view
+constexpr double markInk = 0.25;        ///< how much of the accent lies behind a hit
+constexpr int lettersOfField = 28;
+
+// clang-format off
+constexpr host::BiText lookFor   {"Buscar en el texto",   "Find in the text"};
+constexpr host::BiText putInstead{"Reemplazar con",       "Replace with"};
+constexpr host::BiText previous  {"Anterior",            "Previous"};
+constexpr host::BiText next      {"Siguiente",           "Next"};
+constexpr host::BiText away      {"Cerrar",              "Close"};
+constexpr host::BiText one       {"Reemplazar",          "Replace"};
+constexpr host::BiText all       {"Reemplazar todo",     "Replace all"};
+constexpr host::BiText hitOf   {"%1 de %2",             "%1 of %2"};
+constexpr host::BiText hitsInAll     {"%2 veces",             "%2 times"};
+constexpr host::BiText nowhere   {"No está en el texto",  "Not in the text"};
+constexpr host::BiText around    {"%1 de %2, dando la vuelta", "%1 of %2, round again"};
+// clang-format on
+
+QString inLanguage(const host::BiText& text, bool english)
+{
+    return shown(english ? text.en : text.es);
+}
+
+QTextCharFormat markFormat(const Inks& inks)
+{
+    QColor ground = inks.accent;
+    ground.setAlphaF(markInk);
+    QTextCharFormat format;
+    format.setBackground(ground);
+    format.setUnderlineStyle(QTextCharFormat::SingleUnderline);
+    format.setUnderlineColor(inks.accent);
+    return format;
+}
+
+/// Where in the text the lower end of what is seen lies.
+int endOfView(const QPlainTextEdit& text)
+{
+    return text.cursorForPosition(QPoint(text.viewport()->width(), text.viewport()->height())).position();
+}
+
+} // namespace search_line_detail
+
+SearchLine::SearchLine(QPlainTextEdit& text, const Inks& inks, bool english, QWidget* parent)
+    : QWidget(parent), text_(&text), inks_(&inks), english_(english), wanted_(new QLineEdit), instead_(new QLineEdit),
+      told_(new QLabel), replacing_(new QWidget), back_(addButton("searchBack")), on_(addButton("searchOn")),
+      away_(addButton("searchAway")), one_(addButton("searchReplace")), all_(addButton("searchReplaceAll"))
+{
+    setObjectName(QStringLiteral("searchLine"));
+    setAutoFillBackground(true);
+    wanted_->setObjectName(QStringLiteral("searchWanted"));
+    instead_->setObjectName(QStringLiteral("searchInstead"));
+    told_->setObjectName(QStringLiteral("searchTold"));
+    told_->setTextFormat(Qt::PlainText);
+    layOut();
+    later_.setSingleShot(true);
+    connect(&later_, &QTimer::timeout, this, [this] { look(); });
+    connect(wanted_, &QLineEdit::textChanged, this, [this] { lookLater(); });
+    connect(text.document(), &QTextDocument::contentsChanged, this, [this] {
+        if (isVisible())
+            lookLater();
+    });
+    connect(text.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { markHits(); });
+    connect(&text, &QPlainTextEdit::selectionChanged, this, [this] { tell(); });
+    connect(back_, &QPushButton::clicked, this, [this] { go(Way::backward); });
+    connect(on_, &QPushButton::clicked, this, [this] { go(Way::forward); });
+    connect(away_, &QPushButton::clicked, this, [this] { close(); });
+    connect(one_, &QPushButton::clicked, this, [this] { replace(); });
+    connect(all_, &QPushButton::clicked, this, [this] { replaceAll(); });
+    for (QLineEdit* edit : {wanted_, instead_})
+        edit->installEventFilter(this);
+    text.viewport()->installEventFilter(this);
+    setInks(inks);
+    write();
+    hide();
+}
+
+QPushButton* SearchLine::addButton(const char* name)
+{
+    auto* button = new QPushButton;
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    return button;
+}
+
+void SearchLine::layOut()
+{
+    for (QLineEdit* edit : {wanted_, instead_})
+        edit->setMinimumWidth(edit->fontMetrics().averageCharWidth() * search_line_detail::lettersOfField);
+    auto* looking = new QHBoxLayout;
+    for (QWidget* part : std::initializer_list<QWidget*>{wanted_, back_, on_, told_})
+        looking->addWidget(part);
+    looking->addStretch(1);
+    looking->addWidget(away_);
+    auto* putting = new QHBoxLayout(replacing_);
+    putting->setContentsMargins(0, 0, 0, 0);
+    for (QWidget* part : std::initializer_list<QWidget*>{instead_, one_, all_})
+        putting->addWidget(part);
+    putting->addStretch(1);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(10, 6, 10, 6);
+    rows->setSpacing(6);
+    rows->addLayout(looking);
+    rows->addWidget(replacing_);
+}
+
+void SearchLine::write()
+{
+    using namespace search_line_detail;
+    wanted_->setAccessibleName(inLanguage(lookFor, english_));
+    wanted_->setPlaceholderText(inLanguage(lookFor, english_));
+    instead_->setAccessibleName(inLanguage(putInstead, english_));
+    instead_->setPlaceholderText(inLanguage(putInstead, english_));
+    back_->setText(inLanguage(previous, english_));
+    on_->setText(inLanguage(next, english_));
+    away_->setText(inLanguage(away, english_));
+    one_->setText(inLanguage(one, english_));
+    all_->setText(inLanguage(all, english_));
+    tell();
+}
+
+void SearchLine::speak(bool english)
+{
+    english_ = english;
+    write();
+}
+
+void SearchLine::setInks(const Inks& inks)
+{
+    inks_ = &inks;
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, inks.voice);
+    colors.setColor(QPalette::WindowText, inks.ink);
+    colors.setColor(QPalette::Base, inks.field);
+    colors.setColor(QPalette::Text, inks.fieldInk);
+    colors.setColor(QPalette::PlaceholderText, inks.quiet);
+    setPalette(colors);
+    markHits();
+}
+
+bool SearchLine::hasKeyboard() const
+{
+    const QWidget* now = focusWidget();
+    return isVisible() && now != nullptr && now->hasFocus();
+}
+
+void SearchLine::open(bool replacing)
+{
+    if (!text_)
+        return;
+    const QString selected = text_->textCursor().selectedText();
+    replacing_->setVisible(replacing);
+    show();
+    if (!selected.isEmpty() && !selected.contains(QChar::ParagraphSeparator) && !hasKeyboard())
+        wanted_->setText(selected);
+    wanted_->setFocus(Qt::ShortcutFocusReason);
+    wanted_->selectAll();
+    look();
+}
+
+void SearchLine::close()
+{
+    later_.stop();
+    hits_.clear();
+    hide();
+    markHits();
+    if (text_)
+        text_->setFocus(Qt::OtherFocusReason);
+}
+
+void SearchLine::go(Way way)
+{
+    if (wanted_->text().isEmpty()) {
+        open(replacing_->isVisibleTo(this));
+        return;
+    }
+    if (isHidden())
+        show();
+    if (later_.isActive() || hits_.empty() || length_ != wanted_->text().size())
+        look();
+    step(way);
+}
+
+// A long text is searched when the student pauses, not at each letter.
+void SearchLine::lookLater()
+{
+    wrapped_ = false;
+    if (text_ && text_->document()->characterCount() > search_line_detail::shortText)
+        later_.start(search_line_detail::pause);
+    else
+        look();
+}
+
+// Small and capital letters are the same here; a hit begins behind the end of the one before.
+void SearchLine::look()
+{
+    later_.stop();
+    hits_.clear();
+    const QString wanted = wanted_->text();
+    length_ = static_cast<int>(wanted.size());
+    if (text_ && !wanted.isEmpty()) {
+        const QString whole = text_->document()->toRawText();
+        for (qsizetype at = whole.indexOf(wanted, 0, Qt::CaseInsensitive); at >= 0;
+             at = whole.indexOf(wanted, at + length_, Qt::CaseInsensitive))
+            hits_.push_back(static_cast<int>(at));
+    }
+    markHits();
+    tell();
+}
+
+void SearchLine::markHits()
+{
+    using namespace search_line_detail;
+    if (!text_)
+        return;
+    QList<QTextEdit::ExtraSelection> marks;
+    if (!hits_.empty() && isVisible()) {
+        const int from = text_->cursorForPosition(QPoint(0, 0)).position() - length_;
+        const int to = endOfView(*text_);
+        const QTextCharFormat format = markFormat(*inks_);
+        for (auto hit = std::lower_bound(hits_.begin(), hits_.end(), from);
+             hit != hits_.end() && *hit <= to && static_cast<std::size_t>(marks.size()) < mostMarks; ++hit) {
+            QTextCursor cursor(text_->document());
+            cursor.setPosition(*hit);
+            cursor.setPosition(*hit + length_, QTextCursor::KeepAnchor);
+            marks.append({cursor, format});
+        }
+    }
+    text_->setExtraSelections(marks);
+}
+
+/// Number of the hit that is selected, counted from 0; -1 for none.
+int SearchLine::hitInHand() const
+{
+    const QTextCursor cursor = text_->textCursor();
+    if (cursor.selectionEnd() - cursor.selectionStart() != length_)
+        return -1;
+    const auto at = std::lower_bound(hits_.begin(), hits_.end(), cursor.selectionStart());
+    return at != hits_.end() && *at == cursor.selectionStart() ? static_cast<int>(at - hits_.begin()) : -1;
+}
+
+void SearchLine::tell()
+{
+    using namespace search_line_detail;
+    if (!text_ || isHidden())
+        return;
+    QString words;
+    const int inHand = hits_.empty() ? -1 : hitInHand();
+    if (!wanted_->text().isEmpty() && hits_.empty())
+        words = inLanguage(nowhere, english_);
+    else if (inHand >= 0)
+        words = inLanguage(wrapped_ ? around : hitOf, english_).arg(inHand + 1).arg(hits_.size());
+    else if (!hits_.empty())
+        words = inLanguage(hitsInAll, english_).replace(QStringLiteral("%2"), QString::number(hits_.size()));
+    told_->setText(words);
+    const bool any = !hits_.empty();
+    for (QPushButton* button : {back_, on_, one_, all_})
+        button->setEnabled(any);
+}
+
+void SearchLine::step(Way way)
+{
+    if (!text_ || hits_.empty())
+        return;
+    const QTextCursor now = text_->textCursor();
+    auto hit = hits_.end();
+    if (way == Way::forward) {
+        const int from = hitInHand() >= 0 ? now.selectionEnd() : now.selectionStart();
+        hit = std::lower_bound(hits_.begin(), hits_.end(), from);
+        wrapped_ = hit == hits_.end();
+        if (wrapped_)
+            hit = hits_.begin();
+    } else {
+        hit = std::lower_bound(hits_.begin(), hits_.end(), now.selectionStart());
+        wrapped_ = hit == hits_.begin();
+        hit = std::prev(wrapped_ ? hits_.end() : hit);
+    }
+    QTextCursor cursor(text_->document());
+    cursor.setPosition(*hit);
+    cursor.setPosition(*hit + length_, QTextCursor::KeepAnchor);
+    text_->setTextCursor(cursor);
+    text_->ensureCursorVisible();
+    markHits();
+    tell();
+}
+
+// The hit in hand gives way, and the next one comes into hand; without one in hand the next is looked for first.
+void SearchLine::replace()
+{
+    if (!text_ || hits_.empty())
+        return;
+    if (hitInHand() >= 0) {
+        QTextCursor cursor = text_->textCursor();
+        cursor.insertText(instead_->text());
+        text_->setTextCursor(cursor);
+        look();
+    }
+    step(Way::forward);
+}
+
+// From the end, so that the places of the hits before stay right; one undo takes all of it back.
+void SearchLine::replaceAll()
+{
+    if (!text_)
+        return;
+    const std::vector<int> hits = hits_;
+    QTextCursor cursor(text_->document());
+    cursor.beginEditBlock();
+    for (auto hit = hits.rbegin(); hit != hits.rend(); ++hit) {
+        cursor.setPosition(*hit);
+        cursor.setPosition(*hit + length_, QTextCursor::KeepAnchor);
+        cursor.insertText(instead_->text());
+    }
+    cursor.endEditBlock();
+    look();
+}
+
+bool SearchLine::pressed(int key, Qt::KeyboardModifiers modifiers)
+{
+    const bool shifted = (modifiers & Qt::ShiftModifier) != 0;
+    const bool ctrl = (modifiers & Qt::ControlModifier) != 0;
+    if (key == Qt::Key_Escape)
+        close();
+    else if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        instead_->hasFocus() ? replace() : go(shifted ? Way::backward : Way::forward);
+    else if (key == Qt::Key_F3)
+        go(shifted ? Way::backward : Way::forward);
+    else if (ctrl && (key == Qt::Key_F || key == Qt::Key_H))
+        open(key == Qt::Key_H);
+    else
+        return false;
+    return true;
+}
+
+bool SearchLine::eventFilter(QObject* object, QEvent* event)
+{
+    const bool inText = text_ && object == text_->viewport();
+    if (inText && event->type() == QEvent::MouseButtonPress && hasKeyboard())
+        text_->setFocus(Qt::MouseFocusReason);
+    else if (inText && event->type() == QEvent::Resize)
+        markHits();
+    else if (!inText && event->type() == QEvent::KeyPress) {
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        return pressed(key.key(), key.modifiers());
+    }
+    return QWidget::eventFilter(object, event);
+}
+
+} // namespace velmor::desktop

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// The search line of an editor: what is typed into it is marked wherever it stands in the text, the hit in hand is selected, and
+// the search goes round in both directions. It knows the text box alone, no window and no engine.
+#pragma once
+
+#include <vector>
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include "desktop/drawing/palette_of_inks.h"
+
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace velmor::desktop {
+
+class SearchLine final : public QWidget {
+public:
+    enum class Way { forward, backward };
+
+    SearchLine(QPlainTextEdit& text, const Inks& inks, bool english, QWidget* parent);
+
+    /// Takes the keyboard; a stretch of one line that is selected in the text is what to look for.
+    void open(bool replacing);
+    /// Goes to the next hit; without anything to look for it opens.
+    void go(Way way);
+    void close();
+    void speak(bool english);
+    void setInks(const Inks& inks);
+    bool hasKeyboard() const;
+    /// Where the hits begin, in units of the text.
+    const std::vector<int>& hits() const { return hits_; }
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    QPushButton* addButton(const char* name);
+    void layOut();
+    void write();
+    bool pressed(int key, Qt::KeyboardModifiers modifiers);
+    void lookLater();
+    void look();
+    void markHits();
+    void tell();
+    void step(Way way);
+    int hitInHand() const;
+    void replace();
+    void replaceAll();
+
+    QPointer<QPlainTextEdit> text_;
+    const Inks* inks_;
+    bool english_;
+    bool wrapped_ = false;
+    std::vector<int> hits_;
+    int length_ = 0; ///< of what the hits were found for
+    QLineEdit* wanted_;
+    QLineEdit* instead_;
+    QLabel* told_;
+    QWidget* replacing_;
+    QPushButton* back_;
+    QPushButton* on_;
+    QPushButton* away_;
+    QPushButton* one_;
+    QPushButton* all_;
+    QTimer later_;
+};
+
+} // namespace velmor::desktop

@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: MIT
+// The search line of the editors, and what a report looks like while its text stays as it is.
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextBlock>
+
+#include "desktop/canvas/report_dress.h"
+#include "desktop/desktop_fixture.h"
+#include "desktop/windows/search_line.h"
+#include "editors/editor.h"
+#include "program/catalogue.h"
+
+namespace velmor::test::search_test {
+
+struct SearchTest : ::testing::Test {
+    SearchTest() : on(program::catalogue()) {}
+    void SetUp() override
+    {
+        on.open();
+        editor = &on.show("frmEdito1");
+        write("uno dos UNO\ntres uno");
+    }
+    void write(const std::string& text)
+    {
+        on.engine.userRun([&] { editor->setText(editors::txtEdit, text); });
+        Bench::settle();
+    }
+    QPlainTextEdit& text() { return dynamic_cast<QPlainTextEdit&>(*on.widgetOf(*editor, editors::txtEdit)); }
+    desktop::SearchLine* line() { return on.viewOf(*editor).searchLine(); }
+    template <class Part>
+    Part& part(const char* name)
+    {
+        return *line()->findChild<Part*>(QLatin1String(name));
+    }
+    void look(const QString& wanted)
+    {
+        Bench::keys("Ctrl+F");
+        Bench::type(wanted);
+    }
+    int caret() { return text().textCursor().selectionStart(); }
+    QString selected() { return text().textCursor().selectedText(); }
+    QString told() { return part<QLabel>("searchTold").text(); }
+
+    Bench on;
+    host::Window* editor = nullptr;
+};
+
+TEST_F(SearchTest, itOpensInTheEditorThatHasTheKeyboardAndTakesIt)
+{
+    ASSERT_EQ(line(), nullptr);
+    Bench::keys("Ctrl+F");
+    ASSERT_NE(line(), nullptr);
+    EXPECT_TRUE(line()->isVisible());
+    EXPECT_TRUE(line()->hasKeyboard());
+    EXPECT_EQ(on.engine.current(), editor);
+    EXPECT_EQ(on.engine.instance("frmFind", 0), nullptr) << "the window of the menu stays away";
+    Bench::type("u");
+    EXPECT_EQ(part<QLineEdit>("searchWanted").text(), "u");
+    EXPECT_EQ(editor->wholeText(editors::txtEdit), "uno dos UNO\ntres uno");
+}
+
+TEST_F(SearchTest, everyHitIsMarkedWhateverItsCapitals)
+{
+    look("uno");
+    // "uno" at 0, "UNO" at 8, and behind "uno dos UNO\ntres " at 17.
+    EXPECT_EQ(line()->hits(), (std::vector<int>{0, 8, 17}));
+    ASSERT_EQ(text().extraSelections().size(), 3);
+    for (const QTextEdit::ExtraSelection& mark : text().extraSelections())
+        EXPECT_EQ(mark.cursor.selectedText().toLower(), "uno");
+    EXPECT_EQ(told(), "3 veces");
+    Bench::key(Qt::Key_Escape);
+    EXPECT_TRUE(text().extraSelections().isEmpty());
+    EXPECT_FALSE(line()->isVisible());
+    EXPECT_TRUE(text().hasFocus());
+}
+
+TEST_F(SearchTest, itGoesForwardAndBackwardAndRound)
+{
+    text().moveCursor(QTextCursor::Start);
+    look("uno");
+    Bench::key(Qt::Key_Return);
+    EXPECT_EQ(caret(), 0);
+    EXPECT_EQ(told(), "1 de 3");
+    Bench::key(Qt::Key_F3);
+    EXPECT_EQ(caret(), 8);
+    EXPECT_EQ(selected(), "UNO");
+    Bench::key(Qt::Key_F3);
+    EXPECT_EQ(caret(), 17);
+    Bench::key(Qt::Key_F3);
+    EXPECT_EQ(caret(), 0) << "from the last hit to the first";
+    EXPECT_EQ(told(), "1 de 3, dando la vuelta");
+    Bench::key(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(caret(), 17) << "and back";
+    Bench::key(Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(caret(), 8);
+    EXPECT_EQ(told(), "2 de 3");
+}
+
+TEST_F(SearchTest, theKeysWorkFromTheTextToo)
+{
+    text().moveCursor(QTextCursor::Start);
+    look("uno");
+    Bench::key(Qt::Key_Escape);
+    Bench::key(Qt::Key_F3);
+    Bench::key(Qt::Key_F3);
+    EXPECT_EQ(caret(), 8);
+    Bench::key(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(caret(), 0);
+}
+
+TEST_F(SearchTest, whatIsNotThereIsToldWithoutABox)
+{
+    look("nadie");
+    EXPECT_EQ(told(), "No está en el texto");
+    EXPECT_FALSE(part<QPushButton>("searchOn").isEnabled());
+    Bench::key(Qt::Key_Return);
+    EXPECT_TRUE(line()->hasKeyboard());
+}
+
+TEST_F(SearchTest, aSelectionIsWhatIsLookedFor)
+{
+    QTextCursor cursor(text().document());
+    cursor.setPosition(4);
+    cursor.setPosition(7, QTextCursor::KeepAnchor);
+    text().setTextCursor(cursor);
+    Bench::keys("Ctrl+F");
+    EXPECT_EQ(part<QLineEdit>("searchWanted").text(), "dos");
+    Bench::type("uno");
+    EXPECT_EQ(part<QLineEdit>("searchWanted").text(), "uno") << "the first key replaces it";
+}
+
+TEST_F(SearchTest, aPressOnTheTextGivesItTheKeyboardAndTheMarksStay)
+{
+    look("uno");
+    on.click(*editor, editors::txtEdit);
+    EXPECT_TRUE(text().hasFocus());
+    EXPECT_TRUE(line()->isVisible());
+    Bench::type("x");
+    EXPECT_NE(editor->wholeText(editors::txtEdit).find('x'), std::string::npos);
+}
+
+TEST_F(SearchTest, whatIsWrittenMeanwhileIsFoundToo)
+{
+    look("uno");
+    write("uno uno");
+    EXPECT_EQ(line()->hits(), (std::vector<int>{0, 4}));
+}
+
+TEST_F(SearchTest, replacingChangesTheHitInHandAndThenAll)
+{
+    text().moveCursor(QTextCursor::Start);
+    Bench::keys("Ctrl+H");
+    Bench::type("uno");
+    Bench::key(Qt::Key_Return);
+    part<QLineEdit>("searchInstead").setText("cien");
+    part<QPushButton>("searchReplace").click();
+    EXPECT_EQ(editor->wholeText(editors::txtEdit), "cien dos UNO\ntres uno");
+    EXPECT_EQ(selected(), "UNO") << "the next one is in hand";
+    part<QPushButton>("searchReplaceAll").click();
+    EXPECT_EQ(editor->wholeText(editors::txtEdit), "cien dos cien\ntres cien");
+    EXPECT_TRUE(editor->holdsUnsaved());
+    text().undo();
+    EXPECT_EQ(editor->wholeText(editors::txtEdit), "cien dos UNO\ntres uno") << "all in one step";
+}
+
+TEST_F(SearchTest, itFollowsTheLanguage)
+{
+    look("uno");
+    on.engine.userRun([&] { on.engine.values().LanguageIsEnglish = host::trueValue; });
+    EXPECT_EQ(told(), "3 times");
+    EXPECT_EQ(part<QPushButton>("searchOn").text(), "Next");
+    EXPECT_EQ(part<QLineEdit>("searchWanted").accessibleName(), "Find in the text");
+}
+
+TEST_F(SearchTest, undoAndRedoHaveTheirKeysInAnEditor)
+{
+    text().moveCursor(QTextCursor::End);
+    Bench::type("z");
+    Bench::keys("Ctrl+Z");
+    EXPECT_EQ(editor->wholeText(editors::txtEdit), "uno dos UNO\ntres uno");
+    Bench::keys("Ctrl+Y");
+    EXPECT_EQ(editor->wholeText(editors::txtEdit), "uno dos UNO\ntres unoz");
+}
+
+// --- reports
+
+constexpr const char* report = "                Elaboración de Informe\n"
+                               "        Alumno: \n"
+                               "        Fecha: hoy\n"
+                               "                Base Común\n"
+                               "\n"
+                               "        Ejercicio N° 1 \n"
+                               "                Diseñe un amplificador\n"
+                               "\tQic =  10 mA \n"
+                               "        Resultados: \n";
+
+TEST(ReportDressTest, titlesAndHeadingsAreKnownByTheirIndent)
+{
+    using desktop::ReportLine;
+    QTextDocument document;
+    document.setDocumentLayout(new QPlainTextDocumentLayout(&document));
+    document.setPlainText(QString::fromUtf8(report));
+    EXPECT_EQ(desktop::designOf(document), QString::fromUtf8("Base Común"));
+    const desktop::ReportDress dress(document, Qt::blue);
+    const ReportLine wanted[] = {ReportLine::title, ReportLine::plain, ReportLine::plain,
+                                 ReportLine::title, ReportLine::plain, ReportLine::heading,
+                                 ReportLine::plain, ReportLine::plain, ReportLine::heading};
+    for (int line = 0; line < 9; ++line) {
+        EXPECT_EQ(dress.lineAt(line), wanted[line]) << line;
+        EXPECT_EQ(document.findBlockByNumber(line).layout()->formats().isEmpty(), wanted[line] == ReportLine::plain)
+            << line;
+    }
+    EXPECT_EQ(document.toPlainText(), QString::fromUtf8(report));
+}
+
+TEST(ReportDressTest, dressingIsNoChangeOfTheText)
+{
+    QTextDocument document;
+    document.setDocumentLayout(new QPlainTextDocumentLayout(&document));
+    document.setPlainText(QString::fromUtf8(report));
+    int changes = 0;
+    QObject::connect(&document, &QTextDocument::contentsChanged, [&] { ++changes; });
+    desktop::ReportDress dress(document, Qt::blue);
+    dress.follow(Qt::red);
+    EXPECT_EQ(changes, 0);
+    EXPECT_FALSE(document.isUndoAvailable());
+}
+
+TEST(ReportDressTest, aLineThatIsWrittenIsDressedAsItNowIs)
+{
+    QTextDocument document;
+    document.setDocumentLayout(new QPlainTextDocumentLayout(&document));
+    document.setPlainText(QString::fromUtf8(report));
+    const desktop::ReportDress dress(document, Qt::blue);
+    QTextCursor cursor(document.findBlockByNumber(5));
+    cursor.insertText("x");
+    EXPECT_TRUE(document.findBlockByNumber(5).layout()->formats().isEmpty());
+    EXPECT_FALSE(document.findBlockByNumber(8).layout()->formats().isEmpty());
+}
+
+TEST_F(SearchTest, aReportIsShownInAReadableTypeAndKeepsItsOwnForPaper)
+{
+    on.engine.userRun([&] { on.engine.host().Hide(*editor); });
+    editor = &on.show("frmEdito2");
+    write(report);
+    Bench::settle();
+    EXPECT_GT(text().fontInfo().pointSizeF(), 11.0);
+    EXPECT_FALSE(text().fontInfo().fixedPitch());
+    EXPECT_EQ(editor->font(editors::txtEdit), host::Font{});
+    EXPECT_EQ(editor->wholeText(editors::txtEdit), report);
+    host::Font chosen;
+    chosen.size = 20;
+    on.engine.userRun([&] { editor->setFont(editors::txtEdit, chosen); });
+    EXPECT_EQ(text().font().pointSizeF(), 20.0) << "what the student chooses is what is shown";
+}
+
+} // namespace velmor::test::search_test
