@@ -3,6 +3,7 @@
 // the window's key slot lets it.
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -10,6 +11,7 @@
 #include <QString>
 
 #include "host/bitext.h"
+#include "host/state_change.h"
 #include "host/window.h"
 
 class QInputMethodEvent;

@@ -55,7 +55,9 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& aske
 {
     const bool saves = asked.kind == host::DialogKind::save;
     const QString start = asked.folder.empty() ? folder : shown(asked.folder);
-    QFileDialog dialog(parent, shownTitle(asked.title), QDir(start).exists() ? start : QDir::homePath());
+    // The program's folder may be one that nobody writes to, as on a stick that is locked.
+    const bool serves = QDir(start).exists() && (!saves || QFileInfo(start).isWritable());
+    QFileDialog dialog(parent, shownTitle(asked.title), serves ? start : QDir::homePath());
     dialog.setObjectName(QStringLiteral("fileDialog"));
     dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
