@@ -43,7 +43,7 @@ constexpr ButtonRow buttonRows[] = {
 // clang-format on
 
 constexpr int choiceMargin = 16;
-constexpr int choiceWidth = 380;
+constexpr int choiceWidth = 460;
 
 QString inLanguage(const host::BiText& text, bool english)
 {
