@@ -17,8 +17,8 @@ struct CommandLine {
     bool starts() const { return answer.empty(); }
 };
 
-/// Reads the words behind the program's name. Only words in front of "--" are read as options; with nothing to choose,
-/// "--help" and "--version" are all.
+/// Reads the words behind the program's name. "--help" and "--version" are all the options there are; behind "--" every word is a
+/// file.
 CommandLine readCommandLine(std::span<const char* const> words, bool english);
 
 /// True unless the machine's language, as the environment tells it, is Spanish.

@@ -136,9 +136,10 @@ std::vector<std::string_view> sheetsOf(host::Engine& engine, std::string_view pa
     return sheets;
 }
 
+// While a slot runs it waits for its end, and so holds what it needs.
 void openFile(host::Engine& engine, const std::string& path)
 {
-    engine.userRun([&engine, &path] {
+    engine.userRun([&engine, path] {
         host::SheetHost& host = engine.host();
         const std::vector<std::string_view> sheets = sheetsOf(engine, path);
         if (sheets.empty())
@@ -152,7 +153,8 @@ void openFile(host::Engine& engine, const std::string& path)
 
 void openCircuit(host::Engine& engine, std::string_view sheet, const std::string& path)
 {
-    engine.userRun([&] { files_detail::readCircuit(engine.host(), sheet, path); });
+    engine.userRun(
+        [&engine, sheet = std::string(sheet), path] { files_detail::readCircuit(engine.host(), sheet, path); });
 }
 
 } // namespace velmor::program

@@ -71,6 +71,8 @@ void RecentCircuits::note(const host::Window& window)
         return;
     const RecentCircuit noted{std::string(window.name()), whole.lexically_normal().string()};
     std::vector<RecentCircuit> circuits = all();
+    if (!circuits.empty() && circuits.front() == noted)
+        return;
     std::erase_if(circuits, [&noted](const RecentCircuit& circuit) { return circuit.path == noted.path; });
     circuits.insert(circuits.begin(), noted);
     for (std::size_t i = 0; i < std::min(circuits.size(), most); ++i)

@@ -110,6 +110,19 @@ TEST_F(FilesTest, AKnownSheetIsNotAskedFor)
     EXPECT_TRUE(desk.screen.choices.empty());
 }
 
+TEST_F(FilesTest, AFileThatComesWhileABoxIsOpenWaitsForItsAnswer)
+{
+    desk.screen.duringBox = [this] {
+        program::openFile(desk.engine, desk.screen.put("dos.BCC", "1\r\n"));
+        program::openCircuit(desk.engine, std::string("Form18"), desk.screen.put("tres.FVS", "1\r\n"));
+        EXPECT_EQ(desk.engine.activeChild(), nullptr);
+    };
+    desk.engine.userRun([this] { desk.engine.host().MsgBox("?", 4, "Velmor"); });
+    ASSERT_NE(active(), nullptr);
+    EXPECT_EQ(active()->caption(), "tres");
+    EXPECT_NE(desk.engine.instance("Form4", 0), nullptr);
+}
+
 TEST_F(FilesTest, ATextOpensInTheEditorOfTheLanguageWithoutAGuide)
 {
     desk.engine.values().ArchivoGuia = "guia1.Lab";
