@@ -3,6 +3,8 @@
 
 #include <clocale>
 
+#include <QEvent>
+#include <QMdiSubWindow>
 #include <QTimer>
 
 #include "desktop/canvas/control_pane.h"
@@ -10,6 +12,21 @@
 #include "desktop/drawing/quiet_style.h"
 
 namespace velmor::desktop {
+
+namespace application_detail {
+
+// A child window that stands already has taken the toolkit's own icon and is not told of another.
+void giveIcon()
+{
+    QApplication::setWindowIcon(programIcon());
+    for (QWidget* widget : QApplication::allWidgets())
+        if (qobject_cast<QMdiSubWindow*>(widget) != nullptr) {
+            QEvent changed(QEvent::WindowIconChange);
+            QApplication::sendEvent(widget, &changed);
+        }
+}
+
+} // namespace application_detail
 
 Application::Application(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments)
 {
@@ -19,7 +36,7 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
     setDesktopFileName(QStringLiteral("velmor"));
     setQuitOnLastWindowClosed(false);
     // Drawn when the first window is on its way to the screen.
-    QTimer::singleShot(0, this, [] { setWindowIcon(programIcon()); });
+    QTimer::singleShot(0, this, application_detail::giveIcon);
     setStyle(new QuietStyle);
     tellAssistiveTechnology();
 }
