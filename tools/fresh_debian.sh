@@ -191,9 +191,9 @@ try_package() {
     show_inside double-click 'no sabe vivir' sh -c 'gio open /home/student/bajo.BCC && sleep 60'
     say "Removing"
     (inside env DEBIAN_FRONTEND=noninteractive apt-get -q -y purge velmor) </dev/null >>"$folder/install.log" 2>&1
-    # What the base system would like to have, too, is not kept for its sake.
-    (inside env DEBIAN_FRONTEND=noninteractive apt-get -q -y autoremove --purge -o APT::AutoRemove::RecommendsImportant=false) \
-        </dev/null >>"$folder/install.log" 2>&1
+    # What the base system suggests is not kept for its sake.
+    (inside env DEBIAN_FRONTEND=noninteractive apt-get -q -y autoremove --purge -o APT::AutoRemove::RecommendsImportant=false \
+        -o APT::AutoRemove::SuggestsImportant=false) </dev/null >>"$folder/install.log" 2>&1
     diff <(echo "$packages") <(packages_inside) || stop "Packages stay behind."
     every_file >"$folder/after.list"
     diff <(echo "$before") "$folder/after.list" | grep '^>' >"$folder/traces.list" || true
