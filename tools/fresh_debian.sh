@@ -136,6 +136,8 @@ show_inside() {
     local name=$1 title=$2 id started
     shift 2
     install -D -m 644 "$XAUTHORITY" "$tree/tmp/cookie"
+    # Each start has processes of its own, numbered alike: the mark of one that was killed would pass for a running one's.
+    rm -rf "$tree/tmp/runtime-student"
     started=$(date +%s%N)
     (inside runuser -u student -- env HOME=/home/student DISPLAY="$DISPLAY" XAUTHORITY=/tmp/cookie "$@") </dev/null \
         >"$folder/$name.log" 2>&1 &
