@@ -63,6 +63,11 @@ public:
         inputs.push_back(box);
         return std::exchange(nextInput, std::nullopt);
     }
+    std::optional<std::size_t> choose(const host::Choice& choice) override
+    {
+        choices.push_back(choice);
+        return taken(chosen);
+    }
     std::optional<std::int32_t> colourDialog(std::int32_t initial) override
     {
         colours.push_back(initial);
@@ -93,6 +98,7 @@ public:
     // what a test prepares
     std::deque<host::Answer> answers;             ///< none left: the escape of the box
     std::deque<std::optional<std::string>> files; ///< nothing stands for a dialog that is cancelled
+    std::deque<std::size_t> chosen;               ///< none left: the choice is given up
     std::optional<std::string> nextInput;
     std::optional<std::int32_t> nextColour;
     std::optional<host::Font> nextFont;
@@ -106,6 +112,7 @@ public:
     std::vector<host::MessageBox> boxes;
     std::vector<host::FileDialog> dialogs;
     std::vector<host::InputBox> inputs;
+    std::vector<host::Choice> choices;
     std::vector<std::int32_t> colours;
     std::vector<host::Font> fonts;
     std::vector<host::PrintJob> printed;

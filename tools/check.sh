@@ -5,6 +5,7 @@
 #   tools/check.sh          all of it, and ./test
 #   tools/check.sh quick    leftovers, long lines, formatting: what needs no build
 #   tools/check.sh core     the build without Qt, with its tests
+#   tools/check.sh package  the Debian package, made and looked at
 #   tools/check.sh tidy     clang-tidy on every file; what it found clean once is not read again
 set -euo pipefail
 # shellcheck source=tools/steps.sh
@@ -44,7 +45,7 @@ check_format() {
     say "Formatting"
     git ls-files -co --exclude-standard '*.h' '*.cpp' | xargs -r clang-format --dry-run --Werror ||
         fault "clang-format: some files are not formatted"
-    git ls-files -co --exclude-standard run test .ci/run 'tools/*.sh' 'bench/*.sh' | xargs -r shellcheck -x ||
+    git ls-files -co --exclude-standard run test .ci/run 'tools/*.sh' 'bench/*.sh' 'packaging/*.sh' 'tests/*.sh' | xargs -r shellcheck -x ||
         fault "shellcheck: some scripts have faults"
 }
 
@@ -64,15 +65,28 @@ check_core() {
     ((failed == 0)) || fault "core: $failed tests failed"
 }
 
+check_packaging() {
+    say "What is packed"
+    "$root/tools/check_package.sh" || fault "packaging: see above"
+}
+
+check_package() {
+    "$root/tools/package.sh" || fault "tools/package.sh failed"
+}
+
 install_packages build test check
 case ${1:-} in
 quick)
     check_leftovers
     check_lines
     check_format
+    check_packaging
     ;;
 core)
     check_core
+    ;;
+package)
+    check_package
     ;;
 tidy)
     check_tidy
@@ -83,10 +97,11 @@ tidy)
     check_format
     check_core
     "$root/test" || fault "./test failed"
+    check_package
     check_tidy
     ;;
 *)
-    stop "tools/check.sh knows: quick, core, tidy, or nothing"
+    stop "tools/check.sh knows: quick, core, package, tidy, or nothing"
     ;;
 esac
 ((faults == 0)) || stop "$faults faults"

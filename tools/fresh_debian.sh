@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Tries ./test and ./run from a fresh clone in a Debian that has nothing but its base system. Needs root and debootstrap.
+# Tries in a Debian that has nothing but its base system what a newcomer would try. Needs root and debootstrap.
 #
-#   tools/fresh_debian.sh [test|run]      both without an argument
+#   tools/fresh_debian.sh [test|run]               from a fresh clone; both without an argument
+#   tools/fresh_debian.sh package FILE.deb         installs it, opens circuits with it, removes it, and looks for traces
+#   tools/fresh_debian.sh portable FILE.tar.xz     starts it as somebody without rights, unpacked where nobody may write
 #
-# The packages come from where this machine's own come from, through the same proxy. SUITE=... chooses another Debian that the
-# machine's package manager knows, FOLDER=/var/tmp/velmor-fresh where all of it goes. A picture of the virtual display that ./run
-# made is left in FOLDER/run.png.
+# The packages come from where this machine's own come from, through the same proxy. SUITE=... chooses another Debian that is to
+# be had there, FOLDER=/var/tmp/velmor-fresh where all of it goes. Pictures of what was shown are left in FOLDER.
 set -euo pipefail
 # shellcheck source=tools/steps.sh
 source "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/steps.sh"
@@ -18,15 +19,20 @@ tree=$folder/tree
 ((EUID == 0)) || stop "tools/fresh_debian.sh needs root."
 command -v debootstrap >/dev/null || stop "tools/fresh_debian.sh needs the package debootstrap."
 
+# server_of SUITE: where the machine's package manager has it from, and the list that says so.
+server_of() {
+    # shellcheck disable=SC2016  # apt-get expands it
+    apt-get indextargets --format '$(CREATED_BY)|$(RELEASE)|$(CODENAME)|$(COMPONENT)|$(REPO_URI)|$(SOURCESENTRY)' |
+        awk -F'|' -v suite="$1" \
+            '$1 == "Packages" && $4 == "main" && ($2 == suite || $3 == suite) && !seen++ { print $5 "|" $6 }'
+}
+
 # ask_package_manager: sets $server, $keyring and the proxies as the package manager has them, in whichever form it was told.
 ask_package_manager() {
     local entry http='' https=''
-    # shellcheck disable=SC2016  # apt-get expands it
-    IFS='|' read -r server entry < <(
-        apt-get indextargets --format '$(CREATED_BY)|$(RELEASE)|$(CODENAME)|$(COMPONENT)|$(REPO_URI)|$(SOURCESENTRY)' |
-            awk -F'|' -v suite="$suite" \
-                '$1 == "Packages" && $4 == "main" && ($2 == suite || $3 == suite) && !seen++ { print $5 "|" $6 }'
-    ) || stop "The package manager of this machine knows no server of $suite. Try: apt-get update"
+    # A server has other releases of the same Debian, too.
+    IFS='|' read -r server entry < <(server_of "$suite" | grep . || server_of "$(. /etc/os-release && echo "$VERSION_CODENAME")") ||
+        stop "The package manager of this machine knows no server of $suite. Try: apt-get update"
     keyring=$(sed -n 's/^[^#]*signed-by *[:=] *\([^] ]*\).*/\1/ip' "${entry%:*}" | head -n 1)
     # What stands for the keys may be a fingerprint, or nothing.
     [[ -f $keyring ]] || keyring=''
@@ -54,10 +60,10 @@ make_base() {
 }
 
 make_tree() {
-    say "Making a fresh tree with a fresh clone"
+    say "Making a fresh tree"
     rm -rf --one-file-system "$tree"
     cp -a "$base" "$tree"
-    git clone -q "$root" "$tree/root/velmor"
+    [[ ${1:-} != clone ]] || git clone -q "$root" "$tree/root/velmor"
     cp -L /etc/resolv.conf "$tree/etc/resolv.conf"
 }
 
@@ -80,21 +86,24 @@ timed() {
 }
 
 try_test() {
-    make_tree
+    make_tree clone
     timed /root/velmor/test
     timed /root/velmor/test
 }
 
-# The X server in the tree answers out here too: the network is shared.
+# The X server in the tree answers out here too, to whoever has its cookie: the network is shared.
 windows_shown() {
-    local number
+    local number cookie
     number=$(find "$tree/tmp/.X11-unix" -name 'X*' -printf '%f\n' 2>/dev/null | tr -dc 0-9)
-    [[ -n $number ]] && DISPLAY=:$number xdotool search --onlyvisible --name 'Velmor' >/dev/null 2>&1 &&
-        sleep 1 && DISPLAY=:$number import -silent -window root "$folder/run.png"
+    cookie=$(find "$tree/tmp" -maxdepth 2 -name cookie 2>/dev/null | head -n 1)
+    [[ -n $number && -n $cookie ]] || return 1
+    local -a there=(env "DISPLAY=:$number" "XAUTHORITY=$cookie")
+    "${there[@]}" xdotool search --onlyvisible --name 'Velmor' >/dev/null 2>&1 && sleep 1 &&
+        "${there[@]}" import -silent -window root "$folder/run.png"
 }
 
 try_run() {
-    make_tree
+    make_tree clone
     local started=$SECONDS id
     inside /root/velmor/run </dev/null >"$folder/run.log" 2>&1 &
     id=$!
@@ -110,14 +119,112 @@ try_run() {
     trap - EXIT
 }
 
+packages_inside() {
+    # shellcheck disable=SC2016  # dpkg-query expands it
+    chroot "$tree" dpkg-query -W -f '${Package}\n' | sort
+}
+
+# every_file: what the tree holds, but for what a package manager notes for itself.
+every_file() {
+    find "$tree" -xdev \( -path "$tree/var/lib/apt" -o -path "$tree/var/lib/dpkg" -o -path "$tree/var/cache" -o \
+        -path "$tree/var/log" -o -path "$tree/tmp" -o -path "$tree/home" \) -prune -o -printf '%P\n' | sort
+}
+
+# show_inside NAME TITLE COMMAND...: starts it in the tree as a student on a virtual display out here, waits for a window of
+# that title, takes the picture NAME.png and ends it. Sets $shown_after, in milliseconds.
+show_inside() {
+    local name=$1 title=$2 id started
+    shift 2
+    install -D -m 644 "$XAUTHORITY" "$tree/tmp/cookie"
+    # Each start has processes of its own, numbered alike: the mark of one that was killed would pass for a running one's.
+    rm -rf "$tree/tmp/runtime-student"
+    started=$(date +%s%N)
+    (inside runuser -u student -- env HOME=/home/student DISPLAY="$DISPLAY" XAUTHORITY=/tmp/cookie "$@") </dev/null \
+        >"$folder/$name.log" 2>&1 &
+    id=$!
+    virtual_display_ids+=("$id")
+    until_true 60 xdotool search --onlyvisible --name "$title" >/dev/null 2>&1 ||
+        stop "No window '$title' came of: $*, see $folder/$name.log"
+    shown_after=$((($(date +%s%N) - started) / 1000000))
+    sleep 2
+    import -silent -window root "$folder/$name.png"
+    kill -KILL "$id" 2>/dev/null || true
+    wait "$id" 2>/dev/null || true
+    say "$shown_after ms to the window of: ${*##*/}, see $folder/$name.png"
+}
+
+# A student with a circuit in his home, and without rights.
+add_student() {
+    (inside useradd -m student) </dev/null
+    printf '%s\r\n' 10 1 20 100 100 | install -m 644 /dev/stdin "$tree/home/student/bajo.BCC"
+    chown -R --reference="$tree/home/student" "$tree/home/student"
+}
+
+virtual_display_out_here() {
+    # shellcheck source=tools/virtual_display.sh
+    source "$root/tools/virtual_display.sh"
+    start_virtual_display 1366x768
+}
+
+install_inside() {
+    (inside env DEBIAN_FRONTEND=noninteractive apt-get -q -y install --no-install-recommends "$@") </dev/null \
+        >>"$folder/install.log" 2>&1 || stop "Installing failed, see $folder/install.log"
+}
+
+try_package() {
+    local package=$1 before packages started
+    make_tree
+    add_student
+    (inside apt-get -q update) </dev/null >"$folder/install.log" 2>&1
+    # What every desktop has: it tells a file's type, and which program opens it.
+    install_inside desktop-file-utils libglib2.0-bin shared-mime-info
+    before=$(every_file)
+    packages=$(packages_inside)
+    ! chroot "$tree" sh -c 'command -v cc g++ gcc' || stop "The tree has a compiler."
+    install -m 644 "$package" "$tree/tmp/velmor.deb"
+    started=$SECONDS
+    install_inside /tmp/velmor.deb
+    say "$((SECONDS - started)) seconds to install, $(packages_inside |
+        comm -13 <(echo "$packages") - | wc -l) packages with it"
+    (inside velmor --version) </dev/null
+    (inside velmor-walk /dev/stdin) <<<'new Form2' | tail -n 1
+    virtual_display_out_here
+    show_inside package 'no sabe vivir' velmor /home/student/bajo.BCC
+    show_inside double-click 'no sabe vivir' sh -c 'gio open /home/student/bajo.BCC && sleep 60'
+    say "Removing"
+    (inside env DEBIAN_FRONTEND=noninteractive apt-get -q -y purge velmor) </dev/null >>"$folder/install.log" 2>&1
+    # What the base system suggests is not kept for its sake.
+    (inside env DEBIAN_FRONTEND=noninteractive apt-get -q -y autoremove --purge -o APT::AutoRemove::RecommendsImportant=false \
+        -o APT::AutoRemove::SuggestsImportant=false) </dev/null >>"$folder/install.log" 2>&1
+    diff <(echo "$packages") <(packages_inside) || stop "Packages stay behind."
+    every_file >"$folder/after.list"
+    diff <(echo "$before") "$folder/after.list" | grep '^>' >"$folder/traces.list" || true
+    ! grep -i velmor "$folder/traces.list" || stop "The package leaves traces."
+    say "Removed without a trace; other packages left $(wc -l <"$folder/traces.list") files of their own"
+}
+
+try_portable() {
+    local archive=$1
+    make_tree
+    add_student
+    tar -xJf "$archive" -C "$tree/opt"
+    chmod -R a-w "$tree/opt"
+    ! find "$tree" -xdev -name 'libQt*' -not -path "$tree/opt/*" | grep . || stop "The tree has Qt."
+    virtual_display_out_here
+    show_inside portable 'no sabe vivir' "/opt/$(ls "$tree/opt")/velmor" /home/student/bajo.BCC
+    show_inside portable-again 'no sabe vivir' "/opt/$(ls "$tree/opt")/velmor"
+}
+
 ask_package_manager
 make_base
 case ${1:-both} in
 test) try_test ;;
 run) try_run ;;
+package) try_package "$(realpath -- "$2")" ;;
+portable) try_portable "$(realpath -- "$2")" ;;
 both)
     try_test
     try_run
     ;;
-*) stop "tools/fresh_debian.sh knows: test, run, or nothing for both" ;;
+*) stop "tools/fresh_debian.sh knows: test, run, package FILE, portable FILE, or nothing for test and run" ;;
 esac

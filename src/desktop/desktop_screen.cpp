@@ -96,6 +96,11 @@ std::optional<std::string> DesktopScreen::inputBox(const host::InputBox& box)
     });
 }
 
+std::optional<std::size_t> DesktopScreen::choose(const host::Choice& choice)
+{
+    return ask([&](QWidget* parent) { return askChoice(parent, choice, desk_.english()); });
+}
+
 std::optional<std::int32_t> DesktopScreen::colourDialog(std::int32_t initial)
 {
     return ask([&](QWidget* parent) { return askColour(parent, initial); });
@@ -154,7 +159,8 @@ std::string DesktopScreen::programFolder()
 
 std::string DesktopScreen::executableName()
 {
-    return held(QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName());
+    // As it was called: a portable copy runs under a loader, which the platform would name.
+    return held(QFileInfo(QCoreApplication::arguments().value(0)).completeBaseName());
 }
 
 void DesktopScreen::beep()

@@ -35,6 +35,7 @@ public:
     host::Answer messageBox(const host::MessageBox& box) override;
     std::optional<std::string> fileDialog(const host::FileDialog& dialog) override;
     std::optional<std::string> inputBox(const host::InputBox& box) override;
+    std::optional<std::size_t> choose(const host::Choice& choice) override;
     std::optional<std::int32_t> colourDialog(std::int32_t initial) override;
     std::optional<host::Font> fontDialog(const host::Font& initial) override;
     std::string now() override;

@@ -66,7 +66,8 @@ QString installedGuides(const QString& executableFolder)
 
 FolderPlaces FolderPlaces::usual()
 {
-    const QString executable = QCoreApplication::applicationDirPath();
+    // A portable copy is started by a loader of its own, which the platform takes for the program: it says where it lies.
+    const QString executable = qEnvironmentVariable("VELMOR_PORTABLE", QCoreApplication::applicationDirPath());
     return {executable, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
             program_folder_detail::installedGuides(executable)};
 }

@@ -25,6 +25,12 @@ bool sensible(const QString& path)
     return !info.exists() || (info.isFile() && info.size() <= largestSensibleFile);
 }
 
+std::optional<std::string> textIn(const QSettings& file, const QString& key)
+{
+    const QVariant found = file.value(key);
+    return found.typeId() == QMetaType::QString ? std::optional(held(found.toString())) : std::nullopt;
+}
+
 } // namespace settings_file_detail
 
 QString SettingsFile::usualPath()
@@ -33,21 +39,30 @@ QString SettingsFile::usualPath()
            QStringLiteral("/Velmor/Velmor.ini");
 }
 
-SettingsFile::SettingsFile(const QString& path)
+QString SettingsFile::pathForAll()
+{
+    const QStringList folders = QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation).mid(1);
+    for (const QString& folder : folders)
+        if (const QString path = folder + QStringLiteral("/Velmor/Velmor.ini"); QFileInfo::exists(path))
+            return path;
+    return {};
+}
+
+SettingsFile::SettingsFile(const QString& path, const QString& forAll)
     : file_(settings_file_detail::sensible(path) ? path : QString(), QSettings::IniFormat),
       readable_(file_.status() != QSettings::FormatError)
 {
     file_.setFallbacksEnabled(false);
+    if (!forAll.isEmpty() && settings_file_detail::sensible(forAll))
+        forAll_ = std::make_unique<QSettings>(forAll, QSettings::IniFormat);
 }
 
 std::optional<std::string> SettingsFile::value(std::string_view section, std::string_view key) const
 {
-    if (!readable_)
-        return std::nullopt;
-    const QVariant found = file_.value(settings_file_detail::keyOf(section, key));
-    if (found.typeId() != QMetaType::QString)
-        return std::nullopt;
-    return held(found.toString());
+    using namespace settings_file_detail;
+    const QString wanted = keyOf(section, key);
+    std::optional<std::string> text = readable_ ? textIn(file_, wanted) : std::nullopt;
+    return text || forAll_ == nullptr ? text : textIn(*forAll_, wanted);
 }
 
 void SettingsFile::setValue(std::string_view section, std::string_view key, std::string_view value)

@@ -218,6 +218,19 @@ void Editor::newDocument()
         startEmpty();
 }
 
+// Without the guide that a new editor opens with.
+bool Editor::openFile(const std::string& path)
+{
+    document_.actionCancelled = true;
+    host().Show(*this);
+    document_.actionCancelled = false;
+    if (!readDocument(path))
+        return false;
+    document_.name = document_.file = path;
+    setCaption(path);
+    return true;
+}
+
 void Editor::openDocument()
 {
     document_.actionCancelled = false;

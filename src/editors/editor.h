@@ -98,6 +98,9 @@ public:
     void changed();
     void shortcut(host::EventArgs& args);
 
+    /// Shows the document of that file under its path, in an editor that nothing was opened in yet. False, with an empty
+    /// editor, when it cannot be read.
+    bool openFile(const std::string& path);
     void newDocument();
     void openDocument();
     void saveDocument();

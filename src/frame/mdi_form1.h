@@ -19,6 +19,8 @@ public:
     /// A new sheet as its item of the menu of new sheets makes it; `desaco` and `ParcDesac`, which have none, as their
     /// open item does before the dialog. Nothing happens when the program has no such window.
     void newSheet(std::string_view sheetName);
+    /// A new sheet that holds a circuit file, as its open item makes it once the dialog is answered.
+    void openCircuit(std::string_view sheetName, std::string_view path);
     /// Brings up the bar that the student has chosen, fixed or floating, and puts the other away. Windows that do not
     /// know this class run it as the click slot of `mnudise`.
     void showBarAsChosen();

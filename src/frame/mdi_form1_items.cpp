@@ -68,6 +68,14 @@ void MDIForm1::newSheet(std::string_view sheetName)
     makeSheet(sheetName);
 }
 
+void MDIForm1::openCircuit(std::string_view sheetName, std::string_view path)
+{
+    swallowErrors([this, sheetName, path] {
+        if (auto* sheet = dynamic_cast<sheets::DesignSheet*>(makeSheet(sheetName)))
+            sheet->openCircuit(path);
+    });
+}
+
 void MDIForm1::clickNewItem(host::EventArgs& args)
 {
     newSheet(designOfNewItem(args.control)->sheet);

@@ -165,6 +165,8 @@ public:
     std::function<void(const MessageBox&)> onBox;
     /// Tells of a sheet that was led a step.
     std::function<void(const Window&)> onStep;
+    /// Tells of a window whose work was written to a file of the person's own, or just read from one.
+    std::function<void(const Window&)> onWorkSaved;
 
     /// A slot has put a new text into an editor: its change slot runs.
     void programEdited(Window& window, Handle editor);

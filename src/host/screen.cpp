@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the flags of a message box mean, and the text store that a screen without widgets gives.
+// What the flags of a message box mean, and what a screen does that asks no choice and has no widgets.
 #include "host/screen.h"
 
 namespace velmor::host {
@@ -54,6 +54,12 @@ Answer MessageBox::escape() const
     if (offers(Answer::cancel))
         return Answer::cancel;
     return offers(Answer::no) ? Answer::no : Answer::ok;
+}
+
+std::optional<std::size_t> Screen::choose(const Choice& choice)
+{
+    (void)choice;
+    return std::nullopt;
 }
 
 std::unique_ptr<TextStore> Screen::makeTextStore(Window& window, Handle editor)

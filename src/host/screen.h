@@ -2,11 +2,13 @@
 // What a screen must be able to do: answer questions and follow the windows. Real windows and the console implement it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/control.h"
 #include "host/text_store.h"
@@ -52,6 +54,13 @@ struct InputBox {
     int top = 0;
 };
 
+/// One thing of several, each with a button that bears its name.
+struct Choice {
+    std::string text;
+    std::string title;
+    std::vector<std::string> options;
+};
+
 struct PrintJob {
     std::string text; ///< lines ended by carriage returns as the caller broke them
     Font font;
@@ -68,6 +77,8 @@ public:
     virtual Answer messageBox(const MessageBox& box) = 0;
     virtual std::optional<std::string> fileDialog(const FileDialog& dialog) = 0;
     virtual std::optional<std::string> inputBox(const InputBox& box) = 0;
+    /// The index of the option chosen; nothing when it is given up, as by a screen that knows no such question.
+    virtual std::optional<std::size_t> choose(const Choice& choice);
     virtual std::optional<std::int32_t> colourDialog(std::int32_t initial) = 0;
     virtual std::optional<Font> fontDialog(const Font& initial) = 0;
     virtual std::string now() = 0; ///< date and time, short format

@@ -57,6 +57,14 @@ std::optional<std::string> SheetHost::InputBox(const host::InputBox& box)
     return engine_.screen_.inputBox(box);
 }
 
+std::optional<std::size_t> SheetHost::Choose(const host::Choice& choice)
+{
+    if (engine_.ended_)
+        return std::nullopt;
+    engine_.screen_.bringUpToDate();
+    return engine_.screen_.choose(choice);
+}
+
 Window* SheetHost::Load(std::string_view name)
 {
     if (Window* open = engine_.defaultInstance(name))
@@ -275,6 +283,8 @@ void SheetHost::workSaved(Window& window)
 {
     if (engine_.follower_ != nullptr)
         engine_.follower_->workSaved(window);
+    if (engine_.onWorkSaved)
+        engine_.onWorkSaved(window);
 }
 
 void SheetHost::workGivenUp(Window& window)

@@ -38,6 +38,8 @@ public:
     int MsgBox(std::string_view text, int flags, std::string_view title);
     void Beep();
     std::optional<std::string> InputBox(const host::InputBox& box);
+    /// The index of the option chosen; nothing when it is given up.
+    std::optional<std::size_t> Choose(const host::Choice& choice);
 
     // windows
     /// Shows the default instance of a window, loading it first where needed; null (and a trace line

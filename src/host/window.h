@@ -63,6 +63,7 @@ struct MainParts {
     Handle bar = noControl;     ///< panel that takes a strip of its own at an edge
     Handle welcome = noControl; ///< panel that fills the rest while no child is open
     Place pageStrip{};          ///< the part of it that may lie over the children while a button talks
+    Handle files = noControl;   ///< menu of files, behind whose items a screen may list the files opened last
 };
 
 /// Everything that is the same for all instances of a window.

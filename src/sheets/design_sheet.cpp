@@ -117,7 +117,12 @@ void DesignSheet::CDL_AbrirDatos()
         host().Unload(*this);
         return;
     }
-    nombreArchivo_ = *path;
+    openCircuit(*path);
+}
+
+void DesignSheet::openCircuit(std::string_view path)
+{
+    nombreArchivo_ = path;
     setCaption(captionOf(nombreArchivo_));
     operCancelo_ = 0;
     Abrir();

@@ -92,6 +92,8 @@ public:
     virtual void CDL_GuardarDatos();
     /// Runs the open dialog, then `Abrir`; a cancelled dialog unloads the sheet without a question.
     virtual void CDL_AbrirDatos();
+    /// What the open dialog does with its answer: takes the path and the title from it and reads the file.
+    void openCircuit(std::string_view path);
     const std::string& NombreArchivo() const { return nombreArchivo_; }
     void setNombreArchivo(std::string_view path) { nombreArchivo_ = path; }
 

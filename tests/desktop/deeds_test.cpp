@@ -92,6 +92,31 @@ TEST(SettingsFileTest, aFileThatIsAListOrAFolderOrHugeGivesDefaults)
     EXPECT_EQ(desktop::SettingsFile(folder.filePath("huge.ini")).value("Predeterminados", "fCastIng"), std::nullopt);
 }
 
+TEST(SettingsFileTest, whatAPersonHasNotChosenIsAsTheMachineHasItForAll)
+{
+    const QTemporaryDir folder;
+    const QString forAll = folder.filePath("all.ini");
+    write(forAll, "[Predeterminados]\nfCastIng=1\nPantalla=1\n");
+    desktop::SettingsFile own(folder.filePath("own.ini"), forAll);
+    EXPECT_EQ(own.value("Predeterminados", "fCastIng"), "1");
+    own.setValue("Predeterminados", "fCastIng", "0");
+    EXPECT_EQ(own.value("Predeterminados", "fCastIng"), "0");
+    EXPECT_EQ(own.value("Predeterminados", "Pantalla"), "1");
+    EXPECT_EQ(own.value("Predeterminados", "other"), std::nullopt);
+    EXPECT_EQ(bytesOf(forAll), "[Predeterminados]\nfCastIng=1\nPantalla=1\n") << "nobody but its owner writes there";
+}
+
+TEST(SettingsFileTest, theFileForAllIsLookedForWhereThePlatformKeepsSuchFiles)
+{
+    const QTemporaryDir folder;
+    qputenv("XDG_CONFIG_DIRS", folder.path().toUtf8());
+    EXPECT_EQ(desktop::SettingsFile::pathForAll(), QString());
+    QDir(folder.path()).mkpath("Velmor");
+    write(folder.filePath("Velmor/Velmor.ini"), "[Predeterminados]\nfCastIng=1\n");
+    EXPECT_EQ(desktop::SettingsFile::pathForAll(), folder.filePath("Velmor/Velmor.ini"));
+    qunsetenv("XDG_CONFIG_DIRS");
+}
+
 TEST(SettingsFileTest, aPlaceThatCannotBeWrittenIsIgnored)
 {
     desktop::SettingsFile nowhere("/proc/velmor/Velmor.ini");
@@ -114,6 +139,15 @@ struct ProgramFolderTest : ::testing::Test {
     QTemporaryDir root;
     desktop::FolderPlaces places;
 };
+
+TEST_F(ProgramFolderTest, aPortableCopySaysWhereItLies)
+{
+    write(root.filePath("bin/guia1.Lab"), "uno");
+    qputenv("VELMOR_PORTABLE", root.filePath("bin").toUtf8());
+    EXPECT_EQ(desktop::programFolderOf(desktop::FolderPlaces::usual()), root.filePath("bin"));
+    qunsetenv("VELMOR_PORTABLE");
+    EXPECT_EQ(desktop::FolderPlaces::usual().executableFolder, QCoreApplication::applicationDirPath());
+}
 
 TEST_F(ProgramFolderTest, itIsMadeInTheDocumentsAndFilledTwice)
 {

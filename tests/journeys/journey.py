@@ -90,6 +90,7 @@ class Program:
         self.home = more.pop("home", None) or tempfile.mkdtemp(prefix="velmor-journey-")
         os.chmod(self.home, 0o700)
         runtime = more.pop("XDG_RUNTIME_DIR", self.home)
+        arguments = more.pop("arguments", [])
         environment = dict(screen.environment, HOME=self.home, XDG_RUNTIME_DIR=runtime,
                            XDG_CONFIG_HOME=self.home + "/config",
                            XDG_DATA_HOME=self.home + "/data", XDG_STATE_HOME=self.home + "/state",
@@ -98,7 +99,7 @@ class Program:
         environment.update(more)
         self.fields = {}
         self.last_in_hand = None
-        self.process = subprocess.Popen([VELMOR], env=environment)
+        self.process = subprocess.Popen([VELMOR, *arguments], env=environment)
         self.root = until(self.find_root, "the program on the accessibility bus")
         until(lambda: self.windows(), "the main window")
 

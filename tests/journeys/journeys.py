@@ -2,7 +2,10 @@
 """Journeys of a student: from the start to a finished design, boxes, several sheets, languages, a saved and printed text,
 and the end. Expected values are worked by hand from the course's formulas."""
 import os
+import re
+import shutil
 import subprocess
+import tempfile
 import unittest
 
 from journey import Atspi, Journey, Program, has, until
@@ -271,6 +274,23 @@ class SecondProgram(Journey):
         again.box("ya se esta ejecutando")
         again.key("Return")
         again.focused("ΔQIc")
+
+
+class NamedFiles(Journey):
+    def test_files_named_at_the_start_open_and_a_shared_ending_is_asked_about(self):
+        self.program.close()
+        folder = tempfile.mkdtemp(prefix="velmor-files-")
+        self.addCleanup(shutil.rmtree, folder)
+        for name, text in (("bajo.FVS", "7\r\n12\r\n"), ("nota.txt", "hola\r\n")):
+            with open(folder + "/" + name, "w", encoding="utf-8", newline="") as file:
+                file.write(text)
+        velmor = Program(self.screen, arguments=[folder + "/nota.txt", folder + "/bajo.FVS"])
+        self.addCleanup(velmor.close)
+        velmor.see("puede ser de más de un circuito", "label")
+        velmor.press(velmor.see("^Circuito Realimentado por Tensión Estable$", "push button"))
+        velmor.see("^bajo$", "frame")
+        velmor.see("^" + re.escape(folder) + "/nota.txt$", "frame")
+        velmor.gone("puede ser de más de un circuito")
 
 
 class KeptWork(Journey):

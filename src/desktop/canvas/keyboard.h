@@ -3,6 +3,7 @@
 // the window's key slot lets it.
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -11,6 +12,7 @@
 
 #include "host/bitext.h"
 #include "host/engine.h"
+#include "host/state_change.h"
 #include "host/window.h"
 
 class QInputMethodEvent;

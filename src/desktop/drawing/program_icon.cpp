@@ -39,8 +39,11 @@ void paintSignal(QPainter& painter, double weight)
     painter.drawPath(wave);
 }
 
-QPixmap drawn(int size)
+} // namespace program_icon_detail
+
+QPixmap programPicture(int size)
 {
+    using namespace program_icon_detail;
     QPixmap pixmap(size, size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
@@ -55,13 +58,11 @@ QPixmap drawn(int size)
     return pixmap;
 }
 
-} // namespace program_icon_detail
-
 QIcon programIcon()
 {
     QIcon icon;
     for (const int size : program_icon_detail::sizes)
-        icon.addPixmap(program_icon_detail::drawn(size));
+        icon.addPixmap(programPicture(size));
     return icon;
 }
 

@@ -3,9 +3,12 @@
 #pragma once
 
 #include <QIcon>
+#include <QPixmap>
 
 namespace velmor::desktop {
 
 QIcon programIcon();
+/// The same as one picture of that many pixels in each direction.
+QPixmap programPicture(int size);
 
 } // namespace velmor::desktop

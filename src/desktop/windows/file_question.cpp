@@ -72,7 +72,9 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& aske
     // The dialog looks into its first folder as soon as it is made, with the toolkit's icons: one that holds folders alone.
     QFileDialog dialog(parent, shownTitle(asked.title), QDir::rootPath());
     dialog.setIconProvider(&icons);
-    dialog.setDirectory(QDir(start).exists() ? start : QDir::homePath());
+    // The program's folder may be one that nobody writes to, as on a stick that is locked.
+    const bool serves = QDir(start).exists() && (!saves || QFileInfo(start).isWritable());
+    dialog.setDirectory(serves ? start : QDir::homePath());
     dialog.setObjectName(QStringLiteral("fileDialog"));
     dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

@@ -42,6 +42,9 @@ constexpr ButtonRow buttonRows[] = {
 };
 // clang-format on
 
+constexpr int choiceMargin = 16;
+constexpr int choiceWidth = 460;
+
 QString inLanguage(const host::BiText& text, bool english)
 {
     return shown(english ? text.en : text.es);
@@ -128,6 +131,40 @@ std::optional<std::string> askInput(QWidget* parent, const host::InputBox& box, 
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return held(edit->text());
+}
+
+std::optional<std::size_t> askChoice(QWidget* parent, const host::Choice& choice, bool english)
+{
+    using namespace questions_detail;
+    QDialog dialog(parent);
+    dialog.setObjectName(QStringLiteral("choiceBox"));
+    dialog.setWindowTitle(shownTitle(choice.title));
+    auto* column = new QVBoxLayout(&dialog);
+    column->setContentsMargins(choiceMargin, choiceMargin, choiceMargin, choiceMargin);
+    auto* text = new QLabel(shown(choice.text));
+    text->setTextFormat(Qt::PlainText);
+    text->setWordWrap(true);
+    text->setMinimumWidth(choiceWidth);
+    column->addWidget(text);
+    column->addSpacing(choiceMargin / 2);
+    std::optional<std::size_t> chosen;
+    for (std::size_t i = 0; i < choice.options.size(); ++i) {
+        auto* button = new QPushButton(shown(choice.options[i]).replace(QLatin1Char('&'), QStringLiteral("&&")));
+        button->setMinimumHeight(button->sizeHint().height() + choiceMargin / 2);
+        QObject::connect(button, &QPushButton::clicked, &dialog, [&dialog, &chosen, i] {
+            chosen = i;
+            dialog.accept();
+        });
+        column->addWidget(button);
+    }
+    column->addSpacing(choiceMargin / 2);
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(inLanguage(buttonRows[3].caption, english), QDialogButtonBox::RejectRole);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    column->addWidget(buttons);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return chosen;
 }
 
 std::optional<std::int32_t> askColour(QWidget* parent, std::int32_t initial)

@@ -2,6 +2,7 @@
 // The program's questions as real dialogs: message box, file, input, colour, font. Texts appear to the letter.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -25,6 +26,9 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& dial
 
 /// `at` is the wished left top corner on the screen; the box is kept inside the screen.
 std::optional<std::string> askInput(QWidget* parent, const host::InputBox& box, QPoint at, bool english);
+
+/// One button below the other; the index of the one pressed.
+std::optional<std::size_t> askChoice(QWidget* parent, const host::Choice& choice, bool english);
 
 std::optional<std::int32_t> askColour(QWidget* parent, std::int32_t initial);
 std::optional<host::Font> askFont(QWidget* parent, const host::Font& initial);
