@@ -30,8 +30,8 @@ using host::noControl;
 
 namespace canvas_detail {
 
-constexpr double glow = 0.14; ///< how much of the accent a drop target takes on
-constexpr double glowUnderDrag = 0.32;
+constexpr float glow = 0.14F; ///< how much of the accent a drop target takes on
+constexpr float glowUnderDrag = 0.32F;
 constexpr int glowReach = 4; ///< logical pixels around it
 
 bool isMostOf(const QRegion& region, const QRect& whole)
