@@ -170,7 +170,8 @@ class Program:
         """Waits for a text on the sheet in hand, whatever other sheets show."""
         def found():
             sheet = self.in_hand()
-            return sheet and any(re.search(pattern, node.get_name() or "") for node in self.all(sheet) if has(node, Atspi.StateType.SHOWING))
+            return sheet and any(re.search(pattern, node.get_name() or "") and has(node, Atspi.StateType.SHOWING)
+                                 for node in self.all(sheet))
 
         until(found, "on the sheet in hand " + pattern)
 
