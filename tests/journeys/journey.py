@@ -182,7 +182,7 @@ class Program:
         """The field of the sheet in hand. To look through a sheet takes long, so what was found once is asked first."""
         node, sheet = self.fields.get(symbol, (None, None))
         try:
-            if node and has(node, Atspi.StateType.SHOWING) and has(sheet, Atspi.StateType.FOCUSED):
+            if sheet and has(node, Atspi.StateType.SHOWING) and has(sheet, Atspi.StateType.FOCUSED):
                 return node
         except GLib.Error:  # it is closed
             pass
