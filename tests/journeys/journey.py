@@ -116,7 +116,7 @@ class Program:
     # what the screen shows
 
     def windows(self):
-        return [self.root.get_child_at_index(i) for i in range(self.root.get_child_count())]
+        return children(self.root)
 
     def sheets(self):
         """The windows on the desk: sheets, editors, tools."""
