@@ -117,7 +117,7 @@ class Program:
     # what the screen shows
 
     def windows(self):
-        return [self.root.get_child_at_index(i) for i in range(self.root.get_child_count())]
+        return children(self.root)
 
     def sheets(self):
         """The windows on the desk: sheets, editors, tools."""
@@ -171,8 +171,8 @@ class Program:
         """Waits for a text on the sheet in hand, whatever other sheets show."""
         def found():
             sheet = self.in_hand()
-            return sheet and any(re.search(pattern, node.get_name() or "") for node in self.all(sheet)
-                                 if has(node, Atspi.StateType.SHOWING))
+            return sheet and any(re.search(pattern, node.get_name() or "") and has(node, Atspi.StateType.SHOWING)
+                                 for node in self.all(sheet))
 
         until(found, "on the sheet in hand " + pattern)
 
