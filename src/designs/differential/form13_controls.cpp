@@ -91,7 +91,7 @@ constexpr auto controls = std::to_array<ControlRow>({
     later(Label1,  "Label1",  at(572, 100, 120, 20)),
     later(Label2,  "Label2",  at(286, 152, 84, 18)),
     later(Label3,  "Label3",  at(286, 170, 84, 18)),
-    current(Label4, "Label4", at(412, 443, 70, 20)),
+    current(Label4, "Label4", at(412, 435, 70, 34)),
     later(Label5,  "Label5",  at(486, 181, 70, 18)),
     later(Label7,  "Label7",  at(574, 341, 136, 18)),
     later(Label8,  "Label8",  at(574, 181, 68, 18)),

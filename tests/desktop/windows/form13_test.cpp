@@ -46,7 +46,7 @@ protected:
         enter(Text10, QStringLiteral("2.7"));
         enter(Text11, QStringLiteral("27"));
     }
-    desktop::View viewAt(double pixelsWide) const
+    desktop::View viewAt(double pixelsWide)
     {
         desktop::View view;
         view.languageIsEnglish = on.engine.values().LanguageIsEnglish;
