@@ -17,6 +17,9 @@ using host::noControl;
 
 namespace pointer_detail {
 
+constexpr int hemOfPicture = 2;         ///< logical pixels that a frame reaches beyond its box
+constexpr QPoint besidePointer(12, 10); ///< what is carried leaves the place under the pointer in view
+
 int shiftOf(const QMouseEvent& event)
 {
     int result = 0;
@@ -164,7 +167,8 @@ void Pointer::released(QPoint point, const QMouseEvent& event)
 
 void Pointer::startDrag()
 {
-    const QRect box = canvas_.boxInPixels(held_);
+    const int hem = pointer_detail::hemOfPicture;
+    const QRect box = canvas_.boxInPixels(held_).adjusted(-hem, -hem, hem, hem);
     QPixmap drawing(box.size() * canvas_.devicePixelRatioF());
     drawing.setDevicePixelRatio(canvas_.devicePixelRatioF());
     drawing.fill(Qt::transparent);
@@ -195,7 +199,7 @@ Handle Pointer::dropTargetAt(QPoint point) const
 void Pointer::dragTo(QPoint point)
 {
     if (picture_)
-        picture_->move(point - QPoint(picture_->width() / 2, picture_->height() / 2));
+        picture_->move(point + pointer_detail::besidePointer);
     const Handle target = dropTargetAt(point);
     if (target == over_)
         return;
