@@ -137,23 +137,37 @@ const WindowGame::Move& WindowGame::chosen()
     return moves[0];
 }
 
-// No frame leaves the area, and the frame in front is that of the engine's active child.
+// Said once, however long it lasts.
 void WindowGame::check(const std::string& event)
 {
     if (on_->engine.ended() || !on_->engine.idle())
         return;
-    QMdiArea& area = on_->main().area();
+    const std::string fault = faultNow();
+    if (std::exchange(standing_, fault) != fault && !fault.empty())
+        faults_.push_back(event + ": " + fault);
+}
+
+// No open frame leaves the area, and the frame in front is that of the engine's active child.
+std::string WindowGame::faultNow()
+{
+    const QMdiArea& area = on_->main().area();
     for (const QMdiSubWindow* frame : area.subWindowList())
-        if (frame->isVisible() && !frame->isMinimized() && !area.viewport()->rect().intersects(frame->geometry()))
-            faults_.push_back(event + ": a frame lies outside the area");
+        if (frame->isVisible() && !frame->isMinimized() && !frame->isMaximized() &&
+            !area.viewport()->rect().intersects(frame->geometry()))
+            return "a frame lies outside the area";
     const host::Window* child = on_->engine.activeChild();
     if (child == nullptr || !child->shown() || on_->main().isMinimized())
-        return;
+        return {};
     const auto* frame = on_->screen.keeper().frameOf(*child);
-    if (frame == nullptr)
-        faults_.push_back(event + ": the active child has no frame");
-    else if (area.currentSubWindow() != dynamic_cast<const QMdiSubWindow*>(frame))
-        faults_.push_back(event + ": another frame than the active child's is in front");
+    const QMdiSubWindow* front = area.currentSubWindow();
+    if (front != nullptr && front == dynamic_cast<const QMdiSubWindow*>(frame))
+        return {};
+    const QWidget* active = QApplication::activeWindow();
+    const host::Window* current = on_->engine.current();
+    return "in front is " + (front == nullptr ? "nothing" : front->objectName().toStdString()) +
+           ", the active child is " + std::string(child->name()) + ", the current window " +
+           std::string(current == nullptr ? "none" : current->name()) + ", active " +
+           (active == nullptr ? "nothing" : active->objectName().toStdString());
 }
 
 void WindowGame::typeNumber()

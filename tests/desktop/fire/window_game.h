@@ -40,6 +40,7 @@ private:
     void step(int number);
     const Move& chosen();
     void check(const std::string& event);
+    std::string faultNow();
 
     void typeNumber();
     void typeText();
@@ -81,6 +82,7 @@ private:
     std::unique_ptr<desktop::WorkKeeping> keeping_;
     std::unique_ptr<QObject> life_; ///< answers wait for nobody once the game is over
     std::vector<std::string> faults_;
+    std::string standing_; ///< the fault that was there after the event before
     const void* lastDialog_ = nullptr;
     int patience_ = 0;
     int ends_ = 0;
