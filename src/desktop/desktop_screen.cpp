@@ -16,6 +16,7 @@
 #include "desktop/drawing/texts.h"
 #include "desktop/printing.h"
 #include "desktop/windows/questions.h"
+#include "desktop/windows/veil.h"
 #include "desktop/windows/window_keeper.h"
 
 namespace velmor::desktop {
@@ -45,6 +46,7 @@ auto DesktopScreen::ask(Ask question)
     busyPointer(false);
     texts_.speak(desk_.english());
     QPointer<QWidget> parent(keeper_->dialogParent());
+    const Veils calm(keeper_->windowsInSight(), keeper_->stage().inHand, *desk_.inks);
     auto answer = question(parent.data());
     keeper_->dialogClosed(parent);
     busyPointer(wasBusy);
@@ -53,7 +55,7 @@ auto DesktopScreen::ask(Ask question)
 
 host::Answer DesktopScreen::messageBox(const host::MessageBox& box)
 {
-    return ask([&](QWidget* parent) { return askMessage(parent, box, desk_.english()); });
+    return ask([&](QWidget* parent) { return askMessage(parent, box, keeper_->stage()); });
 }
 
 std::optional<std::string> DesktopScreen::fileDialog(const host::FileDialog& dialog)
@@ -65,7 +67,7 @@ std::optional<std::string> DesktopScreen::inputBox(const host::InputBox& box)
 {
     return ask([&](QWidget* parent) {
         const QPoint at(desk_.pixels(box.left), desk_.pixels(box.top));
-        return askInput(parent, box, at, desk_.english());
+        return askInput(parent, box, at, keeper_->stage());
     });
 }
 
@@ -173,7 +175,7 @@ void DesktopScreen::busyPointer(bool busy)
 
 void DesktopScreen::programFailed(std::string_view text)
 {
-    ask([&](QWidget* parent) { return askMessage(parent, {std::string(text), "Velmor", 16}, desk_.english()); });
+    ask([&](QWidget* parent) { return askMessage(parent, {std::string(text), "Velmor", 16}, keeper_->stage()); });
 }
 
 std::unique_ptr<host::TextStore> DesktopScreen::makeTextStore(host::Window&, host::Handle)

@@ -5,18 +5,24 @@
 #include <functional>
 #include <utility>
 
+#include <QApplication>
 #include <QIconEngine>
 #include <QPainter>
+#include <QStyleOptionButton>
 #include <QStyleOptionSlider>
 #include <QStyleOptionTitleBar>
 #include <QWidget>
 
 #include "desktop/drawing/palette_of_inks.h"
 #include "desktop/drawing/plates.h"
+#include "desktop/drawing/program_icon.h"
+#include "desktop/drawing/quiet_buttons.h"
 
 namespace velmor::desktop {
 
 namespace quiet_style_detail {
+
+constexpr double titleShare = 1.6; ///< height of a title, by that of its letters
 
 struct ButtonRow {
     QStyle::SubControl part;
@@ -45,7 +51,7 @@ bool offered(const QStyleOptionTitleBar& bar, QStyle::SubControl part)
 void drawGlyph(QPainter& painter, QStyle::SubControl part, const QRect& box)
 {
     const QPoint middle = box.center();
-    const int half = 4;
+    const int half = std::max(4, qRound(box.height() / 4.5));
     const QRect square(middle.x() - half, middle.y() - half, 2 * half, 2 * half);
     switch (part) {
     case QStyle::SC_TitleBarMinButton:
@@ -178,6 +184,39 @@ void QuietStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
+void QuietStyle::polish(QPalette& palette)
+{
+    QProxyStyle::polish(palette);
+    const Inks& inks = inksFor(palette);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Highlight, inks.accent);
+        palette.setColor(group, QPalette::HighlightedText, inks.onAccent);
+    }
+}
+
+void QuietStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const
+{
+    const auto* button = element == CE_PushButton ? qstyleoption_cast<const QStyleOptionButton*>(option) : nullptr;
+    if (button == nullptr) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    paintQuietButton(*painter, *button);
+    QStyleOptionButton caption = *button;
+    caption.palette.setColor(QPalette::ButtonText, captionInk(*button));
+    QProxyStyle::drawControl(CE_PushButtonLabel, &caption, painter, widget);
+}
+
+// A title grows with its letters.
+int QuietStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    if (metric != PM_TitleBarHeight)
+        return usual;
+    return std::max(usual, static_cast<int>(QFontMetrics(QApplication::font()).height() * quiet_style_detail::titleShare));
+}
+
 void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const
 {
@@ -197,7 +236,9 @@ QIcon QuietStyle::standardIcon(StandardPixmap sign, const QStyleOption* option, 
     const auto known = signs_.find(sign);
     if (known != signs_.end())
         return known->second;
-    const auto read = [this, sign] { return QProxyStyle::standardIcon(sign, nullptr, nullptr); };
+    const auto read = [this, sign] {
+        return sign == SP_TitleBarMenuButton ? programIcon() : QProxyStyle::standardIcon(sign, nullptr, nullptr);
+    };
     return signs_.emplace(sign, QIcon(new quiet_style_detail::LateSign(read))).first->second;
 }
 
@@ -232,7 +273,7 @@ void QuietStyle::drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter
                      active ? inks.accent : inks.rule);
     if (!bar.icon.isNull() && (bar.titleBarFlags & Qt::WindowSystemMenuHint)) {
         const QRect box = subControlRect(CC_TitleBar, &bar, SC_TitleBarSysMenu, widget);
-        bar.icon.paint(&painter, box.adjusted(2, 2, -2, -2));
+        standardIcon(SP_TitleBarMenuButton, nullptr, nullptr).paint(&painter, box.adjusted(1, 1, -1, -1));
     }
     painter.setPen(active ? inks.ink : inks.quiet);
     const QRect label = subControlRect(CC_TitleBar, &bar, SC_TitleBarLabel, widget);

@@ -36,8 +36,8 @@ constexpr double drawnHeight = 675.0;
 constexpr int likelyTitleHeight = 30;
 constexpr int likelyMenuHeight = 20;
 constexpr QSize smallestWindow(640, 420);
-constexpr double textShare = 0.7; ///< of the window's growth that menus and boxes take part in
-constexpr double largestTexts = 1.5;
+constexpr double textShare = 0.8; ///< of the window's growth that menus and boxes take part in
+constexpr double largestTexts = 3.0;
 
 double scaleFor(QSize inner)
 {

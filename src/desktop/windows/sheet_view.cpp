@@ -80,6 +80,8 @@ void SheetView::bringUpToDate()
 void SheetView::followFocus()
 {
     QWidget* target = canvas_->focusTarget();
+    if (model() != nullptr && model()->focus() != noControl)
+        last_ = model()->focus();
     if (target->hasFocus())
         return;
     target->setFocus(Qt::OtherFocusReason);
@@ -106,11 +108,21 @@ host::Place SheetView::designOfTool() const
 
 QRect SheetView::inHand() const
 {
-    if (model() == nullptr || model()->focus() == noControl)
+    return model() == nullptr ? QRect() : boxOf(model()->focus());
+}
+
+QRect SheetView::spokenOf() const
+{
+    return model() == nullptr ? QRect() : boxOf(model()->focus() != noControl ? model()->focus() : last_);
+}
+
+QRect SheetView::boxOf(Handle control) const
+{
+    if (control == noControl)
         return {};
-    QRect box = canvas_->boxInPixels(model()->focus());
+    QRect box = canvas_->boxInPixels(control);
     QWidget* on = canvas_;
-    if (auto* editor = qobject_cast<QPlainTextEdit*>(canvas_->widgetOf(model()->focus()))) {
+    if (auto* editor = qobject_cast<QPlainTextEdit*>(canvas_->widgetOf(control))) {
         box = editor->cursorRect().adjusted(-sheet_view_detail::scrollMargin, 0, sheet_view_detail::scrollMargin, 0);
         on = editor->viewport();
     }

@@ -40,6 +40,8 @@ public:
     host::Place designOfTool() const;
     /// What the keyboard works on, in screen coordinates: the field in hand, in an editor the line; empty without one.
     QRect inHand() const;
+    /// The same; while a field is being left, that one.
+    QRect spokenOf() const;
     /// Size in logical pixels that shows the window as its table wants it.
     QSize wantedSize() const;
 
@@ -48,6 +50,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QRect boxOf(host::Handle control) const;
     void followTimers();
     void bringIntoView();
     QSize roomBesideBars(QSize needed) const;
@@ -58,6 +61,7 @@ private:
     QMenuBar* bar_ = nullptr;
     Menus* menus_ = nullptr;
     QScrollArea* area_;
+    host::Handle last_ = host::noControl; ///< the last one in hand
     Canvas* canvas_;
     std::unordered_map<host::Handle, QTimer*> timers_;
 };

@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/drawing/texts.h"
-#include "desktop/windows/questions.h"
+#include "desktop/windows/placing.h"
 #include "desktop/windows/sheet_view.h"
 
 namespace velmor::desktop {

@@ -382,6 +382,8 @@ bool WindowKeeper::handedBack(QWidget* active)
 void WindowKeeper::touched(QWidget* view)
 {
     awaited_ = nullptr;
+    byHand_ = view;
+    QTimer::singleShot(0, this, [this] { byHand_ = nullptr; });
     auto* canvas = dynamic_cast<Canvas*>(view);
     if (!main_ || canvas == nullptr || canvas->model() == nullptr || canvas->model()->role() == Role::palette)
         return;
@@ -399,6 +401,29 @@ QWidget* WindowKeeper::dialogParent() const
         if (WindowFrame* frame = frameOf(*current); frame != nullptr && frame->widget().isVisible())
             return &frame->widget();
     return main_;
+}
+
+// A box that answers a key or a press in a sheet speaks of the field in hand, or of the one that is being left.
+Stage WindowKeeper::stage() const
+{
+    Stage stage{.inks = desk_.inks, .english = desk_.english()};
+    const QWidget* asks = dialogParent();
+    if (asks != nullptr)
+        stage.room = asks == main_ ? asks->geometry() : asks->screen()->availableGeometry();
+    if (const SheetView* view = activeView()) {
+        stage.inHand = view->spokenOf();
+        stage.beside = byHand_ == &view->canvas();
+    }
+    return stage;
+}
+
+std::vector<QWidget*> WindowKeeper::windowsInSight() const
+{
+    std::vector<QWidget*> seen;
+    for (const auto& [window, frame] : frames_)
+        if (frame->widget().isWindow() && frame->widget().isVisible())
+            seen.push_back(&frame->widget());
+    return seen;
 }
 
 void WindowKeeper::dialogClosed(QWidget* parent)

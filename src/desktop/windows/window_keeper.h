@@ -13,6 +13,7 @@
 
 #include "desktop/canvas/desk.h"
 #include "desktop/windows/main_window.h"
+#include "desktop/windows/quiet_box.h"
 #include "desktop/windows/window_frame.h"
 
 class QMdiSubWindow;
@@ -38,6 +39,10 @@ public:
     MainWindow* mainWindow() const { return main_.data(); }
     /// The view that has or would have the keyboard; null without one.
     SheetView* activeView() const;
+    /// How and where a box of the moment appears.
+    Stage stage() const;
+    /// All windows of the program that are seen on the screen.
+    std::vector<QWidget*> windowsInSight() const;
     /// Where a dialog belongs.
     QWidget* dialogParent() const;
     /// After a dialog the window that asked is active again.
@@ -74,6 +79,7 @@ private:
     QPointer<MainWindow> main_;
     std::unordered_map<const host::Window*, WindowFrame*> frames_;
     std::vector<host::Window*> raised_;
+    QPointer<QWidget> byHand_;  ///< the view in which a key or a press is being answered
     QPointer<QWidget> awaited_; ///< asked to become active; other activations on the way to it do not count
     QPointer<QWidget> wanted_;  ///< the person asked for it by key
     std::int16_t language_ = 0;
