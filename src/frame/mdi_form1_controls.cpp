@@ -394,7 +394,7 @@ const host::WindowSpec spec{
     .shortcuts = controls_table::shortcuts,
     .create = create,
     .shownPlace = shownPlaceOf,
-    .mainParts = {.bar = Picture14, .welcome = SSPanel1, .pageStrip = pageStrip},
+    .mainParts = {.bar = Picture14, .welcome = SSPanel1, .windows = mnuVer, .pageStrip = pageStrip},
 };
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)

@@ -19,9 +19,10 @@
 #include "desktop/canvas/keyboard.h"
 #include "desktop/drawing/page_picture.h"
 #include "desktop/drawing/texts.h"
+#include "desktop/windows/menu_bar.h"
 #include "desktop/windows/menus.h"
 #include "desktop/windows/offer_line.h"
-#include "desktop/windows/tool_window.h"
+#include "desktop/windows/palette_strip.h"
 
 namespace velmor::desktop {
 
@@ -65,8 +66,10 @@ MainWindow::MainWindow(Desk& desk, host::Window& model)
     setMinimumSize(main_window_detail::smallestWindow);
     menuBar()->hide();
     menus_ = new Menus(desk, model, *menuBar());
+    bars_ = new MenuBar(desk, *this, *menus_, model.spec().mainParts.windows);
     area_->setParent(middle_);
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder); // Ctrl+Tab goes round in order of use
     area_->setFrameShape(QFrame::NoFrame);
     area_->setBackground(desk.inks->desk);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -154,16 +157,25 @@ void MainWindow::setHasChildren(bool hasChildren)
         layOutPanels();
 }
 
-void MainWindow::setStrip(int height)
+void MainWindow::setStrip(PaletteStrip* strip)
 {
-    if (std::exchange(strip_, height) != height)
-        layOutPanels();
+    strip_ = strip;
+    strip_->moved = [this] { layOutPanels(); };
+    layOutPanels();
 }
 
-QRect MainWindow::strip() const
+void MainWindow::layOutStrip(QRect& rest)
 {
-    const QRect inside(0, middle_->height() - strip_, middle_->width(), strip_);
-    return {middle_->mapToGlobal(inside.topLeft()), inside.size()};
+    if (strip_ == nullptr || !strip_->rests())
+        return;
+    const int height = std::min(rest.height(), strip_->restHeight());
+    strip_->restIn({rest.left(), rest.bottom() + 1 - height, rest.width(), height});
+    rest.setBottom(rest.bottom() - height);
+}
+
+void MainWindow::showMenusOf(Menus* child)
+{
+    bars_->follow(child);
 }
 
 OfferLine& MainWindow::offerLine()
@@ -252,7 +264,7 @@ void MainWindow::layOutPanels()
     }
     if (bar_ != nullptr)
         bar_->setVisible(barShown);
-    rest.setBottom(std::max(rest.top(), rest.bottom() - strip_));
+    layOutStrip(rest);
     if (area_->geometry() != rest)
         area_->setGeometry(rest);
     layOutWelcome(rest);
@@ -273,12 +285,8 @@ QRect MainWindow::pageStripIn(const QRect& rest) const
     const host::Place& strip = model_->spec().mainParts.pageStrip;
     const int height = std::min(rest.height(), rest.width() * strip.height / strip.width);
     const QRect low(rest.left(), rest.bottom() + 1 - height, rest.width(), height);
-    const QRect onScreen(middle_->mapToGlobal(low.topLeft()), low.size());
-    const auto windows = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    const bool covered = std::any_of(windows.begin(), windows.end(), [&](const QWidget* widget) {
-        const auto* tool = dynamic_cast<const ToolWindow*>(widget);
-        return tool != nullptr && tool->isPalette() && tool->isVisible() && onScreen.intersects(tool->frameGeometry());
-    });
+    const bool covered =
+        strip_ != nullptr && strip_->floats() && strip_->isVisible() && low.intersects(strip_->geometry());
     return covered ? QRect(rest.topLeft(), low.size()) : low;
 }
 

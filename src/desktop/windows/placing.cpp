@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -32,21 +33,47 @@ QPoint insideRoom(QPoint wished, QSize size, const QRect& room)
     return {left, top};
 }
 
-QPoint besideThing(const QRect& thing, QSize size, const QRect& room)
+namespace placing {
+
+enum class Side { below, above, right, left };
+
+QPoint cornerAt(Side side, const QRect& thing, QSize size)
 {
-    using namespace placing;
-    const int below = thing.bottom() + 1 + gap;
-    const int above = thing.top() - gap - size.height();
-    const int right = thing.right() + 1 + gap;
-    const int left = thing.left() - gap - size.width();
-    const std::array wished{QPoint(thing.left() - gap, below), QPoint(thing.left() - gap, above),
-                            QPoint(right, thing.top() - gap), QPoint(left, thing.top() - gap)};
-    for (const QPoint at : wished) {
-        const QPoint kept = insideRoom(at, size, room);
+    switch (side) {
+    case Side::below:
+        return {thing.left() - gap, thing.bottom() + 1 + gap};
+    case Side::above:
+        return {thing.left() - gap, thing.top() - gap - size.height()};
+    case Side::right:
+        return {thing.right() + 1 + gap, thing.top() - gap};
+    case Side::left:
+        break;
+    }
+    return {thing.left() - gap - size.width(), thing.top() - gap};
+}
+
+QPoint firstFree(std::initializer_list<Side> sides, const QRect& thing, QSize size, const QRect& room)
+{
+    for (const Side side : sides) {
+        const QPoint kept = insideRoom(cornerAt(side, thing, size), size, room);
         if (!thing.isEmpty() && leavesFree(thing, kept, size))
             return kept;
     }
     return clearOfThing(thing, size, room);
+}
+
+} // namespace placing
+
+QPoint besideThing(const QRect& thing, QSize size, const QRect& room)
+{
+    using placing::Side;
+    return placing::firstFree({Side::below, Side::above, Side::right, Side::left}, thing, size, room);
+}
+
+QPoint sidewaysOf(const QRect& thing, QSize size, const QRect& room)
+{
+    using placing::Side;
+    return placing::firstFree({Side::right, Side::left, Side::above, Side::below}, thing, size, room);
 }
 
 QPoint clearOfThing(const QRect& thing, QSize size, const QRect& room)

@@ -13,6 +13,9 @@ namespace velmor::desktop {
 /// hides nothing of the thing. Without a thing in the middle.
 QPoint besideThing(const QRect& thing, QSize size, const QRect& room);
 
+/// The same to the right, else to the left, above or below: for what is read while the fields below are filled.
+QPoint sidewaysOf(const QRect& thing, QSize size, const QRect& room);
+
 /// In the middle of the room, or as near to it as leaves the thing free.
 QPoint clearOfThing(const QRect& thing, QSize size, const QRect& room);
 

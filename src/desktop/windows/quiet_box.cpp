@@ -23,7 +23,7 @@ namespace velmor::desktop {
 
 namespace quiet_box_detail {
 
-constexpr int lettersAcross = 58; ///< a measure that is easily read
+constexpr int lettersAcross = 64; ///< a measure that is easily read
 constexpr double signLines = 2.6; ///< side of the sign, in lines of text
 constexpr double largestShare = 0.9;
 constexpr int buttonLetters = 11; ///< least width of a button
@@ -169,6 +169,7 @@ QPushButton* QuietBox::addButton(const QString& caption)
 {
     auto* button = new QPushButton(caption, this);
     button->setMinimumWidth(fontMetrics().averageCharWidth() * quiet_box_detail::buttonLetters);
+    button->setMinimumHeight(fontMetrics().height() * 7 / 4);
     button->setAutoDefault(true);
     row_->addWidget(button);
     buttons_.push_back(button);

@@ -37,7 +37,10 @@ SheetView::SheetView(Desk& desk, host::Window& model, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    if (Menus::hasMenus(model.spec())) {
+    // A child's menus stand in the main window's bar.
+    if (Menus::hasMenus(model.spec()) && model.isChild())
+        menus_ = new Menus(desk, model, *this);
+    else if (Menus::hasMenus(model.spec())) {
         bar_ = new QMenuBar(this);
         bar_->setNativeMenuBar(false);
         menus_ = new Menus(desk, model, *bar_);

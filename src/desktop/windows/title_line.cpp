@@ -3,60 +3,30 @@
 
 #include <algorithm>
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWindow>
 
-#include "desktop/drawing/texts.h"
-#include "host/bitext.h"
+#include "desktop/windows/close_button.h"
 
 namespace velmor::desktop {
 
 namespace title_line_detail {
 
-constexpr host::BiText closeText{.es = "Cerrar", .en = "Close"};
 constexpr double lineShare = 1.75; ///< height of the line, by that of its letters
 constexpr int smallestHeight = 24;
-
-class CloseButton final : public QAbstractButton {
-public:
-    explicit CloseButton(QWidget* parent) : QAbstractButton(parent)
-    {
-        setFocusPolicy(Qt::NoFocus);
-        setAttribute(Qt::WA_Hover);
-    }
-    const Inks* inks = nullptr;
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter painter(this);
-        if (isDown() || underMouse())
-            painter.fillRect(rect(), isDown() ? inks->warningTint : inks->buttonHover);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const double arm = height() * 0.16;
-        painter.setPen(QPen(underMouse() ? inks->warning : inks->ink, std::max(1.2, height() / 22.0), Qt::SolidLine,
-                            Qt::RoundCap));
-        const QPointF middle = QRectF(rect()).center();
-        painter.drawLine(middle - QPointF(arm, arm), middle + QPointF(arm, arm));
-        painter.drawLine(middle + QPointF(arm, -arm), middle + QPointF(-arm, arm));
-    }
-};
 
 } // namespace title_line_detail
 
 TitleLine::TitleLine(const Inks& inks, QWidget* parent)
-    : QWidget(parent), inks_(&inks), close_(new title_line_detail::CloseButton(this))
+    : QWidget(parent), inks_(&inks), close_(new CloseButton(inks, this))
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    close_->setObjectName(QStringLiteral("close"));
     connect(close_, &QAbstractButton::clicked, this, [this] {
         if (closed)
             closed();
     });
-    setInks(inks);
 }
 
 void TitleLine::setTitle(const QString& title)
@@ -68,15 +38,13 @@ void TitleLine::setTitle(const QString& title)
 void TitleLine::setInks(const Inks& inks)
 {
     inks_ = &inks;
-    static_cast<title_line_detail::CloseButton*>(close_)->inks = &inks;
+    close_->setInks(inks);
     update();
 }
 
 void TitleLine::speak(bool english)
 {
-    const QString text = shown(english ? title_line_detail::closeText.en : title_line_detail::closeText.es);
-    close_->setAccessibleName(text);
-    close_->setToolTip(text);
+    close_->speak(english);
 }
 
 void TitleLine::setActive(bool active)
@@ -125,36 +93,22 @@ void TitleLine::changeEvent(QEvent* event)
 void TitleLine::mousePressEvent(QMouseEvent* event)
 {
     held_ = event->button() == Qt::LeftButton;
-    dragging_ = false;
     pressed_ = event->globalPosition().toPoint();
 }
 
 void TitleLine::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPoint at = event->globalPosition().toPoint();
-    if (!held_ || (!dragging_ && (at - pressed_).manhattanLength() < QApplication::startDragDistance()))
+    const QPoint way = event->globalPosition().toPoint() - pressed_;
+    if (!held_ || way.manhattanLength() < QApplication::startDragDistance())
         return;
-    if (!dragged) {
-        held_ = false;
-        if (QWindow* moved = window()->windowHandle())
-            moved->startSystemMove();
-        return;
-    }
-    dragging_ = true;
-    dragged(at);
+    held_ = false;
+    if (QWindow* moved = window()->windowHandle())
+        moved->startSystemMove();
 }
 
 void TitleLine::mouseReleaseEvent(QMouseEvent*)
 {
     held_ = false;
-    if (std::exchange(dragging_, false) && dropped)
-        dropped();
-}
-
-void TitleLine::mouseDoubleClickEvent(QMouseEvent*)
-{
-    if (doubled)
-        doubled();
 }
 
 } // namespace velmor::desktop

@@ -21,6 +21,7 @@ class QMdiSubWindow;
 namespace velmor::desktop {
 
 class ChildFrame;
+class PaletteStrip;
 
 class WindowKeeper final : public QObject, private QAccessible::ActivationObserver {
 public:
@@ -67,18 +68,19 @@ private:
     void followFocus();
     void makeRoom();
     QRegion taken() const;
-    int stripHeight() const;
     void postFocus();
     void focusMoved(QWidget* now);
     void childActivated(QMdiSubWindow* child);
     void windowActivated();
-    bool handedBack(QWidget* active);
     void touched(QWidget* view);
+    void turnTo(host::Window& pane);
 
     Desk& desk_;
     QPointer<MainWindow> main_;
     std::unordered_map<const host::Window*, WindowFrame*> frames_;
     std::vector<host::Window*> raised_;
+    QPointer<PaletteStrip> strip_;
+    bool stripInHand_ = false;  ///< the strip has the keyboard, which the person gave it by key
     QPointer<QWidget> byHand_;  ///< the view in which a key or a press is being answered
     QPointer<QWidget> awaited_; ///< asked to become active; other activations on the way to it do not count
     QPointer<QWidget> wanted_;  ///< the person asked for it by key
