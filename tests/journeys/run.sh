@@ -14,6 +14,7 @@ python=/usr/bin/python3 # the one that knows the accessibility bus
 
 all_journeys() {
     $python - <<'END'
+import glob
 import unittest
 def names(suite):
     for test in suite:
@@ -21,7 +22,8 @@ def names(suite):
             yield from names(test)
         else:
             yield test.id()
-print("\n".join(names(unittest.defaultTestLoader.loadTestsFromName("journeys"))))
+for module in sorted(glob.glob("*journeys.py")):
+    print("\n".join(names(unittest.defaultTestLoader.loadTestsFromName(module[:-len(".py")]))))
 END
 }
 

@@ -84,8 +84,9 @@ QPainterPath strokesOf(BoxIcon icon)
 
 QPointF dotOf(BoxIcon icon)
 {
-    return icon == BoxIcon::warning ? QPointF(12, 17.9) : icon == BoxIcon::information ? QPointF(12, 7.2)
-                                                                                       : QPointF(12, 17.7);
+    return icon == BoxIcon::warning       ? QPointF(12, 17.9)
+           : icon == BoxIcon::information ? QPointF(12, 7.2)
+                                          : QPointF(12, 17.7);
 }
 
 } // namespace box_sign

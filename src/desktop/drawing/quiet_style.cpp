@@ -214,7 +214,8 @@ int QuietStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
     if (metric != PM_TitleBarHeight)
         return usual;
-    return std::max(usual, static_cast<int>(QFontMetrics(QApplication::font()).height() * quiet_style_detail::titleShare));
+    return std::max(usual,
+                    static_cast<int>(QFontMetrics(QApplication::font()).height() * quiet_style_detail::titleShare));
 }
 
 void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

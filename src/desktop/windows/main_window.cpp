@@ -19,6 +19,7 @@
 #include "desktop/canvas/keyboard.h"
 #include "desktop/drawing/page_picture.h"
 #include "desktop/drawing/texts.h"
+#include "desktop/windows/child_rounds.h"
 #include "desktop/windows/menu_bar.h"
 #include "desktop/windows/menus.h"
 #include "desktop/windows/offer_line.h"
@@ -69,11 +70,11 @@ MainWindow::MainWindow(Desk& desk, host::Window& model)
     bars_ = new MenuBar(desk, *this, *menus_, model.spec().mainParts.windows);
     area_->setParent(middle_);
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
-    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder); // Ctrl+Tab goes round in order of use
     area_->setFrameShape(QFrame::NoFrame);
     area_->setBackground(desk.inks->desk);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    rounds_ = new ChildRounds(desk, *this); // after the area, whose own rounds go by age
     const Handle bar = model.spec().mainParts.bar;
     welcome_ = new Canvas(desk, model, noControl, bar);
     welcome_->setParent(middle_);
@@ -116,9 +117,7 @@ void MainWindow::followWindow()
     if (model_ == nullptr)
         return;
     const QScopedValueRollback following(following_, true);
-    const QString title = shownTitle(model_->caption()).simplified();
-    if (windowTitle() != title)
-        setWindowTitle(title);
+    followTitle(desk_.engine->activeChild());
     const Qt::WindowStates wanted = model_->windowState() == 2   ? Qt::WindowMaximized
                                     : model_->windowState() == 1 ? Qt::WindowMinimized
                                                                  : Qt::WindowNoState;
@@ -173,9 +172,24 @@ void MainWindow::layOutStrip(QRect& rest)
     rest.setBottom(rest.bottom() - height);
 }
 
-void MainWindow::showMenusOf(Menus* child)
+void MainWindow::followChild(const host::Window* child, Menus* menus)
 {
-    bars_->follow(child);
+    bars_->follow(menus);
+    rounds_->follow();
+    followTitle(child);
+}
+
+// A maximised child has no title of its own: the frame bears its name too.
+void MainWindow::followTitle(const host::Window* child)
+{
+    if (model_ == nullptr)
+        return;
+    constexpr int maximised = 2;
+    QString title = shownTitle(model_->caption()).simplified();
+    if (child != nullptr && child->windowState() == maximised)
+        title += QStringLiteral(" - [%1]").arg(shownTitle(child->caption()).simplified());
+    if (windowTitle() != title)
+        setWindowTitle(title);
 }
 
 OfferLine& MainWindow::offerLine()

@@ -13,6 +13,7 @@ class QMdiArea;
 namespace velmor::desktop {
 
 class Canvas;
+class ChildRounds;
 class MenuBar;
 class Menus;
 class OfferLine;
@@ -35,8 +36,8 @@ public:
 
     QMdiArea& area() const { return *area_; }
     Menus& menus() const { return *menus_; }
-    /// The active child's menus stand in the menu bar too; null for none.
-    void showMenusOf(Menus* child);
+    /// The active child, null for none: its menus stand in the menu bar, and the frame bears the name of a maximised one.
+    void followChild(const host::Window* child, Menus* menus);
     /// What holds the panels, the sheets and the palette.
     QWidget& panel() const { return *middle_; }
     /// The palette lies in a strip at the lower edge while it rests.
@@ -61,6 +62,7 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void followTitle(const host::Window* child);
     bool openMenu(host::Handle control);
     void pressBackground(const QMouseEvent& event);
     void layOutPanels();
@@ -74,6 +76,7 @@ private:
     host::Window* model_;
     Menus* menus_ = nullptr;
     MenuBar* bars_ = nullptr;
+    ChildRounds* rounds_ = nullptr;
     QMdiArea* area_;
     QWidget* middle_;
     Canvas* welcome_ = nullptr;

@@ -227,8 +227,12 @@ void MenuBar::listChildren(QMenu& menu)
             action->deleteLater();
     }
     const std::vector<host::Window*> open = children();
-    if (!open.empty())
-        listed_.push_back(menu.addSeparator());
+    if (!open.empty()) {
+        // Ours, not the menu's: a menu that is cleared would take it along.
+        listed_.push_back(new QAction(this));
+        listed_.back()->setSeparator(true);
+        menu.addAction(listed_.back());
+    }
     for (std::size_t i = 0; i < open.size(); ++i) {
         QAction* action = i < numbered_.size() ? numbered_[i] : new QAction(this);
         QString title = shown(open[i]->caption()).simplified().replace(QLatin1Char('&'), QStringLiteral("&&"));

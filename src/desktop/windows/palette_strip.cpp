@@ -17,9 +17,9 @@ namespace velmor::desktop {
 
 namespace palette_strip_detail {
 
-constexpr double share = 0.8;  ///< of the size in its table: it is seen all the time
-constexpr int margin = 3;      ///< logical pixels around the pictures
-constexpr int dots = 5;        ///< of the grip, in two rows
+constexpr double share = 0.8; ///< of the size in its table: it is seen all the time
+constexpr int margin = 3;     ///< logical pixels around the pictures
+constexpr int dots = 5;       ///< of the grip, in two rows
 constexpr double dotStep = 6.0;
 constexpr double dotRadius = 1.3;
 constexpr double largestShare = 0.9; ///< of the panel, while it floats

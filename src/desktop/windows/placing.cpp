@@ -80,11 +80,9 @@ QPoint clearOfThing(const QRect& thing, QSize size, const QRect& room)
 {
     using namespace placing;
     const QPoint middle = middleOf(room, size);
-    const std::array wished{middle,
-                            QPoint(middle.x(), thing.bottom() + 1 + gap),
-                            QPoint(middle.x(), thing.top() - gap - size.height()),
-                            QPoint(thing.right() + 1 + gap, middle.y()),
-                            QPoint(thing.left() - gap - size.width(), middle.y())};
+    const std::array wished{
+        middle, QPoint(middle.x(), thing.bottom() + 1 + gap), QPoint(middle.x(), thing.top() - gap - size.height()),
+        QPoint(thing.right() + 1 + gap, middle.y()), QPoint(thing.left() - gap - size.width(), middle.y())};
     for (const QPoint at : wished) {
         const QPoint kept = insideRoom(at, size, room);
         if (leavesFree(thing, kept, size))

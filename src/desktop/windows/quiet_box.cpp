@@ -104,7 +104,11 @@ int BoxText::heightFor(int width) const
 
 QSize BoxText::sizeHint() const
 {
-    const int width = measure();
+    // A very long text is wider rather than taller than the screen.
+    const int narrow = measure();
+    int width = narrow;
+    while (heightFor(width) > width && width < 3 * narrow)
+        width += narrow / 4 + 1;
     return {width, heightFor(width)};
 }
 
@@ -188,9 +192,11 @@ void QuietBox::takeSize()
     layout()->activate();
     const int titleWidth = title_->wholeWidth();
     const QScreen* screen = QGuiApplication::screenAt(stage_.room.center());
-    const QSize most = (screen == nullptr ? stage_.room.size() : screen->availableSize()) * quiet_box_detail::largestShare;
+    const QSize most =
+        (screen == nullptr ? stage_.room.size() : screen->availableSize()) * quiet_box_detail::largestShare;
     const QSize wanted = layout()->sizeHint();
-    resize(QSize(std::min(std::max(wanted.width(), titleWidth), most.width()), std::min(wanted.height(), most.height())));
+    resize(
+        QSize(std::min(std::max(wanted.width(), titleWidth), most.width()), std::min(wanted.height(), most.height())));
 }
 
 void QuietBox::settle()

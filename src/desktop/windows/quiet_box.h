@@ -24,8 +24,8 @@ class TitleLine;
 struct Stage {
     const Inks* inks = &lightInks();
     bool english = false;
-    QRect room;   ///< of the window that asks, on the screen
-    QRect inHand; ///< the field in hand, on the screen; empty without one
+    QRect room;          ///< of the window that asks, on the screen
+    QRect inHand;        ///< the field in hand, on the screen; empty without one
     bool beside = false; ///< the box speaks of that field
 };
 

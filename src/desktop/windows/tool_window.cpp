@@ -41,6 +41,8 @@ ToolWindow::ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow)
     setObjectName(shown(model.name()));
     setFocusProxy(view_);
     setMouseTracking(true);
+    for (QWidget* inside : {static_cast<QWidget*>(title_), static_cast<QWidget*>(view_)})
+        inside->setCursor(Qt::ArrowCursor); // the frame's arrows are its own
     title_->speak(desk.english());
     title_->closed = [this] { close(); };
     if (model.spec().modal)

@@ -187,7 +187,7 @@ void WindowKeeper::followAll()
         main_->setHasChildren(children);
         const host::Window* child = desk_.engine->activeChild();
         WindowFrame* frame = child == nullptr || !child->shown() ? nullptr : frameOf(*child);
-        main_->showMenusOf(frame == nullptr ? nullptr : frame->view()->menus());
+        main_->followChild(child, frame == nullptr ? nullptr : frame->view()->menus());
     }
     followRaised();
     followActive();
@@ -305,8 +305,7 @@ void WindowKeeper::makeRoom()
     SheetView* view = activeView();
     const QRect inHand = view == nullptr ? QRect() : view->inHand();
     for (const auto& [window, frame] : frames_)
-        if (auto* tool = dynamic_cast<ToolWindow*>(frame);
-            tool != nullptr && tool->view() != view && !inHand.isEmpty())
+        if (auto* tool = dynamic_cast<ToolWindow*>(frame); tool != nullptr && tool->view() != view && !inHand.isEmpty())
             tool->giveWayTo(inHand);
     if (strip_ && strip_->view() != view && !inHand.isEmpty())
         strip_->giveWayTo(inHand);
@@ -359,9 +358,9 @@ void WindowKeeper::windowActivated()
         if (&frame->widget() == active)
             turnedTo = frame->model();
     if (turnedTo != nullptr && turnedTo->role() == Role::mainWindow)
-        turnedTo = stripInHand_ && strip_                    ? strip_->model()
+        turnedTo = stripInHand_ && strip_                   ? strip_->model()
                    : desk_.engine->activeChild() != nullptr ? desk_.engine->activeChild()
-                                                             : turnedTo;
+                                                            : turnedTo;
     if (turnedTo != nullptr && desk_.engine->current() != turnedTo)
         desk_.engine->userActivate(*turnedTo);
     postFocus();

@@ -102,9 +102,10 @@ TEST_F(ShellTest, aBoxThatNoKeyInAFieldHasRaisedStandsInTheMiddle)
 
 TEST_F(ShellTest, longTextsAreBrokenToAReadableMeasureAndLongWordsToo)
 {
-    for (const std::string& text : {std::string("La corriente de reposo cambia con la temperatura y por eso se elige. ") +
-                                        "Un valor mayor pide más fuente, y un valor menor deja poca tensión al transistor.",
-                                    std::string(300, 'x')}) {
+    for (const std::string& text :
+         {std::string("La corriente de reposo cambia con la temperatura y por eso se elige. ") +
+              "Un valor mayor pide más fuente, y un valor menor deja poca tensión al transistor.",
+          std::string(300, 'x')}) {
         whenAsked([&](desktop::QuietBox& box) {
             auto& label = *box.findChild<desktop::BoxText*>();
             EXPECT_EQ(label.text().toStdString(), text) << "the text itself is untouched";
@@ -172,7 +173,8 @@ TEST(PlacingTest, belowTheThingElseAboveElseBesideItElseWhereverItHidesNothing)
 struct ToolTest : ShellTest {
     desktop::ToolWindow& tool()
     {
-        return dynamic_cast<desktop::ToolWindow&>(*on.screen.keeper().frameOf(*on.engine.defaultInstance("Herramienta")));
+        return dynamic_cast<desktop::ToolWindow&>(
+            *on.screen.keeper().frameOf(*on.engine.defaultInstance("Herramienta")));
     }
 };
 
