@@ -137,6 +137,13 @@ bool ChildFrame::event(QEvent* event)
     return QWidget::event(event);
 }
 
+// A maximised frame would write its name into the main window's title at each change of it, also from behind the active child.
+bool ChildFrame::eventFilter(QObject* object, QEvent* event)
+{
+    return event->type() == QEvent::WindowTitleChange && object != widget() ? false
+                                                                            : QMdiSubWindow::eventFilter(object, event);
+}
+
 void ChildFrame::moveEvent(QMoveEvent* event)
 {
     QMdiSubWindow::moveEvent(event);

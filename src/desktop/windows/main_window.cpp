@@ -159,7 +159,10 @@ void MainWindow::setHasChildren(bool hasChildren)
 void MainWindow::setStrip(PaletteStrip* strip)
 {
     strip_ = strip;
-    strip_->moved = [this] { layOutPanels(); };
+    strip_->moved = [this] {
+        talking_ = false; // the page would come under the hand that moves the palette
+        layOutPanels();
+    };
     layOutPanels();
 }
 

@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QSet>
+#include <QTimer>
 
 #include "desktop/drawing/texts.h"
 
@@ -246,17 +247,20 @@ void MenuBar::listChildren(QMenu& menu)
     }
 }
 
+// A menu that closes gives the keyboard back to the child that had it, which Qt takes for a turn to that child: so afterwards.
 void MenuBar::turnTo(std::size_t number)
 {
-    const std::vector<host::Window*> open = children();
-    if (desk_.closing || number >= open.size() || !desk_.idle())
-        return;
-    host::Window& child = *open[number];
-    constexpr int minimised = 1;
-    if (child.windowState() == minimised)
-        desk_.engine->userState(child, 0);
-    if (desk_.engine->isLoaded(&child))
-        desk_.engine->userActivate(child);
+    QTimer::singleShot(0, this, [this, number] {
+        const std::vector<host::Window*> open = desk_.closing ? std::vector<host::Window*>() : children();
+        if (number >= open.size() || !desk_.idle())
+            return;
+        host::Window& child = *open[number];
+        constexpr int minimised = 1;
+        if (child.windowState() == minimised)
+            desk_.engine->userState(child, 0);
+        if (desk_.engine->isLoaded(&child))
+            desk_.engine->userActivate(child);
+    });
 }
 
 } // namespace velmor::desktop

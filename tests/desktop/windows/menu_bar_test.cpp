@@ -64,9 +64,11 @@ struct MenuBarTest : ::testing::Test {
     void turnRound(int steps)
     {
         QWindow* window = on.main().windowHandle();
+        // Ctrl stays down meanwhile, which a click of the key would not leave it.
         for (int i = 0; i < steps; ++i)
-            QTest::keyClick(window, Qt::Key_Tab, Qt::ControlModifier);
-        QTest::keyRelease(window, Qt::Key_Control);
+            for (const bool down : {true, false})
+                QTest::simulateEvent(window, down, Qt::Key_Tab, Qt::ControlModifier, QString(), false);
+        QTest::simulateEvent(window, false, Qt::Key_Control, Qt::NoModifier, QString(), false);
         Bench::settle();
     }
     Bench on;
@@ -148,6 +150,7 @@ TEST_F(MenuBarTest, theWindowMenuListsTheChildrenAndMarksTheOneInFront)
     on.keys("Alt+1");
     EXPECT_EQ(on.engine.activeChild(), &sheet());
     on.engine.userState(sheet(), 1);
+    Bench::settle();
     on.keys("Alt+1");
     EXPECT_NE(sheet().windowState(), 1) << "an icon is opened";
 }
@@ -180,7 +183,8 @@ TEST_F(MenuBarTest, aNewChildIsMaximisedBesideAMaximisedOneAndTheFrameNamesIt)
     EXPECT_TRUE(on.main().windowTitle().contains(desktop::shown(other.caption()).simplified()));
     on.engine.userState(other, 0);
     Bench::settle();
-    EXPECT_FALSE(on.main().windowTitle().contains('[')) << "it has a title of its own again";
+    EXPECT_EQ(on.main().windowTitle(), desktop::shownTitle(on.engine.mainWindow().caption()).simplified())
+        << "it has a title of its own again";
 }
 
 TEST(LettersTest, aLetterThatIsTakenGivesWayToAnother)

@@ -254,10 +254,11 @@ TEST_F(StripTest, itsButtonClosesItAndTheSheetsGetItsRoom)
 TEST_F(StripTest, itIsDraggedOutByItsGripAndBack)
 {
     const int before = area().height();
-    drag(grip(), area().center());
+    const QPoint middle = area().center();
+    drag(grip(), middle);
     EXPECT_TRUE(strip().floats());
     EXPECT_GT(area().height(), before) << "the sheets have its room";
-    EXPECT_TRUE(onScreen(strip()).contains(area().center())) << "where the hand has left it";
+    EXPECT_TRUE(onScreen(strip()).contains(middle)) << "where the hand has left it";
     drag(grip(), onScreen(on.main().panel()).center() + QPoint(0, on.main().panel().height() / 2 - 4));
     EXPECT_FALSE(strip().floats());
     EXPECT_EQ(area().height(), before);
