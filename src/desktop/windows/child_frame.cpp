@@ -140,8 +140,8 @@ bool ChildFrame::event(QEvent* event)
 // A maximised frame would write its name into the main window's title at each change of it, also from behind the active child.
 bool ChildFrame::eventFilter(QObject* object, QEvent* event)
 {
-    return event->type() == QEvent::WindowTitleChange && object != widget() ? false
-                                                                            : QMdiSubWindow::eventFilter(object, event);
+    const bool frames = event->type() == QEvent::WindowTitleChange && object != view_;
+    return !frames && QMdiSubWindow::eventFilter(object, event);
 }
 
 void ChildFrame::moveEvent(QMoveEvent* event)

@@ -17,11 +17,11 @@ namespace velmor::desktop {
 
 namespace palette_strip_detail {
 
-constexpr double share = 0.8; ///< of the size in its table: it is seen all the time
-constexpr int margin = 3;     ///< logical pixels around the pictures
-constexpr int dots = 5;       ///< of the grip, in two rows
-constexpr double dotStep = 6.0;
-constexpr double dotRadius = 1.3;
+constexpr double share = 0.8;     ///< of the size in its table: it is seen all the time
+constexpr int margin = 3;         ///< logical pixels around the pictures
+constexpr int dots = 5;           ///< of the grip, in two rows
+constexpr double dotShare = 0.34; ///< from dot to dot, by the width of the grip
+constexpr double radiusShare = 0.075;
 constexpr double largestShare = 0.9; ///< of the panel, while it floats
 
 } // namespace palette_strip_detail
@@ -185,9 +185,11 @@ void PaletteStrip::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
     painter.setBrush(inks.quiet);
     const QPointF middle(gripWidth() / 2.0, height() / 2.0);
+    const double step = gripWidth() * dotShare;
+    const double radius = gripWidth() * radiusShare;
     for (int i = 0; i < dots; ++i)
         for (const double side : {-0.5, 0.5})
-            painter.drawEllipse(middle + QPointF(side, i - (dots - 1) / 2.0) * dotStep, dotRadius, dotRadius);
+            painter.drawEllipse(middle + QPointF(side, i - (dots - 1) / 2.0) * step, radius, radius);
 }
 
 void PaletteStrip::resizeEvent(QResizeEvent*)
