@@ -17,6 +17,7 @@
 #include "desktop/file_places.h"
 #include "desktop/printing.h"
 #include "desktop/windows/questions.h"
+#include "desktop/windows/veil.h"
 #include "desktop/windows/window_keeper.h"
 
 namespace velmor::desktop {
@@ -58,6 +59,7 @@ auto DesktopScreen::ask(Ask question)
     busyPointer(false);
     texts_.speak(desk_.english());
     QPointer<QWidget> parent(keeper_->dialogParent());
+    const Veils calm(keeper_->windowsInSight(), keeper_->stage().inHand, *desk_.inks);
     auto answer = question(parent.data());
     keeper_->dialogClosed(parent);
     busyPointer(wasBusy);
@@ -66,7 +68,7 @@ auto DesktopScreen::ask(Ask question)
 
 host::Answer DesktopScreen::messageBox(const host::MessageBox& box)
 {
-    return ask([&](QWidget* parent) { return askMessage(parent, box, desk_.english()); });
+    return ask([&](QWidget* parent) { return askMessage(parent, box, keeper_->stage()); });
 }
 
 /// The sheet or editor that a dialog is about.
@@ -92,13 +94,13 @@ std::optional<std::string> DesktopScreen::inputBox(const host::InputBox& box)
 {
     return ask([&](QWidget* parent) {
         const QPoint at(desk_.pixels(box.left), desk_.pixels(box.top));
-        return askInput(parent, box, at, desk_.english());
+        return askInput(parent, box, at, keeper_->stage());
     });
 }
 
 std::optional<std::size_t> DesktopScreen::choose(const host::Choice& choice)
 {
-    return ask([&](QWidget* parent) { return askChoice(parent, choice, desk_.english()); });
+    return ask([&](QWidget* parent) { return askChoice(parent, choice, keeper_->stage()); });
 }
 
 std::optional<std::int32_t> DesktopScreen::colourDialog(std::int32_t initial)
@@ -178,7 +180,7 @@ void DesktopScreen::print(const host::PrintJob& job)
 {
     const FileProposal proposal =
         proposalForPrint(asking(), desk_.engine->settings(), documentsOf(places_, programFolder()));
-    const QString written = ask([&](QWidget* parent) { return askAndPrint(parent, job, desk_.english(), proposal); });
+    const QString written = ask([&](QWidget* parent) { return askAndPrint(parent, job, keeper_->stage(), proposal); });
     if (!written.isEmpty())
         noteFolder(desk_.engine->settings(), proposal.sort, written);
 }
@@ -207,7 +209,7 @@ void DesktopScreen::busyPointer(bool busy)
 
 void DesktopScreen::programFailed(std::string_view text)
 {
-    ask([&](QWidget* parent) { return askMessage(parent, {std::string(text), "Velmor", 16}, desk_.english()); });
+    ask([&](QWidget* parent) { return askMessage(parent, {std::string(text), "Velmor", 16}, keeper_->stage()); });
 }
 
 std::unique_ptr<host::TextStore> DesktopScreen::makeTextStore(host::Window&, host::Handle)

@@ -158,7 +158,7 @@ bool printTo(QPrinter& printer, const host::PrintJob& job)
     return printOn(printer, job) && (file.isEmpty() || printing_detail::isWholePdf(file));
 }
 
-QString askAndPrint(QWidget* parent, const host::PrintJob& job, bool english, const FileProposal& proposal)
+QString askAndPrint(QWidget* parent, const host::PrintJob& job, const Stage& stage, const FileProposal& proposal)
 {
     QPrinter printer(QPrinter::HighResolution);
     const double margin = printing_detail::marginMillimetres;
@@ -176,7 +176,7 @@ QString askAndPrint(QWidget* parent, const host::PrintJob& job, bool english, co
     if (printTo(printer, job))
         return printer.outputFileName();
     const host::BiText& text = printing_detail::failed;
-    askMessage(parent, {std::string(english ? text.en : text.es), "Velmor", printing_detail::failedFlags}, english);
+    askMessage(parent, {std::string(stage.english ? text.en : text.es), "Velmor", printing_detail::failedFlags}, stage);
     return {};
 }
 

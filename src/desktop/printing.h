@@ -31,6 +31,6 @@ bool printOn(QPagedPaintDevice& device, const host::PrintJob& job);
 bool printTo(QPrinter& printer, const host::PrintJob& job);
 
 /// Asks for the printer (or a PDF file) and prints; says so when it cannot be done. Returns the file that was written, if any.
-QString askAndPrint(QWidget* parent, const host::PrintJob& job, bool english, const FileProposal& proposal);
+QString askAndPrint(QWidget* parent, const host::PrintJob& job, const Stage& stage, const FileProposal& proposal);
 
 } // namespace velmor::desktop

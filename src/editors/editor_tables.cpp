@@ -27,7 +27,7 @@ struct MenuRow {
 
 // clang-format off
 constexpr MenuRow menus[] = {
-    {mnuFile,          "mnuFile",          noControl,   {.es = "&Archivo",             .en = "&File"}},
+    {mnuFile,          "mnuFile",          noControl,   {.es = "&Archivo",             .en = "&Archive"}},
     {mnuFilenew,       "mnuFilenew",       mnuFile,     {.es = "&Nuevo",               .en = "&New"}},
     {mnuFileOpen,      "mnuFileOpen",      mnuFile,     {.es = "A&brir...",            .en = "&Open..."}},
     {mnuGuardar,       "mnuGuardar",       mnuFile,     {.es = "&Guardar",             .en = "&Save"}},

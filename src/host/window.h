@@ -62,6 +62,7 @@ struct ValueRow {
 struct MainParts {
     Handle bar = noControl;     ///< panel that takes a strip of its own at an edge
     Handle welcome = noControl; ///< panel that fills the rest while no child is open
+    Handle windows = noControl; ///< menu that ends with the list of open children
     Place pageStrip{};          ///< the part of it that may lie over the children while a button talks
     Handle files = noControl;   ///< menu of files, behind whose items a screen may list the files opened last
 };

@@ -5,7 +5,7 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QMessageBox>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QPushButton>
@@ -14,6 +14,7 @@
 #include <QWindow>
 
 #include "desktop/drawing/texts.h"
+#include "desktop/windows/quiet_box.h"
 
 namespace velmor::test {
 
@@ -377,12 +378,12 @@ void Bench::answerByKey(int key)
 {
     auto* watch = new QTimer(&main());
     QObject::connect(watch, &QTimer::timeout, watch, [this, watch, key] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        auto* box = dynamic_cast<desktop::QuietBox*>(QApplication::activeModalWidget());
         if (box == nullptr || !box->isVisible())
             return;
         watch->deleteLater();
-        SeenBox seen{box->windowTitle(), box->text(), {}, {}, box->textFormat() == Qt::PlainText};
-        for (QAbstractButton* button : box->buttons())
+        SeenBox seen{box->windowTitle(), box->text(), {}, {}, box->findChild<QLabel*>()->textFormat() == Qt::PlainText};
+        for (const QPushButton* button : box->buttons())
             seen.buttons.append(button->text().remove(QLatin1Char('&')));
         if (box->defaultButton() != nullptr)
             seen.preselected = box->defaultButton()->text().remove(QLatin1Char('&'));

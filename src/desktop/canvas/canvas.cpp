@@ -208,7 +208,9 @@ void Canvas::paintOne(QPainter& painter, Handle control, const QRegion& clip)
 void Canvas::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.fillRect(event->rect(), view_.inks->paper);
+    // A palette is no sheet: its pictures lie on the desk.
+    const bool onDesk = model_ != nullptr && model_->role() == host::Role::palette;
+    painter.fillRect(event->rect(), onDesk ? view_.inks->desk : view_.inks->paper);
     if (model_ == nullptr)
         return;
     // Measuring what a control paints on costs as much as painting it: the most of a canvas is painted without asking.

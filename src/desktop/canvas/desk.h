@@ -27,6 +27,7 @@ struct Desk {
     bool muted = false;                    ///< pasted characters that the key filter refuses make no sound
     bool closing = false;                  ///< the program has ended; views take no more events
     std::function<QRegion()> taken;        ///< what a new window should not lie on: tools and the field in hand
+    std::function<QRect()> inHand;         ///< the field in hand, on the screen; empty without one
     std::function<void()> nextPane;        ///< the keyboard goes to the next window that is open beside the main one
     std::function<void(QWidget*)> touched; ///< a person pressed a key or a button in that view
     /// A person types or presses in that window, which a window that is only read may have in front of it.

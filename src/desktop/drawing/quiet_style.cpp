@@ -5,18 +5,26 @@
 #include <functional>
 #include <utility>
 
+#include <QApplication>
 #include <QIconEngine>
 #include <QPainter>
+#include <QStyleOptionButton>
+#include <QStyleOptionMenuItem>
 #include <QStyleOptionSlider>
 #include <QStyleOptionTitleBar>
 #include <QWidget>
 
 #include "desktop/drawing/palette_of_inks.h"
 #include "desktop/drawing/plates.h"
+#include "desktop/drawing/program_icon.h"
+#include "desktop/drawing/quiet_buttons.h"
 
 namespace velmor::desktop {
 
 namespace quiet_style_detail {
+
+constexpr double menuShare = 1.55; ///< height of a line of a menu, by that of its letters
+constexpr double titleShare = 1.6; ///< height of a title, by that of its letters
 
 struct ButtonRow {
     QStyle::SubControl part;
@@ -45,7 +53,7 @@ bool offered(const QStyleOptionTitleBar& bar, QStyle::SubControl part)
 void drawGlyph(QPainter& painter, QStyle::SubControl part, const QRect& box)
 {
     const QPoint middle = box.center();
-    const int half = 4;
+    const int half = std::max(4, qRound(box.height() / 4.5));
     const QRect square(middle.x() - half, middle.y() - half, 2 * half, 2 * half);
     switch (part) {
     case QStyle::SC_TitleBarMinButton:
@@ -178,6 +186,52 @@ void QuietStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
+void QuietStyle::polish(QPalette& palette)
+{
+    QProxyStyle::polish(palette);
+    const Inks& inks = inksFor(palette);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Highlight, inks.accent);
+        palette.setColor(group, QPalette::HighlightedText, inks.onAccent);
+    }
+}
+
+void QuietStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const
+{
+    const auto* button = element == CE_PushButton ? qstyleoption_cast<const QStyleOptionButton*>(option) : nullptr;
+    if (button == nullptr) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    paintQuietButton(*painter, *button);
+    QStyleOptionButton caption = *button;
+    caption.palette.setColor(QPalette::ButtonText, captionInk(*button));
+    QProxyStyle::drawControl(CE_PushButtonLabel, &caption, painter, widget);
+}
+
+// Menus leave their lines the same air whatever the size of their letters.
+QSize QuietStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                   const QWidget* widget) const
+{
+    QSize wanted = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const auto* item = type == CT_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
+    if (item != nullptr && item->menuItemType != QStyleOptionMenuItem::Separator)
+        wanted.setHeight(
+            std::max(wanted.height(), static_cast<int>(item->fontMetrics.height() * quiet_style_detail::menuShare)));
+    return wanted;
+}
+
+// A title grows with its letters.
+int QuietStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    if (metric != PM_TitleBarHeight)
+        return usual;
+    return std::max(usual,
+                    static_cast<int>(QFontMetrics(QApplication::font()).height() * quiet_style_detail::titleShare));
+}
+
 void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const
 {
@@ -197,7 +251,9 @@ QIcon QuietStyle::standardIcon(StandardPixmap sign, const QStyleOption* option, 
     const auto known = signs_.find(sign);
     if (known != signs_.end())
         return known->second;
-    const auto read = [this, sign] { return QProxyStyle::standardIcon(sign, nullptr, nullptr); };
+    const auto read = [this, sign] {
+        return sign == SP_TitleBarMenuButton ? programIcon() : QProxyStyle::standardIcon(sign, nullptr, nullptr);
+    };
     return signs_.emplace(sign, QIcon(new quiet_style_detail::LateSign(read))).first->second;
 }
 
@@ -232,7 +288,7 @@ void QuietStyle::drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter
                      active ? inks.accent : inks.rule);
     if (!bar.icon.isNull() && (bar.titleBarFlags & Qt::WindowSystemMenuHint)) {
         const QRect box = subControlRect(CC_TitleBar, &bar, SC_TitleBarSysMenu, widget);
-        bar.icon.paint(&painter, box.adjusted(2, 2, -2, -2));
+        standardIcon(SP_TitleBarMenuButton, nullptr, nullptr).paint(&painter, box.adjusted(1, 1, -1, -1));
     }
     painter.setPen(active ? inks.ink : inks.quiet);
     const QRect label = subControlRect(CC_TitleBar, &bar, SC_TitleBarLabel, widget);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The toolkit's plain style with flat title bars for child windows (one calm colour, four strokes for the buttons) and flat
-// scroll bars.
+// The toolkit's plain style with flat title bars for child windows (one calm colour, four strokes for the buttons), flat
+// scroll bars, buttons and marks in the program's own colours.
 #pragma once
 
 #include <map>
@@ -16,6 +16,14 @@ namespace velmor::desktop {
 class QuietStyle final : public QProxyStyle {
 public:
     QuietStyle();
+    /// What is marked is marked in the one accent colour, also in menus.
+    void polish(QPalette& palette) override;
+    using QProxyStyle::polish;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -171,6 +171,13 @@ bool ChildFrame::event(QEvent* event)
     return QWidget::event(event);
 }
 
+// A maximised frame would write its name into the main window's title at each change of it, also from behind the active child.
+bool ChildFrame::eventFilter(QObject* object, QEvent* event)
+{
+    const bool frames = event->type() == QEvent::WindowTitleChange && object != view_;
+    return !frames && QMdiSubWindow::eventFilter(object, event);
+}
+
 void ChildFrame::moveEvent(QMoveEvent* event)
 {
     QMdiSubWindow::moveEvent(event);

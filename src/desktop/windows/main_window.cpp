@@ -19,9 +19,11 @@
 #include "desktop/canvas/keyboard.h"
 #include "desktop/drawing/page_picture.h"
 #include "desktop/drawing/texts.h"
+#include "desktop/windows/child_rounds.h"
+#include "desktop/windows/menu_bar.h"
 #include "desktop/windows/menus.h"
 #include "desktop/windows/offer_line.h"
-#include "desktop/windows/tool_window.h"
+#include "desktop/windows/palette_strip.h"
 
 namespace velmor::desktop {
 
@@ -36,8 +38,8 @@ constexpr double drawnHeight = 675.0;
 constexpr int likelyTitleHeight = 30;
 constexpr int likelyMenuHeight = 20;
 constexpr QSize smallestWindow(640, 420);
-constexpr double textShare = 0.7; ///< of the window's growth that menus and boxes take part in
-constexpr double largestTexts = 1.5;
+constexpr double textShare = 0.8; ///< of the window's growth that menus and boxes take part in
+constexpr double largestTexts = 3.0;
 
 double scaleFor(QSize inner)
 {
@@ -65,6 +67,7 @@ MainWindow::MainWindow(Desk& desk, host::Window& model)
     setMinimumSize(main_window_detail::smallestWindow);
     menuBar()->hide();
     menus_ = new Menus(desk, model, *menuBar());
+    bars_ = new MenuBar(desk, *this, *menus_, model.spec().mainParts.windows);
     area_->setParent(middle_);
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     area_->setFrameShape(QFrame::NoFrame);
@@ -72,6 +75,7 @@ MainWindow::MainWindow(Desk& desk, host::Window& model)
     // Bars that come and go move icons and maximised children, which changes the bars again, for ever. Frames keep inside.
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    rounds_ = new ChildRounds(desk, *this); // after the area, whose own rounds go by age
     const Handle bar = model.spec().mainParts.bar;
     welcome_ = new Canvas(desk, model, noControl, bar);
     welcome_->setParent(middle_);
@@ -114,9 +118,7 @@ void MainWindow::followWindow()
     if (model_ == nullptr)
         return;
     const QScopedValueRollback following(following_, true);
-    const QString title = shownTitle(model_->caption()).simplified();
-    if (windowTitle() != title)
-        setWindowTitle(title);
+    followTitle(desk_.engine->activeChild());
     const Qt::WindowStates wanted = model_->windowState() == 2   ? Qt::WindowMaximized
                                     : model_->windowState() == 1 ? Qt::WindowMinimized
                                                                  : Qt::WindowNoState;
@@ -155,16 +157,43 @@ void MainWindow::setHasChildren(bool hasChildren)
         layOutPanels();
 }
 
-void MainWindow::setStrip(int height)
+void MainWindow::setStrip(PaletteStrip* strip)
 {
-    if (std::exchange(strip_, height) != height)
+    strip_ = strip;
+    strip_->moved = [this] {
+        talking_ = false; // the page would come under the hand that moves the palette
         layOutPanels();
+    };
+    layOutPanels();
 }
 
-QRect MainWindow::strip() const
+void MainWindow::layOutStrip(QRect& rest)
 {
-    const QRect inside(0, middle_->height() - strip_, middle_->width(), strip_);
-    return {middle_->mapToGlobal(inside.topLeft()), inside.size()};
+    if (strip_ == nullptr || !strip_->rests())
+        return;
+    const int height = std::min(rest.height(), strip_->restHeight());
+    strip_->restIn({rest.left(), rest.bottom() + 1 - height, rest.width(), height});
+    rest.setBottom(rest.bottom() - height);
+}
+
+void MainWindow::followChild(const host::Window* child, Menus* menus)
+{
+    bars_->follow(menus);
+    rounds_->follow();
+    followTitle(child);
+}
+
+// A maximised child has no title of its own: the frame bears its name too.
+void MainWindow::followTitle(const host::Window* child)
+{
+    if (model_ == nullptr)
+        return;
+    constexpr int maximised = 2;
+    QString title = shownTitle(model_->caption()).simplified();
+    if (child != nullptr && child->windowState() == maximised)
+        title += QStringLiteral(" - [%1]").arg(shownTitle(child->caption()).simplified());
+    if (windowTitle() != title)
+        setWindowTitle(title);
 }
 
 OfferLine& MainWindow::offerLine()
@@ -253,7 +282,7 @@ void MainWindow::layOutPanels()
     }
     if (bar_ != nullptr)
         bar_->setVisible(barShown);
-    rest.setBottom(std::max(rest.top(), rest.bottom() - strip_));
+    layOutStrip(rest);
     if (area_->geometry() != rest)
         area_->setGeometry(rest);
     layOutWelcome(rest);
@@ -274,12 +303,8 @@ QRect MainWindow::pageStripIn(const QRect& rest) const
     const host::Place& strip = model_->spec().mainParts.pageStrip;
     const int height = std::min(rest.height(), rest.width() * strip.height / strip.width);
     const QRect low(rest.left(), rest.bottom() + 1 - height, rest.width(), height);
-    const QRect onScreen(middle_->mapToGlobal(low.topLeft()), low.size());
-    const auto windows = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    const bool covered = std::any_of(windows.begin(), windows.end(), [&](const QWidget* widget) {
-        const auto* tool = dynamic_cast<const ToolWindow*>(widget);
-        return tool != nullptr && tool->isPalette() && tool->isVisible() && onScreen.intersects(tool->frameGeometry());
-    });
+    const bool covered =
+        strip_ != nullptr && strip_->floats() && strip_->isVisible() && low.intersects(strip_->geometry());
     return covered ? QRect(rest.topLeft(), low.size()) : low;
 }
 

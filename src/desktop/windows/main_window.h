@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include "desktop/canvas/desk.h"
 #include "desktop/windows/window_frame.h"
@@ -12,8 +13,11 @@ class QMdiArea;
 namespace velmor::desktop {
 
 class Canvas;
+class ChildRounds;
+class MenuBar;
 class Menus;
 class OfferLine;
+class PaletteStrip;
 
 class MainWindow final : public QMainWindow, public WindowFrame {
 public:
@@ -32,10 +36,12 @@ public:
 
     QMdiArea& area() const { return *area_; }
     Menus& menus() const { return *menus_; }
-    /// Leaves a strip at the lower edge free for the palette.
-    void setStrip(int height);
-    /// That strip, in screen coordinates.
-    QRect strip() const;
+    /// The active child, null for none: its menus stand in the menu bar, and the frame bears the name of a maximised one.
+    void followChild(const host::Window* child, Menus* menus);
+    /// What holds the panels, the sheets and the palette.
+    QWidget& panel() const { return *middle_; }
+    /// The palette lies in a strip at the lower edge while it rests.
+    void setStrip(PaletteStrip* strip);
     /// A child window is shown, so the welcome panel leaves it room.
     void setHasChildren(bool hasChildren);
     /// The pointer is over a control of some window: a button that talks brings the page of its design over the sheets.
@@ -56,9 +62,11 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void followTitle(const host::Window* child);
     bool openMenu(host::Handle control);
     void pressBackground(const QMouseEvent& event);
     void layOutPanels();
+    void layOutStrip(QRect& rest);
     void layOutWelcome(const QRect& rest);
     bool hasPage() const;
     QRect pageStripIn(const QRect& rest) const;
@@ -67,6 +75,8 @@ private:
     Desk& desk_;
     host::Window* model_;
     Menus* menus_ = nullptr;
+    MenuBar* bars_ = nullptr;
+    ChildRounds* rounds_ = nullptr;
     QMdiArea* area_;
     QWidget* middle_;
     Canvas* welcome_ = nullptr;
@@ -74,7 +84,7 @@ private:
     QWidget* edge_ = nullptr;
     OfferLine* offer_ = nullptr;          ///< made when it is first needed
     const host::Window* below_ = nullptr; ///< active child at the last layout; compared only
-    int strip_ = 0;
+    QPointer<PaletteStrip> strip_;
     bool hasChildren_ = false;
     bool talking_ = false;
     bool following_ = false;

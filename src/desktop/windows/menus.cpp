@@ -5,7 +5,8 @@
 
 #include <QAction>
 #include <QMenu>
-#include <QMenuBar>
+#include <QVariant>
+#include <QWidget>
 
 #include "desktop/drawing/texts.h"
 #include "host/state_change.h"
@@ -29,15 +30,18 @@ bool Menus::hasMenus(const host::WindowSpec& spec)
                        [](const auto& row) { return row.kind == Kind::menu; });
 }
 
-Menus::Menus(Desk& desk, host::Window& model, QMenuBar& bar)
-    : QObject(&bar), desk_(desk), model_(&model), hasItems_(model.controlCount(), false)
+Menus::Menus(Desk& desk, host::Window& model, QWidget& owner)
+    : QObject(&owner), desk_(desk), model_(&model), hasItems_(model.controlCount(), false)
 {
     for (const host::ControlRow& row : model.spec().controls)
         if (row.kind == Kind::menu && row.parent != noControl)
             hasItems_[row.parent] = true;
     for (const host::ControlRow& row : model.spec().controls)
-        if (row.kind == Kind::menu)
-            add(row.id, row.parent == noControl ? static_cast<QWidget&>(bar) : *menus_.at(row.parent));
+        if (row.kind == Kind::menu) {
+            add(row.id, row.parent == noControl ? owner : *menus_.at(row.parent));
+            if (row.parent == noControl)
+                tops_.push_back(row.id);
+        }
 }
 
 void Menus::add(Handle row, QWidget& parent)
@@ -84,9 +88,11 @@ void Menus::refresh(Handle item)
     if (action == nullptr || model_ == nullptr)
         return;
     const host::Control& state = model_->control(item);
-    const QString caption = shown(state.text).simplified();
-    if (action->text() != caption && !action->isSeparator())
+    const QString caption = captionOf(item);
+    if (action->text() != caption && !action->isSeparator()) {
+        action->setProperty("givenCaption", QVariant());
         action->setText(caption);
+    }
     action->setVisible(state.visible && model_->row(item).look != host::Look::invisible);
     action->setEnabled(state.enabled);
     if (state.checked)
@@ -120,6 +126,20 @@ void Menus::opening(Handle menu)
 {
     if (model_ != nullptr && desk_.idle())
         desk_.engine->userMenuOpens(*model_, menu);
+}
+
+QString Menus::captionOf(Handle item) const
+{
+    return model_ == nullptr ? QString() : shown(model_->text(item)).simplified();
+}
+
+std::vector<QAction*> Menus::items() const
+{
+    std::vector<QAction*> items;
+    for (const auto& [handle, action] : actions_)
+        if (action->menu() == nullptr)
+            items.push_back(action);
+    return items;
 }
 
 QMenu* Menus::menuOf(Handle menu) const

@@ -13,15 +13,15 @@
 
 class QAction;
 class QMenu;
-class QMenuBar;
+class QWidget;
 
 namespace velmor::desktop {
 
 class Menus final : public QObject {
 public:
-    /// Fills `bar` with the window's menus; without a menu row the bar stays empty. Captions follow the language of the
-    /// moment through the model, nothing is translated here.
-    Menus(Desk& desk, host::Window& model, QMenuBar& bar);
+    /// Makes the window's menus, as actions of `owner`. Captions follow the language of the moment through the model, nothing
+    /// is translated here.
+    Menus(Desk& desk, host::Window& model, QWidget& owner);
 
     static bool hasMenus(const host::WindowSpec& spec);
     void apply(const std::vector<host::Handle>& changes);
@@ -31,16 +31,24 @@ public:
     /// The menu of a row that has items; null otherwise.
     QMenu* menuOf(host::Handle menu) const;
     QAction* actionOf(host::Handle item) const;
+    /// What stands in a bar, in order.
+    const std::vector<host::Handle>& tops() const { return tops_; }
+    /// As the window gives it, with its letter.
+    QString captionOf(host::Handle item) const;
+    /// All that can be chosen.
+    std::vector<QAction*> items() const;
+    /// The menu is about to be seen: the engine is asked.
+    void opening(host::Handle menu);
 
 private:
     void add(host::Handle row, QWidget& parent);
     void refresh(host::Handle item);
-    void opening(host::Handle menu);
     QString keysOf(host::Handle item) const;
 
     Desk& desk_;
     host::Window* model_;
     std::vector<bool> hasItems_;
+    std::vector<host::Handle> tops_;
     std::unordered_map<host::Handle, QMenu*> menus_;
     std::unordered_map<host::Handle, QAction*> actions_;
 };

@@ -43,7 +43,10 @@ SheetView::SheetView(Desk& desk, host::Window& model, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    if (Menus::hasMenus(model.spec())) {
+    // A child's menus stand in the main window's bar.
+    if (Menus::hasMenus(model.spec()) && model.isChild())
+        menus_ = new Menus(desk, model, *this);
+    else if (Menus::hasMenus(model.spec())) {
         bar_ = new QMenuBar(this);
         bar_->setNativeMenuBar(false);
         menus_ = new Menus(desk, model, *bar_);
@@ -168,6 +171,8 @@ void SheetView::followFocus()
     if (search_ != nullptr && search_->hasKeyboard())
         return;
     QWidget* target = canvas_->focusTarget();
+    if (model() != nullptr && model()->focus() != noControl)
+        last_ = model()->focus();
     if (target->hasFocus())
         return;
     target->setFocus(Qt::OtherFocusReason);
@@ -194,11 +199,21 @@ host::Place SheetView::designOfTool() const
 
 QRect SheetView::inHand() const
 {
-    if (model() == nullptr || model()->focus() == noControl)
+    return model() == nullptr ? QRect() : boxOf(model()->focus());
+}
+
+QRect SheetView::spokenOf() const
+{
+    return model() == nullptr ? QRect() : boxOf(model()->focus() != noControl ? model()->focus() : last_);
+}
+
+QRect SheetView::boxOf(Handle control) const
+{
+    if (control == noControl)
         return {};
-    QRect box = canvas_->boxInPixels(model()->focus());
+    QRect box = canvas_->boxInPixels(control);
     QWidget* on = canvas_;
-    if (auto* editor = qobject_cast<QPlainTextEdit*>(canvas_->widgetOf(model()->focus()))) {
+    if (auto* editor = qobject_cast<QPlainTextEdit*>(canvas_->widgetOf(control))) {
         box = editor->cursorRect().adjusted(-sheet_view_detail::scrollMargin, 0, sheet_view_detail::scrollMargin, 0);
         on = editor->viewport();
     }

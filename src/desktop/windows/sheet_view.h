@@ -44,6 +44,8 @@ public:
     host::Place designOfTool() const;
     /// What the keyboard works on, in screen coordinates: the field in hand, in an editor the line; empty without one.
     QRect inHand() const;
+    /// The same; while a field is being left, that one.
+    QRect spokenOf() const;
     /// Size in logical pixels that shows the window as its table wants it.
     QSize wantedSize() const;
 
@@ -53,6 +55,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QRect boxOf(host::Handle control) const;
     void followTimers();
     void followDesign();
     void layOutPrompts();
@@ -66,6 +69,7 @@ private:
     QMenuBar* bar_ = nullptr;
     Menus* menus_ = nullptr;
     QScrollArea* area_;
+    host::Handle last_ = host::noControl; ///< the last one in hand
     Canvas* canvas_;
     PromptStrip* strip_ = nullptr; ///< of a sheet
     int reach_ = 0;                ///< of its prompts, at the last layout

@@ -1,15 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/windows/tool_window.h"
 
+#include <algorithm>
+#include <array>
+
 #include <QCloseEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "desktop/canvas/field_edit.h"
+#include "desktop/drawing/plates.h"
 #include "desktop/drawing/texts.h"
-#include "desktop/windows/questions.h"
+#include "desktop/windows/placing.h"
 #include "desktop/windows/sheet_view.h"
+#include "desktop/windows/title_line.h"
 
 namespace velmor::desktop {
 
@@ -17,30 +24,30 @@ namespace tool_window_detail {
 
 constexpr int gap = 12;               ///< logical pixels to the edge of the screen
 constexpr double largestShare = 0.92; ///< of the screen
-constexpr double paletteShare = 0.8;  ///< of the size in its table: it is seen all the time
-constexpr int likelyTitleHeight = 28;
-constexpr int movedByHand = 64; ///< logical pixels; window managers move a little on their own
-
-Qt::WindowFlags flagsOf(const host::WindowSpec& spec)
-{
-    const Qt::WindowFlags buttons =
-        Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint;
-    return spec.role == host::Role::palette ? Qt::Tool | buttons : Qt::Dialog | buttons;
-}
+constexpr int frame = 3;              ///< logical pixels around the window, by which its size is changed
+constexpr int movedByHand = 64;       ///< logical pixels; window managers move a little on their own
 
 } // namespace tool_window_detail
 
 ToolWindow::ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow)
-    : QWidget(mainWindow, tool_window_detail::flagsOf(model.spec())), desk_(desk), view_(new SheetView(desk, model))
+    : QWidget(mainWindow, Qt::Dialog | Qt::FramelessWindowHint), desk_(desk), view_(new SheetView(desk, model)),
+      title_(new TitleLine(*desk.inks, this))
 {
+    const int frame = tool_window_detail::frame;
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(view_);
+    column->setContentsMargins(frame, frame, frame, frame);
+    column->setSpacing(0);
+    column->addWidget(title_);
+    column->addWidget(view_, 1);
     setObjectName(shown(model.name()));
     setFocusProxy(view_);
     setAttribute(Qt::WA_AlwaysShowToolTips); // pointing tells, whichever window has the keyboard
     setAttribute(Qt::WA_ShowWithoutActivating, isQuiet());
-    resting_ = model.role() == host::Role::palette;
+    setMouseTracking(true);
+    for (QWidget* inside : {static_cast<QWidget*>(title_), static_cast<QWidget*>(view_)})
+        inside->setCursor(Qt::ArrowCursor); // the frame's arrows are its own
+    title_->speak(desk.english());
+    title_->closed = [this] { close(); };
     if (model.spec().modal)
         setWindowModality(Qt::ApplicationModal);
 }
@@ -64,12 +71,13 @@ void ToolWindow::followWindow()
     const QString title = shownTitle(model()->caption()).simplified();
     if (windowTitle() != title)
         setWindowTitle(title);
+    title_->setTitle(shown(model()->caption()).simplified());
     followSize();
-    if (model()->shown() && !isVisible() && !placed_)
-        placeFirst();
     const bool minimised = model()->windowState() == 1;
-    if (model()->shown() && !isVisible())
+    if (model()->shown() && !isVisible()) {
+        place();
         beginAtField();
+    }
     if (isVisible() != (model()->shown() && !minimised))
         setVisible(model()->shown() && !minimised);
 }
@@ -106,80 +114,62 @@ void ToolWindow::followSize()
         return;
     told_ = design;
     view_->canvas().setDesign(design);
-    const QSize wanted =
-        view_->wantedSize() * (model()->role() == host::Role::palette ? tool_window_detail::paletteShare : 1.0);
+    const QSize around(2 * tool_window_detail::frame, 2 * tool_window_detail::frame + title_->sizeHint().height());
+    const QSize wanted = view_->wantedSize() + around;
     const QSize most = room().size() * tool_window_detail::largestShare;
     resize(wanted.width() > most.width() || wanted.height() > most.height() ? wanted.scaled(most, Qt::KeepAspectRatio)
                                                                             : wanted);
     view_->layOutCanvas();
 }
 
-// The palette at the lower edge, the rest to the right, where sheets have their notes rather than their fields.
-void ToolWindow::placeFirst()
+bool ToolWindow::isMovedByHand() const
 {
-    placed_ = true;
-    const QRect all = room();
-    const QPoint middle = all.center() - rect().center();
-    const int gap = tool_window_detail::gap;
-    const int right = all.right() + 1 - width() - gap;
-    const int bottom = all.bottom() + 1 - height() - 3 * gap;
-    if (model()->role() == host::Role::palette || model()->spec().modal) {
-        moveTo(insideScreen(model()->spec().modal ? middle : QPoint(middle.x(), bottom), size()));
-        return;
-    }
-    const QRegion taken = desk_.taken ? desk_.taken() : QRegion();
-    const int top = all.top() + 3 * gap;
-    const int left = all.left() + gap;
-    QPoint best(right, middle.y());
-    for (const QPoint wished : {best, QPoint(right, top), QPoint(right, bottom), QPoint(middle.x(), top),
-                                QPoint(left, top), QPoint(left, middle.y()), QPoint(middle.x(), middle.y())})
-        if (!taken.intersects(QRect(wished, size()).adjusted(0, -tool_window_detail::likelyTitleHeight, 0, 0))) {
-            best = wished;
-            break;
-        }
-    moveTo(insideScreen(best, size()));
+    return placed_ && (pos() - wished_).manhattanLength() > tool_window_detail::movedByHand;
 }
 
-bool ToolWindow::isPalette() const
+// Beside the field that it was asked for at; where that would hide another tool, to the right, where sheets have their notes
+// rather than their fields. What a hand has moved stays there.
+void ToolWindow::place()
 {
-    return model() != nullptr && model()->role() == host::Role::palette;
+    if (isMovedByHand())
+        return;
+    placed_ = true;
+    const QRect all = room();
+    const int gap = tool_window_detail::gap;
+    const QRect field = desk_.inHand ? desk_.inHand() : QRect();
+    const QRegion taken = desk_.taken ? desk_.taken() : QRegion();
+    const QPoint middle = all.center() - rect().center();
+    const int right = all.right() + 1 - width() - gap;
+    const int bottom = all.bottom() + 1 - height() - 3 * gap;
+    const int top = all.top() + 3 * gap;
+    const int left = all.left() + gap;
+    const QPoint beside = sidewaysOf(field, size(), all.adjusted(gap, gap, -gap, -gap));
+    if (model()->spec().modal) {
+        moveTo(clearOfThing(field, size(), all));
+        return;
+    }
+    const std::array wishes{field.isEmpty() ? QPoint(right, middle.y()) : beside,
+                            QPoint(right, middle.y()),
+                            QPoint(right, top),
+                            QPoint(right, bottom),
+                            QPoint(middle.x(), top),
+                            QPoint(left, top),
+                            QPoint(left, middle.y()),
+                            middle};
+    const auto* best = std::find_if(wishes.begin(), wishes.end(),
+                                    [&](QPoint wished) { return !taken.intersects(QRect(wished, size())); });
+    moveTo(insideRoom(best == wishes.end() ? wishes.front() : *best, size(), all));
 }
 
 bool ToolWindow::isQuiet() const
 {
-    return isPalette() || (model() != nullptr && model()->spec().reading);
-}
-
-bool ToolWindow::isShownInModel() const
-{
-    return model() != nullptr && model()->shown() && model()->windowState() != 1;
-}
-
-int ToolWindow::restHeight() const
-{
-    const int frame = isVisible() ? frameGeometry().height() : height() + tool_window_detail::likelyTitleHeight;
-    return frame + 4;
-}
-
-void ToolWindow::restIn(const QRect& strip)
-{
-    const QSize mine =
-        isVisible() ? frameGeometry().size() : QSize(width(), height() + tool_window_detail::likelyTitleHeight);
-    moveTo({strip.center().x() - mine.width() / 2, strip.center().y() - mine.height() / 2});
+    return model() != nullptr && model()->spec().reading;
 }
 
 void ToolWindow::moveTo(QPoint place)
 {
-    if (std::exchange(wished_, place) != place)
+    if (std::exchange(wished_, place) != place || pos() != place)
         move(place);
-}
-
-void ToolWindow::moveEvent(QMoveEvent* event)
-{
-    QWidget::moveEvent(event);
-    if (resting_ && placed_ && isVisible() &&
-        (frameGeometry().topLeft() - wished_).manhattanLength() > tool_window_detail::movedByHand)
-        resting_ = false;
 }
 
 void ToolWindow::giveWayTo(const QRect& field)
@@ -209,18 +199,21 @@ void ToolWindow::bringToFront()
     if (!isVisible())
         return;
     raise();
-    if (model() != nullptr && !isQuiet())
+    if (!isQuiet())
         activateWindow();
 }
 
 void ToolWindow::relabel()
 {
     view_->relabel();
+    title_->speak(desk_.english());
 }
 
 void ToolWindow::recolor()
 {
     view_->recolor();
+    title_->setInks(*desk_.inks);
+    update();
 }
 
 void ToolWindow::farewell()
@@ -235,6 +228,51 @@ void ToolWindow::closeEvent(QCloseEvent* event)
     event->ignore();
     if (model() != nullptr && !desk_.closing)
         desk_.engine->userClose(*model());
+}
+
+void ToolWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange) {
+        title_->setActive(isActiveWindow());
+        update();
+    }
+}
+
+void ToolWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), desk_.inks->desk);
+    fillFrame(painter, rect(), 1.0, isActiveWindow() ? desk_.inks->edge : desk_.inks->rule);
+}
+
+Qt::Edges ToolWindow::edgesAt(QPoint place) const
+{
+    const int reach = 2 * tool_window_detail::frame;
+    Qt::Edges edges;
+    edges.setFlag(Qt::LeftEdge, place.x() < reach);
+    edges.setFlag(Qt::RightEdge, place.x() >= width() - reach);
+    edges.setFlag(Qt::TopEdge, place.y() < reach);
+    edges.setFlag(Qt::BottomEdge, place.y() >= height() - reach);
+    return edges;
+}
+
+void ToolWindow::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && windowHandle() != nullptr)
+        windowHandle()->startSystemResize(edgesAt(event->position().toPoint()));
+}
+
+void ToolWindow::mouseMoveEvent(QMouseEvent* event)
+{
+    const Qt::Edges edges = edgesAt(event->position().toPoint());
+    const bool across = edges & (Qt::LeftEdge | Qt::RightEdge);
+    const bool down = edges & (Qt::TopEdge | Qt::BottomEdge);
+    const bool falling = edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
+    setCursor(across && down ? (falling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor)
+              : across       ? Qt::SizeHorCursor
+              : down         ? Qt::SizeVerCursor
+                             : Qt::ArrowCursor);
 }
 
 } // namespace velmor::desktop

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A palette, a tool or a help page as a window of its own beside the main window. It keeps the proportions of its table,
-// stays inside the screen and out of the way of the field in hand.
+// A tool or a help page as a window of its own beside the main window, in a frame of the program's: a title, one button, which
+// closes. It keeps the proportions of its table, stands beside the field that it was asked for at, and never over it.
 #pragma once
 
 #include <QWidget>
@@ -9,6 +9,8 @@
 #include "desktop/windows/window_frame.h"
 
 namespace velmor::desktop {
+
+class TitleLine;
 
 class ToolWindow final : public QWidget, public WindowFrame {
 public:
@@ -24,35 +26,33 @@ public:
     void recolor() override;
     void farewell() override;
 
-    bool isPalette() const;
-    /// Is shown without taking the keyboard from the sheet: the palette, and what is only read.
+    /// Is shown without taking the keyboard from the sheet: it is only read.
     bool isQuiet() const;
-    /// True for a palette that stands where the program has put it.
-    bool rests() const { return resting_ && isShownInModel(); }
-    int restHeight() const;
-    void restIn(const QRect& strip);
     /// Moves aside when it lies on `field` (in screen coordinates).
     void giveWayTo(const QRect& field);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void moveEvent(QMoveEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
     void followSize();
     void beginAtField();
     void beginIn(host::Handle field);
-    void placeFirst();
+    void place();
+    void moveTo(QPoint place);
+    bool isMovedByHand() const;
+    Qt::Edges edgesAt(QPoint place) const;
     QRect room() const;
 
     Desk& desk_;
     SheetView* view_;
+    TitleLine* title_;
     host::Place told_;
-    bool isShownInModel() const;
-    void moveTo(QPoint place);
-
     QPoint wished_;
-    bool resting_ = false;
     bool placed_ = false;
 };
 

@@ -15,6 +15,7 @@
 #include "desktop/windows/child_frame.h"
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/menus.h"
+#include "desktop/windows/palette_strip.h"
 #include "desktop/windows/sheet_view.h"
 #include "desktop/windows/tool_window.h"
 
@@ -27,6 +28,10 @@ WindowKeeper::WindowKeeper(Desk& desk) : desk_(desk)
 {
     desk_.nextPane = [this] { nextPane(); };
     desk_.taken = [this] { return taken(); };
+    desk_.inHand = [this] {
+        const SheetView* view = activeView();
+        return view == nullptr ? QRect() : view->spokenOf();
+    };
     desk_.touched = [this](QWidget* view) { touched(view); };
     desk_.turnTo = [this](host::Window& window) { turnTo(window); };
     desk_.typeBehind = [this](const QKeyEvent& event) { return typeBehind(event); };
@@ -73,6 +78,10 @@ WindowFrame* WindowKeeper::make(host::Window& window)
         auto* child = new ChildFrame(desk_, window);
         addChild(*child);
         frame = child;
+    } else if (window.role() == Role::palette && main_) {
+        strip_ = new PaletteStrip(desk_, window, &main_->panel());
+        main_->setStrip(strip_);
+        frame = strip_;
     } else {
         frame = new ToolWindow(desk_, window, main_);
     }
@@ -194,7 +203,9 @@ void WindowKeeper::followAll()
     if (main_) {
         main_->setHasChildren(children);
         main_->menus().followSteps();
-        main_->setStrip(stripHeight());
+        const host::Window* child = desk_.engine->activeChild();
+        WindowFrame* frame = child == nullptr || !child->shown() ? nullptr : frameOf(*child);
+        main_->followChild(child, frame == nullptr ? nullptr : frame->view()->menus());
     }
     followRaised();
     followActive();
@@ -209,16 +220,6 @@ void WindowKeeper::followLanguage()
         return;
     for (const auto& [window, frame] : frames_)
         frame->relabel();
-}
-
-// The palette has a strip of the main window to itself until the person moves it elsewhere.
-int WindowKeeper::stripHeight() const
-{
-    int height = 0;
-    for (const auto& [window, frame] : frames_)
-        if (auto* tool = dynamic_cast<ToolWindow*>(frame); tool != nullptr && tool->rests())
-            height = std::max(height, tool->restHeight());
-    return height;
 }
 
 // A window unloaded by a slot that still runs is out of sight at once.
@@ -269,6 +270,8 @@ SheetView* WindowKeeper::activeView() const
             return frame->view();
     if (!main_ || active != main_)
         return nullptr;
+    if (stripInHand_ && strip_ && strip_->isVisible() && strip_->model() != nullptr)
+        return strip_->view();
     const host::Window* child = desk_.engine->activeChild();
     WindowFrame* frame = child == nullptr ? nullptr : frameOf(*child);
     return frame == nullptr ? nullptr : frame->view();
@@ -338,12 +341,10 @@ void WindowKeeper::makeRoom()
     SheetView* view = activeView();
     const QRect inHand = view == nullptr ? QRect() : view->inHand();
     for (const auto& [window, frame] : frames_)
-        if (auto* tool = dynamic_cast<ToolWindow*>(frame); tool != nullptr && tool->view() != view) {
-            if (tool->rests() && main_)
-                tool->restIn(main_->strip());
-            else if (!inHand.isEmpty())
-                tool->giveWayTo(inHand);
-        }
+        if (auto* tool = dynamic_cast<ToolWindow*>(frame); tool != nullptr && tool->view() != view && !inHand.isEmpty())
+            tool->giveWayTo(inHand);
+    if (strip_ && strip_->view() != view && !inHand.isEmpty())
+        strip_->giveWayTo(inHand);
 }
 
 void WindowKeeper::childActivated(QMdiSubWindow* child)
@@ -386,20 +387,22 @@ void WindowKeeper::windowActivated()
     if (awaited_ && awaited_ != active)
         return;
     awaited_ = nullptr;
-    if (wanted_ != active)
-        wanted_ = nullptr;
+    if (std::exchange(wanted_, nullptr) != active)
+        stripInHand_ = false;
     host::Window* turnedTo = nullptr;
     for (const auto& [window, frame] : frames_)
         if (&frame->widget() == active)
             turnedTo = frame->model();
-    if (turnedTo != nullptr && turnedTo->role() == Role::mainWindow && desk_.engine->activeChild() != nullptr)
-        turnedTo = desk_.engine->activeChild();
+    if (turnedTo != nullptr && turnedTo->role() == Role::mainWindow)
+        turnedTo = stripInHand_ && strip_                   ? strip_->model()
+                   : desk_.engine->activeChild() != nullptr ? desk_.engine->activeChild()
+                                                            : turnedTo;
     if (turnedTo != nullptr && desk_.engine->current() != turnedTo)
         desk_.engine->userActivate(*turnedTo);
     postFocus();
 }
 
-// Window managers give the keyboard to a palette that is shown or pressed; a student writes on in the sheet.
+// Window managers give the keyboard to what is shown to be read; a student writes on in the sheet.
 bool WindowKeeper::handedBack(QWidget* active)
 {
     // Coming back to the sheet in this way is no turning to it: what is read beside it stays.
@@ -412,17 +415,7 @@ bool WindowKeeper::handedBack(QWidget* active)
         main_->activateWindow();
         return true;
     }
-    auto* tool = dynamic_cast<ToolWindow*>(active);
-    if (tool == nullptr || tool->model() == nullptr || tool->model()->role() != Role::palette || wanted_ == active)
-        return false;
-    host::Window* current = desk_.engine->current();
-    const bool inSheet = current == nullptr || current->isChild() || current->spec().reading;
-    WindowFrame* frame = inSheet ? nullptr : frameOf(*current);
-    QWidget* back = frame == nullptr || frame == tool ? static_cast<QWidget*>(main_) : &frame->widget();
-    returning_ = current != nullptr && current->spec().reading;
-    if (back != nullptr && back->isVisible())
-        back->activateWindow();
-    return true;
+    return false;
 }
 
 // A press or a key in the sheet while something is read beside it.
@@ -456,7 +449,14 @@ void WindowKeeper::touched(QWidget* view)
     awaited_ = nullptr;
     quiet_ = nullptr;
     returning_ = false;
+    byHand_ = view;
+    QTimer::singleShot(0, this, [this] { byHand_ = nullptr; });
     auto* canvas = dynamic_cast<Canvas*>(view);
+    if (stripInHand_ && strip_ && canvas != &strip_->view()->canvas() && desk_.idle()) {
+        stripInHand_ = false;
+        if (host::Window* child = desk_.engine->activeChild())
+            desk_.engine->userActivate(*child);
+    }
     if (!main_ || canvas == nullptr || canvas->model() == nullptr || canvas->model()->role() == Role::palette)
         return;
     const bool onPanel = canvas->model()->role() == Role::mainWindow;
@@ -473,6 +473,31 @@ QWidget* WindowKeeper::dialogParent() const
         if (WindowFrame* frame = frameOf(*current); frame != nullptr && frame->widget().isVisible())
             return &frame->widget();
     return main_;
+}
+
+// A box that answers a key or a press in a sheet speaks of the field in hand, or of the one that is being left.
+Stage WindowKeeper::stage() const
+{
+    Stage stage;
+    stage.inks = desk_.inks;
+    stage.english = desk_.english();
+    const QWidget* asks = dialogParent();
+    if (asks != nullptr)
+        stage.room = asks == main_ ? asks->geometry() : asks->screen()->availableGeometry();
+    if (const SheetView* view = activeView()) {
+        stage.inHand = view->spokenOf();
+        stage.beside = byHand_ == &view->canvas();
+    }
+    return stage;
+}
+
+std::vector<QWidget*> WindowKeeper::windowsInSight() const
+{
+    std::vector<QWidget*> seen;
+    for (const auto& [window, frame] : frames_)
+        if (frame->widget().isWindow() && frame->widget().isVisible())
+            seen.push_back(&frame->widget());
+    return seen;
 }
 
 void WindowKeeper::dialogClosed(QWidget* parent)
@@ -509,11 +534,26 @@ void WindowKeeper::nextPane()
         return;
     QWidget* active = QApplication::activeWindow();
     std::size_t at = 0;
-    for (std::size_t i = 1; i < panes.size(); ++i)
-        if (&frameOf(*panes[i])->widget() == active)
+    for (std::size_t i = 1; i < panes.size(); ++i) {
+        const bool isStrip = panes[i]->role() == Role::palette;
+        if (isStrip ? stripInHand_ && active == main_ : &frameOf(*panes[i])->widget() == active)
             at = i;
-    host::Window* next = panes[(at + 1) % panes.size()];
-    QWidget* top = next->isChild() ? static_cast<QWidget*>(main_) : &frameOf(*next)->widget();
+    }
+    turnToPane(*panes[(at + 1) % panes.size()]);
+}
+
+// Sheets and the palette share the main window: where it is active already, nothing but the engine has to hear of it.
+void WindowKeeper::turnToPane(host::Window& pane)
+{
+    const bool inside = pane.isChild() || pane.role() == Role::palette || pane.role() == Role::mainWindow;
+    stripInHand_ = pane.role() == Role::palette;
+    QWidget* top = inside ? static_cast<QWidget*>(main_) : &frameOf(pane)->widget();
+    if (inside && top->isActiveWindow()) {
+        if (desk_.engine->current() != &pane)
+            desk_.engine->userActivate(pane);
+        postFocus();
+        return;
+    }
     wanted_ = top;
     top->raise();
     top->activateWindow();

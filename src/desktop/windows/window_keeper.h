@@ -13,6 +13,7 @@
 
 #include "desktop/canvas/desk.h"
 #include "desktop/windows/main_window.h"
+#include "desktop/windows/quiet_box.h"
 #include "desktop/windows/window_frame.h"
 
 class QMdiSubWindow;
@@ -20,6 +21,7 @@ class QMdiSubWindow;
 namespace velmor::desktop {
 
 class ChildFrame;
+class PaletteStrip;
 
 class WindowKeeper final : public QObject, private QAccessible::ActivationObserver {
 public:
@@ -38,6 +40,10 @@ public:
     MainWindow* mainWindow() const { return main_.data(); }
     /// The view that has or would have the keyboard; null without one.
     SheetView* activeView() const;
+    /// How and where a box of the moment appears.
+    Stage stage() const;
+    /// All windows of the program that are seen on the screen.
+    std::vector<QWidget*> windowsInSight() const;
     /// Where a dialog belongs.
     QWidget* dialogParent() const;
     /// After a dialog the window that asked is active again.
@@ -63,14 +69,14 @@ private:
     void followFocusBehind();
     void makeRoom();
     QRegion taken() const;
-    int stripHeight() const;
     void postFocus();
     void focusMoved(QWidget* now);
     void childActivated(QMdiSubWindow* child);
     void windowActivated();
-    bool handedBack(QWidget* active);
     void touched(QWidget* view);
+    bool handedBack(QWidget* active);
     void turnTo(host::Window& window);
+    void turnToPane(host::Window& pane);
     bool typeBehind(const QKeyEvent& event);
     void giveKeyboardBack();
 
@@ -78,6 +84,9 @@ private:
     QPointer<MainWindow> main_;
     std::unordered_map<const host::Window*, WindowFrame*> frames_;
     std::vector<host::Window*> raised_;
+    QPointer<PaletteStrip> strip_;
+    bool stripInHand_ = false;  ///< the strip has the keyboard, which the person gave it by key
+    QPointer<QWidget> byHand_;  ///< the view in which a key or a press is being answered
     QPointer<QWidget> awaited_; ///< asked to become active; other activations on the way to it do not count
     QPointer<QWidget> wanted_;  ///< the person asked for it by key
     QPointer<QWidget> quiet_;   ///< has just been shown to be read, and shall not have the keyboard for that

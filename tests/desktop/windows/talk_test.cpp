@@ -9,6 +9,7 @@
 #include "desktop/canvas/canvas.h"
 #include "desktop/desktop_fixture.h"
 #include "desktop/windows/main_window.h"
+#include "desktop/windows/palette_strip.h"
 #include "frame/form16_controls.h"
 #include "frame/mdi_form1_controls.h"
 #include "program/catalogue.h"
@@ -104,14 +105,15 @@ TEST_F(TalkTest, thePageNeverLiesUnderAPaletteThatAHandHasMoved)
     pointAt(palette(), palette::imgButton4);
     ASSERT_NE(welcome(), nullptr);
     EXPECT_GT(welcome()->y(), 0) << "at the lower edge, above the palette's own strip";
-    QWidget& frame = on.screen.keeper().frameOf(palette())->widget();
-    frame.move(frame.pos() - QPoint(0, 150));
+    auto& strip = dynamic_cast<desktop::PaletteStrip&>(*on.screen.keeper().frameOf(palette()));
+    strip.floatAt(strip.pos() - QPoint(0, 60));
+    Bench::settle();
     pointAt(sheet(), fieldOf(sheet()));
     ASSERT_EQ(welcome(), nullptr);
     pointAt(palette(), palette::imgButton4);
     ASSERT_NE(welcome(), nullptr);
     const QRect page(welcome()->mapToGlobal(QPoint(0, 0)), welcome()->size());
-    EXPECT_FALSE(page.intersects(frame.frameGeometry()));
+    EXPECT_FALSE(page.intersects(QRect(strip.mapToGlobal(QPoint(0, 0)), strip.size())));
     EXPECT_EQ(welcome()->y(), 0);
 }
 

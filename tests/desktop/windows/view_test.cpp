@@ -393,7 +393,7 @@ TEST_F(ViewTest, thePaletteHasAStripToItselfAndHidesNothing)
     on.settle();
     const QWidget& palette = on.screen.keeper().frameOf(*on.engine.defaultInstance("Paleta"))->widget();
     const QRect area(on.main().area().mapToGlobal(QPoint(0, 0)), on.main().area().size());
-    EXPECT_FALSE(palette.frameGeometry().intersects(area));
+    EXPECT_FALSE(QRect(palette.mapToGlobal(QPoint(0, 0)), palette.size()).intersects(area));
 }
 
 TEST_F(ViewTest, aToolGivesWayToTheFieldInHand)

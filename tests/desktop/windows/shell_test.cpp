@@ -1,0 +1,309 @@
+// SPDX-License-Identifier: MIT
+// The shell around the sheets: boxes of the program's own line, tools in a frame of their own, the palette as a strip.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QMdiArea>
+#include <QPainter>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "desktop/desktop_fixture.h"
+#include "desktop/drawing/box_sign.h"
+#include "desktop/windows/palette_strip.h"
+#include "desktop/windows/placing.h"
+#include "desktop/windows/quiet_box.h"
+
+namespace velmor::test::shell_test {
+
+using namespace bench;
+using host::Answer;
+using host::Event;
+
+struct ShellTest : ::testing::Test {
+    void SetUp() override { on.open(); }
+    QRect onScreen(const QWidget& widget) { return {widget.mapToGlobal(QPoint(0, 0)), widget.size()}; }
+    /// Does something to the next box.
+    void whenAsked(const std::function<void(desktop::QuietBox&)>& deed)
+    {
+        auto* watch = new QTimer(&on.main());
+        QObject::connect(watch, &QTimer::timeout, watch, [watch, deed] {
+            auto* box = dynamic_cast<desktop::QuietBox*>(QApplication::activeModalWidget());
+            if (box == nullptr || !box->isVisible())
+                return;
+            watch->deleteLater();
+            deed(*box);
+        });
+        watch->start(1);
+    }
+    QAbstractButton& closeOf(QWidget& widget) { return *widget.findChild<QAbstractButton*>("close"); }
+    Bench on;
+};
+
+// boxes
+
+TEST_F(ShellTest, aBoxIsADialogInTheProgramsOwnFrameAndTheWindowsBehindAreCalm)
+{
+    QStringList behind;
+    whenAsked([&](desktop::QuietBox& box) {
+        EXPECT_EQ(box.windowType(), Qt::Dialog);
+        EXPECT_TRUE(box.windowFlags() & Qt::FramelessWindowHint);
+        EXPECT_TRUE(box.isModal());
+        EXPECT_EQ(box.windowTitle(), "Criterio");
+        EXPECT_EQ(box.findChildren<QAbstractButton*>("close").size(), 1);
+        EXPECT_EQ(on.main().findChildren<QWidget*>("veil").size(), 1);
+        box.reject();
+    });
+    on.screen.messageBox({"Elija otro", "Criterio", 36});
+    on.settle();
+    EXPECT_TRUE(on.main().findChildren<QWidget*>("veil").isEmpty()) << "and awake again";
+}
+
+TEST_F(ShellTest, theButtonInTheTitleOfABoxAnswersAsEscape)
+{
+    for (const auto& [flags, answer] : {std::pair{35, Answer::cancel}, {36, Answer::no}, {48, Answer::ok}}) {
+        whenAsked([&](desktop::QuietBox& box) { closeOf(box).click(); });
+        EXPECT_EQ(on.screen.messageBox({"Elija otro", "Criterio", flags}), answer) << flags;
+    }
+}
+
+TEST_F(ShellTest, aBoxThatAnswersAKeyStandsBesideTheFieldAndNeverOverIt)
+{
+    for (const int field : {Text1, Text2}) {
+        on.sheet().deeds[{static_cast<host::Handle>(field), Event::lostFocus}] = [&](host::EventArgs&) {
+            on.screen.messageBox({"Fuera de rango", "Criterio", 48});
+        };
+        const QRect left = onScreen(on.field(static_cast<host::Handle>(field)));
+        QRect place;
+        whenAsked([&](desktop::QuietBox& box) {
+            place = box.geometry();
+            box.accept();
+        });
+        on.key(Qt::Key_Tab);
+        ASSERT_FALSE(place.isEmpty());
+        EXPECT_FALSE(place.intersects(left));
+        EXPECT_TRUE(place.adjusted(-20, -20, 20, 20).intersects(left)) << "no way for the eye";
+    }
+}
+
+TEST_F(ShellTest, aBoxThatNoKeyInAFieldHasRaisedStandsInTheMiddle)
+{
+    QRect place;
+    whenAsked([&](desktop::QuietBox& box) {
+        place = box.geometry();
+        box.reject();
+    });
+    on.screen.messageBox({"¿Desea abandonar?", "Velmor", 36});
+    EXPECT_LE(std::abs(place.center().x() - on.main().geometry().center().x()), 2);
+    EXPECT_LE(std::abs(place.center().y() - on.main().geometry().center().y()), 2);
+}
+
+TEST_F(ShellTest, longTextsAreBrokenToAReadableMeasureAndLongWordsToo)
+{
+    for (const std::string& text :
+         {std::string("La corriente de reposo cambia con la temperatura y por eso se elige. ") +
+              "Un valor mayor pide más fuente, y un valor menor deja poca tensión al transistor.",
+          std::string(300, 'x')}) {
+        whenAsked([&](desktop::QuietBox& box) {
+            auto& label = *box.findChild<desktop::BoxText*>();
+            EXPECT_EQ(label.text().toStdString(), text) << "the text itself is untouched";
+            EXPECT_LE(label.width(), 70 * label.fontMetrics().averageCharWidth());
+            EXPECT_GE(label.height(), 2 * label.fontMetrics().lineSpacing());
+            EXPECT_TRUE(box.rect().contains(label.geometry()));
+            box.accept();
+        });
+        on.screen.messageBox({text, "Velmor", 48});
+    }
+}
+
+TEST_F(ShellTest, theButtonThatEnterPressesIsFilled)
+{
+    whenAsked([&](desktop::QuietBox& box) {
+        const desktop::Inks& inks = *on.screen.desk().inks;
+        for (QPushButton* button : box.buttons()) {
+            const QColor ground = button->grab().toImage().pixelColor(6, button->height() / 2);
+            EXPECT_EQ(ground == inks.accent, button->isDefault()) << button->text().toStdString();
+        }
+        box.reject();
+    });
+    on.screen.messageBox({"¿Salvar?", "Velmor", 35 + 256});
+}
+
+TEST(BoxSignTest, everySignHasAnOutlineOfItsOwn)
+{
+    const auto shape = [](host::BoxIcon icon) {
+        QImage image(48, 48, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        desktop::paintBoxSign(painter, image.rect(), icon, desktop::lightInks());
+        painter.end();
+        return image.convertToFormat(QImage::Format_Alpha8);
+    };
+    using Icon = host::BoxIcon;
+    QImage empty(48, 48, QImage::Format_Alpha8);
+    empty.fill(0);
+    EXPECT_EQ(shape(Icon::none), empty);
+    EXPECT_NE(shape(Icon::stop), shape(Icon::warning));
+    EXPECT_NE(shape(Icon::stop), shape(Icon::question));
+    EXPECT_NE(shape(Icon::warning), shape(Icon::information));
+    EXPECT_NE(shape(Icon::stop), empty);
+}
+
+TEST(PlacingTest, belowTheThingElseAboveElseBesideItElseWhereverItHidesNothing)
+{
+    const QRect room(0, 0, 1000, 600);
+    const QSize box(300, 200);
+    EXPECT_GT(desktop::besideThing({400, 100, 80, 20}, box, room).y(), 120) << "below";
+    EXPECT_LT(desktop::besideThing({400, 500, 80, 20}, box, room).y(), 300) << "above";
+    for (const QRect thing : {QRect(0, 0, 40, 20), QRect(960, 580, 40, 20), QRect(480, 290, 40, 20)}) {
+        for (const QPoint at : {desktop::besideThing(thing, box, room), desktop::clearOfThing(thing, box, room)}) {
+            EXPECT_FALSE(QRect(at, box).intersects(thing));
+            EXPECT_TRUE(room.contains(QRect(at, box)));
+        }
+    }
+    EXPECT_EQ(desktop::clearOfThing({}, box, room), QPoint(350, 200));
+    const QRect tall(400, 10, 80, 580);
+    EXPECT_FALSE(QRect(desktop::besideThing(tall, box, room), box).intersects(tall)) << "to the right";
+}
+
+// tools
+
+struct ToolTest : ShellTest {
+    desktop::ToolWindow& tool()
+    {
+        return dynamic_cast<desktop::ToolWindow&>(
+            *on.screen.keeper().frameOf(*on.engine.defaultInstance("Herramienta")));
+    }
+};
+
+TEST_F(ToolTest, aToolHasATitleOfItsOwnAndOneButtonWhichCloses)
+{
+    on.show("Herramienta");
+    EXPECT_TRUE(tool().windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_EQ(tool().windowTitle(), "Herramienta");
+    EXPECT_EQ(tool().findChildren<QAbstractButton*>("close").size(), 1);
+    closeOf(tool()).click();
+    on.settle();
+    EXPECT_EQ(on.engine.defaultInstance("Herramienta"), nullptr);
+}
+
+TEST_F(ToolTest, itStandsBesideTheFieldItWasAskedForAtAndAHandMayMoveIt)
+{
+    const auto near = [&](host::Handle field) {
+        return tool().geometry().adjusted(-20, -20, 20, 20).intersects(onScreen(on.field(field)));
+    };
+    on.show("Herramienta");
+    EXPECT_TRUE(near(Text1));
+    EXPECT_FALSE(tool().geometry().intersects(onScreen(on.field(Text1))));
+    closeOf(tool()).click();
+    on.settle();
+    on.engine.userFocus(on.sheet(), Text3);
+    on.settle();
+    on.show("Herramienta");
+    EXPECT_TRUE(near(Text3));
+    EXPECT_FALSE(tool().geometry().intersects(onScreen(on.field(Text3))));
+}
+
+// the palette
+
+struct StripTest : ShellTest {
+    void SetUp() override
+    {
+        ShellTest::SetUp();
+        on.show("Paleta");
+        on.settle();
+    }
+    desktop::PaletteStrip& strip()
+    {
+        return dynamic_cast<desktop::PaletteStrip&>(*on.screen.keeper().frameOf(*on.engine.defaultInstance("Paleta")));
+    }
+    QRect area() { return onScreen(on.main().area()); }
+    void drag(QPoint from, QPoint to)
+    {
+        QWindow* window = on.main().windowHandle();
+        const auto inside = [&](QPoint point) { return on.main().mapFromGlobal(point); };
+        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, inside(from));
+        for (const double part : {0.3, 0.7, 1.0})
+            QTest::mouseMove(window, inside(from + (to - from) * part));
+        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, inside(to));
+        on.settle();
+    }
+    QPoint grip() { return strip().mapToGlobal(QPoint(5, strip().height() / 2)); }
+};
+
+TEST_F(StripTest, itLiesInsideTheMainWindowAtTheLowerEdgeWithOneButton)
+{
+    EXPECT_EQ(strip().window(), &on.main()) << "no window of its own";
+    EXPECT_FALSE(onScreen(strip()).intersects(area()));
+    EXPECT_EQ(onScreen(strip()).bottom(), onScreen(on.main().panel()).bottom());
+    EXPECT_EQ(strip().findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly).size(), 1);
+    EXPECT_EQ(strip().accessibleName(), "Paleta");
+}
+
+TEST_F(StripTest, itsButtonClosesItAndTheSheetsGetItsRoom)
+{
+    const int before = area().height();
+    closeOf(strip()).click();
+    on.settle();
+    EXPECT_EQ(on.engine.defaultInstance("Paleta"), nullptr);
+    EXPECT_GT(area().height(), before);
+}
+
+TEST_F(StripTest, itIsDraggedOutByItsGripAndBack)
+{
+    const int before = area().height();
+    const QPoint middle = area().center();
+    drag(grip(), middle);
+    EXPECT_TRUE(strip().floats());
+    EXPECT_GT(area().height(), before) << "the sheets have its room";
+    EXPECT_TRUE(onScreen(strip()).contains(middle)) << "where the hand has left it";
+    drag(grip(), onScreen(on.main().panel()).center() + QPoint(0, on.main().panel().height() / 2 - 4));
+    EXPECT_FALSE(strip().floats());
+    EXPECT_EQ(area().height(), before);
+}
+
+TEST_F(StripTest, aDoubleClickDoesTheSame)
+{
+    const auto doubleClick = [&] {
+        QTest::mouseDClick(on.main().windowHandle(), Qt::LeftButton, Qt::NoModifier, on.main().mapFromGlobal(grip()));
+        on.settle();
+    };
+    doubleClick();
+    EXPECT_TRUE(strip().floats());
+    doubleClick();
+    EXPECT_FALSE(strip().floats());
+}
+
+TEST_F(StripTest, afloatItNeverLeavesTheMainWindowNorLiesOnTheFieldInHand)
+{
+    strip().floatAt(QPoint(5000, 5000));
+    EXPECT_TRUE(onScreen(on.main().panel()).contains(onScreen(strip())));
+    strip().floatAt(on.main().panel().mapFromGlobal(onScreen(on.field(Text1)).topLeft()) - QPoint(9, 9));
+    on.key(Qt::Key_Tab);
+    on.key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_FALSE(onScreen(strip()).intersects(onScreen(on.field(Text1))));
+    EXPECT_TRUE(strip().floats());
+}
+
+TEST_F(StripTest, aPressOnAPictureLeavesTheKeyboardInTheSheet)
+{
+    ASSERT_TRUE(on.field(Text1).hasFocus());
+    on.click(*on.engine.defaultInstance("Paleta"), 0);
+    EXPECT_TRUE(on.field(Text1).hasFocus());
+    on.key(Qt::Key_5);
+    EXPECT_EQ(on.field(Text1).text(), "5");
+}
+
+TEST_F(StripTest, aPressInTheSheetTakesTheKeyboardBackFromIt)
+{
+    on.keys("F6");
+    EXPECT_TRUE(strip().isAncestorOf(QApplication::focusWidget()));
+    EXPECT_EQ(on.engine.current(), on.engine.defaultInstance("Paleta"));
+    on.click(Text2);
+    EXPECT_TRUE(on.field(Text2).hasFocus());
+    EXPECT_EQ(on.engine.current(), &on.sheet());
+}
+
+} // namespace velmor::test::shell_test
