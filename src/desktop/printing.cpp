@@ -2,6 +2,10 @@
 // Measures and prints plain text.
 #include "desktop/printing.h"
 
+#include <algorithm>
+
+#include <QFile>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPainter>
@@ -10,6 +14,7 @@
 
 #include "desktop/drawing/texts.h"
 #include "desktop/page_lines.h"
+#include "desktop/windows/questions.h"
 
 namespace velmor::desktop {
 
@@ -19,6 +24,19 @@ constexpr double twipsPerPoint = 20.0;
 constexpr double printersOwnSize = 10.0; ///< points, when the job names none
 constexpr double marginMillimetres = 15.0;
 constexpr double sideMillimetres = 10.0;
+
+constexpr host::BiText failed{"No se ha podido imprimir: el archivo o la impresora no lo permiten.",
+                              "It could not be printed: the file or the printer does not allow it."};
+constexpr int failedFlags = 48;
+
+// The toolkit's writer of PDFs does not tell that the disk was full: the end of the file does.
+bool isWholePdf(const QString& name)
+{
+    constexpr qint64 closing = 32;
+    QFile file(name);
+    return QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly) &&
+           file.seek(std::max<qint64>(0, file.size() - closing)) && file.readAll().contains("%%EOF");
+}
 
 QString withoutTabs(QString line)
 {
@@ -95,7 +113,13 @@ bool printOn(QPagedPaintDevice& device, const host::PrintJob& job)
     return painter.end();
 }
 
-void askAndPrint(QWidget* parent, const host::PrintJob& job)
+bool printTo(QPrinter& printer, const host::PrintJob& job)
+{
+    const QString file = printer.outputFormat() == QPrinter::PdfFormat ? printer.outputFileName() : QString();
+    return printOn(printer, job) && (file.isEmpty() || printing_detail::isWholePdf(file));
+}
+
+void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english)
 {
     QPrinter printer(QPrinter::HighResolution);
     const double margin = printing_detail::marginMillimetres;
@@ -107,8 +131,10 @@ void askAndPrint(QWidget* parent, const host::PrintJob& job)
         printer.setOutputFormat(QPrinter::PdfFormat);
     QPrintDialog dialog(&printer, parent);
     dialog.setObjectName(QStringLiteral("printDialog"));
-    if (dialog.exec() == QDialog::Accepted)
-        printOn(printer, job);
+    if (dialog.exec() != QDialog::Accepted || printTo(printer, job))
+        return;
+    const host::BiText& text = printing_detail::failed;
+    askMessage(parent, {std::string(english ? text.en : text.es), "Velmor", printing_detail::failedFlags}, english);
 }
 
 } // namespace velmor::desktop

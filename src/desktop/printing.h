@@ -9,6 +9,7 @@
 #include "host/screen.h"
 
 class QPagedPaintDevice;
+class QPrinter;
 class QWidget;
 
 namespace velmor::desktop {
@@ -25,7 +26,10 @@ QStringList printedLines(const host::PrintJob& job, double pageTwips);
 /// Prints on a device whose page is set. False when it cannot be written.
 bool printOn(QPagedPaintDevice& device, const host::PrintJob& job);
 
-/// Asks for the printer (or a PDF file) and prints.
-void askAndPrint(QWidget* parent, const host::PrintJob& job);
+/// Prints on a printer or into its file. False when nothing can be read of it, also of a disk that became full.
+bool printTo(QPrinter& printer, const host::PrintJob& job);
+
+/// Asks for the printer (or a PDF file) and prints; says so when it cannot be done.
+void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english);
 
 } // namespace velmor::desktop

@@ -79,6 +79,8 @@ struct WindowSpec {
     std::span<const ShortcutRow> shortcuts{};
     std::unique_ptr<Window> (*create)(SheetHost&) = nullptr;
     bool modal = false;
+    bool reading =
+        false; ///< is read beside the sheet: it never takes the keyboard by being shown, and typing goes to the sheet
     BiText sheetTitle{}; ///< of a sheet: the caption that a menu or clone gives it
     std::span<const GrowthRow> growth{};
     std::span<const ValueRow> values{};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// A save writes a second file beside the first, makes sure that it is on the disk, and then renames it over the first:
-// at every moment one of the two is whole. Uses the calls of POSIX, since the standard library can neither flush nor
-// refuse.
+// A save writes a second file, makes sure that it is on the disk, and then puts it in the place of the first: at every
+// moment one of the two is whole. The second has no name until then, so that a program that is killed leaves nothing; what
+// was left all the same goes with the next save. Uses the calls of POSIX, since the standard library can neither flush nor refuse.
 #include "rules/whole_file.h"
 
 #include "rules/code_page.h"
@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <random>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -31,7 +32,11 @@ public:
     ~Descriptor() { close(); }
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
-    Descriptor& operator=(Descriptor&&) = delete;
+    Descriptor& operator=(Descriptor&& other) noexcept
+    {
+        std::swap(number_, other.number_);
+        return *this;
+    }
 
     [[nodiscard]] bool isOpen() const { return number_ >= 0; }
     [[nodiscard]] int number() const { return number_; }
@@ -106,24 +111,84 @@ OldFile examine(const fs::path& path)
 }
 
 struct NewFile {
-    fs::path path;
+    fs::path path; ///< empty while the file has no name, so that a killed program leaves nothing
     Descriptor descriptor;
 };
 
-// The name does not grow out of the target's, which may already be as long as names can be.
+fs::path folderOf(const fs::path& file)
+{
+    return file.parent_path().empty() ? fs::path(".") : file.parent_path();
+}
+
+constexpr std::string_view asideBegins = ".velmor-";
+constexpr std::string_view asideEnds = ".tmp";
+constexpr std::size_t asideDigits = 8;
+
+fs::path nameAside(const fs::path& target, std::random_device& random)
+{
+    // The name does not grow out of the target's, which may already be as long as names can be.
+    std::array<char, 32> digits{};
+    std::snprintf(digits.data(), digits.size(), "%08x", static_cast<unsigned>(random()));
+    return target.parent_path() / (std::string(asideBegins) + digits.data() + std::string(asideEnds));
+}
+
+bool isAside(std::string_view name)
+{
+    constexpr std::string_view digits = "0123456789abcdef";
+    return name.size() == asideBegins.size() + asideDigits + asideEnds.size() &&
+           name.substr(0, asideBegins.size()) == asideBegins &&
+           name.substr(asideBegins.size() + asideDigits) == asideEnds &&
+           name.substr(asideBegins.size(), asideDigits).find_first_not_of(digits) == std::string_view::npos;
+}
+
+// A file aside is locked as long as its program lives: one that is not was left by a program that was killed.
+void removeLeftovers(const fs::path& folder)
+{
+    std::error_code error;
+    fs::directory_iterator entry(folder, fs::directory_options::skip_permission_denied, error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        if (!isAside(entry->path().filename().native()))
+            continue;
+        const Descriptor file(::open(entry->path().c_str(), O_WRONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
+        struct stat status {};
+        if (file.isOpen() && ::fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode) &&
+            ::flock(file.number(), LOCK_EX | LOCK_NB) == 0)
+            ::unlink(entry->path().c_str());
+    }
+}
+
 NewFile createBeside(const fs::path& target, mode_t mode)
 {
     constexpr int attempts = 100;
     std::random_device random;
     for (int attempt = 0; attempt < attempts; ++attempt) {
-        std::array<char, 32> name{};
-        std::snprintf(name.data(), name.size(), ".velmor-%08x.tmp", static_cast<unsigned>(random()));
-        fs::path path = target.parent_path() / name.data();
+        fs::path path = nameAside(target, random);
         Descriptor descriptor(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
-        if (descriptor.isOpen() || errno != EEXIST)
-            return {std::move(path), std::move(descriptor)};
+        if (!descriptor.isOpen() && errno == EEXIST)
+            continue;
+        struct stat status {};
+        const bool locked = descriptor.isOpen() && ::flock(descriptor.number(), LOCK_EX | LOCK_NB) == 0;
+        // Somebody may have taken it for a leftover before it was locked.
+        if (locked && ::fstat(descriptor.number(), &status) == 0 && status.st_nlink == 0)
+            continue;
+        return {std::move(path), std::move(descriptor)};
     }
     return {{}, Descriptor(-1)};
+}
+
+// A file without a name, where the file system has such.
+NewFile createNameless(const fs::path& target, mode_t mode)
+{
+    Descriptor descriptor(::open(folderOf(target).c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, mode));
+    if (descriptor.isOpen())
+        static_cast<void>(::flock(descriptor.number(), LOCK_EX | LOCK_NB));
+    return {{}, std::move(descriptor)};
+}
+
+bool nameIt(int descriptor, const fs::path& path)
+{
+    const std::string self = "/proc/self/fd/" + std::to_string(descriptor);
+    return ::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }
 
 // Not every file system knows owners and permissions: one that refuses still gets its file.
@@ -159,30 +224,69 @@ bool flush(int descriptor)
 // So that the rename itself outlives a power cut. The file is whole in any case, therefore nothing is reported.
 void flushFolder(const fs::path& file)
 {
-    const fs::path folder = file.parent_path().empty() ? fs::path(".") : file.parent_path();
-    const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descriptor descriptor(::open(folderOf(file).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (descriptor.isOpen())
         static_cast<void>(::fsync(descriptor.number()));
 }
 
-bool replace(const fs::path& target, const OldFile& old, std::string_view bytes, const SaveSteps& steps)
+// The new content is safe on the disk: it takes its name, aside first where there is an old file to be replaced.
+bool takePlace(const fs::path& target, NewFile& fresh)
 {
-    // Nobody may read along before the old file's permissions are in place; a first save takes the person's own.
-    NewFile fresh = createBeside(target, old.exists ? 0600 : 0666);
-    if (!fresh.descriptor.isOpen())
-        return false;
+    const int file = fresh.descriptor.number();
+    if (fresh.path.empty()) {
+        std::random_device random;
+        if (nameIt(file, target))
+            return true;
+        fs::path aside = nameAside(target, random);
+        if (errno != EEXIST || !nameIt(file, aside))
+            return false;
+        fresh.path = std::move(aside);
+    }
     Removal removal(fresh.path);
-    inherit(fresh.descriptor.number(), old);
-    const bool safe = writeAll(fresh.descriptor.number(), bytes, steps) && flush(fresh.descriptor.number());
-    if (!fresh.descriptor.close() || !safe)
-        return false;
-    if (steps.beforeReplace)
-        steps.beforeReplace();
     if (::rename(fresh.path.c_str(), target.c_str()) != 0)
         return false;
     removal.cancel();
-    flushFolder(target);
     return true;
+}
+
+/// How far a save came. Without /proc a nameless file cannot be given a name, and the save begins anew with one.
+enum class Outcome : std::uint8_t { done, failed, cannotBeNamed };
+
+Outcome replaceBy(NewFile fresh, const fs::path& target, const OldFile& old, std::string_view bytes,
+                  const SaveSteps& steps)
+{
+    if (!fresh.descriptor.isOpen())
+        return Outcome::failed;
+    const bool nameless = fresh.path.empty();
+    Removal removal(fresh.path);
+    inherit(fresh.descriptor.number(), old);
+    // What closing refuses has not been saved either; the second descriptor keeps the file and its lock meanwhile.
+    Descriptor written(std::move(fresh.descriptor));
+    fresh.descriptor = Descriptor(::fcntl(written.number(), F_DUPFD_CLOEXEC, 0));
+    const bool safe = writeAll(written.number(), bytes, steps) && flush(written.number());
+    if (!written.close() || !safe || !fresh.descriptor.isOpen())
+        return Outcome::failed;
+    if (steps.beforeReplace)
+        steps.beforeReplace();
+    if (!takePlace(target, fresh))
+        return nameless && fresh.path.empty() ? Outcome::cannotBeNamed : Outcome::failed;
+    removal.cancel();
+    flushFolder(target);
+    return Outcome::done;
+}
+
+bool replace(const fs::path& target, const OldFile& old, std::string_view bytes, const SaveSteps& steps)
+{
+    removeLeftovers(folderOf(target));
+    // Nobody may read along before the old file's permissions are in place; a first save takes the person's own.
+    const mode_t mode = old.exists ? 0600 : 0666;
+    NewFile nameless = createNameless(target, mode);
+    if (nameless.descriptor.isOpen()) {
+        const Outcome outcome = replaceBy(std::move(nameless), target, old, bytes, steps);
+        if (outcome != Outcome::cannotBeNamed)
+            return outcome == Outcome::done;
+    }
+    return replaceBy(createBeside(target, mode), target, old, bytes, steps) == Outcome::done;
 }
 
 bool isBareName(std::string_view name)

@@ -142,7 +142,8 @@ inline constexpr std::string_view checkKey = "Ctrl+T"; ///< kept for the sixth t
 inline constexpr auto reservedKeys = std::to_array<std::string_view>({
     "F6",           "Ctrl+F1", "Ctrl+N",        "Ctrl+O",       "Ctrl+A", "Ctrl+C",   "Ctrl+V",         "Ctrl+X",
     "Ctrl+Z",       "Ctrl+Y",  "Alt+Backspace", "Ctrl+F4",      "Alt+F4", "Ctrl+Tab", "Ctrl+Shift+Tab", "Ctrl+S",
-    "Ctrl+Shift+S", "Ctrl+W",  "Ctrl+Shift+I",  "Ctrl+Shift+E",
+    "Ctrl+Shift+S", "Ctrl+W",  "Ctrl+Shift+I",  "Ctrl+Shift+E", "Alt+1",  "Alt+2",    "Alt+3",          "Alt+4",
+    "Alt+5",        "Alt+6",   "Alt+7",         "Alt+8",        "Alt+9",
 });
 
 // clang-format off

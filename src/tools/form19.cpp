@@ -67,6 +67,7 @@ const host::WindowSpec spec{
     .controls = table::controls,
     .slots = table::slots,
     .create = create,
+    .reading = true,
 };
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)

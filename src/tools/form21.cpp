@@ -103,6 +103,7 @@ const host::WindowSpec spec{
     .controls = table::controls,
     .slots = table::slots,
     .create = create,
+    .reading = true,
     .shownPlace = table::shownPlaceOf,
 };
 

@@ -140,6 +140,7 @@ const host::WindowSpec spec{
     .controls = table::controls,
     .slots = table::slots,
     .create = create,
+    .reading = true,
 };
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)

@@ -2,6 +2,8 @@
 // What the screen does on this machine: settings, the program's folder, texts of editors, printing, a second program.
 #include <clocale>
 #include <cmath>
+#include <ctime>
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -11,9 +13,12 @@
 #include <QLocale>
 #include <QPdfWriter>
 #include <QPlainTextEdit>
+#include <QPrinter>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "desktop/canvas/document_store.h"
+#include "desktop/full_disk.h"
 #include "desktop/other_instance.h"
 #include "desktop/printing.h"
 #include "desktop/program_folder.h"
@@ -210,6 +215,38 @@ TEST(DocumentStoreTest, theProgramsOwnChangesAreTold)
     EXPECT_FALSE(store.programChanges());
 }
 
+/// Milliseconds that this process computed meanwhile.
+double computed(const std::function<void()>& deed)
+{
+    const std::clock_t before = std::clock();
+    deed();
+    return 1000.0 * static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
+}
+
+// Breaking at blanks takes the square of the length: half a minute for this line.
+TEST(DocumentStoreTest, aLongLineIsShownAndWrittenInWithoutAPause)
+{
+    constexpr std::size_t length = 1U << 20U;
+    DocumentStore store;
+    QPlainTextEdit edit;
+    edit.resize(800, 500);
+    store.shownBy(&edit);
+    const double bar = 2500.0; // five times what it takes where nothing is optimised
+    EXPECT_LT(computed([&] {
+                  store.setAll(std::string(length, 'x') + "\nfin");
+                  edit.show();
+                  QCoreApplication::processEvents();
+              }),
+              bar);
+    EXPECT_LT(computed([&] {
+                  QTest::keyClick(&edit, Qt::Key_A);
+                  QTest::keyClick(&edit, Qt::Key_PageDown);
+                  QCoreApplication::processEvents();
+              }),
+              bar);
+    EXPECT_EQ(store.all(), "a" + std::string(length, 'x') + "\nfin");
+}
+
 TEST(PrintingTest, widthsAreInTwipsAndLineFeedsHaveNone)
 {
     const host::Font font{.name = "DejaVu Sans Mono", .size = 10.0};
@@ -257,6 +294,22 @@ TEST(PrintingTest, aPageHoldsEveryLineThatFitsAndNotOneMore)
     EXPECT_EQ(pagesOf(lines + 1), 2) << lines;
     EXPECT_EQ(pagesOf(2 * lines), 2) << lines;
     EXPECT_EQ(pagesOf(2 * lines + 1), 3) << lines;
+}
+
+TEST(PrintingTest, aFileThatCannotBeWrittenIsAFailure)
+{
+    const QTemporaryDir folder;
+    const auto prints = [](const QString& name) {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(name);
+        return desktop::printTo(printer, {.text = "Renglón", .font = {.name = "DejaVu Sans Mono", .size = 10.0}});
+    };
+    EXPECT_TRUE(prints(folder.filePath("x.pdf")));
+    EXPECT_FALSE(prints(folder.filePath("nowhere/x.pdf")));
+    EXPECT_FALSE(prints("/dev/full"));
+    const FullDisk full;
+    EXPECT_FALSE(prints(folder.filePath("y.pdf")));
 }
 
 TEST(PrintingTest, aLongTextFallsIntoPages)

@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -282,8 +283,12 @@ void Bench::settle()
 
 void Bench::key(int key, Qt::KeyboardModifiers modifiers)
 {
-    if (QWindow* window = QGuiApplication::focusWindow())
-        QTest::keyClick(window, static_cast<Qt::Key>(key), modifiers);
+    // A key that goes down may close its window: then it comes up in none.
+    const QPointer<QWindow> window(QGuiApplication::focusWindow());
+    if (window)
+        QTest::keyPress(window.data(), static_cast<Qt::Key>(key), modifiers);
+    if (window)
+        QTest::keyRelease(window.data(), static_cast<Qt::Key>(key), modifiers);
     settle();
 }
 
@@ -296,10 +301,11 @@ void Bench::keys(const QString& sequence)
 void Bench::type(const QString& text)
 {
     for (const QChar letter : text)
-        if (QWindow* window = QGuiApplication::focusWindow()) {
+        if (const QPointer<QWindow> window(QGuiApplication::focusWindow()); window) {
             const Qt::Key key = letter.unicode() < 0x80 ? QTest::asciiToKey(letter.toLatin1()) : Qt::Key_unknown;
-            QTest::simulateEvent(window, true, key, Qt::NoModifier, QString(letter), false);
-            QTest::simulateEvent(window, false, key, Qt::NoModifier, QString(letter), false);
+            QTest::simulateEvent(window.data(), true, key, Qt::NoModifier, QString(letter), false);
+            if (window)
+                QTest::simulateEvent(window.data(), false, key, Qt::NoModifier, QString(letter), false);
         }
     settle();
 }

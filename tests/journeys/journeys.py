@@ -131,16 +131,27 @@ class Design(Journey):
         velmor.see("^Archivo$", "menu item")
         self.leave("Desea abandonar", 1)
 
-    def test_help_by_key_and_back(self):
+    def help(self, state):
+        """The window of the help, in that state. A menu and a button bear its name too."""
+        return [window for window in self.program.windows()
+                if (window.get_name() or "").strip() == "Ayuda" and window.get_state_set().contains(state)]
+
+    def test_help_by_key_leaves_the_keyboard_in_the_sheet_and_f6_walks_there(self):
         velmor = self.program
         velmor.focused("ΔQIc")
         velmor.key("Menu")
-        # The menu and a button bear that name too: only the window that has the keyboard will do.
-        until(lambda: [window for window in velmor.windows() if (window.get_name() or "").strip() == "Ayuda"
-                       and window.get_state_set().contains(Atspi.StateType.ACTIVE)], "the help page")
+        until(lambda: self.help(Atspi.StateType.SHOWING), "the help page")
+        velmor.focused("ΔQIc")
+        velmor.type("7")
+        velmor.wait_value("ΔQIc", "7")
+        until(lambda: not self.help(Atspi.StateType.SHOWING), "the end of the page")
+        velmor.key("Menu")
+        until(lambda: self.help(Atspi.StateType.SHOWING), "the page again")
+        velmor.key("F6")
+        until(lambda: self.help(Atspi.StateType.ACTIVE), "the keyboard in the page")
         velmor.key("Escape")
         velmor.focused("ΔQIc")
-        velmor.key("5")
+        velmor.key("ctrl+a", "5")
         velmor.wait_value("ΔQIc", "5")
 
 

@@ -85,6 +85,13 @@ int rename(const char* from, const char* to) noexcept
     return goesWrong() ? -1 : real<int(const char*, const char*)>("rename")(from, to);
 }
 
+int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept
+{
+    return goesWrong()
+               ? -1
+               : real<int(int, const char*, int, const char*, int)>("linkat")(fromFolder, from, toFolder, to, flags);
+}
+
 int mkdir(const char* path, mode_t mode) noexcept
 {
     return goesWrong() ? -1 : real<int(const char*, mode_t)>("mkdir")(path, mode);

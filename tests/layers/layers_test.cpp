@@ -153,6 +153,7 @@ constexpr Allowance allowances[] = {
     {"keeping/kept_folder.cpp", "sys/stat.h", "and that is no lock once its file has lost its name"},
     {"keeping/kept_folder.cpp", "unistd.h",   "folders of several programs differ by the number of the process"},
     {"rules/whole_file.cpp", "fcntl.h",     "a save that is whole or not at all opens its file anew and without following links"},
+    {"rules/whole_file.cpp", "sys/file.h",  "a file that is being written is locked, so that nobody takes it for a dead program's"},
     {"rules/whole_file.cpp", "sys/stat.h",  "and gives it the rights of the old one"},
     {"rules/whole_file.cpp", "unistd.h",    "and waits until the disk has it"},
     {"rules/whole_file.h",   "sys/types.h", "whose system calls a test replaces"},

@@ -173,7 +173,7 @@ TEST_F(GrammarKeys, RejectAPairWhoseKeyServesOneImage)
 TEST_F(GrammarKeys, RejectKeysOfTheHouse)
 {
     constexpr host::ShortcutRow ofTheMainWindow[] = {{"Ctrl+Shift+G"}};
-    for (const char* const taken : {"F6", "ctrl+z", "Ctrl+Tab", "Alt+Backspace", "Ctrl+T", "Ctrl+Shift+G"}) {
+    for (const char* const taken : {"F6", "ctrl+z", "Ctrl+Tab", "Alt+Backspace", "Ctrl+T", "Alt+3", "Ctrl+Shift+G"}) {
         keys.push_back({taken, Text1, KeyAction::click, noControl, {"es", "en"}});
         EXPECT_EQ(sheetKeys(sheet(), ofTheMainWindow),
                   Complaints{"the key " + std::string(taken) + " is not the sheet's to give"});

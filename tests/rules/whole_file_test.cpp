@@ -9,6 +9,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -169,7 +170,7 @@ TEST(WriteWhole, KeepsTheOldFileWhenTheProgramIsKilledBeforeTheReplacement)
     const int state = inChild([&] { return writeWhole(folder / "old.RPC", "new", steps) ? 0 : 1; });
     EXPECT_TRUE(WIFSIGNALED(state) && WTERMSIG(state) == SIGKILL);
     EXPECT_EQ(folder.content("old.RPC"), "the old design");
-    // What the dead program left behind is in nobody's way.
+    EXPECT_EQ(folder.entries(), 1) << "a hidden file stays in the student's folder";
     EXPECT_TRUE(writeWhole(folder / "old.RPC", "new"));
     EXPECT_EQ(folder.content("old.RPC"), "new");
 }
@@ -187,23 +188,51 @@ TEST(WriteWhole, KeepsTheOldFileWhenTheProgramIsKilledInTheMiddleOfWriting)
     const int state = inChild([&] { return writeWhole(folder / "old.RPC", "new design", steps) ? 0 : 1; });
     EXPECT_TRUE(WIFSIGNALED(state));
     EXPECT_EQ(folder.content("old.RPC"), "the old design");
+    EXPECT_EQ(folder.entries(), 1) << "a hidden file stays in the student's folder";
+    const int first = inChild([&] { return writeWhole(folder / "new.RPC", "new design", steps) ? 0 : 1; });
+    EXPECT_TRUE(WIFSIGNALED(first));
+    EXPECT_EQ(folder.entries(), 1);
 }
 
-TEST(WriteWhole, HasTheWholeNewContentAsideWhenItReplaces)
+TEST(WriteWhole, RemovesWhatKilledProgramsLeftAndNothingElse)
+{
+    const ScratchFolder folder;
+    folder.put(".velmor-0123abcd.tmp", "left by a program that was killed");
+    const fs::path busy = folder.put(".velmor-ffffffff.tmp", "another program is writing it");
+    const int held = ::open(busy.c_str(), O_WRONLY);
+    ASSERT_EQ(::flock(held, LOCK_EX | LOCK_NB), 0);
+    for (const char* own :
+         {".velmor-notes.tmp", ".velmor-0123ABCD.tmp", "velmor-0123abcd.tmp", ".velmor-0123abcd.tmp~"})
+        folder.put(own, "the student's own");
+    fs::create_directory(folder / ".velmor-00000000.tmp");
+    EXPECT_TRUE(writeWhole(folder / "new.RPC", "new"));
+    EXPECT_FALSE(fs::exists(folder / ".velmor-0123abcd.tmp"));
+    EXPECT_TRUE(fs::exists(busy));
+    EXPECT_EQ(folder.entries(), 7);
+    ::close(held);
+}
+
+TEST(WriteWhole, HasTheWholeNewContentReadyAndNamelessWhenItReplaces)
 {
     const ScratchFolder folder;
     folder.put("old.RPC", "the old design");
-    std::string aside;
     SaveSteps steps;
+    int descriptor = -1;
+    steps.write = [&](int number, const char* bytes, std::size_t count) {
+        descriptor = ::dup(number);
+        return ::write(number, bytes, count);
+    };
+    off_t ready = -1;
     steps.beforeReplace = [&] {
-        for (const auto& entry : fs::directory_iterator(folder.path()))
-            if (entry.path().filename() != "old.RPC")
-                aside = folder.content(entry.path().filename().native());
+        ready = ::lseek(descriptor, 0, SEEK_END);
+        EXPECT_EQ(folder.entries(), 1);
         EXPECT_EQ(folder.content("old.RPC"), "the old design");
     };
     EXPECT_TRUE(writeWhole(folder / "old.RPC", "new", steps));
-    EXPECT_EQ(aside, "new");
+    EXPECT_EQ(ready, 3);
     EXPECT_EQ(folder.content("old.RPC"), "new");
+    EXPECT_EQ(folder.entries(), 1);
+    ::close(descriptor);
 }
 
 TEST(WriteWhole, LeavesNothingWhenTheReplacementItselfFails)

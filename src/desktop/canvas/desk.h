@@ -12,6 +12,7 @@
 #include "host/control.h"
 #include "host/engine.h"
 
+class QKeyEvent;
 class QWidget;
 
 namespace velmor::desktop {
@@ -26,6 +27,10 @@ struct Desk {
     std::function<QRect()> inHand;  ///< the field in hand, on the screen; empty without one
     std::function<void()> nextPane; ///< the keyboard goes to the next window that is open beside the main one
     std::function<void(QWidget*)> touched; ///< a person pressed a key or a button in that view
+    /// A person types or presses in that window, which a window that is only read may have in front of it.
+    std::function<void(host::Window&)> turnTo;
+    /// A key typed in a window that is only read goes to the sheet behind it; false when there is none.
+    std::function<bool(const QKeyEvent&)> typeBehind;
     /// The pointer, or a key in its place, has come over a control of that window; noControl is its background.
     std::function<void(const host::Window&, host::Handle)> hovered;
 

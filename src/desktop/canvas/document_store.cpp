@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include <QPlainTextDocumentLayout>
+#include <QTextBlock>
 
 #include "desktop/drawing/texts.h"
 
@@ -14,6 +15,19 @@ namespace velmor::desktop {
 namespace document_store_detail {
 
 constexpr double margin = 12.0; ///< logical pixels around the text
+/// Breaking lines at blanks takes the toolkit the square of their length: longer ones are broken anywhere.
+constexpr int longestAtBlanks = 4096;
+
+bool hasLongLine(const QString& text)
+{
+    for (qsizetype start = 0; start < text.size();) {
+        const qsizetype end = text.indexOf(QLatin1Char('\n'), start);
+        if ((end < 0 ? text.size() : end) - start > longestAtBlanks)
+            return true;
+        start = end < 0 ? text.size() : end + 1;
+    }
+    return false;
+}
 
 QString lineFeeds(QString text)
 {
@@ -34,6 +48,9 @@ DocumentStore::DocumentStore() : cursor_(&document_)
 {
     document_.setDocumentLayout(new QPlainTextDocumentLayout(&document_));
     document_.setDocumentMargin(document_store_detail::margin);
+    // Told before the layout hears of the change.
+    QObject::connect(&document_, &QTextDocument::contentsChange, &document_,
+                     [this](int from, int, int added) { lookAt(from, added); });
 }
 
 DocumentStore::~DocumentStore()
@@ -44,9 +61,27 @@ DocumentStore::~DocumentStore()
 
 void DocumentStore::shownBy(QPlainTextEdit* edit)
 {
+    edit->setWordWrapMode(wrapping_);
     edit->setDocument(&document_);
     edit->setTextCursor(cursor_);
     edit_ = edit;
+}
+
+void DocumentStore::wrap(QTextOption::WrapMode how)
+{
+    if (std::exchange(wrapping_, how) != how && edit_)
+        edit_->setWordWrapMode(how);
+}
+
+void DocumentStore::lookAt(int from, int added)
+{
+    const QTextBlock last = document_.findBlock(from + added);
+    for (QTextBlock block = document_.findBlock(from); block.isValid(); block = block.next()) {
+        if (block.length() > document_store_detail::longestAtBlanks)
+            wrap(QTextOption::WrapAnywhere);
+        if (block == last)
+            return;
+    }
 }
 
 QTextCursor DocumentStore::cursor() const
@@ -121,7 +156,10 @@ std::string DocumentStore::all() const
 void DocumentStore::setAll(std::string_view text)
 {
     ++changing_;
-    document_.setPlainText(document_store_detail::oneKindOfBreak(text));
+    const QString whole = document_store_detail::oneKindOfBreak(text);
+    wrap(document_store_detail::hasLongLine(whole) ? QTextOption::WrapAnywhere
+                                                   : QTextOption::WrapAtWordBoundaryOrAnywhere);
+    document_.setPlainText(whole);
     keep(QTextCursor(&document_));
     --changing_;
 }

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextOption>
 
 #include "host/text_store.h"
 
@@ -39,10 +40,13 @@ private:
     int unitOf(std::size_t character) const;
     std::size_t characterOf(int unit) const;
     QString units(int from, int to) const;
+    void wrap(QTextOption::WrapMode how);
+    void lookAt(int from, int added);
 
     QTextDocument document_;
     QTextCursor cursor_;
     QPointer<QPlainTextEdit> edit_;
+    QTextOption::WrapMode wrapping_ = QTextOption::WrapAtWordBoundaryOrAnywhere;
     int changing_ = 0;
     mutable int surrogatesAtRevision_ = -1;
     mutable bool surrogates_ = false;

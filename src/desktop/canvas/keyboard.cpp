@@ -64,6 +64,14 @@ bool isTyped(const QKeyEvent& event)
     return held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
 }
 
+// A modifier alone says nothing yet, and F6 walks between the windows itself.
+bool turnsNothing(const QKeyEvent& event)
+{
+    constexpr Qt::Key still[] = {Qt::Key_Shift,    Qt::Key_Control, Qt::Key_Alt,     Qt::Key_AltGr,   Qt::Key_Meta,
+                                 Qt::Key_CapsLock, Qt::Key_F6,      Qt::Key_NumLock, Qt::Key_Super_L, Qt::Key_Super_R};
+    return std::find(std::begin(still), std::end(still), event.key()) != std::end(still);
+}
+
 QKeyCombination combinationOf(std::string_view keys)
 {
     const QKeySequence sequence(shown(keys), QKeySequence::PortableText);
@@ -133,6 +141,14 @@ bool Keyboard::pressed(const QKeyEvent& event)
         canvas_.desk().touched(&canvas_);
     if (event.key() == Qt::Key_Escape && canvas_.pointer().cancelDrag())
         return true;
+    if (goesBehind(event))
+        return true;
+    if (canvas_.desk().turnTo && !keyboard_detail::turnsNothing(event)) {
+        QPointer<Canvas> alive(&canvas_);
+        canvas_.desk().turnTo(*model);
+        if (!alive || canvas_.model() == nullptr)
+            return true;
+    }
     const QKeyCombination keys = keysOf(event);
     if (runShortcut(keys) || runCommon(keys))
         return true;
@@ -146,6 +162,17 @@ bool Keyboard::pressed(const QKeyEvent& event)
                    model->row(held).kind != Kind::editor && model->row(held).kind != Kind::list
                ? paneKey(event)
                : textKey(event);
+}
+
+// What is only read keeps the keys with which one reads; what a student types is meant for the sheet.
+bool Keyboard::goesBehind(const QKeyEvent& event) const
+{
+    if (!canvas_.model()->spec().reading || !canvas_.desk().typeBehind || wants(event))
+        return false;
+    const bool writes = (keyboard_detail::isTyped(event) && event.key() != Qt::Key_Space) ||
+                        event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete ||
+                        event.matches(QKeySequence::Paste);
+    return writes && canvas_.desk().typeBehind(event);
 }
 
 bool Keyboard::runShortcut(QKeyCombination keys)

@@ -47,6 +47,7 @@ public:
     bool composed(const QInputMethodEvent& event);
 
 private:
+    bool goesBehind(const QKeyEvent& event) const;
     bool runShortcut(QKeyCombination keys);
     bool runCommon(QKeyCombination keys);
     bool run(CommonKey deed);

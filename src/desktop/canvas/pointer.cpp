@@ -56,6 +56,12 @@ void Pointer::pressed(QPoint point, const QMouseEvent& event)
     const Handle control = canvas_.controlAt(point);
     if (canvas_.desk().touched)
         canvas_.desk().touched(&canvas_);
+    if (canvas_.desk().turnTo) {
+        QPointer<Canvas> alive(&canvas_);
+        canvas_.desk().turnTo(*canvas_.model());
+        if (!alive || canvas_.model() == nullptr)
+            return;
+    }
     if (event.button() == Qt::LeftButton)
         leftPress(control, point, event, false);
     else if (event.button() == Qt::RightButton)

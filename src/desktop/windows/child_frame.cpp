@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/windows/child_frame.h"
 
+#include <algorithm>
+
 #include <QAction>
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QTimer>
 
 #include "desktop/drawing/texts.h"
 #include "desktop/windows/sheet_view.h"
@@ -16,13 +19,23 @@ namespace child_frame_detail {
 
 constexpr QSize smallestFrame(240, 120);
 
+/// The box moved, and where it must be made smaller, so that it lies inside the area.
+QRect keptInside(QRect box, QSize area)
+{
+    if (area.isEmpty())
+        return box;
+    box.setSize(box.size().boundedTo(area.expandedTo(smallestFrame)).expandedTo(smallestFrame));
+    box.moveLeft(std::clamp(box.left(), 0, std::max(0, area.width() - box.width())));
+    box.moveTop(std::clamp(box.top(), 0, std::max(0, area.height() - box.height())));
+    return box;
+}
+
 } // namespace child_frame_detail
 
 ChildFrame::ChildFrame(Desk& desk, host::Window& model) : desk_(desk), view_(new SheetView(desk, model))
 {
     setWidget(view_);
     setAttribute(Qt::WA_DeleteOnClose, false);
-    setMinimumSize(child_frame_detail::smallestFrame);
     setObjectName(shown(model.name()));
     // The toolkit's own menu of a frame claims Ctrl+W too, which is the main menu's: neither would work.
     for (QAction* action : systemMenu()->actions())
@@ -54,19 +67,32 @@ void ChildFrame::followWindow()
     followState();
 }
 
+// A minimum of the widget itself would make icons as tall as frames, which the area then moves about without end.
+QSize ChildFrame::minimumSizeHint() const
+{
+    return isMinimized() ? QMdiSubWindow::minimumSizeHint() : child_frame_detail::smallestFrame;
+}
+
+// The model's place is the program's to choose; on the screen no frame leaves the area, which has no scroll bars.
+QRect ChildFrame::wantedBox() const
+{
+    const QRect box = desk_.pixelsOf(model()->place());
+    return parentWidget() == nullptr ? box : child_frame_detail::keptInside(box, parentWidget()->size());
+}
+
 void ChildFrame::followPlace()
 {
-    if (model()->windowState() != 0 || shownState() != 0 || (told_ == model()->place() && toldScale_ == desk_.scale))
+    if (model()->windowState() != 0 || shownState() != 0)
         return;
-    told_ = model()->place();
-    toldScale_ = desk_.scale;
-    setGeometry(desk_.pixelsOf(told_));
+    const QRect wanted = wantedBox();
+    if (std::exchange(told_, wanted) != wanted)
+        setGeometry(wanted);
 }
 
 void ChildFrame::followState()
 {
     const int state = model()->windowState();
-    if (state != shownState()) {
+    if (state != shownState() && !statePosted_) {
         if (state == 1)
             showMinimized();
         else if (state == 2)
@@ -123,7 +149,15 @@ void ChildFrame::changeEvent(QEvent* event)
     QMdiSubWindow::changeEvent(event);
     if (event->type() != QEvent::WindowStateChange || following_ || model() == nullptr || desk_.closing)
         return;
-    if (shownState() != model()->windowState())
+    // The toolkit is in the middle of its change: slots that answered now would change the frame under its hands.
+    if (shownState() != model()->windowState() && !std::exchange(statePosted_, true))
+        QTimer::singleShot(0, this, [this] { tellState(); });
+}
+
+void ChildFrame::tellState()
+{
+    statePosted_ = false;
+    if (model() != nullptr && !desk_.closing && shownState() != model()->windowState())
         desk_.engine->userState(*model(), shownState());
 }
 
@@ -161,11 +195,10 @@ void ChildFrame::tellPlace()
     if (following_ || model() == nullptr || desk_.closing || isHidden() || shownState() != 0 ||
         model()->windowState() != 0)
         return;
-    if (geometry() == desk_.pixelsOf(model()->place()))
+    if (geometry() == wantedBox())
         return;
-    told_ = desk_.twipsOf(geometry());
-    toldScale_ = desk_.scale;
-    desk_.engine->userResized(*model(), told_);
+    told_ = geometry();
+    desk_.engine->userResized(*model(), desk_.twipsOf(told_));
 }
 
 } // namespace velmor::desktop

@@ -24,6 +24,9 @@ public:
     void recolor() override;
     void farewell() override;
 
+    /// The frame's own least size while it is open; an icon has the size of all icons.
+    QSize minimumSizeHint() const override;
+
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -36,13 +39,15 @@ private:
     void followPlace();
     void followState();
     void tellPlace();
+    void tellState();
     int shownState() const;
+    QRect wantedBox() const;
 
     Desk& desk_;
     SheetView* view_;
-    host::Place told_; ///< place that the frame and the model last agreed on
-    double toldScale_ = 0.0;
+    QRect told_; ///< where the frame and the model last agreed that it stands
     bool following_ = false;
+    bool statePosted_ = false; ///< the person has changed the state, and the engine is yet to hear of it
 };
 
 } // namespace velmor::desktop

@@ -3,6 +3,7 @@
 // where the program asks its own.
 #include "desktop/windows/questions.h"
 
+#include <QAbstractFileIconProvider>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -31,6 +32,17 @@ QString inAnyCapitals(const QString& patterns)
     return result.join(QLatin1Char(' '));
 }
 
+// The toolkit's own icons and kinds come from the contents of files, and reading a pipe or a device may wait for good.
+class IconsByName final : public QAbstractFileIconProvider {
+public:
+    QIcon icon(const QFileInfo& file) const override
+    {
+        return QAbstractFileIconProvider::icon(file.isDir() ? Folder : File);
+    }
+    QIcon icon(IconType kind) const override { return QAbstractFileIconProvider::icon(kind); }
+    QString type(const QFileInfo& file) const override { return file.suffix().toUpper(); }
+};
+
 } // namespace file_question_detail
 
 QStringList nameFilters(const std::string& filter)
@@ -55,7 +67,11 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& aske
 {
     const bool saves = asked.kind == host::DialogKind::save;
     const QString start = asked.folder.empty() ? folder : shown(asked.folder);
-    QFileDialog dialog(parent, shownTitle(asked.title), QDir(start).exists() ? start : QDir::homePath());
+    file_question_detail::IconsByName icons;
+    // The dialog looks into its first folder as soon as it is made, with the toolkit's icons: one that holds folders alone.
+    QFileDialog dialog(parent, shownTitle(asked.title), QDir::rootPath());
+    dialog.setIconProvider(&icons);
+    dialog.setDirectory(QDir(start).exists() ? start : QDir::homePath());
     dialog.setObjectName(QStringLiteral("fileDialog"));
     dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

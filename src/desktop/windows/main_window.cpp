@@ -72,8 +72,9 @@ MainWindow::MainWindow(Desk& desk, host::Window& model)
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     area_->setFrameShape(QFrame::NoFrame);
     area_->setBackground(desk.inks->desk);
-    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // Bars that come and go move icons and maximised children, which changes the bars again, for ever. Frames keep inside.
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     rounds_ = new ChildRounds(desk, *this); // after the area, whose own rounds go by age
     const Handle bar = model.spec().mainParts.bar;
     welcome_ = new Canvas(desk, model, noControl, bar);

@@ -45,6 +45,7 @@ ToolWindow::ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow)
         inside->setCursor(Qt::ArrowCursor); // the frame's arrows are its own
     title_->speak(desk.english());
     title_->closed = [this] { close(); };
+    setAttribute(Qt::WA_ShowWithoutActivating, isQuiet());
     if (model.spec().modal)
         setWindowModality(Qt::ApplicationModal);
 }
@@ -148,6 +149,11 @@ void ToolWindow::place()
     moveTo(insideRoom(best == wishes.end() ? wishes.front() : *best, size(), all));
 }
 
+bool ToolWindow::isQuiet() const
+{
+    return model() != nullptr && model()->spec().reading;
+}
+
 void ToolWindow::moveTo(QPoint place)
 {
     if (std::exchange(wished_, place) != place || pos() != place)
@@ -181,7 +187,8 @@ void ToolWindow::bringToFront()
     if (!isVisible())
         return;
     raise();
-    activateWindow();
+    if (!isQuiet())
+        activateWindow();
 }
 
 void ToolWindow::relabel()

@@ -26,6 +26,8 @@ public:
     void recolor() override;
     void farewell() override;
 
+    /// Is only read: it is shown without taking the keyboard from the sheet.
+    bool isQuiet() const;
     /// Moves aside when it lies on `field` (in screen coordinates).
     void giveWayTo(const QRect& field);
 

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QKeyEvent>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
@@ -32,6 +33,8 @@ WindowKeeper::WindowKeeper(Desk& desk) : desk_(desk)
         return view == nullptr ? QRect() : view->spokenOf();
     };
     desk_.touched = [this](QWidget* view) { touched(view); };
+    desk_.turnTo = [this](host::Window& window) { turnTo(window); };
+    desk_.typeBehind = [this](const QKeyEvent& event) { return typeBehind(event); };
     desk_.hovered = [this](const host::Window& window, host::Handle control) {
         if (main_)
             main_->hovered(window, control);
@@ -134,7 +137,21 @@ void WindowKeeper::gone(host::Window& window)
         return;
     frames_.erase(&window);
     const QScopedValueRollback following(following_, true);
+    const bool hadKeyboard = window.role() == Role::tool && frame->widget().isActiveWindow();
     frame->farewell();
+    if (hadKeyboard)
+        giveKeyboardBack();
+}
+
+// To the tool that is in front now, else to the sheet.
+void WindowKeeper::giveKeyboardBack()
+{
+    const host::Window* current = desk_.engine->current();
+    WindowFrame* frame =
+        current != nullptr && current->role() == Role::tool && !current->spec().reading ? frameOf(*current) : nullptr;
+    QWidget* next = frame == nullptr ? static_cast<QWidget*>(main_) : &frame->widget();
+    if (next != nullptr && next->isVisible())
+        next->activateWindow();
 }
 
 void WindowKeeper::shutDown()
@@ -219,7 +236,9 @@ void WindowKeeper::followRaised()
         if (frame == nullptr)
             continue;
         frame->bringToFront();
-        if (window->role() == Role::palette)
+        if (window->spec().reading)
+            quiet_ = &frame->widget();
+        if (window->role() == Role::palette || window->spec().reading)
             continue;
         if (window->isChild() && main_)
             main_->bringToFront();
@@ -346,13 +365,15 @@ void WindowKeeper::followDesktop()
 void WindowKeeper::windowActivated()
 {
     QWidget* active = QApplication::activeWindow();
-    if (desk_.closing || active == nullptr || !desk_.idle())
+    if (desk_.closing || active == nullptr || !desk_.idle() || handedBack(active))
         return;
     if (awaited_ && awaited_ != active)
         return;
     awaited_ = nullptr;
-    if (std::exchange(wanted_, nullptr) != active)
+    if (wanted_ != active) {
+        wanted_ = nullptr;
         stripInHand_ = false;
+    }
     host::Window* turnedTo = nullptr;
     for (const auto& [window, frame] : frames_)
         if (&frame->widget() == active)
@@ -366,6 +387,46 @@ void WindowKeeper::windowActivated()
     postFocus();
 }
 
+// Window managers give the keyboard to what is shown to be read; a student writes on in the sheet.
+bool WindowKeeper::handedBack(QWidget* active)
+{
+    // Coming back to the sheet in this way is no turning to it: what is read beside it stays.
+    if (active == main_.data() && std::exchange(returning_, false)) {
+        postFocus();
+        return true;
+    }
+    if (quiet_ && active == quiet_ && wanted_ != active && main_) {
+        returning_ = true;
+        main_->activateWindow();
+        return true;
+    }
+    return false;
+}
+
+// A press or a key in the sheet while something is read beside it.
+void WindowKeeper::turnTo(host::Window& window)
+{
+    const host::Window* current = desk_.engine->current();
+    if (window.isChild() && current != nullptr && current != &window && current->spec().reading && desk_.idle())
+        desk_.engine->userActivate(window);
+}
+
+bool WindowKeeper::typeBehind(const QKeyEvent& event)
+{
+    host::Window* child = desk_.engine->activeChild();
+    if (!main_ || child == nullptr || !desk_.idle() || frameOf(*child) == nullptr)
+        return false;
+    wanted_ = nullptr;
+    main_->activateWindow();
+    desk_.engine->userActivate(*child);
+    WindowFrame* frame = desk_.engine->isLoaded(child) ? frameOf(*child) : nullptr;
+    if (frame == nullptr || desk_.closing)
+        return true;
+    QKeyEvent typed(event.type(), event.key(), event.modifiers(), event.text(), event.isAutoRepeat());
+    QCoreApplication::sendEvent(frame->view()->canvas().focusTarget(), &typed);
+    return true;
+}
+
 // A press or a key: activations that were awaited no longer matter, and the page that the mouse has brought over the sheets
 // goes, unless the press was on a button that talks.
 void WindowKeeper::touched(QWidget* view)
@@ -373,6 +434,8 @@ void WindowKeeper::touched(QWidget* view)
     awaited_ = nullptr;
     byHand_ = view;
     QTimer::singleShot(0, this, [this] { byHand_ = nullptr; });
+    quiet_ = nullptr;
+    returning_ = false;
     auto* canvas = dynamic_cast<Canvas*>(view);
     if (stripInHand_ && strip_ && canvas != &strip_->view()->canvas() && desk_.idle()) {
         stripInHand_ = false;
@@ -391,7 +454,7 @@ QWidget* WindowKeeper::dialogParent() const
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
     const host::Window* current = desk_.engine->current();
-    if (current != nullptr && !current->isChild())
+    if (current != nullptr && !current->isChild() && !current->spec().reading)
         if (WindowFrame* frame = frameOf(*current); frame != nullptr && frame->widget().isVisible())
             return &frame->widget();
     return main_;
@@ -450,6 +513,8 @@ void WindowKeeper::nextPane()
         if (window->role() == Role::tool || window->role() == Role::palette)
             if (WindowFrame* frame = frameOf(*window); frame != nullptr && frame->widget().isVisible())
                 panes.push_back(window);
+    // What was opened to be read is nearer than the palette, which is always there.
+    std::stable_partition(panes.begin(), panes.end(), [](const auto* pane) { return pane->role() != Role::palette; });
     if (panes.empty())
         return;
     QWidget* active = QApplication::activeWindow();
@@ -459,22 +524,22 @@ void WindowKeeper::nextPane()
         if (isStrip ? stripInHand_ && active == main_ : &frameOf(*panes[i])->widget() == active)
             at = i;
     }
-    turnTo(*panes[(at + 1) % panes.size()]);
+    turnToPane(*panes[(at + 1) % panes.size()]);
 }
 
 // Sheets and the palette share the main window: where it is active already, nothing but the engine has to hear of it.
-void WindowKeeper::turnTo(host::Window& pane)
+void WindowKeeper::turnToPane(host::Window& pane)
 {
     const bool inside = pane.isChild() || pane.role() == Role::palette || pane.role() == Role::mainWindow;
     stripInHand_ = pane.role() == Role::palette;
     QWidget* top = inside ? static_cast<QWidget*>(main_) : &frameOf(pane)->widget();
+    wanted_ = top;
     if (inside && top->isActiveWindow()) {
         if (desk_.engine->current() != &pane)
             desk_.engine->userActivate(pane);
         postFocus();
         return;
     }
-    wanted_ = top;
     top->raise();
     top->activateWindow();
 }

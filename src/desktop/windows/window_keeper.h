@@ -73,7 +73,11 @@ private:
     void childActivated(QMdiSubWindow* child);
     void windowActivated();
     void touched(QWidget* view);
-    void turnTo(host::Window& pane);
+    bool handedBack(QWidget* active);
+    void turnToPane(host::Window& pane);
+    void turnTo(host::Window& window);
+    bool typeBehind(const QKeyEvent& event);
+    void giveKeyboardBack();
 
     Desk& desk_;
     QPointer<MainWindow> main_;
@@ -84,6 +88,8 @@ private:
     QPointer<QWidget> byHand_;  ///< the view in which a key or a press is being answered
     QPointer<QWidget> awaited_; ///< asked to become active; other activations on the way to it do not count
     QPointer<QWidget> wanted_;  ///< the person asked for it by key
+    QPointer<QWidget> quiet_;   ///< has just been shown to be read, and shall not have the keyboard for that
+    bool returning_ = false;    ///< the main window is active next, though nobody has turned to it
     std::int16_t language_ = 0;
     bool following_ = false;
     bool again_ = false;

@@ -2,13 +2,17 @@
 // The quiet line of the main window: when it comes, what it says in both languages, and what its buttons do.
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/drawing/texts.h"
+#include "desktop/full_disk.h"
 #include "desktop/windows/offer_line.h"
 #include "desktop/work_keeping.h"
 #include "program/catalogue.h"
@@ -176,6 +180,41 @@ TEST_F(OfferTest, aSheetWhoseSaveFailedAtItsCloseIsOfferedAtOnce)
     ASSERT_TRUE(program.shown());
     program.press("Recuperar");
     EXPECT_EQ(program.on.engine.activeChild()->text(program.on.engine.activeChild()->named("Text1")), "5");
+}
+
+// Neither the design nor what keeps it can be written: it stands in the line all the same.
+TEST_F(OfferTest, aSheetThatClosesOverAFullDiskIsOfferedAtOnce)
+{
+    Program program(folder, time);
+    program::newSheet(program.on.engine, *program.on.engine.specOf("Form4"));
+    Bench::settle();
+    host::Window& sheet = *program.on.engine.instance("Form4", 0);
+    Bench::type("5");
+    Bench::key(Qt::Key_Return);
+    program.on.answerByKey(Qt::Key_S); // Yes
+    const QString file = program.on.folder.filePath("etapa.BCC");
+    auto* watch = new QTimer(&program.on.main());
+    QObject::connect(watch, &QTimer::timeout, watch, [watch, file] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || !dialog->isVisible())
+            return;
+        watch->deleteLater();
+        dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file);
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    watch->start(1);
+    {
+        const FullDisk full;
+        program.on.engine.userClose(sheet);
+        Bench::settle();
+    }
+    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_EQ(program.on.engine.instance("Form4", 0), nullptr);
+    ASSERT_TRUE(program.shown());
+    program.press("Recuperar");
+    host::Window* again = program.on.engine.instance("Form4", 0);
+    ASSERT_NE(again, nullptr);
+    EXPECT_EQ(again->text(again->named("Text1")), "5");
 }
 
 TEST_F(OfferTest, theTimerKeepsWhatWasTyped)

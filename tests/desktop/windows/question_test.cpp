@@ -7,11 +7,18 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
+#include <fstream>
+#include <sys/inotify.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "desktop/desktop_fixture.h"
+#include "desktop/full_disk.h"
 #include "desktop/windows/questions.h"
 
 namespace velmor::test::question_test {
@@ -142,6 +149,54 @@ TEST_F(QuestionTest, aSaveDialogAddsTheEndingOfItsFilter)
         {host::DialogKind::save, "Save Circuit", "Base Común (*.BCC)|*.BCC", on.folder.path().toStdString(), 2638862});
     ASSERT_TRUE(path.has_value());
     EXPECT_EQ(*path, on.folder.filePath("prueba.BCC").toStdString());
+}
+
+// A file without an ending tells its kind by its contents alone; reading a pipe or a sick disk may wait for good.
+TEST_F(QuestionTest, aFileDialogLooksIntoNoFile)
+{
+    const std::string file = on.folder.filePath("medida").toStdString();
+    std::ofstream(file) << "%PDF-1.4";
+    ASSERT_EQ(::mkfifo(on.folder.filePath("cauce").toLocal8Bit(), 0600), 0);
+    const int watch = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    ASSERT_GE(::inotify_add_watch(watch, file.c_str(), IN_OPEN | IN_ACCESS), 0);
+    bool listed = false;
+    whenShown("fileDialog", [&](QDialog& dialog) {
+        const auto* list = dialog.findChild<QListView*>("listView");
+        const auto names = [list] { return list->model()->rowCount(list->rootIndex()); };
+        // The toolkit lists no pipes.
+        listed = QTest::qWaitFor([&] { return names() == 1; });
+        QTest::qWait(50); // the toolkit looks for icons in a thread of its own
+        for (int row = 0; row < names(); ++row)
+            EXPECT_FALSE(list->model()->index(row, 0, list->rootIndex()).data(Qt::DecorationRole).isNull());
+        dialog.reject();
+    });
+    on.screen.fileDialog({host::DialogKind::open, "Abrir", "Todos(*.*)|*.*", on.folder.path().toStdString(), 0});
+    EXPECT_TRUE(listed);
+    char events[256];
+    EXPECT_LT(::read(watch, events, sizeof events), 0) << "the file was opened";
+    ::close(watch);
+}
+
+TEST_F(QuestionTest, aPrintThatCannotWriteItsFileSaysSoInOneSentence)
+{
+    on.engine.values().LanguageIsEnglish = host::trueValue;
+    whenShown("printDialog", [&](QDialog& dialog) {
+        dialog.findChild<QLineEdit*>("filename")->setText(on.folder.filePath("salida.pdf"));
+        on.answerByKey(Qt::Key_Return);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    {
+        const FullDisk full;
+        on.screen.print({.text = "Renglón", .font = {.name = "DejaVu Sans Mono", .size = 10.0}});
+    }
+    ASSERT_EQ(on.boxes.size(), 1U);
+    EXPECT_EQ(on.boxes[0].text, "It could not be printed: the file or the printer does not allow it.");
+    whenShown("printDialog", [&](QDialog& dialog) {
+        dialog.findChild<QLineEdit*>("filename")->setText(on.folder.filePath("otra.pdf"));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    on.screen.print({.text = "Renglón", .font = {.name = "DejaVu Sans Mono", .size = 10.0}});
+    EXPECT_EQ(on.boxes.size(), 1U) << "and of one that can, nothing";
 }
 
 TEST(FileFilterTest, descriptionsStandToTheLetterAndPatternsMatchAnyCapitals)

@@ -1,0 +1,444 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/fire/window_game.h"
+
+#include <algorithm>
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QWheelEvent>
+#include <QWindow>
+
+#include "desktop/canvas/canvas.h"
+#include "desktop/drawing/texts.h"
+#include "frame/mdi_form1_controls.h"
+#include "program/catalogue.h"
+
+namespace velmor::test {
+
+namespace window_game_detail {
+
+constexpr std::size_t mostWindows = 14;
+constexpr int longestPatience = 300; ///< rounds until a dialog that no answer ends is given up
+
+constexpr Qt::Key pressedKeys[] = {
+    Qt::Key_Return,   Qt::Key_Return, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Escape, Qt::Key_Backspace,
+    Qt::Key_Delete,   Qt::Key_F1,     Qt::Key_F2,     Qt::Key_F3,  Qt::Key_F6,      Qt::Key_Up,     Qt::Key_Down,
+    Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Home,   Qt::Key_End, Qt::Key_Space,   Qt::Key_Menu,
+};
+constexpr const char* numbers[] = {"0",  "1",       "3.3", "12", "100", "0.4", "75",
+                                   "-5", "1000000", "abc", "9",  "24",  "1.5", ""};
+const char* const pasted[] = {"12.5", "1e3", "una línea\notra", "0,7", "áéñ"};
+
+} // namespace window_game_detail
+
+WindowGame::WindowGame(std::uint64_t seed, bool rude, Watchdog& watchdog)
+    : chance_(seed), rude_(rude), watchdog_(watchdog), life_(std::make_unique<QObject>())
+{
+    answerSoon();
+}
+
+WindowGame::~WindowGame()
+{
+    watchdog_.begin("the end of the game");
+    on_.reset();
+    watchdog_.end();
+}
+
+void WindowGame::begin()
+{
+    on_.reset();
+    on_ = std::make_unique<Bench>(program::catalogue());
+    program::start(on_->engine);
+    on_->main().resize(1366, 740);
+    Bench::settle();
+    on_->main().activateWindow();
+    Bench::settle();
+}
+
+void WindowGame::play(int events)
+{
+    for (int number = 0; number < events; ++number) {
+        if (!on_ || on_->engine.ended() || on_->screen.keeper().mainWindow() == nullptr) {
+            ends_ += on_ ? 1 : 0;
+            watchdog_.begin("a start");
+            begin();
+            watchdog_.end();
+        }
+        step(number);
+    }
+}
+
+void WindowGame::step(int number)
+{
+    const Move& move = chosen();
+    const std::string event = std::string(move.name) + ", event " + std::to_string(number);
+    watchdog_.begin(event);
+    (this->*move.deed)();
+    Bench::settle();
+    watchdog_.end();
+    check(event);
+}
+
+// The table is a function's, so that the deeds may be private.
+const WindowGame::Move& WindowGame::chosen()
+{
+    // clang-format off
+    static constexpr Move moves[] = {
+        {24, false, "a number typed",     &WindowGame::typeNumber},
+        {4,  false, "a text typed",       &WindowGame::typeText},
+        {20, false, "a key",              &WindowGame::pressKey},
+        {5,  false, "a key of the table", &WindowGame::pressTableKey},
+        {14, false, "a click",            &WindowGame::click},
+        {3,  false, "a right click",      &WindowGame::rightClick},
+        {2,  false, "a double click",     &WindowGame::doubleClick},
+        {3,  false, "a drag",             &WindowGame::drag},
+        {5,  false, "a hover",            &WindowGame::hover},
+        {2,  false, "a paste",            &WindowGame::paste},
+        {4,  false, "a menu",             &WindowGame::chooseMenu},
+        {3,  false, "arranging",          &WindowGame::arrange},
+        {1,  false, "a language",         &WindowGame::switchLanguage},
+        {6,  false, "a frame's state",    &WindowGame::changeState},
+        {3,  false, "a frame moved",      &WindowGame::moveFrame},
+        {3,  false, "a frame sized",      &WindowGame::sizeFrame},
+        {4,  true,  "icons shaken",       &WindowGame::shakeIcons},
+        {2,  false, "a closing",          &WindowGame::closeSomething},
+        {4,  false, "an activation",      &WindowGame::activateSomething},
+        {1,  false, "the window sized",   &WindowGame::sizeMain},
+        {2,  false, "a wheel",            &WindowGame::wheel},
+    };
+    // clang-format on
+    int all = 0;
+    for (const Move& move : moves)
+        all += move.rude && !rude_ ? 0 : move.weight;
+    int left = chance_.between(0, all - 1);
+    for (const Move& move : moves)
+        if (left -= move.rude && !rude_ ? 0 : move.weight; left < 0)
+            return move;
+    return moves[0];
+}
+
+// No frame leaves the area, and the frame in front is that of the engine's active child.
+void WindowGame::check(const std::string& event)
+{
+    if (on_->engine.ended() || !on_->engine.idle())
+        return;
+    QMdiArea& area = on_->main().area();
+    for (const QMdiSubWindow* frame : area.subWindowList())
+        if (frame->isVisible() && !frame->isMinimized() && !area.viewport()->rect().intersects(frame->geometry()))
+            faults_.push_back(event + ": a frame lies outside the area");
+    const host::Window* child = on_->engine.activeChild();
+    if (child == nullptr || !child->shown() || on_->main().isMinimized())
+        return;
+    const auto* frame = on_->screen.keeper().frameOf(*child);
+    if (frame == nullptr)
+        faults_.push_back(event + ": the active child has no frame");
+    else if (area.currentSubWindow() != dynamic_cast<const QMdiSubWindow*>(frame))
+        faults_.push_back(event + ": another frame than the active child's is in front");
+}
+
+void WindowGame::typeNumber()
+{
+    Bench::type(QString::fromLatin1(chance_.one(window_game_detail::numbers)));
+    if (chance_.in(70))
+        Bench::key(Qt::Key_Return);
+}
+
+void WindowGame::typeText()
+{
+    Bench::type(QStringLiteral("Etapa %1").arg(chance_.between(0, 99)));
+}
+
+void WindowGame::pressKey()
+{
+    Bench::key(chance_.one(window_game_detail::pressedKeys), chance_.in(8) ? Qt::ControlModifier : Qt::NoModifier);
+}
+
+void WindowGame::pressTableKey()
+{
+    host::Window* window = chance_.in(30) ? &on_->engine.mainWindow() : on_->engine.activeChild();
+    if (window == nullptr || window->spec().shortcuts.empty())
+        return;
+    const auto& rows = window->spec().shortcuts;
+    Bench::keys(desktop::shown(rows[chance_.below(rows.size())].keys));
+}
+
+host::Window* WindowGame::someWindow()
+{
+    std::vector<host::Window*> open;
+    for (host::Window* window : on_->engine.windows()) {
+        desktop::WindowFrame* frame = on_->screen.keeper().frameOf(*window);
+        if (frame != nullptr && frame->view() != nullptr && frame->view()->isVisible() &&
+            frame->view()->window()->windowHandle() != nullptr)
+            open.push_back(window);
+    }
+    host::Window* active = on_->engine.activeChild();
+    if (chance_.in(60) && std::find(open.begin(), open.end(), active) != open.end())
+        return active;
+    return open.empty() ? nullptr : chance_.one(open);
+}
+
+host::Handle WindowGame::someControl(host::Window& window)
+{
+    std::vector<host::Handle> seen;
+    const desktop::Canvas& canvas = on_->viewOf(window).canvas();
+    for (host::Handle control = 0; control < window.controlCount(); ++control)
+        if (canvas.shows(control) && canvas.rect().intersects(canvas.boxInPixels(control)))
+            seen.push_back(control);
+    return seen.empty() ? host::noControl : chance_.one(seen);
+}
+
+void WindowGame::press(host::Window& window, Qt::MouseButton button)
+{
+    if (const host::Handle control = someControl(window); control != host::noControl)
+        QTest::mouseClick(on_->viewOf(window).window()->windowHandle(), button, Qt::NoModifier,
+                          on_->middleOf(window, control));
+}
+
+void WindowGame::click()
+{
+    if (host::Window* window = someWindow())
+        press(*window, Qt::LeftButton);
+}
+
+void WindowGame::rightClick()
+{
+    if (host::Window* window = someWindow())
+        press(*window, Qt::RightButton);
+}
+
+void WindowGame::doubleClick()
+{
+    host::Window* window = someWindow();
+    const host::Handle control = window == nullptr ? host::noControl : someControl(*window);
+    if (control != host::noControl)
+        QTest::mouseDClick(on_->viewOf(*window).window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                           on_->middleOf(*window, control));
+}
+
+void WindowGame::drag()
+{
+    host::Window* window = someWindow();
+    if (window == nullptr)
+        return;
+    const host::Handle from = someControl(*window);
+    const host::Handle to = someControl(*window);
+    if (from == host::noControl)
+        return;
+    QWindow* handle = on_->viewOf(*window).window()->windowHandle();
+    const QPoint start = on_->middleOf(*window, from);
+    const QPoint end = on_->middleOf(*window, to);
+    const QPointer<QWindow> alive(handle);
+    QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, start);
+    for (const QPoint at : {(start * 2 + end) / 3, (start + end * 2) / 3, end})
+        if (alive)
+            QTest::mouseMove(handle, at);
+    if (alive)
+        QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, end);
+}
+
+void WindowGame::hover()
+{
+    host::Window* window = someWindow();
+    const host::Handle control = window == nullptr ? host::noControl : someControl(*window);
+    if (control != host::noControl)
+        QTest::mouseMove(on_->viewOf(*window).window()->windowHandle(), on_->middleOf(*window, control));
+}
+
+void WindowGame::paste()
+{
+    QGuiApplication::clipboard()->setText(QString::fromUtf8(chance_.one(window_game_detail::pasted)));
+    Bench::key(Qt::Key_V, Qt::ControlModifier);
+}
+
+void WindowGame::chooseMenu()
+{
+    std::vector<QAction*> items;
+    for (const QMenuBar* bar : on_->main().findChildren<QMenuBar*>())
+        for (const QMenu* menu : bar->findChildren<QMenu*>())
+            for (QAction* action : menu->actions())
+                if (action->menu() == nullptr && !action->isSeparator() && action->isEnabled() && action->isVisible())
+                    items.push_back(action);
+    if (!items.empty() && on_->engine.windows().size() < window_game_detail::mostWindows)
+        chance_.one(items)->trigger();
+    else
+        closeSomething();
+}
+
+void WindowGame::arrange()
+{
+    host::Window& main = on_->engine.mainWindow();
+    constexpr host::Handle ways[] = {main_window::mnuCas, main_window::mnuHoriz, main_window::mnuVert};
+    on_->engine.userMenu(main, chance_.one(ways));
+}
+
+void WindowGame::switchLanguage()
+{
+    host::Window& main = on_->engine.mainWindow();
+    for (const char* name : {"mnuIng", "mnuEsp"})
+        if (const host::Handle item = main.named(name); item != host::noControl && chance_.in(50))
+            on_->engine.userMenu(main, item);
+}
+
+desktop::ChildFrame* WindowGame::someFrame()
+{
+    const auto frames = on_->main().findChildren<desktop::ChildFrame*>();
+    std::vector<desktop::ChildFrame*> open;
+    for (desktop::ChildFrame* frame : frames)
+        if (frame->model() != nullptr && frame->isVisible())
+            open.push_back(frame);
+    return open.empty() ? nullptr : chance_.one(open);
+}
+
+void WindowGame::changeState()
+{
+    desktop::ChildFrame* frame = someFrame();
+    if (frame == nullptr)
+        return;
+    switch (chance_.below(4)) {
+    case 0:
+        frame->showMinimized();
+        break;
+    case 1:
+        frame->showMaximized();
+        break;
+    default:
+        frame->showNormal();
+    }
+}
+
+void WindowGame::moveFrame()
+{
+    desktop::ChildFrame* frame = someFrame();
+    if (frame != nullptr && (rude_ || (!frame->isMaximized() && !frame->isMinimized())))
+        frame->move(chance_.between(rude_ ? -900 : 0, rude_ ? 1800 : 700),
+                    chance_.between(rude_ ? -600 : 0, rude_ ? 1200 : 400));
+}
+
+void WindowGame::sizeFrame()
+{
+    desktop::ChildFrame* frame = someFrame();
+    if (frame != nullptr && (rude_ || (!frame->isMaximized() && !frame->isMinimized())))
+        frame->resize(chance_.between(rude_ ? 1 : 240, rude_ ? 2500 : 1200),
+                      chance_.between(rude_ ? 1 : 120, rude_ ? 1800 : 700));
+}
+
+void WindowGame::shakeIcons()
+{
+    for (desktop::ChildFrame* frame : on_->main().findChildren<desktop::ChildFrame*>())
+        if (frame->model() != nullptr && frame->isMinimized())
+            frame->setGeometry(chance_.between(-200, 1500), chance_.between(-200, 900), chance_.between(1, 600),
+                               chance_.between(1, 400));
+}
+
+void WindowGame::closeSomething()
+{
+    if (host::Window* window = someWindow())
+        on_->screen.keeper().frameOf(*window)->widget().close();
+}
+
+void WindowGame::activateSomething()
+{
+    host::Window* window = someWindow();
+    if (window == nullptr)
+        return;
+    QWidget& widget = on_->screen.keeper().frameOf(*window)->widget();
+    if (auto* frame = dynamic_cast<desktop::ChildFrame*>(&widget))
+        on_->main().area().setActiveSubWindow(frame);
+    else
+        widget.activateWindow();
+}
+
+void WindowGame::sizeMain()
+{
+    desktop::MainWindow& main = on_->main();
+    if (rude_ && chance_.in(30)) {
+        main.showMinimized();
+        Bench::settle();
+        main.showNormal();
+    }
+    main.resize(chance_.between(640, rude_ ? 2600 : 1366), chance_.between(420, rude_ ? 1600 : 740));
+}
+
+void WindowGame::wheel()
+{
+    QWidget* under = chance_.in(50) ? on_->main().area().viewport() : QApplication::focusWidget();
+    if (under == nullptr)
+        return;
+    const QPointF at(under->rect().center());
+    QWheelEvent event(at, under->mapToGlobal(at), QPoint(),
+                      QPoint(chance_.between(-1, 1) * 120, chance_.between(-3, 3) * 120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(under, &event);
+}
+
+// Each answer may bring another question, which waits inside it: the next round is asked for first.
+void WindowGame::answerSoon()
+{
+    QTimer::singleShot(1, life_.get(), [this] {
+        answerSoon();
+        answer();
+    });
+}
+
+void WindowGame::answer()
+{
+    if (QWidget* menu = QApplication::activePopupWidget()) {
+        constexpr Qt::Key keys[] = {Qt::Key_Down, Qt::Key_Right, Qt::Key_Escape, Qt::Key_Escape, Qt::Key_Return};
+        QTest::keyClick(menu, chance_.one(keys));
+        return;
+    }
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || !dialog->isVisible())
+        return;
+    ++answers_;
+    patience_ = std::exchange(lastDialog_, dialog) == dialog ? patience_ + 1 : 0;
+    if (patience_ > window_game_detail::longestPatience)
+        dialog->reject();
+    else
+        answerDialog(*dialog);
+}
+
+void WindowGame::answerDialog(QDialog& dialog)
+{
+    if (auto* files = qobject_cast<QFileDialog*>(&dialog)) {
+        auto* name = files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        if (name == nullptr || chance_.in(40)) {
+            files->reject();
+        } else {
+            // Always a file of the game's own folder.
+            name->setText(on_->folder.filePath(QStringLiteral("caso%1").arg(chance_.between(0, 3))));
+            QMetaObject::invokeMethod(files, "accept");
+        }
+        return;
+    }
+    const auto buttons = dialog.findChildren<QPushButton*>();
+    switch (chance_.below(4)) {
+    case 0:
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        break;
+    case 1:
+        if (auto* edit = dialog.findChild<QLineEdit*>();
+            edit != nullptr && dialog.objectName() == QStringLiteral("inputBox"))
+            edit->setText(QString::fromLatin1(chance_.one(window_game_detail::numbers)));
+        break;
+    case 2:
+        if (!buttons.isEmpty() && dialog.inherits("QMessageBox"))
+            chance_.one(buttons)->click();
+        break;
+    default:
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    }
+}
+
+} // namespace velmor::test

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+// A random player for the real windows: keys, texts, clicks, drags, menus, frames, boxes and dialogs, from a seed. A polite
+// game does what a student can do; a rude one moves and sizes frames as no hand could.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "desktop/desktop_fixture.h"
+#include "desktop/fire/watchdog.h"
+#include "player/chance.h"
+
+class QDialog;
+
+namespace velmor::test {
+
+class WindowGame {
+public:
+    WindowGame(std::uint64_t seed, bool rude, Watchdog& watchdog);
+    ~WindowGame();
+
+    void play(int events);
+    /// What stood wrong after an event, with the event's name.
+    const std::vector<std::string>& faults() const { return faults_; }
+    int ends() const { return ends_; }
+    int answers() const { return answers_; }
+
+    struct Move {
+        int weight;
+        bool rude;
+        const char* name;
+        void (WindowGame::*deed)();
+    };
+
+private:
+    void begin();
+    void step(int number);
+    const Move& chosen();
+    void check(const std::string& event);
+
+    void typeNumber();
+    void typeText();
+    void pressKey();
+    void pressTableKey();
+    void click();
+    void rightClick();
+    void doubleClick();
+    void drag();
+    void hover();
+    void paste();
+    void chooseMenu();
+    void arrange();
+    void switchLanguage();
+    void changeState();
+    void moveFrame();
+    void sizeFrame();
+    void shakeIcons();
+    void closeSomething();
+    void activateSomething();
+    void sizeMain();
+    void wheel();
+
+    void answerSoon();
+    void answer();
+    void answerDialog(QDialog& dialog);
+    host::Window* someWindow();
+    desktop::ChildFrame* someFrame();
+    host::Handle someControl(host::Window& window);
+    void press(host::Window& window, Qt::MouseButton button);
+
+    player::Chance chance_;
+    bool rude_;
+    Watchdog& watchdog_;
+    std::unique_ptr<Bench> on_;
+    std::unique_ptr<QObject> life_; ///< answers wait for nobody once the game is over
+    std::vector<std::string> faults_;
+    const void* lastDialog_ = nullptr;
+    int patience_ = 0;
+    int ends_ = 0;
+    int answers_ = 0;
+};
+
+} // namespace velmor::test

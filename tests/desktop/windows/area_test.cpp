@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+// The area of the children has no scroll bars: no frame may leave it, and no icon may set it going for ever.
+#include <gtest/gtest.h>
+
+#include <QMdiArea>
+#include <QScrollBar>
+
+#include "desktop/desktop_fixture.h"
+#include "desktop/fire/watchdog.h"
+
+namespace velmor::test::area_test {
+
+constexpr double longest = 10.0; ///< seconds of computing, a thousand times what it takes
+
+struct AreaTest : ::testing::Test {
+    void SetUp() override
+    {
+        on.open();
+        sheets = {&on.sheet(), &on.newSheet(), &on.newSheet(), &on.newSheet()};
+    }
+    desktop::ChildFrame& frame(std::size_t which)
+    {
+        return dynamic_cast<desktop::ChildFrame&>(*on.screen.keeper().frameOf(*sheets[which]));
+    }
+    QRect area() { return on.main().area().viewport()->rect(); }
+    void arrange(int how)
+    {
+        on.engine.userRun([&] { on.engine.host().Arrange(how); });
+    }
+    /// Ends the process with that name when it never comes to rest.
+    void rest(const std::string& after)
+    {
+        watchdog.begin(after);
+        Bench::settle();
+        watchdog.end();
+    }
+
+    Bench on;
+    std::vector<host::Window*> sheets;
+    Watchdog watchdog{longest};
+};
+
+TEST_F(AreaTest, comesToRestWithAnIconAsTallAsAFrameAmongTiles)
+{
+    for (const int height : {60, 200, 400, 700}) {
+        frame(0).showMinimized();
+        frame(0).resize(300, height);
+        arrange(height % 400 == 0 ? 1 : 2);
+        rest("tiles over an icon " + std::to_string(height) + " high");
+        frame(1).showMaximized();
+        rest("a sheet maximised over them");
+        frame(1).showNormal();
+        rest("and back");
+    }
+}
+
+TEST_F(AreaTest, anIconIsNoTallerThanItsTitle)
+{
+    frame(0).showMinimized();
+    rest("an icon");
+    EXPECT_LT(frame(0).height(), 60);
+}
+
+TEST_F(AreaTest, neverScrolls)
+{
+    on.engine.userRun([this] { sheets[1]->setPlace({40000, 30000, 9000, 4500}); });
+    frame(2).showMaximized();
+    rest("a place far outside");
+    EXPECT_FALSE(on.main().area().horizontalScrollBar()->isVisible());
+    EXPECT_FALSE(on.main().area().verticalScrollBar()->isVisible());
+    EXPECT_EQ(frame(2).geometry(), area());
+}
+
+TEST_F(AreaTest, keepsFramesInsideWhereverTheProgramOrAHandPutsThem)
+{
+    on.engine.userRun([this] { sheets[1]->setPlace({40000, -3000, 9000, 4500}); });
+    rest("a place far outside");
+    EXPECT_TRUE(area().contains(frame(1).geometry()));
+    EXPECT_EQ(sheets[1]->place(), (host::Place{40000, -3000, 9000, 4500})) << "the program's number stands";
+    for (const QPoint to : {QPoint(-500, -300), QPoint(3000, 2000)}) {
+        frame(2).move(to);
+        rest("a frame moved");
+        EXPECT_TRUE(area().contains(frame(2).geometry()));
+    }
+    frame(2).resize(5000, 5000);
+    rest("a frame sized");
+    EXPECT_TRUE(area().contains(frame(2).geometry()));
+    frame(3).setGeometry(700, 300, 500, 300);
+    rest("a frame at the right");
+    on.main().resize(800, 600);
+    rest("a smaller main window");
+    for (std::size_t i = 0; i < sheets.size(); ++i)
+        EXPECT_TRUE(area().contains(frame(i).geometry())) << i;
+}
+
+// The toolkit is in the middle of its own change then, and slots may change the frame again.
+TEST_F(AreaTest, aChangeOfStateIsAnsweredAfterTheToolkitsOwn)
+{
+    std::vector<std::string>& log = static_cast<BenchWindow*>(sheets[3])->log;
+    log.clear();
+    frame(3).showMaximized();
+    EXPECT_EQ(sheets[3]->windowState(), 0);
+    EXPECT_TRUE(log.empty());
+    rest("maximised");
+    EXPECT_EQ(sheets[3]->windowState(), 2);
+    EXPECT_EQ(log, (std::vector<std::string>{"Hoja resize", "Hoja repaint"}));
+}
+
+} // namespace velmor::test::area_test

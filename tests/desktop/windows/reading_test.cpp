@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+// Windows that are only read stand beside the sheet and leave it the keyboard: what is typed goes to the sheet, whichever of them is
+// in front. And the conversion of temperatures gives the keyboard back when it is done.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+#include "desktop/desktop_fixture.h"
+#include "program/catalogue.h"
+
+namespace velmor::test::reading_test {
+
+using host::Event;
+using host::Handle;
+
+constexpr const char* readingWindows[] = {"Form14", "Form21", "Form6", "Form5", "Form19"};
+
+struct ReadingTest : ::testing::TestWithParam<const char*> {
+    ReadingTest() : on(program::catalogue())
+    {
+        program::start(on.engine);
+        on.main().resize(1366, 740);
+        Bench::settle();
+        on.main().activateWindow();
+        Bench::settle();
+        sheet = on.engine.instance("Form2", 0);
+    }
+    void SetUp() override
+    {
+        ASSERT_NE(sheet, nullptr);
+        ASSERT_EQ(sheet->focus(), first());
+        text = &on.show(GetParam());
+        on.engine.onSlot = [this](const host::Window& who, Handle, Event event) {
+            activations += &who == sheet && event == Event::activate ? 1 : 0;
+        };
+    }
+    Handle first() const { return sheet->named("Text1"); }
+    QWidget& frame() { return on.screen.keeper().frameOf(*text)->widget(); }
+    bool isOpen() { return on.engine.defaultInstance(GetParam()) != nullptr; }
+    /// The page of the field in hand goes as soon as somebody turns to the sheet.
+    bool goes() const { return std::string_view(GetParam()) == "Form21"; }
+    bool sheetHasKeyboard()
+    {
+        return QApplication::activeWindow() == &on.main() && on.widgetOf(*sheet, sheet->focus())->hasFocus();
+    }
+
+    Bench on;
+    host::Window* sheet = nullptr;
+    host::Window* text = nullptr;
+    int activations = 0;
+};
+
+TEST_P(ReadingTest, isShownWithoutTakingTheKeyboard)
+{
+    EXPECT_TRUE(frame().isVisible());
+    EXPECT_EQ(on.engine.current(), text) << "to the program it is the window in front all the same";
+    EXPECT_TRUE(sheetHasKeyboard());
+    EXPECT_TRUE(isOpen());
+}
+
+TEST_P(ReadingTest, letsTheSheetHearWhatIsTypedBesideIt)
+{
+    Bench::type("37");
+    EXPECT_EQ(sheet->text(first()), "37");
+    EXPECT_EQ(on.engine.current(), sheet) << "as after a click";
+    EXPECT_EQ(isOpen(), !goes());
+    Bench::key(Qt::Key_Return);
+    EXPECT_EQ(sheet->focus(), sheet->named("Text3"));
+    EXPECT_EQ(activations, 0) << "coming back from a tool is no activation";
+}
+
+TEST_P(ReadingTest, aModifierAloneIsNoTurningToTheSheet)
+{
+    Bench::key(Qt::Key_Shift);
+    Bench::key(Qt::Key_Control);
+    EXPECT_TRUE(isOpen());
+    EXPECT_EQ(on.engine.current(), text);
+}
+
+TEST_P(ReadingTest, aPressInTheSheetTurnsToIt)
+{
+    on.click(*sheet, first());
+    EXPECT_EQ(on.engine.current(), sheet);
+    EXPECT_EQ(isOpen(), !goes());
+}
+
+// Window managers give the keyboard to whatever they map.
+TEST_P(ReadingTest, handsBackTheKeyboardThatTheWindowManagerGaveIt)
+{
+    frame().activateWindow();
+    Bench::settle();
+    EXPECT_TRUE(sheetHasKeyboard());
+    EXPECT_TRUE(isOpen()) << "and that is no turning to the sheet";
+    Bench::type("4");
+    EXPECT_EQ(sheet->text(first()), "4");
+}
+
+TEST_P(ReadingTest, f6WalksIntoItAndBack)
+{
+    Bench::key(Qt::Key_F6);
+    EXPECT_EQ(QApplication::activeWindow(), &frame());
+    EXPECT_TRUE(isOpen());
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Down, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Up})
+        Bench::key(key);
+    EXPECT_EQ(QApplication::activeWindow(), &frame()) << "one reads with these";
+    EXPECT_EQ(sheet->text(first()), "10");
+    for (int i = 0; i < 3 && QApplication::activeWindow() != &on.main(); ++i)
+        Bench::key(Qt::Key_F6);
+    EXPECT_TRUE(sheetHasKeyboard());
+}
+
+TEST_P(ReadingTest, whatIsTypedInItGoesToTheSheet)
+{
+    Bench::key(Qt::Key_F6);
+    ASSERT_EQ(QApplication::activeWindow(), &frame());
+    Bench::type("52");
+    EXPECT_EQ(sheet->text(first()), "52");
+    EXPECT_TRUE(sheetHasKeyboard());
+    EXPECT_EQ(isOpen(), !goes());
+}
+
+TEST_P(ReadingTest, escapeInItClosesItAndTheKeyboardIsInTheSheet)
+{
+    Bench::key(Qt::Key_F6);
+    Bench::key(Qt::Key_Escape);
+    EXPECT_FALSE(isOpen());
+    EXPECT_TRUE(sheetHasKeyboard());
+    EXPECT_EQ(sheet->text(first()), "10");
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, ReadingTest, ::testing::ValuesIn(readingWindows),
+                         [](const auto& window) { return std::string(window.param); });
+
+struct ConversionTest : ::testing::Test {
+    ConversionTest() : on(program::catalogue())
+    {
+        program::start(on.engine);
+        Bench::settle();
+        on.main().activateWindow();
+        Bench::settle();
+    }
+    /// Writes into the question for a temperature, once it is there.
+    void answer(const QString& temperature)
+    {
+        auto* watch = new QTimer(&on.main());
+        QObject::connect(watch, &QTimer::timeout, watch, [watch, temperature] {
+            auto* box = QApplication::activeModalWidget();
+            if (box == nullptr || !box->isVisible())
+                return;
+            watch->deleteLater();
+            box->findChild<QLineEdit*>()->setText(temperature);
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        watch->start(1);
+    }
+    Bench on;
+};
+
+// 350 K are 77 degrees.
+TEST_F(ConversionTest, theKeyboardIsBackInTheSheetWithTheTemperature)
+{
+    host::Window& sheet = *on.engine.instance("Form2", 0);
+    Bench::key(Qt::Key_Return);
+    const Handle temperature = sheet.named("Text3");
+    ASSERT_EQ(sheet.focus(), temperature);
+    host::Window& conversion = on.show("Form22");
+    answer("350");
+    on.click(conversion, conversion.named("Command2"));
+    EXPECT_EQ(on.engine.defaultInstance("Form22"), nullptr);
+    EXPECT_EQ(QApplication::activeWindow(), &on.main());
+    EXPECT_TRUE(on.widgetOf(sheet, temperature)->hasFocus());
+    EXPECT_EQ(sheet.text(temperature), "77");
+    Bench::type("81");
+    EXPECT_EQ(sheet.text(temperature), "81");
+}
+
+} // namespace velmor::test::reading_test
