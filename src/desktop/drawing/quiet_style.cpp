@@ -9,6 +9,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QStyleOptionButton>
+#include <QStyleOptionMenuItem>
 #include <QStyleOptionSlider>
 #include <QStyleOptionTitleBar>
 #include <QWidget>
@@ -22,6 +23,7 @@ namespace velmor::desktop {
 
 namespace quiet_style_detail {
 
+constexpr double menuShare = 1.55; ///< height of a line of a menu, by that of its letters
 constexpr double titleShare = 1.6; ///< height of a title, by that of its letters
 
 struct ButtonRow {
@@ -206,6 +208,18 @@ void QuietStyle::drawControl(ControlElement element, const QStyleOption* option,
     QStyleOptionButton caption = *button;
     caption.palette.setColor(QPalette::ButtonText, captionInk(*button));
     QProxyStyle::drawControl(CE_PushButtonLabel, &caption, painter, widget);
+}
+
+// Menus leave their lines the same air whatever the size of their letters.
+QSize QuietStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                   const QWidget* widget) const
+{
+    QSize wanted = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const auto* item = type == CT_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
+    if (item != nullptr && item->menuItemType != QStyleOptionMenuItem::Separator)
+        wanted.setHeight(
+            std::max(wanted.height(), static_cast<int>(item->fontMetrics.height() * quiet_style_detail::menuShare)));
+    return wanted;
 }
 
 // A title grows with its letters.

@@ -88,10 +88,10 @@ QSize PaletteStrip::contentSize() const
 QSize PaletteStrip::floatingSize() const
 {
     const int margin = palette_strip_detail::margin;
-    const QSize most = parentWidget()->size() * palette_strip_detail::largestShare - QSize(2 * gripWidth(), 2 * margin);
+    const QSize most = parentWidget()->size() * palette_strip_detail::largestShare - QSize(3 * gripWidth(), 2 * margin);
     const QSize wanted = contentSize();
     const QSize content = wanted.width() > most.width() ? wanted.scaled(most, Qt::KeepAspectRatio) : wanted;
-    return content + QSize(gripWidth() + gripWidth() * 3 / 2, 2 * margin);
+    return content + QSize(3 * gripWidth(), 2 * margin);
 }
 
 int PaletteStrip::restHeight() const
@@ -196,7 +196,7 @@ void PaletteStrip::resizeEvent(QResizeEvent*)
 {
     const int margin = palette_strip_detail::margin;
     const int grip = gripWidth();
-    const int button = grip * 3 / 2;
+    const int button = 2 * grip;
     close_->setGeometry(width() - button - 1, 1, button, std::min(button, height() - 2));
     const QRect room(grip, margin, width() - grip - button, height() - 2 * margin);
     QSize content = contentSize();
