@@ -146,7 +146,7 @@ void DesktopScreen::setClipboardText(std::string_view text)
 void DesktopScreen::print(const host::PrintJob& job)
 {
     ask([&](QWidget* parent) {
-        askAndPrint(parent, job, desk_.english());
+        askAndPrint(parent, job, keeper_->stage());
         return true;
     });
 }

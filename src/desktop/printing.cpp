@@ -119,7 +119,7 @@ bool printTo(QPrinter& printer, const host::PrintJob& job)
     return printOn(printer, job) && (file.isEmpty() || printing_detail::isWholePdf(file));
 }
 
-void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english)
+void askAndPrint(QWidget* parent, const host::PrintJob& job, const Stage& stage)
 {
     QPrinter printer(QPrinter::HighResolution);
     const double margin = printing_detail::marginMillimetres;
@@ -134,7 +134,7 @@ void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english)
     if (dialog.exec() != QDialog::Accepted || printTo(printer, job))
         return;
     const host::BiText& text = printing_detail::failed;
-    askMessage(parent, {std::string(english ? text.en : text.es), "Velmor", printing_detail::failedFlags}, english);
+    askMessage(parent, {std::string(stage.english ? text.en : text.es), "Velmor", printing_detail::failedFlags}, stage);
 }
 
 } // namespace velmor::desktop

@@ -14,6 +14,8 @@ class QWidget;
 
 namespace velmor::desktop {
 
+struct Stage;
+
 /// The font of a print-out, its size in points times 20, so that its widths come out in twips.
 QFont twipFont(const host::Font& font, bool sizeGiven = true);
 
@@ -30,6 +32,6 @@ bool printOn(QPagedPaintDevice& device, const host::PrintJob& job);
 bool printTo(QPrinter& printer, const host::PrintJob& job);
 
 /// Asks for the printer (or a PDF file) and prints; says so when it cannot be done.
-void askAndPrint(QWidget* parent, const host::PrintJob& job, bool english);
+void askAndPrint(QWidget* parent, const host::PrintJob& job, const Stage& stage);
 
 } // namespace velmor::desktop
