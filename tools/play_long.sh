@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Plays millions of random events under the address and undefined behaviour sanitizers, window by window; then copies of the
-# program beside the first one, a hundredth as many events.
+# program beside the first one, a hundredth as many events; then games of 2,500 events on the real windows, half of them rude, a
+# quarter as many events.
 #
-#   tools/play_long.sh                         ten million events a window, and as many over the whole program
+#   tools/play_long.sh                         ten million events a window, and as many over the whole program; 1,000 real games
 #   tools/play_long.sh EVENTS [SEED]           so many, from this seed
-#   tools/play_long.sh EVENTS SEED WINDOW...   on these windows only; "all" stands for the whole program
+#   tools/play_long.sh EVENTS SEED WINDOW...   on these windows only; "all" stands for the whole program, "real" for the games
+#                                              on the real windows
 set -euo pipefail
 # shellcheck source=tools/steps.sh
 source "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/steps.sh"
@@ -21,15 +23,32 @@ twins=$root/build/asan-core/bin/velmor-twins
 logs=$root/build/asan-core/games
 mkdir -p "$logs"
 
+# play_real: the games on the real windows. An event that takes too long is named and ends them.
+play_real() {
+    local log=$logs/real.log
+    if LSAN_OPTIONS=suppressions=$root/tests/leaks.supp:print_suppressions=0 VELMOR_PATIENCE=8 \
+        "$root/build/asan/bin/velmor-window-player" $((events / 10000 + 1)) 2500 "$seed" >"$log" 2>&1; then
+        say "real windows: $(tail -n 1 "$log")"
+    else
+        say "real windows: FAULT, see $log"
+        return 1
+    fi
+}
+
 windows=("$@")
 if ((${#windows[@]} == 0)); then
     mapfile -t windows < <("$player" --list)
-    windows+=(all)
+    windows+=(all real)
 fi
+[[ " ${windows[*]} " != *" real "* ]] || build asan velmor-window-player
 
 # play WINDOW: one game; its log tells what was reached. The seed repeats it.
 play() {
     local window=$1
+    if [[ $window == real ]]; then
+        play_real
+        return
+    fi
     local -a only=(--window "$window")
     [[ $window == all ]] && only=()
     if "$player" --events "$events" --seed "$seed" "${only[@]}" --details >"$logs/$window.log" 2>&1; then
@@ -41,6 +60,7 @@ play() {
 }
 # play_twins WINDOW: copies of a game around a window, each played on for some two hundred events.
 play_twins() {
+    [[ $1 != real ]] || return 0
     if "$twins" "$1" $((events / 20000 + 1)) "$seed" >"$logs/$1.twins.log" 2>&1; then
         say "$1, twins: $(head -n 1 "$logs/$1.twins.log")"
     else
@@ -48,8 +68,8 @@ play_twins() {
         return 1
     fi
 }
-export -f play play_twins say
-export player twins logs events seed
+export -f play play_twins play_real say
+export player twins logs events seed root
 
 say "Playing $events events on each of ${#windows[@]} windows, seed $seed; logs in $logs"
 # shellcheck disable=SC2016  # the inner shell expands it

@@ -43,6 +43,32 @@ QString withoutTabs(QString line)
     return line.replace(QLatin1Char('\t'), QStringLiteral("        "));
 }
 
+/// How wide stretches are. In a face whose letters are all as wide they are counted: shaping each stretch to measure it takes as
+/// long as printing it.
+class Widths {
+public:
+    explicit Widths(const QFont& font) : metrics_(font)
+    {
+        const QString wide(QStringLiteral("MW@mw"));
+        const QString narrow(QStringLiteral("il.' "));
+        const double width = metrics_.horizontalAdvance(wide);
+        if (width == metrics_.horizontalAdvance(narrow))
+            letter_ = width / static_cast<double>(wide.size());
+    }
+
+    double of(const QString& stretch) const
+    {
+        const bool counted = letter_ > 0.0 && std::all_of(stretch.begin(), stretch.end(), isPlain);
+        return counted ? letter_ * static_cast<double>(stretch.size()) : metrics_.horizontalAdvance(stretch);
+    }
+
+private:
+    static bool isPlain(QChar letter) { return letter >= QLatin1Char(' ') && letter <= QLatin1Char('~'); }
+
+    QFontMetricsF metrics_;
+    double letter_ = 0.0;
+};
+
 } // namespace printing_detail
 
 QFont twipFont(const host::Font& font, bool sizeGiven)
@@ -74,11 +100,11 @@ int printedTwips(const host::Font& font, std::string_view text)
 
 QStringList printedLines(const host::PrintJob& job, double pageTwips)
 {
-    const QFontMetricsF metrics(twipFont(job.font, job.fontSizeGiven));
+    const printing_detail::Widths widths(twipFont(job.font, job.fontSizeGiven));
     QString text = shown(job.text);
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\r"));
     text.replace(QLatin1Char('\n'), QLatin1Char('\r'));
-    const WidthOf widthOf = [&metrics](const QString& stretch) { return metrics.horizontalAdvance(stretch); };
+    const WidthOf widthOf = [&widths](const QString& stretch) { return widths.of(stretch); };
     QStringList lines;
     for (const QString& line : text.split(QLatin1Char('\r')))
         lines += brokenLine(printing_detail::withoutTabs(line), pageTwips, widthOf);

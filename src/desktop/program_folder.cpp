@@ -13,11 +13,16 @@ namespace velmor::desktop {
 
 namespace program_folder_detail {
 
-// Name filters compare without regard to capitals, as the platform that the guides were named for.
+// Without regard to capitals, as the platform that the guides were named for.
 QStringList guidesIn(const QString& folder)
 {
-    return folder.isEmpty() ? QStringList()
-                            : QDir(folder).entryList({QStringLiteral("*.Lab")}, QDir::Files, QDir::Name);
+    QStringList guides;
+    if (folder.isEmpty())
+        return guides;
+    for (const QString& name : QDir(folder).entryList(QDir::Files, QDir::Name))
+        if (name.endsWith(QLatin1String(".Lab"), Qt::CaseInsensitive))
+            guides.push_back(name);
+    return guides;
 }
 
 // A copy under another name first, so that a start that is cut short leaves no half guide behind.

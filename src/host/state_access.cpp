@@ -409,20 +409,22 @@ void StateAccess::addRare(const Window& window, Handle control, std::vector<Attr
                           std::vector<Attribute>& texts)
 {
     using namespace state_access_detail;
+    const bool hasFont = window.fonts_.contains(control);
+    const bool hasList = window.lists_.contains(control);
     if (window.borrowedDrawings_.contains(control))
         numbers.push_back(drawing);
+    if (hasList)
+        numbers.push_back(selected);
+    if (hasFont)
+        numbers.insert(numbers.end(), std::begin(numbersOfFonts), std::end(numbersOfFonts));
     if (window.asked_.contains(control))
         texts.push_back(asked);
     if (window.pictures_.contains(control))
         texts.push_back(picture);
-    if (window.fonts_.contains(control)) {
-        numbers.insert(numbers.end(), std::begin(numbersOfFonts), std::end(numbersOfFonts));
+    if (hasFont)
         texts.push_back(fontName);
-    }
-    if (window.lists_.contains(control)) {
-        numbers.push_back(selected);
+    if (hasList)
         texts.insert(texts.end(), {items, folder});
-    }
 }
 
 } // namespace velmor::host

@@ -113,7 +113,7 @@ public:
     static std::string text(const Window& window, const Key& key);
     static void setNumber(Window& window, const Key& key, double value);
     static void setText(Window& window, const Key& key, std::string_view value);
-    /// Puts those of a control's attributes which few controls have behind `found`.
+    /// Puts those of a control's attributes which few controls have behind those there, in their order.
     static void addRare(const Window& window, Handle control, std::vector<Attribute>& numbers,
                         std::vector<Attribute>& texts);
     static bool hasRare(const Window& window, Handle control);

@@ -65,6 +65,80 @@ std::span<const Kept> about(const std::vector<Kept>& list, Handle control)
     return {from, to};
 }
 
+void addNumber(const Key& key, double before, double now, StateChange& change)
+{
+    if (std::bit_cast<std::uint64_t>(before) != std::bit_cast<std::uint64_t>(now))
+        change.numbers.push_back({key, before, now});
+}
+
+void addWhole(Handle control, Attribute attribute, std::int32_t before, std::int32_t now, StateChange& change)
+{
+    if (before != now)
+        change.numbers.push_back({{control, attribute}, static_cast<double>(before), static_cast<double>(now)});
+}
+
+void addText(const Key& key, std::string_view before, std::string_view now, StateChange& change)
+{
+    if (before != now)
+        change.texts.push_back({key, std::string(before), std::string(now)});
+}
+
+/// What every control has, as it is or as the table has it.
+struct Face {
+    std::string_view text;
+    std::string_view tag;
+    Place place;
+    std::int32_t backColor;
+    std::int32_t foreColor;
+    std::int16_t fontSize;
+    bool visible;
+    bool enabled;
+    bool checked;
+    friend bool operator==(const Face&, const Face&) = default;
+};
+
+Face faceOf(const Control& control)
+{
+    return {control.text,     control.tag,     control.place,   control.backColor, control.foreColor,
+            control.fontSize, control.visible, control.enabled, control.checked};
+}
+
+Face faceOf(const ControlRow& row)
+{
+    return {row.text, row.tag, row.place, row.backColor, -1, row.fontSize, row.visible, row.enabled, row.checked};
+}
+
+/// Of the attributes that few controls have.
+bool isRare(const Key& key)
+{
+    if (key.control == noControl)
+        return false;
+    return (key.attribute >= Attribute::drawing && key.attribute <= Attribute::fontColor) ||
+           (key.attribute >= Attribute::asked && key.attribute <= Attribute::folder);
+}
+
+void comparePlaces(Handle control, const Place& before, const Place& now, StateChange& change)
+{
+    addWhole(control, Attribute::left, before.left, now.left, change);
+    addWhole(control, Attribute::top, before.top, now.top, change);
+    addWhole(control, Attribute::width, before.width, now.width, change);
+    addWhole(control, Attribute::height, before.height, now.height, change);
+}
+
+void compareFaces(Handle control, const Face& before, const Face& now, StateChange& change)
+{
+    if (!(before.place == now.place))
+        comparePlaces(control, before.place, now.place, change);
+    addWhole(control, Attribute::backColor, before.backColor, now.backColor, change);
+    addWhole(control, Attribute::foreColor, before.foreColor, now.foreColor, change);
+    addWhole(control, Attribute::fontSize, before.fontSize, now.fontSize, change);
+    addWhole(control, Attribute::visible, before.visible, now.visible, change);
+    addWhole(control, Attribute::enabled, before.enabled, now.enabled, change);
+    addWhole(control, Attribute::checked, before.checked, now.checked, change);
+    addText({control, Attribute::text}, before.text, now.text, change);
+    addText({control, Attribute::tag}, before.tag, now.tag, change);
+}
+
 std::size_t heapOf(const std::string& text)
 {
     return text.capacity() > std::string().capacity() ? text.capacity() + 1 : 0;
@@ -107,28 +181,65 @@ void apply(Window& window, const StateChange& change, Direction direction)
         StateAccess::setText(window, text.key, forth ? text.after : text.before);
 }
 
-StepWatch::StepWatch(Window& window) : window_(window), last_(copyOf(window))
+StepWatch::StepWatch(Window& window)
+    : window_(window), place_(window.controlCount(), asTable), rare_{.spec = &window.spec()}
 {
+    using namespace state_change_detail;
+    for (Handle control = 0; control < window.controlCount(); ++control) {
+        if (!(faceOf(window.control(control)) == faceOf(window.row(control))))
+            note(control);
+        copyRare(window, control, rare_);
+    }
     window_.takeTouched();
-    noteOwn();
+    noteWindow();
 }
 
-// Most own values stay as they are: they are compared without being looked up.
-void StepWatch::noteOwn()
+void StepWatch::note(Handle control)
 {
+    if (place_[control] == asTable) {
+        place_[control] = static_cast<std::uint16_t>(controls_.size());
+        controls_.push_back(window_.control(control));
+    } else {
+        controls_[place_[control]] = window_.control(control);
+    }
+}
+
+void StepWatch::noteRare(const StateChange& change, Direction direction)
+{
+    using namespace state_change_detail;
+    const bool forth = direction == Direction::forth;
+    for (const ChangedNumber& number : change.numbers)
+        if (isRare(number.key))
+            rare_.set(number.key, forth ? number.after : number.before);
+    for (const ChangedText& text : change.texts)
+        if (isRare(text.key))
+            rare_.set(text.key, std::string_view(forth ? text.after : text.before));
+}
+
+void StepWatch::noteWindow()
+{
+    focus_ = window_.focus();
     ownNumbers_.clear();
+    ownTexts_.clear();
     for (const OwnView& view : StateAccess::own(window_))
-        for (const OwnRow& row : view.rows)
-            ownNumbers_.push_back(row.kind == OwnKind::text ? 0.0 : row.number(view.record));
+        for (const OwnRow& row : view.rows) {
+            const bool text = row.kind == OwnKind::text;
+            ownNumbers_.push_back(text ? 0.0 : row.number(view.record));
+            if (text)
+                ownTexts_.push_back(row.text(view.record));
+        }
 }
 
 StateChange StepWatch::step()
 {
     StateChange change;
-    addControls(window_.takeTouched(), change);
+    const std::vector<Handle> touched = window_.takeTouched();
+    addControls(touched, change);
     addWindow(change);
-    host::apply(last_, change, Direction::forth);
-    noteOwn();
+    for (const Handle control : touched)
+        note(control);
+    noteRare(change, Direction::forth);
+    noteWindow();
     change.numbers.shrink_to_fit();
     change.texts.shrink_to_fit();
     return change;
@@ -145,48 +256,55 @@ StateChange StepWatch::pending() const
 void StepWatch::lead(const StateChange& change, Direction direction)
 {
     host::apply(window_, change, direction);
-    host::apply(last_, change, direction);
-    window_.takeTouched();
-    noteOwn();
+    for (const Handle control : window_.takeTouched())
+        note(control);
+    noteRare(change, direction);
+    noteWindow();
 }
 
 void StepWatch::addControls(const std::vector<Handle>& touched, StateChange& change) const
 {
     using namespace state_change_detail;
-    WindowState now{.spec = last_.spec};
+    WindowState now{.spec = rare_.spec};
     for (const Handle control : touched) {
-        now.numbers.clear();
-        now.texts.clear();
-        copyControl(window_, control, now);
-        compareNumbers(*last_.spec, about(last_.numbers, control), now.numbers, change);
-        compareTexts(*last_.spec, about(last_.texts, control), now.texts, change);
+        const bool asInTable = place_[control] == asTable;
+        const Face before = asInTable ? faceOf(window_.row(control)) : faceOf(controls_[place_[control]]);
+        compareFaces(control, before, faceOf(window_.control(control)), change);
+        addRare(control, now, change);
     }
+}
+
+void StepWatch::addRare(Handle control, WindowState& now, StateChange& change) const
+{
+    using namespace state_change_detail;
+    const std::span<const KeptNumber> numbers = about(rare_.numbers, control);
+    const std::span<const KeptText> texts = about(rare_.texts, control);
+    if (numbers.empty() && texts.empty() && !StateAccess::hasRare(window_, control))
+        return;
+    now.numbers.clear();
+    now.texts.clear();
+    copyRare(window_, control, now);
+    compareNumbers(*rare_.spec, numbers, now.numbers, change);
+    compareTexts(*rare_.spec, texts, now.texts, change);
 }
 
 void StepWatch::addWindow(StateChange& change) const
 {
-    const auto sameBits = [](double one, double other) {
-        return std::bit_cast<std::uint64_t>(one) == std::bit_cast<std::uint64_t>(other);
-    };
-    const auto number = [&](const Key& key, double now) {
-        const double before = last_.number(key);
-        if (!(KeptNumber{key, before} == KeptNumber{key, now}))
-            change.numbers.push_back({key, before, now});
-    };
-    number({noControl, Attribute::focus}, window_.focus());
+    using namespace state_change_detail;
+    addNumber({noControl, Attribute::focus}, focus_, window_.focus(), change);
     std::uint16_t index = 0;
+    std::size_t texts = 0;
     for (const OwnView& view : StateAccess::own(window_))
         for (const OwnRow& row : view.rows) {
             const Key key{noControl, Attribute::own, index++};
+            const bool text = row.kind == OwnKind::text;
+            const std::size_t held = text ? texts++ : 0;
             if (view.undo == Undo::leaves)
                 continue;
-            const double now = row.kind == OwnKind::text ? 0.0 : row.number(view.record);
-            if (row.kind != OwnKind::text && sameBits(now, ownNumbers_[key.own]))
-                continue;
-            if (row.kind != OwnKind::text)
-                number(key, now);
-            else if (const std::string_view before = last_.text(key); before != row.text(view.record))
-                change.texts.push_back({key, std::string(before), row.text(view.record)});
+            if (text)
+                addText(key, ownTexts_[held], row.text(view.record), change);
+            else
+                addNumber(key, ownNumbers_[key.own], row.number(view.record), change);
         }
 }
 

@@ -56,13 +56,22 @@ public:
     void lead(const StateChange& change, Direction direction);
 
 private:
-    void noteOwn();
+    void note(Handle control);
+    void noteRare(const StateChange& change, Direction direction);
+    void noteWindow();
     void addControls(const std::vector<Handle>& touched, StateChange& change) const;
+    void addRare(Handle control, WindowState& now, StateChange& change) const;
     void addWindow(StateChange& change) const;
 
+    static constexpr std::uint16_t asTable = 0xFFFF;
+
     Window& window_;
-    WindowState last_;
-    std::vector<double> ownNumbers_; ///< as `last_` has them, in the order of the tables
+    std::vector<std::uint16_t> place_;  ///< by control: where it stands in `controls_`; `asTable` until it has been set
+    std::vector<Control> controls_;     ///< as the last step left them
+    WindowState rare_;                  ///< likewise what few controls have
+    Handle focus_ = noControl;          ///< likewise
+    std::vector<double> ownNumbers_;    ///< likewise, in the order of the tables; 0 for a text
+    std::vector<std::string> ownTexts_; ///< the texts among them
 };
 
 } // namespace velmor::host

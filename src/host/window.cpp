@@ -21,7 +21,8 @@ char folded(char letter)
 
 bool sameName(std::string_view one, std::string_view other)
 {
-    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+    // From behind: what is confused with "Text12" is "Text13".
+    return std::equal(one.rbegin(), one.rend(), other.rbegin(), other.rend(),
                       [](char a, char b) { return window_detail::folded(a) == window_detail::folded(b); });
 }
 

@@ -32,19 +32,6 @@ void addText(const Window& window, const Key& key, std::string_view value, Windo
         state.texts.push_back({key, std::string(value)});
 }
 
-void addRare(const Window& window, Handle control, WindowState& state)
-{
-    std::vector<Attribute> numbers;
-    std::vector<Attribute> texts;
-    StateAccess::addRare(window, control, numbers, texts);
-    std::sort(numbers.begin(), numbers.end());
-    for (const Attribute attribute : numbers)
-        addNumber(window, {control, attribute}, state);
-    std::sort(texts.begin(), texts.end());
-    for (const Attribute attribute : texts)
-        addText(window, {control, attribute}, StateAccess::text(window, {control, attribute}), state);
-}
-
 void addOwn(const Window& window, WindowState& state)
 {
     std::uint16_t index = 0;
@@ -134,16 +121,32 @@ const OwnRow& ownRow(const WindowState& state, std::uint16_t index)
     throw std::logic_error("a state has no such value");
 }
 
-void copyControl(const Window& window, Handle control, WindowState& state)
+void copyRare(const Window& window, Handle control, WindowState& state)
 {
     using namespace window_state_detail;
+    if (!StateAccess::hasRare(window, control))
+        return;
+    std::vector<Attribute> numbers;
+    std::vector<Attribute> texts;
+    StateAccess::addRare(window, control, numbers, texts);
+    for (const Attribute attribute : numbers)
+        addNumber(window, {control, attribute}, state);
+    for (const Attribute attribute : texts)
+        addText(window, {control, attribute}, StateAccess::text(window, {control, attribute}), state);
+}
+
+namespace window_state_detail {
+
+void copyControl(const Window& window, Handle control, WindowState& state)
+{
     for (const Attribute attribute : commonNumbers())
         addNumber(window, {control, attribute}, state);
     addText(window, {control, Attribute::text}, window.text(control), state);
     addText(window, {control, Attribute::tag}, window.tag(control), state);
-    if (StateAccess::hasRare(window, control))
-        addRare(window, control, state);
+    copyRare(window, control, state);
 }
+
+} // namespace window_state_detail
 
 WindowState copyOf(const Window& window)
 {

@@ -62,8 +62,8 @@ const OwnRow& ownRow(const WindowState& state, std::uint16_t index);
 /// events only; `Engine::stateOf` sees to that.
 WindowState copyOf(const Window& window);
 
-/// The part of a copy that speaks of one control, put behind what is there already.
-void copyControl(const Window& window, Handle control, WindowState& state);
+/// The part of a copy that speaks of what one control has and few have, put behind what is there already.
+void copyRare(const Window& window, Handle control, WindowState& state);
 
 /// Makes a new window hold what the state says, but for its place in the order of use. Runs no slot.
 void putInto(Window& window, const WindowState& state);

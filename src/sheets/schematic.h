@@ -98,7 +98,7 @@ struct Part {
 
 /// Makes a part of marks that are counted from the corner of the sheet.
 template <std::size_t Count>
-consteval Part<Count> part(const std::array<host::Mark, Count>& marks)
+constexpr Part<Count> part(const std::array<host::Mark, Count>& marks)
 {
     using schematic_detail::hasTwoEnds;
     int left = marks[0].from.x;
@@ -126,7 +126,7 @@ consteval Part<Count> part(const std::array<host::Mark, Count>& marks)
     return made;
 }
 template <std::size_t Count>
-consteval Part<Count> part(const host::Mark (&marks)[Count])
+constexpr Part<Count> part(const host::Mark (&marks)[Count])
 {
     return part(std::to_array(marks));
 }

@@ -99,4 +99,9 @@ inline constexpr auto growth = sheets::joined(common_emitter::emitterGrowth<Cont
 }));
 // clang-format on
 
+/// All of them under one name, to which a sheet with more of them adds its own.
+struct Controls {
+    using enum Control;
+};
+
 } // namespace velmor::desaco

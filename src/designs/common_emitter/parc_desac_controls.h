@@ -26,8 +26,7 @@ enum OwnControl : host::Handle {
 // clang-format on
 
 /// All of them under one name, for what the family shares.
-struct Controls {
-    using enum desaco::Control;
+struct Controls : desaco::Controls {
     using enum OwnControl;
 };
 

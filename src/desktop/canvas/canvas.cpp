@@ -10,6 +10,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <QtMath>
 
 #include "desktop/canvas/control_pane.h"
 #include "desktop/canvas/field_edit.h"
@@ -206,9 +207,67 @@ void Canvas::paintEvent(QPaintEvent* event)
     if (model_ == nullptr)
         return;
     // Measuring what a control paints on costs as much as painting it: the most of a canvas is painted without asking.
-    const QRegion clip = canvas_detail::isMostOf(event->region(), rect()) ? QRegion() : event->region();
-    inOrderOfPainting(*model_, [&](Handle control) { paintOne(painter, control, clip); });
-    paintPaleFields(painter, event->region());
+    if (!canvas_detail::isMostOf(event->region(), rect())) {
+        inOrderOfPainting(*model_, [&](Handle control) { paintOne(painter, control, event->region()); });
+        paintPaleFields(painter, event->region());
+    } else if (std::exchange(seen_, true) || !paintAsFirstSeen(painter)) {
+        paintWhole(painter);
+    }
+}
+
+void Canvas::paintWhole(QPainter& painter)
+{
+    inOrderOfPainting(*model_, [&](Handle control) { paintOne(painter, control, QRegion()); });
+    paintPaleFields(painter, rect());
+}
+
+// What a first picture shows: the sheet itself, with the hem that plates and shadows at its sides reach into.
+QRectF Canvas::pictured() const
+{
+    const double hem = 240.0 * view_.pixelsPerTwip;
+    const QPointF corner = view_.origin + QPointF(design_.left, design_.top) * view_.pixelsPerTwip;
+    const QRectF sheet(corner, QSizeF(design_.width, design_.height) * view_.pixelsPerTwip);
+    return sheet.adjusted(-hem, 0.0, hem, hem).toAlignedRect();
+}
+
+bool Canvas::liesInPicture() const
+{
+    const QRectF picture = pictured();
+    const auto& rows = model_->spec().controls;
+    return std::all_of(rows.begin(), rows.end(), [&](const host::ControlRow& row) {
+        return !hasPlace(row.kind) || row.look == host::Look::invisible || !paints(row.id) ||
+               picture.contains(ink(row.id).intersected(rect()));
+    });
+}
+
+// True when it was painted: from a picture, or with one made by the way.
+bool Canvas::paintAsFirstSeen(QPainter& painter)
+{
+    if (model_->role() != host::Role::sheet || view_.hovered != noControl || view_.pressed != noControl)
+        return false;
+    std::vector<bool> widgets(widgets_.size());
+    std::transform(widgets_.begin(), widgets_.end(), widgets.begin(),
+                   [](const QWidget* one) { return one != nullptr; });
+    const double ratio = devicePixelRatioF();
+    const SheetFace face = faceOf(*model_, view_, ratio, std::move(widgets));
+    const QRectF room = pictured();
+    if (const QPixmap* picture = desk_.firstPictures->find(face)) {
+        painter.drawPixmap(room.topLeft(), *picture);
+        return true;
+    }
+    if (!desk_.firstPictures->returns(face) || !liesInPicture())
+        return false;
+    QPixmap picture((room.size() * ratio).toSize());
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(view_.inks->paper);
+    {
+        QPainter inside(&picture);
+        inside.translate(-room.topLeft());
+        paintWhole(inside);
+    }
+    painter.drawPixmap(room.topLeft(), picture);
+    desk_.firstPictures->keep(face, picture);
+    return true;
 }
 
 // Over the rest, as their widgets would lie.

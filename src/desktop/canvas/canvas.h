@@ -92,6 +92,10 @@ private:
     void refreshWidget(host::Handle control, bool shown);
     bool wantsWidget(host::Handle control) const;
     void paintPaleFields(QPainter& painter, const QRegion& clip);
+    void paintWhole(QPainter& painter);
+    bool paintAsFirstSeen(QPainter& painter);
+    QRectF pictured() const;
+    bool liesInPicture() const;
     QWidget* makeWidget(host::Handle control);
     QWidget* makeField(host::Handle control);
     QWidget* makePage(host::Handle control);
@@ -115,6 +119,7 @@ private:
     std::unordered_map<const QObject*, host::Handle> handles_;
     mutable std::vector<QRectF> ink_;
     bool laidOut_ = false; ///< has a size; until then nothing is worth placing
+    bool seen_ = false;    ///< has been painted whole
     std::unique_ptr<Pointer> pointer_;
     std::unique_ptr<Keyboard> keyboard_;
 };

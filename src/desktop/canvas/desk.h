@@ -4,10 +4,12 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 #include <QRect>
 #include <QRegion>
 
+#include "desktop/canvas/first_pictures.h"
 #include "desktop/drawing/palette_of_inks.h"
 #include "host/control.h"
 #include "host/engine.h"
@@ -20,12 +22,13 @@ namespace velmor::desktop {
 struct Desk {
     host::Engine* engine = nullptr;
     const Inks* inks = &lightInks();
-    double scale = 1.0;             ///< logical pixels of 15 twips of a window's place, by the size of the main window
-    bool muted = false;             ///< pasted characters that the key filter refuses make no sound
-    bool closing = false;           ///< the program has ended; views take no more events
-    std::function<QRegion()> taken; ///< what a new window should not lie on: tools and the field in hand
-    std::function<QRect()> inHand;  ///< the field in hand, on the screen; empty without one
-    std::function<void()> nextPane; ///< the keyboard goes to the next window that is open beside the main one
+    double scale = 1.0; ///< logical pixels of 15 twips of a window's place, by the size of the main window
+    std::unique_ptr<FirstPictures> firstPictures = std::make_unique<FirstPictures>();
+    bool muted = false;                    ///< pasted characters that the key filter refuses make no sound
+    bool closing = false;                  ///< the program has ended; views take no more events
+    std::function<QRegion()> taken;        ///< what a new window should not lie on: tools and the field in hand
+    std::function<QRect()> inHand;         ///< the field in hand, on the screen; empty without one
+    std::function<void()> nextPane;        ///< the keyboard goes to the next window that is open beside the main one
     std::function<void(QWidget*)> touched; ///< a person pressed a key or a button in that view
     /// A person types or presses in that window, which a window that is only read may have in front of it.
     std::function<void(host::Window&)> turnTo;

@@ -6,7 +6,6 @@
 #include <cmath>
 
 #include <QPainter>
-#include <QRegularExpression>
 #include <QTransform>
 
 #include "desktop/drawing/control_painter.h"
@@ -101,11 +100,27 @@ bool isInline(Symbol symbol)
     return symbol == Symbol::terminal || symbol == Symbol::supplyUp || symbol == Symbol::supplyDown;
 }
 
+/// Length of a sign that stands there.
+qsizetype signAt(const QString& text, qsizetype at)
+{
+    return at < text.size() && (text[at] == QLatin1Char('+') || text[at] == QLatin1Char('-')) ? 1 : 0;
+}
+
+/// How many figures stand there.
+qsizetype digitsAt(const QString& text, qsizetype at)
+{
+    qsizetype end = at;
+    while (end < text.size() && text[end] >= QLatin1Char('0') && text[end] <= QLatin1Char('9'))
+        ++end;
+    return end - at;
+}
+
 /// A pale part has no value yet, or keeps the one that it had: a placeholder would only say its name twice.
 bool beginsWithNumber(const QString& text)
 {
-    static const QRegularExpression number(QStringLiteral("^[+-]?\\.?\\d"));
-    return number.match(text).hasMatch();
+    qsizetype at = signAt(text, 0);
+    at += text.mid(at, 1) == QLatin1String(".") ? 1 : 0;
+    return digitsAt(text, at) > 0;
 }
 
 /// "Rb1a" in the field of R_b1a: the name once more.
@@ -264,10 +279,24 @@ bool canSnap(const QTransform& transform, const View& view)
     return !view.forPrint && transform.type() <= QTransform::TxScale;
 }
 
+/// "-12", ".5", "1.2E-3", and nothing else beside it. Read by hand: a library of patterns costs half a megabyte at the start.
 bool isBareNumber(const QString& text)
 {
-    static const QRegularExpression number(QStringLiteral("^[+-]?(\\d+\\.?\\d*|\\.\\d+)([eE][+-]?\\d+)?$"));
-    return number.match(text).hasMatch();
+    qsizetype at = signAt(text, 0);
+    const qsizetype before = digitsAt(text, at);
+    at += before;
+    const bool point = at < text.size() && text[at] == QLatin1Char('.');
+    const qsizetype behind = point ? digitsAt(text, at + 1) : 0;
+    at += behind + (point ? 1 : 0);
+    if (before + behind == 0)
+        return false;
+    if (at == text.size())
+        return true;
+    if (text[at].toUpper() != QLatin1Char('E'))
+        return false;
+    at += 1 + signAt(text, at + 1);
+    const qsizetype exponent = digitsAt(text, at);
+    return exponent > 0 && at + exponent == text.size();
 }
 
 /// At most five significant figures of a fraction, but every figure before the point: the field beside the drawing shows

@@ -7,6 +7,7 @@
 //                                     clicked, WINDOW.CONTROL clicked in another window, FROM>TO dragged, FIELD=TEXT entered, "+"
 //                                     on along the chain, as after the button of a page
 #include <cstdio>
+#include <set>
 #include <string>
 
 #include <QApplication>
@@ -113,11 +114,13 @@ struct OpenWindow {
         });
     }
 
-    /// Takes the default of the field in hand, or goes on without it. False when the chain ends here.
+    /// Takes the default of the field in hand, or goes on without it; what comes again is accepted as it stands: two fields
+    /// may pass a question to each other by their defaults. False when the chain ends here.
     bool step()
     {
         const host::Handle before = window->focus();
-        for (const std::int16_t key : {std::int16_t{27}, std::int16_t{13}})
+        const bool again = !seen.insert(before).second;
+        for (const std::int16_t key : {again ? enter : escape, again ? escape : enter})
             if (before != host::noControl && window->focus() == before)
                 engine.userKey(*window, key);
         return window->focus() != before;
@@ -153,10 +156,14 @@ struct OpenWindow {
         }
     }
 
+    static constexpr std::int16_t escape = 27;
+    static constexpr std::int16_t enter = 13;
+
     QuietScreen screen;
     host::MemorySettings settings;
     host::Engine engine;
     host::Window* window = nullptr;
+    std::set<host::Handle> seen; ///< fields that have been in hand
 };
 
 /// The row of tools alone, twice as large.

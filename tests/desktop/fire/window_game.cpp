@@ -21,6 +21,7 @@
 
 #include "desktop/canvas/canvas.h"
 #include "desktop/drawing/texts.h"
+#include "desktop/windows/offer_line.h"
 #include "frame/mdi_form1_controls.h"
 #include "program/catalogue.h"
 
@@ -51,15 +52,21 @@ WindowGame::WindowGame(std::uint64_t seed, bool rude, Watchdog& watchdog)
 WindowGame::~WindowGame()
 {
     watchdog_.begin("the end of the game");
+    keeping_.reset();
     on_.reset();
     watchdog_.end();
 }
 
 void WindowGame::begin()
 {
+    keeping_.reset();
     on_.reset();
     on_ = std::make_unique<Bench>(program::catalogue());
+    keeping_ = std::make_unique<desktop::WorkKeeping>(
+        on_->engine, on_->screen,
+        keeping::Place{.folder = desktop::held(home_.filePath("kept")), .now = [this] { return time_; }});
     program::start(on_->engine);
+    keeping_->look();
     on_->main().resize(1366, 740);
     Bench::settle();
     on_->main().activateWindow();
@@ -84,6 +91,7 @@ void WindowGame::step(int number)
     const Move& move = chosen();
     const std::string event = std::string(move.name) + ", event " + std::to_string(number);
     watchdog_.begin(event);
+    ++time_;
     (this->*move.deed)();
     Bench::settle();
     watchdog_.end();
@@ -116,6 +124,7 @@ const WindowGame::Move& WindowGame::chosen()
         {4,  false, "an activation",      &WindowGame::activateSomething},
         {1,  false, "the window sized",   &WindowGame::sizeMain},
         {2,  false, "a wheel",            &WindowGame::wheel},
+        {1,  false, "the quiet line",     &WindowGame::pressOffer},
     };
     // clang-format on
     int all = 0;
@@ -200,6 +209,9 @@ host::Handle WindowGame::someControl(host::Window& window)
 
 void WindowGame::press(host::Window& window, Qt::MouseButton button)
 {
+    // A window manager gives the keyboard to what is pressed; not all do.
+    if (!rude_)
+        on_->viewOf(window).window()->activateWindow();
     if (const host::Handle control = someControl(window); control != host::noControl)
         QTest::mouseClick(on_->viewOf(window).window()->windowHandle(), button, Qt::NoModifier,
                           on_->middleOf(window, control));
@@ -353,10 +365,25 @@ void WindowGame::activateSomething()
     if (window == nullptr)
         return;
     QWidget& widget = on_->screen.keeper().frameOf(*window)->widget();
-    if (auto* frame = dynamic_cast<desktop::ChildFrame*>(&widget))
+    widget.window()->activateWindow();
+    Bench::settle();
+    // What was turned to may have closed others.
+    if (!on_->engine.isLoaded(window))
+        return;
+    if (auto* frame = dynamic_cast<desktop::ChildFrame*>(on_->screen.keeper().frameOf(*window)))
         on_->main().area().setActiveSubWindow(frame);
-    else
-        widget.activateWindow();
+}
+
+void WindowGame::pressOffer()
+{
+    const auto* line = on_->main().findChild<desktop::OfferLine*>();
+    std::vector<QPushButton*> buttons;
+    if (line != nullptr && on_->engine.windows().size() < window_game_detail::mostWindows)
+        for (QPushButton* button : line->findChildren<QPushButton*>())
+            if (button->isVisible())
+                buttons.push_back(button);
+    if (!buttons.empty())
+        chance_.one(buttons)->click();
 }
 
 void WindowGame::sizeMain()
@@ -433,7 +460,7 @@ void WindowGame::answerDialog(QDialog& dialog)
             edit->setText(QString::fromLatin1(chance_.one(window_game_detail::numbers)));
         break;
     case 2:
-        if (!buttons.isEmpty() && dialog.inherits("QMessageBox"))
+        if (!buttons.isEmpty() && dialog.objectName() == QStringLiteral("messageBox"))
             chance_.one(buttons)->click();
         break;
     default:

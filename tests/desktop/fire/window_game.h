@@ -10,6 +10,7 @@
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/fire/watchdog.h"
+#include "desktop/work_keeping.h"
 #include "player/chance.h"
 
 class QDialog;
@@ -61,6 +62,7 @@ private:
     void activateSomething();
     void sizeMain();
     void wheel();
+    void pressOffer();
 
     void answerSoon();
     void answer();
@@ -73,7 +75,10 @@ private:
     player::Chance chance_;
     bool rude_;
     Watchdog& watchdog_;
+    QTemporaryDir home_;
+    std::int64_t time_ = 1795000000; ///< of the clock; each event takes a second
     std::unique_ptr<Bench> on_;
+    std::unique_ptr<desktop::WorkKeeping> keeping_;
     std::unique_ptr<QObject> life_; ///< answers wait for nobody once the game is over
     std::vector<std::string> faults_;
     const void* lastDialog_ = nullptr;
