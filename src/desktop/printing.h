@@ -15,6 +15,8 @@ class QWidget;
 
 namespace velmor::desktop {
 
+struct Stage;
+
 /// The font of a print-out, its size in points times 20, so that its widths come out in twips.
 QFont twipFont(const host::Font& font, bool sizeGiven = true);
 

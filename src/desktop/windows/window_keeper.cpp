@@ -387,8 +387,10 @@ void WindowKeeper::windowActivated()
     if (awaited_ && awaited_ != active)
         return;
     awaited_ = nullptr;
-    if (std::exchange(wanted_, nullptr) != active)
+    if (wanted_ != active) {
+        wanted_ = nullptr;
         stripInHand_ = false;
+    }
     host::Window* turnedTo = nullptr;
     for (const auto& [window, frame] : frames_)
         if (&frame->widget() == active)
@@ -548,13 +550,13 @@ void WindowKeeper::turnToPane(host::Window& pane)
     const bool inside = pane.isChild() || pane.role() == Role::palette || pane.role() == Role::mainWindow;
     stripInHand_ = pane.role() == Role::palette;
     QWidget* top = inside ? static_cast<QWidget*>(main_) : &frameOf(pane)->widget();
+    wanted_ = top;
     if (inside && top->isActiveWindow()) {
         if (desk_.engine->current() != &pane)
             desk_.engine->userActivate(pane);
         postFocus();
         return;
     }
-    wanted_ = top;
     top->raise();
     top->activateWindow();
 }

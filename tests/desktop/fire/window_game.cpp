@@ -474,7 +474,7 @@ void WindowGame::answerDialog(QDialog& dialog)
             edit->setText(QString::fromLatin1(chance_.one(window_game_detail::numbers)));
         break;
     case 2:
-        if (!buttons.isEmpty() && dialog.inherits("QMessageBox"))
+        if (!buttons.isEmpty() && dialog.objectName() == QStringLiteral("messageBox"))
             chance_.one(buttons)->click();
         break;
     default:
