@@ -38,7 +38,8 @@ TEST(Stage, commonEmitterGoesFromTheCourseToTheTextbook)
 
 TEST(Stage, followerLosesWhatTheJunctionKeeps)
 {
-    const Stage stage{.kind = StageKind::follower, .Beta = 100, .designedQIc = 1e-3, .trueQIc = 1e-3, .RLw = 500, .Res = 10e3};
+    const Stage stage{
+        .kind = StageKind::follower, .Beta = 100, .designedQIc = 1e-3, .trueQIc = 1e-3, .RLw = 500, .Res = 10e3};
     EXPECT_EQ(gainOf(stage, {Truth::load}), 1);
     // 476.19 / (476.19 + 25.865 x 100 / 101)
     EXPECT_NEAR(gainOf(stage, allTruths()), 0.948976, 1e-6);
@@ -46,7 +47,12 @@ TEST(Stage, followerLosesWhatTheJunctionKeeps)
 
 TEST(Stage, feedbackLoadsTheCollectorAndTheInput)
 {
-    const Stage stage{.kind = StageKind::voltageFeedback, .Beta = 100, .designedQIc = 1e-3, .trueQIc = 1e-3, .RL = 10e3, .Rb1 = 100e3};
+    const Stage stage{.kind = StageKind::voltageFeedback,
+                      .Beta = 100,
+                      .designedQIc = 1e-3,
+                      .trueQIc = 1e-3,
+                      .RL = 10e3,
+                      .Rb1 = 100e3};
     EXPECT_NEAR(gainOf(stage, {}), 400, 1e-9);
     // (1 / 25.865 - 1 / 100000) x (10 K // 100 K)
     EXPECT_NEAR(gainOf(stage, allTruths()), 351.384, 0.001);
@@ -56,15 +62,22 @@ TEST(Stage, feedbackLoadsTheCollectorAndTheInput)
 
 TEST(Stage, pairDividesByTwoJunctions)
 {
-    const Stage stage{.kind = StageKind::pair, .Beta = 100, .designedQIc = 5e-4, .trueQIc = 5e-4, .RL = 16e3, .RLw = 16e3, .Res = 1e12};
-    EXPECT_NEAR(gainOf(stage, {}), 64, 1e-9);                      // 8000 / (2.5 x 50)
-    EXPECT_NEAR(gainOf(stage, {Truth::pairFactor}), 80, 1e-9);     // 8000 / (2 x 50)
-    EXPECT_NEAR(inputOf(stage, {}), 10000, 1e-6);                  // 100 x 2 x 50
+    const Stage stage{.kind = StageKind::pair,
+                      .Beta = 100,
+                      .designedQIc = 5e-4,
+                      .trueQIc = 5e-4,
+                      .RL = 16e3,
+                      .RLw = 16e3,
+                      .Res = 1e12};
+    EXPECT_NEAR(gainOf(stage, {}), 64, 1e-9);                  // 8000 / (2.5 x 50)
+    EXPECT_NEAR(gainOf(stage, {Truth::pairFactor}), 80, 1e-9); // 8000 / (2 x 50)
+    EXPECT_NEAR(inputOf(stage, {}), 10000, 1e-6);              // 100 x 2 x 50
 }
 
 TEST(Ladder, climbsOneTruthAtATimeAndTellsWhatIsLeft)
 {
-    constexpr RungRow rows[] = {{Truth::junction, {"uno", "one"}}, {Truth::thermal, {"dos", "two"}}, {Truth::alpha, {"tres", "three"}}};
+    constexpr RungRow rows[] = {
+        {Truth::junction, {"uno", "one"}}, {Truth::thermal, {"dos", "two"}}, {Truth::alpha, {"tres", "three"}}};
     const Ladder ladder = climb(5, emitterStage, gainOf, {}, rows, 4.79065);
     ASSERT_EQ(ladder.rungs.size(), 3U);
     EXPECT_NEAR(ladder.rungs[0].value, 4.85175, 1e-5);
