@@ -31,7 +31,7 @@ TEST(Stage, commonEmitterGoesFromTheCourseToTheTextbook)
     // 6428.57 / (25 + 1300)
     EXPECT_NEAR(gainOf(emitterStage, {Truth::junction}), 4.85175, 1e-5);
     // 6428.57 / (25.865 + 1300 x 81 / 80)
-    EXPECT_NEAR(gainOf(emitterStage, allTruths()), 4.79065, 1e-5);
+    EXPECT_NEAR(gainOf(emitterStage, allTruths()), 4.78988, 1e-5);
     // 140 K // 13 K // 80 x (25.865 + 1316.25) = 11895.4 // 107369
     EXPECT_NEAR(inputOf(emitterStage, allTruths()), 10709.0, 1);
 }
@@ -42,7 +42,7 @@ TEST(Stage, followerLosesWhatTheJunctionKeeps)
         .kind = StageKind::follower, .Beta = 100, .designedQIc = 1e-3, .trueQIc = 1e-3, .RLw = 500, .Res = 10e3};
     EXPECT_EQ(gainOf(stage, {Truth::load}), 1);
     // 476.19 / (476.19 + 25.865 x 100 / 101)
-    EXPECT_NEAR(gainOf(stage, allTruths()), 0.948976, 1e-6);
+    EXPECT_NEAR(gainOf(stage, allTruths()), 0.948966, 1e-6);
 }
 
 TEST(Stage, feedbackLoadsTheCollectorAndTheInput)
@@ -78,13 +78,13 @@ TEST(Ladder, climbsOneTruthAtATimeAndTellsWhatIsLeft)
 {
     constexpr RungRow rows[] = {
         {Truth::junction, {"uno", "one"}}, {Truth::thermal, {"dos", "two"}}, {Truth::alpha, {"tres", "three"}}};
-    const Ladder ladder = climb(5, emitterStage, gainOf, {}, rows, 4.79065);
+    const Ladder ladder = climb(5, emitterStage, gainOf, {}, rows, 4.78988);
     ASSERT_EQ(ladder.rungs.size(), 3U);
     EXPECT_NEAR(ladder.rungs[0].value, 4.85175, 1e-5);
     EXPECT_NEAR(ladder.stepOf(0), -0.2614, 0.0001); // 20 log(4.85175 / 5)
     EXPECT_EQ(ladder.highest()->reason.en, "one");
     EXPECT_LT(ladder.remainder(), 1e-4);
-    EXPECT_NEAR(climb(5, emitterStage, gainOf, {}, rows, 9.5813).remainder(), 6.0206, 0.001) << "twice: 6 dB";
+    EXPECT_NEAR(climb(5, emitterStage, gainOf, {}, rows, 9.57976).remainder(), 6.0206, 0.001) << "twice: 6 dB";
 }
 
 } // namespace velmor::check::test
