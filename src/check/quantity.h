@@ -48,8 +48,8 @@ struct QuantityText {
     Quantity quantity = Quantity::QIc;
     std::string_view name{}; ///< as a walk calls it
     std::string_view unit{};
-    host::BiText meaning{};
     Measure measure = Measure::share;
+    host::BiText meaning{};
 };
 
 /// One row each, in the order of the table that the student sees.

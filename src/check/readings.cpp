@@ -112,7 +112,9 @@ Measured currentOf(const Circuit& circuit, const Plot& point, std::size_t number
     const Part* transistor = transistorOf(circuit, number);
     if (transistor == nullptr)
         return std::nullopt;
-    const Measured current = pointOf(point, "@" + small(transistor->name.starts_with('Q') ? transistor->name : "Q" + transistor->name) + "[ic]", row);
+    const Measured current = pointOf(
+        point, "@" + small(transistor->name.starts_with('Q') ? transistor->name : "Q" + transistor->name) + "[ic]",
+        row);
     return current ? Measured(std::abs(*current)) : std::nullopt;
 }
 

@@ -40,8 +40,7 @@ public:
     /// installed meanwhile is found.
     explicit Ngspice(std::string program = {}, std::chrono::milliseconds limit = std::chrono::seconds(5))
         : program_(std::move(program)), limit_(limit)
-    {
-    }
+    {}
     Simulation run(const std::string& deck) override;
 
 private:

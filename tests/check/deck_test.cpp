@@ -53,8 +53,8 @@ TEST(Deck, isTheSameUnderACommaLocale)
 TEST(Deck, ordersWhatIsAskedForAlone)
 {
     const std::string deck = deckOf(divider(), {.bias = false, .response = false, .drive = 2});
-    EXPECT_EQ(deck.find("\n.op"), std::string::npos);
-    EXPECT_EQ(deck.find("\n.ac"), std::string::npos);
+    EXPECT_EQ(deck.find("\n.op\n"), std::string::npos);
+    EXPECT_EQ(deck.find("\n.ac "), std::string::npos);
     EXPECT_NE(deck.find("\n.tran"), std::string::npos);
     EXPECT_EQ(deck.find("\n.dc"), std::string::npos) << "no temperatures are given";
     EXPECT_NE(deck.find("SIN(0 1 1000)"), std::string::npos);

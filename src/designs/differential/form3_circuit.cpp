@@ -62,9 +62,11 @@ constexpr check::QuantityRow quantities[] = {
 
 constexpr host::BiText thermalVolts{"El curso cuenta 25 mV por juntura; a 27 grados son 25.9 mV.",
                                     "The course counts 25 mV a junction; at 27 degrees there are 25.9 mV."};
-constexpr host::BiText trueCurrent{"Los transistores no llevan justo la QIc del diseño: con la corriente verdadera r'e es otra.",
+constexpr host::BiText trueCurrent{
+    "Los transistores no llevan justo la QIc del diseño: con la corriente verdadera r'e es otra.",
                                    "The transistors do not carry exactly the QIc of the design: with the true current r'e is another."};
-constexpr host::BiText tailResistor{"Res no es una fuente de corriente perfecta: los emisores siguen a la entrada un poco menos que la mitad.",
+constexpr host::BiText tailResistor{
+    "Res no es una fuente de corriente perfecta: los emisores siguen a la entrada un poco menos que la mitad.",
                                     "Res is no perfect current source: the emitters follow the input by a little less than the half."};
 constexpr check::RungRow gainRungs[] = {
     {Truth::pairFactor, {"El curso divide por 2.5 x r'e; la señal pasa por dos junturas, que son 2 x r'e.",

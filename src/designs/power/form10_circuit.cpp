@@ -44,7 +44,8 @@ constexpr check::PartRow parts[] = {
 constexpr check::TransistorRow transistors[] = {
     {.name = "Q1", .collector = "k", .emitter = "0", .Beta = driverBeta, .QIc = Ibias, .Vj = power::Vj},
     {.name = "Q2", .collector = "cc", .base = "a", .emitter = "e2", .Beta = {.scale = outputBeta}, .QIc = Ibias, .Vj = power::Vj},
-    {.name = "Q3", .collector = "0", .base = "k", .emitter = "e3", .Beta = {.scale = outputBeta}, .QIc = Ibias, .Vj = power::Vj, .isPnp = true},
+    {.name = "Q3", .collector = "0", .base = "k", .emitter = "e3", .Beta = {.scale = outputBeta}, .QIc = Ibias, .Vj = power::Vj,
+     .isPnp = true},
 };
 
 constexpr check::QuantityRow quantities[] = {

@@ -51,9 +51,11 @@ constexpr check::PartRow parts[] = {
 constexpr check::TransistorRow transistors[] = {
     {.name = "Q1", .collector = "k", .emitter = "e1", .Beta = driverBeta, .QIc = Ibias, .Vj = power::Vj},
     {.name = "Q2", .collector = "cc", .base = "a", .emitter = "e2", .Beta = outputBeta, .QIc = Ibias, .Vj = power::Vj},
-    {.name = "Q3", .collector = "0", .base = "k", .emitter = "e3", .Beta = outputBeta, .QIc = Ibias, .Vj = power::Vj, .isPnp = true},
+    {.name = "Q3", .collector = "0", .base = "k", .emitter = "e3", .Beta = outputBeta, .QIc = Ibias, .Vj = power::Vj,
+     .isPnp = true},
     {.name = "Q4", .collector = "cc", .base = "e2", .emitter = "e4", .Beta = outputBeta, .QIc = Ibias, .Vj = power::Vj},
-    {.name = "Q5", .collector = "0", .base = "e3", .emitter = "e5", .Beta = outputBeta, .QIc = Ibias, .Vj = power::Vj, .isPnp = true},
+    {.name = "Q5", .collector = "0", .base = "e3", .emitter = "e5", .Beta = outputBeta, .QIc = Ibias, .Vj = power::Vj,
+     .isPnp = true},
 };
 
 constexpr check::QuantityRow quantities[] = {
