@@ -141,13 +141,13 @@ Design trimmed(const Design& design, Simulator& simulator)
 PowerPoint cleanPoint(const Design& design, Simulator& simulator, const PowerPoint& atCourse)
 {
     PowerPoint point = atCourse;
-    while (isClean(point) && point.drive < mostDrive) {
+    while (isClean(point) && point.drive < power_detail::mostDrive) {
         const PowerPoint higher = runAt(design, simulator, point.drive / stepDown);
         if (!isClean(higher))
             return refined(design, simulator, point, higher);
         point = higher;
     }
-    while (!isClean(point) && point.drive > leastDrive) {
+    while (!isClean(point) && point.drive > power_detail::leastDrive) {
         const PowerPoint unclean = point;
         auto [next, afterNext] =
             runBeside(design, simulator, unclean.drive * stepDown, unclean.drive * stepDown * stepDown);

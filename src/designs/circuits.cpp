@@ -14,9 +14,10 @@ namespace velmor::designs {
 const check::SheetTable* circuitTableOf(std::string_view window)
 {
     static const std::array tables{
-        &form2::circuit,  &desaco::circuit, &parc_desac::circuit, &form8::circuit,  &form18::circuit,
-        &form4::circuit,  &form17::circuit, &form9::circuit,      &form3::circuit,  &form13::circuit,
-        &form12::circuit, &form15::circuit, &form20::circuit,     &form10::circuit, &form11::circuit,
+        &form2::checkedCircuit,  &desaco::checkedCircuit, &parc_desac::checkedCircuit, &form8::checkedCircuit,
+        &form18::checkedCircuit, &form4::checkedCircuit,  &form17::checkedCircuit,     &form9::checkedCircuit,
+        &form3::checkedCircuit,  &form13::checkedCircuit, &form12::checkedCircuit,     &form15::checkedCircuit,
+        &form20::checkedCircuit, &form10::checkedCircuit, &form11::checkedCircuit,
     };
     for (const check::SheetTable* table : tables)
         if (host::sameName(table->sheet, window))

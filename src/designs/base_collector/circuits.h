@@ -7,13 +7,13 @@
 namespace velmor {
 
 namespace form4 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 namespace form17 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 namespace form9 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 
 } // namespace velmor

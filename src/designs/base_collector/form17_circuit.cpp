@@ -73,7 +73,7 @@ constexpr host::BiText assumed[] = {noEarlyEffect};
 
 } // namespace form17_circuit
 
-const check::SheetTable circuit{
+const check::SheetTable checkedCircuit{
     .sheet = "Form17",
     .stage = check::StageKind::follower,
     .parts = form17_circuit::parts,

@@ -69,17 +69,17 @@ constexpr host::BiText assumed[] = {
 
 } // namespace form4_circuit
 
-const check::SheetTable circuit{.sheet = "Form4",
-                                .stage = check::StageKind::commonBase,
-                                .parts = form4_circuit::parts,
-                                .transistors = form4_circuit::transistors,
-                                .quantities = form4_circuit::quantities,
-                                .Ein = {Text14},
-                                .fo = {Text12},
-                                .temperature = {Text3},
-                                .gainRungs = form4_circuit::gainRungs,
-                                .inputRungs = form4_circuit::inputRungs,
-                                .assumed = form4_circuit::assumed,
-                                .passed = check::hasPassed<Form4>};
+const check::SheetTable checkedCircuit{.sheet = "Form4",
+                                       .stage = check::StageKind::commonBase,
+                                       .parts = form4_circuit::parts,
+                                       .transistors = form4_circuit::transistors,
+                                       .quantities = form4_circuit::quantities,
+                                       .Ein = {Text14},
+                                       .fo = {Text12},
+                                       .temperature = {Text3},
+                                       .gainRungs = form4_circuit::gainRungs,
+                                       .inputRungs = form4_circuit::inputRungs,
+                                       .assumed = form4_circuit::assumed,
+                                       .passed = check::hasPassed<Form4>};
 
 } // namespace velmor::form4

@@ -81,17 +81,17 @@ constexpr host::BiText assumed[] = {{"La salida que se mide es la del colector",
 
 } // namespace form9_circuit
 
-const check::SheetTable circuit{.sheet = "Form9",
-                                .stage = check::StageKind::splitter,
-                                .parts = form9_circuit::parts,
-                                .transistors = form9_circuit::transistors,
-                                .quantities = form9_circuit::quantities,
-                                .Ein = {Text14},
-                                .fo = {Text12},
-                                .gainRungs = form9_circuit::gainRungs,
-                                .inputCounted = {check::Truth::ownInput, check::Truth::lowerResistor},
-                                .inputRungs = form9_circuit::inputRungs,
-                                .assumed = form9_circuit::assumed,
-                                .passed = check::hasPassed<Form9>};
+const check::SheetTable checkedCircuit{.sheet = "Form9",
+                                       .stage = check::StageKind::splitter,
+                                       .parts = form9_circuit::parts,
+                                       .transistors = form9_circuit::transistors,
+                                       .quantities = form9_circuit::quantities,
+                                       .Ein = {Text14},
+                                       .fo = {Text12},
+                                       .gainRungs = form9_circuit::gainRungs,
+                                       .inputCounted = {check::Truth::ownInput, check::Truth::lowerResistor},
+                                       .inputRungs = form9_circuit::inputRungs,
+                                       .assumed = form9_circuit::assumed,
+                                       .passed = check::hasPassed<Form9>};
 
 } // namespace velmor::form9

@@ -7,20 +7,20 @@
 namespace velmor {
 
 namespace form2 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 
 namespace desaco {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 namespace parc_desac {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 namespace form8 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 namespace form18 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 
 } // namespace velmor

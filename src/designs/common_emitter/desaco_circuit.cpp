@@ -29,18 +29,18 @@ constexpr auto quantities = quantityRows<Control>({.held = check::heldBy<Desaco,
 
 } // namespace desaco_circuit
 
-const check::SheetTable circuit{.sheet = "desaco",
-                                .stage = check::StageKind::commonEmitter,
-                                .parts = desaco_circuit::parts,
-                                .transistors = transistors<Control>,
-                                .quantities = desaco_circuit::quantities,
-                                .Ein = {Text14},
-                                .fo = {Text12},
-                                .temperature = {Text3},
-                                .gainRungs = bypassedGainRungs,
-                                .inputCounted = {Truth::ownInput, Truth::upperResistor},
-                                .inputRungs = bypassedInputRungs,
-                                .assumed = assumptions,
-                                .passed = check::hasPassed<Desaco>};
+const check::SheetTable checkedCircuit{.sheet = "desaco",
+                                       .stage = check::StageKind::commonEmitter,
+                                       .parts = desaco_circuit::parts,
+                                       .transistors = transistors<Control>,
+                                       .quantities = desaco_circuit::quantities,
+                                       .Ein = {Text14},
+                                       .fo = {Text12},
+                                       .temperature = {Text3},
+                                       .gainRungs = bypassedGainRungs,
+                                       .inputCounted = {Truth::ownInput, Truth::upperResistor},
+                                       .inputRungs = bypassedInputRungs,
+                                       .assumed = assumptions,
+                                       .passed = check::hasPassed<Desaco>};
 
 } // namespace velmor::desaco

@@ -46,18 +46,18 @@ constexpr auto quantities = quantityRows<Form18>();
 
 } // namespace form18_circuit
 
-const check::SheetTable circuit{.sheet = "Form18",
-                                .stage = check::StageKind::voltageFeedback,
-                                .parts = form18_circuit::parts,
-                                .transistors = form18_circuit::oneTransistor,
-                                .quantities = form18_circuit::quantities,
-                                .Ein = {Text14},
-                                .fo = {Text12},
-                                .gainRungs = gainRungs,
-                                .inputCounted = {Truth::upperResistor},
-                                .inputRungs = form18_circuit::inputRungs,
-                                .assumed = assumptions,
-                                .passed = check::hasPassed<Form18>,
-                                .grounded = stas};
+const check::SheetTable checkedCircuit{.sheet = "Form18",
+                                       .stage = check::StageKind::voltageFeedback,
+                                       .parts = form18_circuit::parts,
+                                       .transistors = form18_circuit::oneTransistor,
+                                       .quantities = form18_circuit::quantities,
+                                       .Ein = {Text14},
+                                       .fo = {Text12},
+                                       .gainRungs = gainRungs,
+                                       .inputCounted = {Truth::upperResistor},
+                                       .inputRungs = form18_circuit::inputRungs,
+                                       .assumed = assumptions,
+                                       .passed = check::hasPassed<Form18>,
+                                       .grounded = stas};
 
 } // namespace velmor::form18

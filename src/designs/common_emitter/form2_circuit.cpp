@@ -41,18 +41,18 @@ constexpr auto quantities = quantityRows<Control>({statu31});
 
 } // namespace form2_circuit
 
-const check::SheetTable circuit{.sheet = "Form2",
-                                .stage = check::StageKind::commonEmitter,
-                                .parts = form2_circuit::parts,
-                                .transistors = transistors<Control>,
-                                .quantities = form2_circuit::quantities,
-                                .Ein = {Text14},
-                                .fo = {Text12},
-                                .temperature = {Text3},
-                                .gainRungs = unbypassedGainRungs,
-                                .inputCounted = {Truth::upperResistor, Truth::lowerResistor},
-                                .inputRungs = form2_circuit::inputRungs,
-                                .assumed = assumptions,
-                                .passed = check::hasPassed<Form2>};
+const check::SheetTable checkedCircuit{.sheet = "Form2",
+                                       .stage = check::StageKind::commonEmitter,
+                                       .parts = form2_circuit::parts,
+                                       .transistors = transistors<Control>,
+                                       .quantities = form2_circuit::quantities,
+                                       .Ein = {Text14},
+                                       .fo = {Text12},
+                                       .temperature = {Text3},
+                                       .gainRungs = unbypassedGainRungs,
+                                       .inputCounted = {Truth::upperResistor, Truth::lowerResistor},
+                                       .inputRungs = form2_circuit::inputRungs,
+                                       .assumed = assumptions,
+                                       .passed = check::hasPassed<Form2>};
 
 } // namespace velmor::form2

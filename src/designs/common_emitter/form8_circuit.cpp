@@ -48,18 +48,18 @@ constexpr auto quantities = quantityRows<Form8>();
 
 } // namespace form8_circuit
 
-const check::SheetTable circuit{.sheet = "Form8",
-                                .stage = check::StageKind::voltageFeedback,
-                                .parts = form8_circuit::parts,
-                                .transistors = form8_circuit::oneTransistor,
-                                .quantities = form8_circuit::quantities,
-                                .Ein = {Text14},
-                                .fo = {Text12},
-                                .gainRungs = gainRungs,
-                                .inputCounted = {Truth::upperResistor},
-                                .inputRungs = form8_circuit::inputRungs,
-                                .assumed = assumptions,
-                                .passed = check::hasPassed<Form8>,
-                                .grounded = stas};
+const check::SheetTable checkedCircuit{.sheet = "Form8",
+                                       .stage = check::StageKind::voltageFeedback,
+                                       .parts = form8_circuit::parts,
+                                       .transistors = form8_circuit::oneTransistor,
+                                       .quantities = form8_circuit::quantities,
+                                       .Ein = {Text14},
+                                       .fo = {Text12},
+                                       .gainRungs = gainRungs,
+                                       .inputCounted = {Truth::upperResistor},
+                                       .inputRungs = form8_circuit::inputRungs,
+                                       .assumed = assumptions,
+                                       .passed = check::hasPassed<Form8>,
+                                       .grounded = stas};
 
 } // namespace velmor::form8

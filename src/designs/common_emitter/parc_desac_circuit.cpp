@@ -50,18 +50,18 @@ constexpr auto quantities =
 
 } // namespace parc_desac_circuit
 
-const check::SheetTable circuit{.sheet = "ParcDesac",
-                                .stage = check::StageKind::commonEmitter,
-                                .parts = parc_desac_circuit::parts,
-                                .transistors = transistors<Controls>,
-                                .quantities = parc_desac_circuit::quantities,
-                                .Ein = {Text14},
-                                .fo = {Text12},
-                                .temperature = {Text3},
-                                .gainRungs = unbypassedGainRungs,
-                                .inputCounted = {Truth::ownInput, Truth::lowerResistor},
-                                .inputRungs = parc_desac_circuit::inputRungs,
-                                .assumed = assumptions,
-                                .passed = check::hasPassed<ParcDesac>};
+const check::SheetTable checkedCircuit{.sheet = "ParcDesac",
+                                       .stage = check::StageKind::commonEmitter,
+                                       .parts = parc_desac_circuit::parts,
+                                       .transistors = transistors<Controls>,
+                                       .quantities = parc_desac_circuit::quantities,
+                                       .Ein = {Text14},
+                                       .fo = {Text12},
+                                       .temperature = {Text3},
+                                       .gainRungs = unbypassedGainRungs,
+                                       .inputCounted = {Truth::ownInput, Truth::lowerResistor},
+                                       .inputRungs = parc_desac_circuit::inputRungs,
+                                       .assumed = assumptions,
+                                       .passed = check::hasPassed<ParcDesac>};
 
 } // namespace velmor::parc_desac

@@ -7,13 +7,13 @@
 namespace velmor {
 
 namespace form3 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 namespace form13 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 namespace form12 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 
 } // namespace velmor

@@ -43,11 +43,11 @@ constexpr host::BiText assumed[] = {
 
 } // namespace form12_circuit
 
-const check::SheetTable circuit{.sheet = "Form12",
-                                .parts = form12_circuit::parts,
-                                .transistors = form12_circuit::transistors,
-                                .quantities = form12_circuit::quantities,
-                                .assumed = form12_circuit::assumed,
-                                .passed = check::hasPassed<Form12>};
+const check::SheetTable checkedCircuit{.sheet = "Form12",
+                                       .parts = form12_circuit::parts,
+                                       .transistors = form12_circuit::transistors,
+                                       .quantities = form12_circuit::quantities,
+                                       .assumed = form12_circuit::assumed,
+                                       .passed = check::hasPassed<Form12>};
 
 } // namespace velmor::form12

@@ -109,18 +109,18 @@ constexpr host::BiText assumed[] = {
 
 } // namespace form13_circuit
 
-const check::SheetTable circuit{.sheet = "Form13",
-                                .stage = check::StageKind::compound,
-                                .parts = form13_circuit::parts,
-                                .transistors = form13_circuit::transistors,
-                                .quantities = form13_circuit::quantities,
-                                .Ein = {.held = form13_circuit::inputInUse},
-                                .fo = {.scale = form13_circuit::lowestFrequency},
-                                .temperature = {.held = check::heldBy<Form13, &Quantities::T>},
-                                .gainRungs = form13_circuit::gainRungs,
-                                .inputRungs = form13_circuit::inputRungs,
-                                .assumed = form13_circuit::assumed,
-                                .passed = check::hasPassed<Form13>,
-                                .drifting = 3};
+const check::SheetTable checkedCircuit{.sheet = "Form13",
+                                       .stage = check::StageKind::compound,
+                                       .parts = form13_circuit::parts,
+                                       .transistors = form13_circuit::transistors,
+                                       .quantities = form13_circuit::quantities,
+                                       .Ein = {.held = form13_circuit::inputInUse},
+                                       .fo = {.scale = form13_circuit::lowestFrequency},
+                                       .temperature = {.held = check::heldBy<Form13, &Quantities::T>},
+                                       .gainRungs = form13_circuit::gainRungs,
+                                       .inputRungs = form13_circuit::inputRungs,
+                                       .assumed = form13_circuit::assumed,
+                                       .passed = check::hasPassed<Form13>,
+                                       .drifting = 3};
 
 } // namespace velmor::form13

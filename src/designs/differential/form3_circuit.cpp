@@ -96,17 +96,17 @@ constexpr host::BiText assumed[] = {
 
 } // namespace form3_circuit
 
-const check::SheetTable circuit{.sheet = "Form3",
-                                .stage = check::StageKind::pair,
-                                .parts = form3_circuit::parts,
-                                .transistors = form3_circuit::transistors,
-                                .quantities = form3_circuit::quantities,
-                                .Ein = {.held = check::heldBy<Form3, &Quantities::Ein>},
-                                .fo = {.held = check::heldBy<Form3, &Quantities::fo>},
-                                .temperature = {.held = check::heldBy<Form3, &Quantities::T>},
-                                .gainRungs = form3_circuit::gainRungs,
-                                .inputRungs = form3_circuit::inputRungs,
-                                .assumed = form3_circuit::assumed,
-                                .passed = check::hasPassed<Form3>};
+const check::SheetTable checkedCircuit{.sheet = "Form3",
+                                       .stage = check::StageKind::pair,
+                                       .parts = form3_circuit::parts,
+                                       .transistors = form3_circuit::transistors,
+                                       .quantities = form3_circuit::quantities,
+                                       .Ein = {.held = check::heldBy<Form3, &Quantities::Ein>},
+                                       .fo = {.held = check::heldBy<Form3, &Quantities::fo>},
+                                       .temperature = {.held = check::heldBy<Form3, &Quantities::T>},
+                                       .gainRungs = form3_circuit::gainRungs,
+                                       .inputRungs = form3_circuit::inputRungs,
+                                       .assumed = form3_circuit::assumed,
+                                       .passed = check::hasPassed<Form3>};
 
 } // namespace velmor::form3

@@ -7,16 +7,16 @@
 namespace velmor {
 
 namespace form15 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 namespace form20 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 namespace form10 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 namespace form11 {
-extern const check::SheetTable circuit;
+extern const check::SheetTable checkedCircuit;
 }
 
 } // namespace velmor

@@ -62,15 +62,16 @@ constexpr host::BiText assumed[] = {{"Betas 100 y 50", "Betas 100 and 50"}, powe
 
 } // namespace form10_circuit
 
-const check::SheetTable circuit{.sheet = "Form10",
-                                .parts = form10_circuit::parts,
-                                .transistors = form10_circuit::transistors,
-                                .quantities = form10_circuit::quantities,
-                                .Ein = {.scale = power::effective, .held = check::heldBy<Form10, &Quantities::EgPP>},
-                                .assumed = form10_circuit::assumed,
-                                .passed = check::hasPassed<Form10>,
-                                .preset = "Rb1b",
-                                .middle = "x",
-                                .mostPeak = {Text5, check::milli* form10_circuit::outputBeta}};
+const check::SheetTable checkedCircuit{
+    .sheet = "Form10",
+    .parts = form10_circuit::parts,
+    .transistors = form10_circuit::transistors,
+    .quantities = form10_circuit::quantities,
+    .Ein = {.scale = power::effective, .held = check::heldBy<Form10, &Quantities::EgPP>},
+    .assumed = form10_circuit::assumed,
+    .passed = check::hasPassed<Form10>,
+    .preset = "Rb1b",
+    .middle = "x",
+    .mostPeak = {Text5, check::milli* form10_circuit::outputBeta}};
 
 } // namespace velmor::form10

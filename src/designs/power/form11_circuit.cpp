@@ -74,7 +74,7 @@ constexpr host::BiText assumed[] = {
 
 } // namespace form11_circuit
 
-const check::SheetTable circuit{
+const check::SheetTable checkedCircuit{
     .sheet = "Form11",
     .parts = form11_circuit::parts,
     .transistors = form11_circuit::transistors,

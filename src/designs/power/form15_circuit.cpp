@@ -46,12 +46,13 @@ constexpr host::BiText assumed[] = {{"Rb1 empieza en la salida", "Rb1 starts at 
 
 } // namespace form15_circuit
 
-const check::SheetTable circuit{.sheet = "Form15",
-                                .parts = form15_circuit::parts,
-                                .transistors = form15_circuit::transistors,
-                                .quantities = form15_circuit::quantities,
-                                .Ein = {.scale = power::effective, .held = check::heldBy<Form15, &Quantities::EgPP>},
-                                .assumed = form15_circuit::assumed,
-                                .passed = check::hasPassed<Form15>};
+const check::SheetTable checkedCircuit{
+    .sheet = "Form15",
+    .parts = form15_circuit::parts,
+    .transistors = form15_circuit::transistors,
+    .quantities = form15_circuit::quantities,
+    .Ein = {.scale = power::effective, .held = check::heldBy<Form15, &Quantities::EgPP>},
+    .assumed = form15_circuit::assumed,
+    .passed = check::hasPassed<Form15>};
 
 } // namespace velmor::form15

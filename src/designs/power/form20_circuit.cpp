@@ -64,7 +64,7 @@ constexpr host::BiText assumed[] = {{"Rb1 empieza en la salida", "Rb1 starts at 
 
 } // namespace form20_circuit
 
-const check::SheetTable circuit{
+const check::SheetTable checkedCircuit{
     .sheet = "form20",
     .parts = form20_circuit::parts,
     .transistors = form20_circuit::transistors,
