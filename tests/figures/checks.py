@@ -4,7 +4,8 @@
 
 Every circuit is written here once more, by hand, with the values that a student types and the capacitors of the course's
 formulas; ngspice writes its vectors as text, and gain, corner, impedance and harmonics are worked out from them in another way
-than the program's (steps between neighbours, integrals over the uneven steps of the simulator). Nothing is taken from the program.
+than the program's (steps between neighbours, integrals over the uneven steps of the simulator). No measured value is taken from the
+program; a few values of the designs are what a sheet shows, rounded (ERL, Eq, Ein, Rb2), and typed as such.
 
     checks.py FOLDER [SHEET...]    writes FOLDER/<sheet>.walk, for all fifteen without names
 """
