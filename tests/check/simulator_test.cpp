@@ -37,7 +37,7 @@ const std::string onePlot = R"(printf 'Plotname: Operating Point\nFlags: real\nN
 
 const std::string deck = "* nothing\n.end\n";
 
-bool hasNgspice()
+bool ngspiceIsThere()
 {
     return !findProgram("ngspice").empty();
 }
@@ -127,7 +127,7 @@ TEST(Simulator, leavesNoFolderBehindAndWorksInAnyFolder)
     const InFolder there(folder);
     EXPECT_EQ(Ngspice(fake("good", onePlot)).run(deck).end, SimulationEnd::done);
     EXPECT_TRUE(fs::is_empty(folder));
-    if (!hasNgspice())
+    if (!ngspiceIsThere())
         GTEST_SKIP() << "ngspice is not installed";
     const Simulation simulation =
         Ngspice().run("* divider\nV1 a 0 10\nR1 a b 1000\nR2 b 0 3000\n.save all\n.op\n.end\n");
