@@ -108,7 +108,7 @@ class Palette(Shell):
         velmor.wait_value("ΔQIc", "5")
         # The palette's end is the program's: its button asks, and No leaves both.
         self.press_at(strip[0] + strip[2] - 12, strip[1] + 10, "click", "1")
-        self.answer("Desea abandonar", "n")
+        self.program.answer("Desea abandonar", "n")
         self.assertEqual(velmor.place(self.strip()), strip)
         velmor.focused("ΔQIc")
 
@@ -169,13 +169,13 @@ class Menus(Shell):
     def test_a_clone_of_a_maximised_sheet_is_maximised_and_the_frame_names_it(self):
         velmor = self.program
         velmor.focused("ΔQIc")
-        x, y, width, _ = velmor.place(next(sheet for sheet in self.sheets()))
+        x, y, width, _ = velmor.place(next(sheet for sheet in velmor.sheets()))
         self.press_at(x + width // 2, y + 12, "click", "--repeat", "2", "1")
         until(lambda: "Emisor" in (self.main_window().get_name() or ""), "the sheet's name in the frame")
         velmor.press(velmor.see("^Abrir otro circuito igual", "push button"))
-        until(lambda: len(self.sheets()) == 2, "a second sheet")
+        until(lambda: len(velmor.sheets()) == 2, "a second sheet")
         until(lambda: "Emisor" in (self.main_window().get_name() or ""), "the clone's name in the frame")
-        sizes = {velmor.place(sheet)[2:] for sheet in self.sheets()}
+        sizes = {velmor.place(sheet)[2:] for sheet in velmor.sheets()}
         self.assertEqual(len(sizes), 1)
 
 

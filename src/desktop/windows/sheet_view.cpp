@@ -220,6 +220,21 @@ QRect SheetView::boxOf(Handle control) const
     return {on->mapToGlobal(box.topLeft()), box.size()};
 }
 
+QRegion SheetView::carried() const
+{
+    QRegion region;
+    if (model() == nullptr)
+        return region;
+    for (const host::ControlRow& row : model()->spec().controls) {
+        const CanvasPlan::Entry& plan = canvas_->planOf(row.id);
+        if (plan.draggable && isShown(*model(), row.id) && model()->enabled(row.id)) {
+            const QRect box = canvas_->boxInPixels(row.id);
+            region += QRect(canvas_->mapToGlobal(box.topLeft()), box.size());
+        }
+    }
+    return region;
+}
+
 // A small window beside a small main window keeps its readable size rather than scroll.
 QSize SheetView::wantedSize() const
 {

@@ -44,6 +44,8 @@ public:
     host::Place designOfTool() const;
     /// What the keyboard works on, in screen coordinates: the field in hand, in an editor the line; empty without one.
     QRect inHand() const;
+    /// What can be dragged, on the screen.
+    QRegion carried() const;
     /// The same; while a field is being left, that one.
     QRect spokenOf() const;
     /// Size in logical pixels that shows the window as its table wants it.

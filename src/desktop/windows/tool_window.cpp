@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 #include <QCloseEvent>
 #include <QPainter>
@@ -26,6 +27,12 @@ constexpr int gap = 12;               ///< logical pixels to the edge of the scr
 constexpr double largestShare = 0.92; ///< of the screen
 constexpr int frame = 3;              ///< logical pixels around the window, by which its size is changed
 constexpr int movedByHand = 64;       ///< logical pixels; window managers move a little on their own
+
+int areaOf(const QRegion& region)
+{
+    return std::accumulate(region.begin(), region.end(), 0,
+                           [](int sum, const QRect& part) { return sum + part.width() * part.height(); });
+}
 
 } // namespace tool_window_detail
 
@@ -127,8 +134,8 @@ bool ToolWindow::isMovedByHand() const
     return placed_ && (pos() - wished_).manhattanLength() > tool_window_detail::movedByHand;
 }
 
-// Beside the field that it was asked for at; where that would hide another tool, to the right, where sheets have their notes
-// rather than their fields. What a hand has moved stays there.
+// Beside the field that it was asked for at; where that would hide another tool or what is to be dragged, wherever it hides least
+// of them. What a hand has moved stays there.
 void ToolWindow::place()
 {
     if (isMovedByHand())
@@ -156,9 +163,10 @@ void ToolWindow::place()
                             QPoint(left, top),
                             QPoint(left, middle.y()),
                             middle};
-    const auto* best = std::find_if(wishes.begin(), wishes.end(),
-                                    [&](QPoint wished) { return !taken.intersects(QRect(wished, size())); });
-    moveTo(insideRoom(best == wishes.end() ? wishes.front() : *best, size(), all));
+    const auto hides = [&](QPoint wished) { return tool_window_detail::areaOf(taken & QRect(wished, size())); };
+    const auto* best = std::min_element(wishes.begin(), wishes.end(),
+                                        [&](QPoint one, QPoint other) { return hides(one) < hides(other); });
+    moveTo(insideRoom(*best, size(), all));
 }
 
 bool ToolWindow::isQuiet() const

@@ -332,7 +332,7 @@ QRegion WindowKeeper::taken() const
         if (dynamic_cast<ToolWindow*>(frame) != nullptr && frame->widget().isVisible())
             region += frame->widget().frameGeometry();
     if (const SheetView* view = activeView())
-        region += view->inHand();
+        region += view->carried() + view->inHand();
     return region;
 }
 
