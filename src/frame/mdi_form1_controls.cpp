@@ -394,7 +394,8 @@ const host::WindowSpec spec{
     .shortcuts = controls_table::shortcuts,
     .create = create,
     .shownPlace = shownPlaceOf,
-    .mainParts = {.bar = Picture14, .welcome = SSPanel1, .windows = mnuVer, .pageStrip = pageStrip, .files = mnuArchivo},
+    .mainParts =
+        {.bar = Picture14, .welcome = SSPanel1, .windows = mnuVer, .pageStrip = pageStrip, .files = mnuArchivo},
 };
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)

@@ -134,8 +134,8 @@ private:
     mutable std::vector<QRectF> ink_;
     std::vector<host::Place> places_; ///< where each control was shown last
     bool offering_ = false;
-    bool laidOut_ = false;            ///< has a size; until then nothing is worth placing
-    bool seen_ = false;               ///< has been painted whole
+    bool laidOut_ = false; ///< has a size; until then nothing is worth placing
+    bool seen_ = false;    ///< has been painted whole
     std::unique_ptr<Pointer> pointer_;
     std::unique_ptr<Keyboard> keyboard_;
 };
