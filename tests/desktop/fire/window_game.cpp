@@ -390,7 +390,8 @@ void WindowGame::activateSomething()
 
 void WindowGame::pressOffer()
 {
-    const auto* line = on_->main().findChild<desktop::OfferLine*>();
+    // By its name: the toolkit would take any widget for one.
+    const auto* line = dynamic_cast<desktop::OfferLine*>(on_->main().findChild<QWidget*>(QStringLiteral("offer")));
     std::vector<QPushButton*> buttons;
     if (line != nullptr && on_->engine.windows().size() < window_game_detail::mostWindows)
         for (QPushButton* button : line->findChildren<QPushButton*>())
