@@ -67,9 +67,10 @@ int endOfView(const QPlainTextEdit& text)
 } // namespace search_line_detail
 
 SearchLine::SearchLine(QPlainTextEdit& text, const Inks& inks, bool english, QWidget* parent)
-    : QWidget(parent), text_(&text), inks_(&inks), english_(english), wanted_(new QLineEdit), instead_(new QLineEdit),
-      told_(new QLabel), replacing_(new QWidget), back_(addButton("searchBack")), on_(addButton("searchOn")),
-      away_(addButton("searchAway")), one_(addButton("searchReplace")), all_(addButton("searchReplaceAll"))
+    : QWidget(parent), text_(&text), viewport_(text.viewport()), inks_(&inks), english_(english),
+      wanted_(new QLineEdit), instead_(new QLineEdit), told_(new QLabel), replacing_(new QWidget),
+      back_(addButton("searchBack")), on_(addButton("searchOn")), away_(addButton("searchAway")),
+      one_(addButton("searchReplace")), all_(addButton("searchReplaceAll"))
 {
     setObjectName(QStringLiteral("searchLine"));
     setAutoFillBackground(true);
@@ -359,8 +360,8 @@ bool SearchLine::pressed(int key, Qt::KeyboardModifiers modifiers)
 
 bool SearchLine::eventFilter(QObject* object, QEvent* event)
 {
-    const bool inText = text_ && object == text_->viewport();
-    if (inText && event->type() == QEvent::MouseButtonPress && hasKeyboard())
+    const bool inText = object == viewport_;
+    if (inText && event->type() == QEvent::MouseButtonPress && text_ && hasKeyboard())
         text_->setFocus(Qt::MouseFocusReason);
     else if (inText && event->type() == QEvent::Resize)
         markHits();

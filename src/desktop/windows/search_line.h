@@ -53,6 +53,7 @@ private:
     void replaceAll();
 
     QPointer<QPlainTextEdit> text_;
+    const QObject* viewport_; ///< of the text, by which its events are known: it may be on its way out
     const Inks* inks_;
     bool english_;
     bool wrapped_ = false;
