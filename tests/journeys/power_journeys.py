@@ -166,7 +166,7 @@ class ClassA(Power):
         velmor.focused("RL")
         field = velmor.field("RL")
         velmor.key("F1")
-        velmor.see(self.say("^Resistores$", "^Resistors$"))
+        velmor.see(self.say("^Resistores$", "^Resistor$"))
         self.picture("form15-table")
         velmor.press(field)
         velmor.focused("RL")
