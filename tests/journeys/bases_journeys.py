@@ -173,7 +173,8 @@ class CommonCollector(Base):
         velmor.focused("Rb2")
         velmor.key("alt+BackSpace")
         velmor.focused("Res")
-        velmor.wait_value("Rb2", "10")
+        velmor.wait_value("Res", "20 K")  # and the base has no resistor yet
+        until(lambda: not velmor.showing("^Rb2,", "text"), "the end of Rb2")
         velmor.key("ctrl+y")
         velmor.focused("Rb2")
         velmor.shows(r"^Eq =2\.9937 Volts")
