@@ -73,7 +73,12 @@ class Screen:
             self.display = ":" + answer.readline().strip()
         self.environment = dict(os.environ, DISPLAY=self.display)
         self.manager = subprocess.Popen(["openbox"], env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        until(lambda: b"_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "window manager")
+        until(self.is_managed, "window manager")
+
+    def is_managed(self):
+        """The manager obeys. One that has only taken the screen does not give the keyboard to windows that appear meanwhile."""
+        self.ask("xdotool", "set_num_desktops", "2")
+        return b"= 2" in self.ask("xprop", "-root", "_NET_NUMBER_OF_DESKTOPS")
 
     def ask(self, *command):
         return subprocess.run(command, env=self.environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False).stdout
