@@ -1,32 +1,39 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Makes the pictures of docs/sheets.md and docs/hojas.md from the program's own painting: every sheet, finished with the values that
-# it proposes itself, in both languages.
+# Makes the pictures of docs/sheets.md and docs/hojas.md: every sheet as a student sees it finished, in both languages, taken while
+# the journeys are played.
 #
-#   tools/sheet_pictures.sh [SHEET...]
+#   tools/sheet_pictures.sh [FOLDER]
 #
-# PRESET=test chooses the build, one with tests.
+# FOLDER holds pictures that journeys have taken already (VELMOR_PICTURES=FOLDER tests/journeys/run.sh PROGRAM); sheets of which it
+# has none keep theirs. Without it the journeys are played. PRESET=test chooses the build, one with tests.
 set -euo pipefail
 # shellcheck source=tools/steps.sh
 source "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/steps.sh"
 
-sheets=(Form2 desaco ParcDesac Form8 Form18 Form4 Form17 Form9 Form3 Form13 Form12 Form15 form20 Form10 Form11)
-(($# == 0)) || sheets=("$@")
+taken=${1:-}
 preset=${PRESET:-test}
 # Small enough for a page, large enough to be read.
 width=1000
 colours=64
 
 install_packages build test picture
-build "$preset" velmor_gallery
-pictures=$(mktemp -d)
-trap 'rm -rf -- "$pictures"' EXIT
+if [[ -z $taken ]]; then
+    build "$preset" velmor
+    taken=$(mktemp -d)
+    trap 'rm -rf -- "$taken"' EXIT
+    VELMOR_PICTURES=$taken "$root/tests/journeys/run.sh" "$root/build/$preset/bin/velmor"
+fi
+
 mkdir -p "$root/docs/sheets"
-for sheet in "${sheets[@]}"; do
-    QT_QPA_PLATFORM=offscreen "$root/build/$preset/bin/velmor_gallery" "$pictures" "$sheet"
+for sheet in form2 desaco parcdesac form8 form18 form4 form17 form9 form3 form13 form12 form15 form20 form10 form11; do
     for language in en es; do
-        convert "$pictures/$sheet-$language-whole.png" -filter Lanczos -resize "$width" +dither -colors "$colours" -strip \
-            "PNG8:$root/docs/sheets/$sheet-$language.png"
+        for picture in "$taken/$sheet-finished-$language.png" "$taken/$sheet-analysis-$language.png"; do
+            [[ -f $picture ]] || continue
+            convert "$picture" -filter Lanczos -resize "$width" +dither -colors "$colours" -strip \
+                "PNG8:$root/docs/sheets/$sheet-$language.png"
+            break
+        done
     done
 done
 say "Wrote docs/sheets/*.png"

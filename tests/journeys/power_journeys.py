@@ -2,9 +2,10 @@
 """Whole designs of the power amplifiers with real keys and clicks, each in Spanish and in English: a stage that is explained,
 warned, goes back a step, hears a word of the other language, shows its calculations, is reported, saved and opened anew, and told
 by its guide. What is read in the two languages stands side by side, figures are worked out beside each step."""
+import re
 import unittest
 
-from journey import Journey, until
+from journey import Atspi, Journey, has, until
 
 
 class Power(Journey):
@@ -77,6 +78,14 @@ class Power(Journey):
         """What is told of the field in hand as under the pointer."""
         self.program.key("F2")
         self.program.shows(note)
+
+    def put_away(self, title):
+        """Closes a tool by the button in its title."""
+        velmor = self.program
+        tool = until(lambda: next((window for window in velmor.windows() if re.search(title, window.get_name() or "")), None), title)
+        velmor.press(next(node for node in velmor.all(tool)
+                          if node.get_role_name() == "push button" and node.get_name() == self.say("Cerrar", "Close")))
+        until(lambda: tool not in velmor.windows() or not has(tool, Atspi.StateType.SHOWING), "the end of " + title)
 
     def report(self, title, *texts):
         velmor = self.program
@@ -169,6 +178,8 @@ class ClassA(Power):
         velmor.see(self.say("^Resistores$", "^Resistor$"))
         self.picture("form15-table")
         velmor.press(field)
+        velmor.focused("RL")
+        self.put_away(self.say("Resistores", "Resistor"))
         velmor.focused("RL")
         velmor.key("ctrl+a")
 
@@ -375,6 +386,8 @@ class ClassB(Power):
         self.picture("form10-analysis")
         velmor.press(field)
         velmor.focused("Es")
+        self.put_away(self.say("Análisis de tensiones en Driver", "Driver voltage analysis"))
+        velmor.focused("Es")
         velmor.key("ctrl+a")
 
     def to_the_base(self):
@@ -472,6 +485,8 @@ class ClassBDarlington(Power):
                             r"^Voltage in ERl can not manage half of EOPP, the output sign is 25\.2982 V, .* Erl of: 12\.6491"))
         self.picture("form11-analysis")
         velmor.press(field)
+        velmor.focused("Es")
+        self.put_away(self.say("Análisis de tensiones en Driver", "Driver voltage analysis"))
         velmor.focused("Es")
         velmor.wait_value("Es", "35.3937")
         velmor.key("ctrl+a")
