@@ -69,7 +69,7 @@ inline constexpr auto controls = [] {
             label(Label23, "Label23", at(846, 292, 24, 18), Look::drawn, "Q4"),
             label(Label24, "Label24", at(846, 452, 24, 18), Look::drawn, "Q5"),
             result(Label25, "Label25", at(336, 524, 80, 18), "Ps = 4.7 K"),
-            result(Label26, "Label26", at(516, 440, 100, 18)),
+            result(Label26, "Label26", at(246, 224, 174, 18)),
             label(Label27, "Label27", at(1110, 286, 84, 58), Look::note),
             hidden(label(Label29, "Label29", at(1022, 546, 172, 22), Look::balloon)),
             hidden(label(Label30, "Label30", at(246, 578, 500, 32), Look::note)),
