@@ -2,9 +2,11 @@
 """Whole designs of the common-emitter family with real keys and clicks, each in Spanish and in English: a stage that is explained,
 warned, goes back a step, hears a word of the other language, is reported, saved and opened anew, and told by its guide. What is
 read in the two languages stands side by side, figures are worked out beside each step."""
+import os
+import tempfile
 import unittest
 
-from journey import Journey, until
+from journey import Journey, Program, until
 
 
 class BothLanguages:
@@ -14,9 +16,16 @@ class BothLanguages:
         self.whole_design()
 
     def test_in_english(self):
+        """A switch takes effect at the next message: what is to be English from its headings on is opened anew."""
+        velmor = self.program
         self.english = True
-        self.program.focused("ΔQIc")
-        self.program.speak(english=True)
+        velmor.focused("ΔQIc")
+        velmor.speak(english=True)
+        velmor.key("ctrl+F4")
+        velmor.answer("The present file has changed", "n")
+        until(lambda: not velmor.sheets(), "an empty desk")
+        velmor.press(velmor.see(r"\(feedback for current\)$", "push button"))
+        velmor.focused("ΔQIc")
         self.whole_design()
 
 
@@ -80,8 +89,8 @@ class Emitter(Journey):
         before = len(velmor.sheets())
         velmor.save(path)
         velmor.open_circuit(path, *items)
-        stem = name.split(".", maxsplit=1)[0]
-        until(lambda: len(velmor.sheets()) == before + 1 and velmor.in_hand() and velmor.in_hand().get_name() == stem,
+        # A title is the name less four characters, whatever the ending.
+        until(lambda: len(velmor.sheets()) == before + 1 and velmor.in_hand() and velmor.in_hand().get_name() == name[:-4],
               "the sheet of the file")
         for symbol, text in values:
             velmor.wait_value(symbol, text)
@@ -200,6 +209,55 @@ class Unbypassed(ByCurrent, BothLanguages):
         self.picture("form2-bootstrapped")
 
 
+class OutOfAFile(ByCurrent):
+    """The first sheet has no dialog for a name: a file that is named at the start is gone on with, and saved under its name."""
+
+    def test_in_spanish(self):
+        self.whole_design("etapa.RPC", "0")
+
+    def test_in_english(self):
+        self.english = True
+        self.whole_design("stage.CEC", "1")
+
+    def whole_design(self, name, language):
+        self.program.close()
+        folder = tempfile.mkdtemp(prefix="velmor-first-")
+        os.makedirs(folder + "/config/Velmor")
+        self.write(folder + "/config/Velmor/Velmor.ini", ("[Predeterminados]", "fCastIng=" + language))
+        # Text1 to Text4, ERes, Text5 to Text21, what stands beside the drawing: QIc 1.1 mA through 1250 ohms, half designed
+        self.write(folder + "/" + name, ("10", "80", "75", "2.5", "1.375", "25", "100", "0.6", "1.1", "10", "10", "5", "20", "2", "0.35",
+                                         "1250", "", "15", "", "", "", "  - Es = 20 V", "", "", "1.375  Volt", "16.5     Volts", "1250",
+                                         "", "", ""))
+        self.program = Program(self.screen, home=folder, arguments=[folder + "/" + name])
+        self.addCleanup(self.program.close)
+        self.goes_on(folder + "/" + name)
+
+    def goes_on(self, path):
+        velmor = self.program
+        until(lambda: velmor.in_hand() and velmor.in_hand().get_name() == os.path.basename(path)[:-4], "the sheet of the file")
+        for symbol, text in (("QIc", "1.1"), ("Res", "1250"), ("RL", "15")):
+            velmor.wait_value(symbol, text)
+        self.picture("form2-opened")
+        self.told_of_temperature(r"^1\.375, ")
+        velmor.design(
+            ("QIc", "", "Res", "^1250 ohms", ("Res", "1250")),  # 1.375 V over 1.1 mA
+            ("Res", "1375", "RLw", ("QIc", "1")),
+        )
+        velmor.key("ctrl+s")
+        until(lambda: self.lines(path)[8] == "1" and self.lines(path)[15] == "1375", "the figures in the file")
+        self.assertEqual(len(self.lines(path)), 31)  # thirty, and the line end that closes the file
+
+    @staticmethod
+    def write(path, lines):
+        with open(path, "w", encoding="cp1252", newline="\r\n") as file:
+            file.write("\n".join(lines) + "\n")
+
+    @staticmethod
+    def lines(path):
+        with open(path, encoding="cp1252", newline="") as file:
+            return file.read().split("\r\n")[:-1]
+
+
 class ByEmitter(ByCurrent, BothLanguages):
     """The first sheet with a negative supply below its emitter."""
 
@@ -282,12 +340,16 @@ class Bypassed(ByCurrent, BothLanguages):
         self.guide("EMISOR COMÚN TOTALMENTE DESACOPLADO", "COMMON EMITTER, FULLY BYPASSED")
 
     def toggle(self):
-        """The option and the way back."""
+        """The option, the way back, and the option once more."""
         velmor = self.program
+        bypassed = self.say("vuelve al comienzo$", "back to the beginning$")
         velmor.key("ctrl+1")
-        velmor.see(self.say("vuelve al comienzo$", "back to the beginning$"), "push button")
+        velmor.see(bypassed, "push button")
         velmor.key("ctrl+2")
         velmor.shows(self.say("^Pulsando DESACOPLADO, obtendra mas ganancia", "^Pressing Bypass, you will obtain more gain"))
+        velmor.key("ctrl+1")
+        velmor.see(bypassed, "push button")
+        velmor.focused("ΔQIc")
         velmor.wait_value("Vg", "55")
 
     def to_the_load(self):
