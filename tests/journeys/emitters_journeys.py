@@ -102,6 +102,7 @@ class Emitter(Journey):
 
 class ByCurrent(Emitter):
     """The three sheets stabilised by a resistor in the emitter."""
+    other_current = ("Corriente de Colector obtenida es diferente", "Collector currents it's different")
 
     def open(self, spanish, english):
         """A sheet that an option of the first one opens."""
@@ -112,7 +113,7 @@ class ByCurrent(Emitter):
         velmor.focused("ΔQIc")
 
     def told_of_temperature(self, *drift):
-        """The first three fields of a stage at work in `temperature`, and the voltage that they ask for."""
+        """The first three fields, and the voltage of stability that they ask for."""
         self.program.design(
             ("ΔQIc", "", "T", self.say("^Coloque la temperatura ambiente", "^It places the ambient temperature")),
             ("T", "", "ΔVbe", self.say("^Para Qic inferior a 10 mA", "^For inferior Qic to 10 MA"),
@@ -120,13 +121,33 @@ class ByCurrent(Emitter):
             ("ΔVbe", "", "QIc", *drift, self.say("^Es aconsejable asignar la corriente", "^It is advisable to assign the current")),
         )
 
+    def to_the_gain(self):
+        """With the stored figures (75 - 20) x 2.5 mV x 100 / 10, over 1250 ohms."""
+        self.told_of_temperature(r"^1\.375, ")
+        self.program.design(
+            ("QIc", "", "Res", "^1375 ohms", ("Res", "1375"),
+             self.say("^El valor normalizado de resistor", "^The normalized value will make")),
+            ("Res", "1250", "RLw", ("QIc", "1.1"), self.say("^Especificacion circuital", "^Specification circuital")),
+        )
+        self.told_of_the_load()
+        self.program.design(
+            ("S", "", "Vg", self.say("^Especificacion circuital que indica las 'VECES'", "^Specification circuital that indicates")),
+        )
+
+    def told_of_the_load(self):
+        self.in_the_other_language("RLw", "S", r"^Escape \.\.\.valor predeterminado", r"^Esc\.\.\. predetermined value")
+
+    def warned_of_the_supply(self, Es):
+        self.warned("Es", Es, ("^Aumentar tensión de fuente", "^ *To increase voltage"),
+                    ("^Disminuya Eopp, o Vg", "^ *Eopp, or Vg Diminishes"))
+
     def told_of_the_transistor(self, *seen):
         """What the manual says of the transistor, as far as Rb2."""
         self.program.design(
             ("β", "", "Ic(max)", self.say("^El programa NO acepta", r"^\.\.\.than less")),
             ("Ic(max)", "", "Vj", self.say("^Pocas opciones", "^Few options")),
-            ("Vj", "", "Rb2", self.say("^Coloque un valor normalizado. El Cálculo de Rb2", "^It places a normalized value. The Calculation"),
-             *seen),
+            ("Vj", "", "Rb2", *seen,
+             self.say("^Coloque un valor normalizado. El Cálculo de Rb2", "^It places a normalized value. The Calculation")),
         )
 
 
@@ -137,27 +158,24 @@ class Unbypassed(ByCurrent, BothLanguages):
         velmor = self.program
         velmor.focused("ΔQIc")
         self.picture("form2-start")
-        self.explained("F1", self.say("cuánto puede cambiar la corriente de reposo", "how much the quiescent current (QIc) may change"))
+        self.explained("F1", self.say("cuánto puede cambiar la corriente de reposo",
+                                      "how much the quiescent current (QIc) may change"))
         self.picture("form2-page")
         self.to_the_load()
         self.to_the_supply()
         self.to_the_preset()
         self.bootstrap()
         self.report(self.say("Emisor Común Realimentado por Corriente", "Common Emitter, Feedback for Current"),
-                    self.say("Resultados de diseño polarizado por Base s/desacoplar: ", "Result of polarized by Base design without Bypass: "),
+                    self.say("Resultados de diseño polarizado por Base s/desacoplar: ",
+                             "Result of polarized by Base design without Bypass: "),
                     self.say("Corriente Qic = 1.1005 mA", "Current Qic = 1.1005 mA"), "Res = 1250", "Rb1 (kohm) = 123.5")
-        self.guide("EMISOR COMÚN REALIMENTADO POR CORRIENTE, POLARIZADO POR BASE", "COMMON EMITTER WITH CURRENT FEEDBACK, BIASED AT THE BASE")
+        self.guide("EMISOR COMÚN REALIMENTADO POR CORRIENTE, POLARIZADO POR BASE",
+                   "COMMON EMITTER WITH CURRENT FEEDBACK, BIASED AT THE BASE")
 
     def to_the_load(self):
         velmor = self.program
-        self.told_of_temperature(r"^1\.375, ")  # (75 - 20) x 2.5 mV x 100 / 10
+        self.to_the_gain()
         velmor.design(
-            ("QIc", "", "Res", "^1375 ohms", ("Res", "1375"), self.say("^El valor normalizado de resistor", "^The normalized value will make")),
-            ("Res", "1250", "RLw", ("QIc", "1.1"), self.say("^Especificacion circuital", "^Specification circuital")),  # over 1250 ohms
-        )
-        self.in_the_other_language("RLw", "S", r"^Escape \.\.\.valor predeterminado", r"^Esc\.\.\. predetermined value")
-        velmor.design(
-            ("S", "", "Vg", self.say("^Especificacion circuital que indica las 'VECES'", "^Specification circuital that indicates")),
             ("Vg", "", "RL", r"^\(Rlac\)= 6250 ohms", ("RL", "16.6666666666667")),  # 5 x 1250; 10 x 6.25 / 3.75
             ("RL", "15", "fo", r"^16\.5 Volts", "^Rlac = 6 K", ("Vg", "4.8")),  # 1.1 x 15; 10 x 15 / 25; over 1250 ohms
         )
@@ -171,7 +189,7 @@ class Unbypassed(ByCurrent, BothLanguages):
             ("Eopp", "2", "Es", ("Ein", "0.1473"), ("Es", "20.875")),  # 2 / 2 x 0.707 / 4.8; 1.375 + 16.5 + 2 + 1
         )
         # 20 V leave 2.125 for the transistor.
-        self.warned("Es", "20", ("^Aumentar tensión de fuente", "^ *To increase voltage"), ("^Disminuya Eopp, o Vg", "^ *Eopp, or Vg Diminishes"))
+        self.warned_of_the_supply("20")
         velmor.design(
             ("Eopp", "", "Es"),
             ("Es", "24", "β", r"^Eq= 6\.125 Volts", self.say("^El Manual brinda un valor", "^The Manual offers a value")),  # less 17.875
@@ -182,11 +200,11 @@ class Unbypassed(ByCurrent, BothLanguages):
         self.told_of_the_transistor(r"^Rb2= 12\.5 K")  # 10 x 1250 ohms
         velmor.design(
             # 12 beside 100000, without conversion; 22.025 V x 11.99856 / 1.975; 12000 / 1250
-            ("Rb2", "12", "Rb1", "^B x Res=100 K Rin=11 K", r"^Preset Rb1= 133\.8067 K " + self.say("Coloque valor", "Put normalized"),
-             ("S", "9")),
+            ("Rb2", "12", "Rb1", "^B x Res=100 K Rin=11 K", ("S", "9"),
+             r"^Preset Rb1= 133\.8067 K " + self.say("Coloque valor", "Put normalized")),
         )
         # 22.025 V over 100 K less 1.975 V over 12 K, times 80
-        self.warned("Rb1", "100", ("^Corriente de Colector obtenida es diferente", "^ *Collector currents it's different"))
+        self.warned("Rb1", "100", self.other_current)
         velmor.shows(r"^4\.4533 mA")
         velmor.focused("Rb1")
         velmor.type("123.5")
@@ -270,9 +288,11 @@ class ByEmitter(ByCurrent, BothLanguages):
         self.to_the_load()
         self.to_the_end()
         self.report(self.say("Emisor Común Realimentado por Corriente", "Common Emitter, Feedback for Current"),
-                    self.say("Resultados de diseño Polarizado por Emisor desacoplado: ", "Result of  Bypass polarized by Emitter design: "),
+                    self.say("Resultados de diseño Polarizado por Emisor desacoplado: ",
+                             "Result of  Bypass polarized by Emitter design: "),
                     "- Ebias =20 Volts", "Res = 20000", "Rb2 (kohm) = 33")
-        self.guide("EMISOR COMÚN POLARIZADO POR EMISOR, TOTALMENTE DESACOPLADO", "COMMON EMITTER WITH CURRENT FEEDBACK, BIASED AT THE BASE")
+        self.guide("EMISOR COMÚN POLARIZADO POR EMISOR, TOTALMENTE DESACOPLADO",
+                   "COMMON EMITTER WITH CURRENT FEEDBACK, BIASED AT THE BASE")
 
     def to_the_load(self):
         velmor = self.program
@@ -282,7 +302,7 @@ class ByEmitter(ByCurrent, BothLanguages):
             ("-Es", "", "Res", "^20000 ohms", ("-Es", "20")),  # 20 V over 1 mA; the text that stands there is no number
             ("Res", "", "RLw", ("QIc", "1")),
         )
-        self.in_the_other_language("RLw", "S", r"^Escape \.\.\.valor predeterminado", r"^Esc\.\.\. predetermined value")
+        self.told_of_the_load()
         velmor.design(
             ("S", "", "Vg"),
             ("Vg", "", "RL", r"^\(Rlac\)= 1375 ohms", ("RL", "1.59420289855072")),  # 55 x 25; 10 x 1.375 / 8.625
@@ -298,7 +318,7 @@ class ByEmitter(ByCurrent, BothLanguages):
             ("Eopp", "", "Es", ("Ein", "5.1456"), ("Es", "4.96920289855072")),  # 0.5 x 0.707 / 0.0687; 1.375 + 1.5942 + 1 + 1
         )
         # 4 V less 1.5942 are below 3; the student stays with the supply.
-        self.warned("Es", "4", ("^Aumentar tensión de fuente", "^ *To increase voltage"), ("^Disminuya Eopp, o Vg", "^ *Eopp, or Vg Diminishes"))
+        self.warned_of_the_supply("4")
         velmor.focused("Es")
         velmor.key("ctrl+a")
         velmor.design(
@@ -321,7 +341,8 @@ class Bypassed(ByCurrent, BothLanguages):
         velmor = self.program
         self.open("^Desacoplado,", "^Bypass,")
         self.picture("desaco-start")
-        self.explained("shift+F1", self.say("El capacitor de desacople Cbp lleva el emisor a masa", "The capacitor Cbp takes the emitter to ground"))
+        self.explained("shift+F1", self.say("El capacitor de desacople Cbp lleva el emisor a masa",
+                                            "The capacitor Cbp takes the emitter to ground"))
         self.picture("desaco-help")
         velmor.key("shift+F1")
         self.toggle()
@@ -332,7 +353,8 @@ class Bypassed(ByCurrent, BothLanguages):
                     self.say("Resultados de diseño Desacoplado: ", "Result of Bypass design: "),
                     self.say("Corriente Qic obtenida (calibrando Rb1)= 1.1014 mA", "Current Qic = 1.1014 mA"),
                     "RL (kohm) = 1.5", "Rb1 (kohm) = 46.72", "Eq=  6.975 Volts")
-        self.keep(self.say("etapa.DES", "stage.DESI"), self.say(("Emisor Común", "Totalmente Desacoplado"), ("Common Emitter", "Fully Bypassed")),
+        self.keep(self.say("etapa.DES", "stage.DESI"),
+                  self.say(("Emisor Común", "Totalmente Desacoplado"), ("Common Emitter", "Fully Bypassed")),
                   ("QIc", "1.1"), ("Vg", "57.3913"), ("Es", "10"), ("Rb2", "12.5"), ("Rb1", "46.72"))
         velmor.shows(self.say("^Circuito de Archivo : Emisor Común Desacoplado", "^Archive Circuit : Common Emitter, Bypass"))
         velmor.shows(r"^Eq= 6\.975 Volts")
@@ -354,14 +376,8 @@ class Bypassed(ByCurrent, BothLanguages):
 
     def to_the_load(self):
         velmor = self.program
-        self.told_of_temperature(r"^1\.375, ")  # (75 - 20) x 2.5 mV x 100 / 10
+        self.to_the_gain()
         velmor.design(
-            ("QIc", "", "Res", "^1375 ohms", ("Res", "1375"), self.say("^El valor normalizado de resistor", "^The normalized value will make")),
-            ("Res", "1250", "RLw", ("QIc", "1.1"), self.say("^Especificacion circuital", "^Specification circuital")),  # over 1250 ohms
-        )
-        self.in_the_other_language("RLw", "S", r"^Escape \.\.\.valor predeterminado", r"^Esc\.\.\. predetermined value")
-        velmor.design(
-            ("S", "", "Vg", self.say("^Especificacion circuital que indica las 'VECES'", "^Specification circuital that indicates")),
             ("Vg", "", "RL", r"^\(Rlac\)= 1250 ohms", ("RL", "1.42857142857143")),  # 55 x 25 / 1.1; 10 x 1.25 / 8.75
             ("RL", "1.5", "fo", r"^1\.65 Volts", r"^Rlac = 1\.3043 K", ("Vg", "57.3913")),  # 10 x 1.5 / 11.5, over 25 / 1.1
         )
@@ -375,10 +391,11 @@ class Bypassed(ByCurrent, BothLanguages):
             ("Eopp", "2", "Es", ("Ein", "0.0123"), ("Es", "6.025")),  # 2 / 2 x 0.707 / 57.3913; 1.375 + 1.65 + 2 + 1
         )
         # 6 V leave 2.975 for the transistor.
-        self.warned("Es", "6", ("^Aumentar tensión de fuente", "^ *To increase voltage"), ("^Disminuya Eopp, o Vg", "^ *Eopp, or Vg Diminishes"))
+        self.warned_of_the_supply("6")
         velmor.design(
             ("Eopp", "", "Es"),
-            ("Es", "10", "β", r"^Eq= 6\.975 Volts", self.say("^El Manual brinda un valor", "^The Manual offers a value")),  # 10 - 1.65 - 1.375
+            # 10 - 1.65 - 1.375
+            ("Es", "10", "β", r"^Eq= 6\.975 Volts", self.say("^El Manual brinda un valor", "^The Manual offers a value")),
         )
 
     def to_the_preset(self):
@@ -389,7 +406,7 @@ class Bypassed(ByCurrent, BothLanguages):
             ("Rb2", "12.5", "Rb1", "^B x Res=100 K Rin=12 K", r"^Preset Rb1= 50\.7848 K " + self.say("Coloque valor", "Put normalized")),
         )
         # 8.025 V over 40 K less 1.975 V over 12.5 K, times 80
-        self.warned("Rb1", "40", ("^Corriente de Colector obtenida es diferente", "^ *Collector currents it's different"))
+        self.warned("Rb1", "40", self.other_current)
         velmor.shows(r"^3\.41 mA")
         velmor.design(
             ("Rb1", "46.72", "Rb2", r"^1\.1014 mA", "^Zin= 1755 ohms", r"^45\.3576 mf", r"^7\.9618 mf", ("Cbp", "350 microF"),
@@ -439,7 +456,7 @@ class PartlyBypassed(ByCurrent, BothLanguages):
         velmor.design(
             ("Res", "300", "RLw", "^3 Volt", self.say("^Especificacion circuital", "^Specification circuital")),
         )
-        self.in_the_other_language("RLw", "S", r"^Escape \.\.\.valor predeterminado", r"^Esc\.\.\. predetermined value")
+        self.told_of_the_load()
         velmor.design(
             ("S", "", "Vg"),
             ("Vg", "", "RL", r"^\(Rlac\)= 3000 ohms", ("RL", "4.8")),  # 10 x 300; 8 x 3 / 5
@@ -467,7 +484,7 @@ class PartlyBypassed(ByCurrent, BothLanguages):
         )
         # 11.4 V over 100 K less 3.6 V over 30 K, times 200
         velmor.press(velmor.field("Rb2"))
-        velmor.answer(self.say("Corriente de Colector obtenida es diferente", "Collector currents it's different"), "Return")
+        velmor.answer(self.say(*self.other_current), "Return")
         velmor.shows(r"^-1\.2 mA")
         velmor.design(
             ("Rb1", "91.2", "Rb1"),
@@ -516,7 +533,7 @@ class PartlyBypassedByEmitter(ByCurrent, BothLanguages):
         velmor.design(
             ("Res", "", "RLw", ("QIc", "1")),
         )
-        self.in_the_other_language("RLw", "S", r"^Escape \.\.\.valor predeterminado", r"^Esc\.\.\. predetermined value")
+        self.told_of_the_load()
         velmor.design(
             ("S", "", "Vg"),
             ("Vg", "1", "RL", r"^\(Rlac\)= 2000 ohms", ("RL", "2.66666666666667")),  # 8 x 2 / 6
@@ -531,7 +548,7 @@ class PartlyBypassedByEmitter(ByCurrent, BothLanguages):
             ("Eopp", "", "Es", ("Ein", "1.0507"), ("Es", "8.075")),
         )
         # 5 V less 2.7 are below 3; the student stays with the supply.
-        self.warned("Es", "5", ("^Aumentar tensión de fuente", "^ *To increase voltage"), ("^Disminuya Eopp, o Vg", "^ *Eopp, or Vg Diminishes"))
+        self.warned_of_the_supply("5")
         velmor.focused("Es")
         velmor.key("ctrl+a")
         velmor.design(
@@ -539,7 +556,8 @@ class PartlyBypassedByEmitter(ByCurrent, BothLanguages):
         )
         self.told_of_the_transistor(r"^Rb2= 13\.75 K")  # 10 x 1375 ohms
         velmor.design(
-            ("Rb2", "27", "Rb1", self.say("^Los valores de impedancia de entrada NO difieren", "^The values of entrance impedance don't differ")),
+            ("Rb2", "27", "Rb1", self.say("^Los valores de impedancia de entrada NO difieren",
+                                          "^The values of entrance impedance don't differ")),
             ("Rb1", "", "Rb1", ("Cbp", "318 microF"),  # 1 / (25 ohms x 20 x 6.28)
              self.say("^No se puede +realizar Bootstrapping", "^Bootstrapping can not be carried out")),
         )
@@ -568,12 +586,28 @@ class ByVoltage(Emitter):
         )
         velmor.press(velmor.see("^%s" % answer, "push button"))
 
+    def told_of_the_limits(self):
+        """What the manual says of the transistor, and a current of more than 40 % of its 100 mA."""
+        velmor = self.program
+        velmor.design(
+            ("Ec(max)", "", "Ic(max)", self.say("^El dato de la corriente máxima", "^The date of the current maximum")),
+            ("Ic(max)", "", "Vj", self.say("^Para transistores de Germanio", "^For transistors of Germanium")),
+            ("Vj", "", "QIc", self.say("^Comience asignando la corriente", "^Begin assigning the current")),
+        )
+        self.warned("QIc", "41", ("^La corriente de Colector +no debe superar el 40%",
+                                  "^The current of Collector should not overcome 40%"))
+        velmor.focused("QIc")
+        velmor.design(
+            ("QIc", "1", "RLw", self.say("^Este valor corresponde a la carga", "^This value corresponds to the load")),
+        )
+
     def told_of_the_signal(self):
-        """QIc, the load, and what is asked of it: the same figures on both sheets."""
+        """The load, and what is asked of it: the same figures on both sheets."""
         self.program.design(
             ("RLw", "", "Eopp"),
             ("Eopp", "", "Vg", self.say("^En este tipo de configuración", "^In this configuration type")),
-            ("Vg", "", "Ein", ("Ein", "0.0088"), self.say("^Ingrese la señal de entrada", "^Enters in the entrance sign")),  # 1.25 x 0.707 / 100
+            # 1.25 x 0.707 / 100
+            ("Vg", "", "Ein", ("Ein", "0.0088"), self.say("^Ingrese la señal de entrada", "^Enters in the entrance sign")),
             ("Ein", "", "S", ("Eopp", "2.4816")),  # 0.0088 x 1.41 x 2 x 100
         )
 
@@ -588,6 +622,11 @@ class ByVoltage(Emitter):
         for text in seen:
             velmor.see(text)
 
+    def fed_easily_by(self, Rg):
+        """Zin exceeds Rg, and the output power is all that is told: 0.8773 V squared over 4 K."""
+        self.fed_by(Rg, self.say(r"Potencia de salida : Eo\(eficaz\)\^2 / RLw = 192 microW.*no presentara una carga 'pesada'",
+                                 r"Output power : Eo\(r\.m\.s\.\)\^2 / RLw = 192 microW.*didn't present a load ' heavy '"))
+
 
 class FedBack(ByVoltage, BothLanguages):
     def whole_design(self):
@@ -599,7 +638,8 @@ class FedBack(ByVoltage, BothLanguages):
         self.analysis()
         self.bootstrap()
         self.report(self.say("Circuito Realimentado por Tensión Simple", "Feedback Voltage Circuits Simple"),
-                    self.say("Emisor Común Realimentado p/ tensión, polarizado p/ Base", "Common Emitter, Feedback for Voltage, polarized for Base"),
+                    self.say("Emisor Común Realimentado p/ tensión, polarizado p/ Base",
+                             "Common Emitter, Feedback for Voltage, polarized for Base"),
                     "RL (kohm) = 10.3621", "Rb1 (kohm) = 100", "Zin= 5000 ohms",
                     self.say("Zin del Generador (Kohm) = 2 K", "Zin of Generator (Kohm) = 2 K"))
         self.keep(self.say("simple.RPT", "simple.FVS"),
@@ -611,18 +651,8 @@ class FedBack(ByVoltage, BothLanguages):
 
     def to_beta(self):
         velmor = self.program
-        velmor.design(
-            ("Ec(max)", "", "Ic(max)", self.say("^El dato de la corriente máxima", "^The date of the current maximum")),
-            ("Ic(max)", "", "Vj", self.say("^Para transistores de Germanio", "^For transistors of Germanium")),
-            ("Vj", "", "QIc", self.say("^Comience asignando la corriente", "^Begin assigning the current")),
-        )
-        # more than 40 % of 100 mA
-        self.warned("QIc", "41", ("^La corriente de Colector +no debe superar el 40%", "^The current of Collector should not overcome 40%"))
-        velmor.focused("QIc")
-        self.explained("F1", self.say("queda fijada la resistencia interna de la juntura", "It fixes the internal resistance of the"))
-        velmor.design(
-            ("QIc", "1", "RLw", self.say("^Este valor corresponde a la carga", "^This value corresponds to the load")),
-        )
+        self.told_of_the_limits()
+        self.explained("F1", self.say("puede asignar un valor de resistencia de carga", "you can assign a value of load resistance"))
         self.told_of_the_signal()
         velmor.design(
             # 25 / 1 mA; 100 x 25; 4 x 2.5 / 1.5, at 1 mA; 0.66 x 2.4816; the sum
@@ -645,7 +675,8 @@ class FedBack(ByVoltage, BothLanguages):
         )
 
     def to_the_preset(self):
-        self.warned("Rb1", "130", ("^El preset debe ser ajustado dentro de un rango del 20%", "^The preset should be adjusted inside a range of 20%"))
+        self.warned("Rb1", "130", ("^El preset debe ser ajustado dentro de un rango del 20%",
+                                   "^The preset should be adjusted inside a range of 20%"))
         self.program.design(
             # 2885.96 / 25; 902.48 beside 2500; 1 / (12.56 x 663.106) and the same with 4000; 100 / 10.3621
             ("Rb1", "100", "Rg", "^Zin= 663 ohms", r"^Cin= 120\.068 mF", r"^Cco= 19\.9045 mF", ("Vg", "115"), ("S", "9"),
@@ -655,12 +686,11 @@ class FedBack(ByVoltage, BothLanguages):
 
     def analysis(self):
         """The generator of half a kilohm feeds 663 ohms, one of 2 K does not."""
-        # 0.8773 V squared over 4 K
-        self.fed_by("0.5", self.say(r"Potencia de salida : Eo\(eficaz\)\^2 / RLw = 192 microW.*no presentara una carga 'pesada'",
-                                    r"Output power : Eo\(r\.m\.s\.\)\^2 / RLw = 192 microW.*didn't present a load ' heavy '"))
+        self.fed_easily_by("0.5")
         self.picture("form8-light")
         # 0.76956 / 2000 and / 663.106, times 100
-        self.fed_by("2", r"Pg = 0\.0385 microW.*Ein\^2 / Zin =0\.1161 microW", self.say("es mas pequeña que la del generador", "is too small that that"))
+        self.fed_by("2", r"Pg = 0\.0385 microW.*Ein\^2 / Zin =0\.1161 microW",
+                    self.say("es mas pequeña que la del generador", "is too small that that"))
         self.picture("form8-heavy")
 
     def bootstrap(self):
@@ -704,7 +734,8 @@ class FedBackByTheSupplyProposed(ByVoltage, BothLanguages):
         velmor.shows(r"^Eq= 1\.9883 volt")
         velmor.wait_value("Rb1", "138830")  # (1.9883 - 0.6) over 10 microampere
         self.warned("Rb1", "138830", ("^El preset debe ser ajustado", "^The preset should be adjusted"))
-        self.warned("Rb1", "140", ("^El valor de tensión en ERl debe ser superior a EQ", "^The value of voltage in ERl should be superior to EQ"))
+        self.warned("Rb1", "140", ("^El valor de tensión en ERl debe ser superior a EQ",
+                                   "^The value of voltage in ERl should be superior to EQ"))
         velmor.focused("Es")
         velmor.wait_value("S", "..?")
         velmor.shows("^Asigne un nuevo valor de ES")  # in both languages
@@ -746,16 +777,8 @@ class FedBackStably(ByVoltage, BothLanguages):
         velmor = self.program
         velmor.design(
             ("fo", "", "Ec(max)", self.say("^El dato de la tensión máxima", "^The date of the voltage maximum")),
-            ("Ec(max)", "", "Ic(max)", self.say("^El dato de la corriente máxima", "^The date of the current maximum")),
-            ("Ic(max)", "", "Vj", self.say("^Para transistores de Germanio", "^For transistors of Germanium")),
-            ("Vj", "", "QIc", self.say("^Comience asignando la corriente", "^Begin assigning the current")),
         )
-        # more than 40 % of 100 mA
-        self.warned("QIc", "41", ("^La corriente de Colector +no debe superar el 40%", "^The current of Collector should not overcome 40%"))
-        velmor.focused("QIc")
-        velmor.design(
-            ("QIc", "1", "RLw", self.say("^Este valor corresponde a la carga", "^This value corresponds to the load")),
-        )
+        self.told_of_the_limits()
         self.told_of_the_signal()
         self.explained("F1", self.say("S fija el valor del resistor que va de Colector a Base", "S fixes the value of the resistor"))
         velmor.design(
@@ -798,8 +821,7 @@ class FedBackStably(ByVoltage, BothLanguages):
 
     def analysis(self):
         """The generator of 0.2 K feeds 343 ohms, one of 0.5 K does not."""
-        self.fed_by("0.2", self.say(r"Potencia de salida : Eo\(eficaz\)\^2 / RLw = 192 microW.*no presentara una carga 'pesada'",
-                                    r"Output power : Eo\(r\.m\.s\.\)\^2 / RLw = 192 microW.*didn't present a load ' heavy '"))
+        self.fed_easily_by("0.2")
         self.picture("form18-light")
         # 0.0088375 V squared over 500 and over 343.7281
         self.fed_by("0.5", r"Pg = 0\.1562 microW.*Ein\^2 / Zin =0\.2272 microW",
