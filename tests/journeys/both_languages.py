@@ -126,6 +126,12 @@ class BothLanguages:
         until(lambda: any(all(text in plain(node.get_name() or "") for text in wanted) and has(node, Atspi.StateType.SHOWING)
                           for node in velmor.all() if node.get_role_name() == "label"), "a leaf with " + " / ".join(wanted))
 
+    def no_leaf(self, text):
+        """The leaf that said so is put away."""
+        velmor = self.program
+        until(lambda: not any(text in (node.get_name() or "") and has(node, Atspi.StateType.SHOWING) for node in velmor.all()),
+              "the end of the leaf with " + text)
+
     def keep(self, name, group, item, *seen):
         """Saves the design and opens its file in a sheet of its own. Where group and item bear one name, the first item is
         meant."""
