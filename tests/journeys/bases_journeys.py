@@ -263,6 +263,11 @@ class CommonCollector(Metered, Journey):
                   ("Parámetros del Transistor", "Transistor Parameters"), ("Parámetros del Circuito", "Circuits Parameters"),
                   ("Rg de generador (Kohm)", "Rg of generator (Kohm)"))
         self.picture("form17-start")
+        if self.english:  # the pages of this sheet stand in Spanish alone
+            self.program.key("F1")
+            self.program.see("^Not available$", "label")
+        else:
+            self.page("F1", "  Cout = 1 / (2 x ¶ x fo x 0.1 x Rlw )")
 
     def to_the_load(self):
         self.go(
