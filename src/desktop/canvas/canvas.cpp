@@ -262,8 +262,10 @@ bool Canvas::liesInPicture() const
     const QRectF picture = pictured();
     const auto& rows = model_->spec().controls;
     return std::all_of(rows.begin(), rows.end(), [&](const host::ControlRow& row) {
-        return !hasPlace(row.kind) || row.look == host::Look::invisible || !paints(row.id) ||
-               picture.contains(ink(row.id).intersected(rect()));
+        if (!hasPlace(row.kind) || row.look == host::Look::invisible || !paints(row.id))
+            return true;
+        const QRectF seen = ink(row.id).intersected(rect());
+        return seen.isEmpty() || picture.contains(seen);
     });
 }
 
@@ -271,14 +273,13 @@ bool Canvas::liesInPicture() const
 bool Canvas::paintAsFirstSeen(QPainter& painter)
 {
     const bool asNew = view_.hovered == noControl && view_.pressed == noControl && view_.forward == noControl;
-    // A sheet whose prompts stand above it begins further down than its like.
-    if (model_->role() != host::Role::sheet || !asNew || design_.top != 0)
+    if (model_->role() != host::Role::sheet || !asNew)
         return false;
     std::vector<bool> widgets(widgets_.size());
     std::transform(widgets_.begin(), widgets_.end(), widgets.begin(),
                    [](const QWidget* one) { return one != nullptr; });
     const double ratio = devicePixelRatioF();
-    const SheetFace face = faceOf(*model_, view_, ratio, std::move(widgets));
+    const SheetFace face = faceOf(*model_, design_, view_, ratio, std::move(widgets));
     const QRectF room = pictured();
     if (const QPixmap* picture = desk_.firstPictures->find(face)) {
         painter.drawPixmap(room.topLeft(), *picture);
