@@ -210,11 +210,11 @@ void LongLines::set(const QString& text)
     document_.setUndoRedoEnabled(false);
     {
         const QScopedValueRollback<bool> busy(working_, true);
-        document_.setPlainText(QString());
         joints_.clear();
         everJoined_ = false;
         QTextCursor cursor(&document_);
         cursor.beginEditBlock();
+        document_.clear();
         insert(cursor, text);
         cursor.endEditBlock();
     }
