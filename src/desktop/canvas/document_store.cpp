@@ -14,7 +14,7 @@ namespace velmor::desktop {
 
 namespace document_store_detail {
 
-constexpr double margin = 12.0;   ///< logical pixels around the text
+constexpr double margin = 12.0;  ///< logical pixels around the text
 constexpr int stretch = 1 << 14; ///< units that are counted at a time
 
 bool hasSurrogates(const QString& text)

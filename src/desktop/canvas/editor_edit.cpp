@@ -127,7 +127,8 @@ void EditorEdit::mousePressEvent(QMouseEvent* event)
     const bool isNew = now.hasSelection() && now.selectionEnd() != before.selectionEnd();
     QTextBlock first = document()->findBlock(now.selectionStart());
     QTextBlock last = first;
-    const bool isBlock = now.selectionStart() == first.position() && now.selectionEnd() == first.position() + first.length();
+    const bool isBlock =
+        now.selectionStart() == first.position() && now.selectionEnd() == first.position() + first.length();
     if (!isNew || !isBlock || lines() == nullptr || !lines()->any())
         return;
     while (LongLines::goesOn(first))
