@@ -398,7 +398,7 @@ class Program:
 
 class Journey(unittest.TestCase):
     """The program as a new user finds it, on a screen of its own."""
-    size = "1366x768"
+    size = os.environ.get("VELMOR_SIZE", "1366x768")
     more = {}
 
     def setUp(self):
