@@ -18,8 +18,12 @@ from gi.repository import Atspi, GLib  # noqa: E402
 warnings.simplefilter("ignore", DeprecationWarning)
 
 VELMOR = os.environ["VELMOR"]
-PATIENCE = 15.0  # seconds; a machine under load is slow, never wrong
+PATIENCE = 60.0  # seconds; a machine under load is slow, never wrong
 STEP = 0.02
+
+
+# A question that comes before a program can hear it is never answered: it is asked again, also of a young program.
+Atspi.set_timeout(5000, 0)
 
 
 def turn():
@@ -30,9 +34,11 @@ def turn():
 
 
 def until(condition, what):
-    """Waits for a condition and returns its value; fails when it does not come true in time."""
+    """Waits for a condition and returns its value; fails when it does not come true in time. It is asked once more after that,
+    since the answer may have been underway for long."""
     end = time.monotonic() + PATIENCE
     while True:
+        late = time.monotonic() > end
         turn()
         try:
             value = condition()
@@ -40,8 +46,8 @@ def until(condition, what):
             value = None
         if value:
             return value
-        if time.monotonic() > end:
-            raise AssertionError("never came: " + what)
+        if late:
+            raise AssertionError("never came: " + what + "".join(program.seen() for program in Program.running))
         time.sleep(STEP)
 
 
@@ -59,14 +65,20 @@ class Screen:
     def __init__(self, size):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset"],
+            # No key repeats itself because a busy machine lets go of it late.
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset", "-r"],
             pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as answer:
             self.display = ":" + answer.readline().strip()
         self.environment = dict(os.environ, DISPLAY=self.display)
         self.manager = subprocess.Popen(["openbox"], env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        until(lambda: b"_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "window manager")
+        until(self.is_managed, "window manager")
+
+    def is_managed(self):
+        """The manager obeys. One that has only taken the screen does not give the keyboard to windows that appear meanwhile."""
+        self.ask("xdotool", "set_num_desktops", "2")
+        return b"= 2" in self.ask("xprop", "-root", "_NET_NUMBER_OF_DESKTOPS")
 
     def ask(self, *command):
         return subprocess.run(command, env=self.environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False).stdout
@@ -84,6 +96,7 @@ class Screen:
 
 class Program:
     """The program on that screen, with a home of its own."""
+    running = []
 
     def __init__(self, screen, **more):
         self.screen = screen
@@ -100,6 +113,7 @@ class Program:
         self.fields = {}
         self.last_in_hand = None
         self.process = subprocess.Popen([VELMOR, *arguments], env=environment)
+        self.running.append(self)
         self.root = until(self.find_root, "the program on the accessibility bus")
         until(lambda: self.windows(), "the main window")
 
@@ -164,8 +178,12 @@ class Program:
                 return showing[0]
         return found[0] if found else None
 
+    def showing(self, pattern, role=None):
+        node = self.named(pattern, role)
+        return node if node and has(node, Atspi.StateType.SHOWING) else None
+
     def see(self, pattern, role=None):
-        return until(lambda: self.named(pattern, role), "%s %s" % (role or "anything", pattern))
+        return until(lambda: self.showing(pattern, role), "%s %s" % (role or "anything", pattern))
 
     def shows(self, pattern):
         """Waits for a text on the sheet in hand, whatever other sheets show."""
@@ -210,26 +228,58 @@ class Program:
     def focused(self, symbol):
         until(lambda: has(self.field(symbol), Atspi.StateType.FOCUSED), "the focus in " + symbol)
 
-    # what the person does
+    def has_keyboard(self):
+        """The server sends keys to this program, and one of its windows knows itself in front."""
+        return self.screen.ask("xdotool", "getwindowfocus", "getwindowpid").strip() == str(self.process.pid).encode() \
+            and any(has(window, Atspi.StateType.ACTIVE) for window in self.windows())
+
+    def seen(self):
+        """What stands on the screen, for the one who asks why a journey failed."""
+        self.picture("failed-%d" % os.getpid())
+        lines = ["", "the keyboard is with: " + self.screen.ask("xdotool", "getwindowfocus", "getwindowname").decode().strip()]
+        try:
+            for node in self.all():
+                states = [name for name in ("ACTIVE", "FOCUSED", "SHOWING") if has(node, getattr(Atspi.StateType, name))]
+                role = node.get_role_name()
+                if role in ("frame", "dialog", "alert") or "FOCUSED" in states:
+                    text = " with " + repr(self.text(node)[:200]) if role == "text" else ""
+                    lines.append("%s %r %s%s" % (role, node.get_name(), " ".join(states), text))
+        except GLib.Error as error:
+            lines.append("and then: " + str(error))
+        return "\n  ".join(lines)
+
+    # what the person does, who looks first where the keys will go and where a thing stands
 
     def tool(self, *command):
         subprocess.run(("xdotool",) + command, env=self.screen.environment, check=True)
 
     def key(self, *keys):
-        self.tool("key", "--clearmodifiers", *keys)
+        until(self.has_keyboard, "the keyboard for " + " ".join(keys))
+        self.tool("key", *keys)
 
     def type(self, text):
+        until(self.has_keyboard, "the keyboard for " + text)
         self.tool("type", "--delay", "5", text)
 
+    def at_rest(self, node):
+        """The place of what can be seen and has ceased to move."""
+        places = []
+
+        def rests():
+            places.append(self.place(node) if has(node, Atspi.StateType.SHOWING) else None)
+            return places[-1] and places[-1][2] > 0 and places[-2:-1] == places[-1:] and places[-1]
+
+        return until(rests, "a place to press")
+
     def press(self, node, button="1"):
-        x, y, width, height = self.place(node)
+        x, y, width, height = self.at_rest(node)
         self.tool("mousemove", str(x + width // 2), str(y + height // 2), "click", button)
 
     def drag(self, node, target):
         """Carries a thing with the left button held to the middle of another."""
-        x, y, width, height = self.place(node)
+        x, y, width, height = self.at_rest(node)
         self.tool("mousemove", str(x + width // 2), str(y + height // 2), "mousedown", "1")
-        to_x, to_y, to_width, to_height = self.place(target)
+        to_x, to_y, to_width, to_height = self.at_rest(target)
         for part in (0.2, 0.6, 1.0):
             self.tool("mousemove", str(round(x + width / 2 + part * (to_x + to_width / 2 - x - width / 2))),
                       str(round(y + height / 2 + part * (to_y + to_height / 2 - y - height / 2))))
@@ -238,7 +288,7 @@ class Program:
     def box(self, text):
         """Waits for a message box with that text and until it has the keyboard."""
         label = self.see(text, "label")
-        until(lambda: any(has(node, Atspi.StateType.FOCUSED) for node in self.all()
+        until(lambda: any(has(node, Atspi.StateType.FOCUSED) for node in self.all(label.get_parent())
                           if node.get_role_name() == "push button"), "a button of the box")
         return label
 
@@ -282,12 +332,20 @@ class Program:
             self.press(self.see("^" + re.escape(item) + "$", "menu item"))
 
     def name_file(self, path):
-        """Types a name into the dialog of files that opens."""
-        dialog = self.see("", "dialog")
-        until(lambda: any(has(node, Atspi.StateType.FOCUSED) for node in self.all(dialog) if node.get_role_name() == "text"),
-              "the keyboard in the dialog of files")
+        """Types a name into the dialog of files that opens, and sees the dialog go."""
+        def opened():
+            for window in self.windows():
+                if window.get_role_name() == "dialog" and has(window, Atspi.StateType.ACTIVE):
+                    for node in self.all(window):
+                        if node.get_role_name() == "text" and has(node, Atspi.StateType.FOCUSED):
+                            return window, node
+            return None
+
+        dialog, name = until(opened, "the keyboard in the dialog of files")
         self.type(path)
+        until(lambda: self.text(name) == path, "the name " + path)
         self.key("Return")
+        until(lambda: dialog not in self.windows(), "the end of the dialog of files")
 
     def save(self, path):
         """Saves the sheet in hand, which has no file yet."""
@@ -330,6 +388,8 @@ class Program:
         return until(lambda: self.process.poll() is not None, "the end of the program") and self.process.returncode
 
     def close(self):
+        if self in self.running:
+            self.running.remove(self)
         if self.process.poll() is None:
             self.process.kill()
             self.process.wait()

@@ -184,6 +184,7 @@ class Pair(Journey):
         velmor.focused("ΔQIc")
         self.design()
         self.read_the_meter("^multímetro")
+        velmor.picture("form3-finished-es")
         velmor.press(velmor.see("^Elaborar el informe", "push button"))
         velmor.reads("Resultados del diseño de Diferencial Simple", "ERes: 19.65 V")
 
@@ -195,6 +196,7 @@ class Pair(Journey):
         velmor.focused("ΔQIc")
         self.design()
         self.read_the_meter("^multimeter")
+        velmor.picture("form3-finished-en")
         velmor.press(velmor.see("^Write the report", "push button"))
         velmor.reads("Results of the design of Differential Simple", "RL (kohm) = 16")
 

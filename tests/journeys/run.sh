@@ -1,21 +1,21 @@
-#!/bin/sh
+#!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Plays the journeys of journeys.py and of each *_journeys.py with the program given, each on a session bus of its own, so that
-# none inherits what another left.
+# none inherits what another left. Two are played at once, or as many as VELMOR_JOURNEYS_AT_ONCE says; what a journey says is
+# printed whole when it has ended.
 # usage: run.sh PROGRAM [JOURNEY...]
-set -eu
+set -euo pipefail
 VELMOR=$1
 shift
 cd "$(dirname "$0")"
-# The way to a socket must be short, and the build folder may lie deep.
-XDG_RUNTIME_DIR=$(mktemp -d)
-trap 'rm -rf -- "$XDG_RUNTIME_DIR"' EXIT
-export XDG_RUNTIME_DIR VELMOR PYTHONDONTWRITEBYTECODE=1 PYTHONWARNINGS=ignore
 python=/usr/bin/python3 # the one that knows the accessibility bus
+# The way to a socket must be short, and the build folder may lie deep.
+room=$(mktemp -d)
+trap 'rm -rf -- "$room"' EXIT
+export VELMOR python room PYTHONDONTWRITEBYTECODE=1 PYTHONWARNINGS=ignore
 
 all_journeys() {
     $python - <<'END'
-import glob
 import unittest
 def names(suite):
     for test in suite:
@@ -27,14 +27,23 @@ print("\n".join(names(unittest.defaultTestLoader.discover(".", pattern="*journey
 END
 }
 
-# shellcheck disable=SC2046 # names without blanks, one for each journey
-[ $# -gt 0 ] || set -- $(all_journeys)
-failed=0
-for journey in "$@"; do
-    log=$(dbus-run-session -- $python -m unittest "$journey" 2>&1) || {
-        failed=1
-        echo "$log"
-    }
-    echo "$journey: $(echo "$log" | tail -n 1)"
-done
-exit $failed
+# play JOURNEY: the bus of assistive technology has one place in a runtime folder, so each journey has a folder too.
+play() {
+    local log failed=0
+    XDG_RUNTIME_DIR=$(mktemp -d "$room/XXXX")
+    export XDG_RUNTIME_DIR
+    log=$(dbus-run-session -- "$python" -m unittest "$1" 2>&1) || failed=1
+    {
+        flock 9
+        ((failed == 0)) || echo "$log"
+        echo "$1: $(tail -n 1 <<<"$log")"
+    } 9>"$room/turn"
+    return $failed
+}
+export -f play
+
+(($# > 0)) || mapfile -t journeys < <(all_journeys)
+(($# == 0)) || journeys=("$@")
+((${#journeys[@]} > 0)) || { echo "no journeys"; exit 1; }
+# shellcheck disable=SC2016  # the inner shell expands it
+printf '%s\n' "${journeys[@]}" | xargs -P "${VELMOR_JOURNEYS_AT_ONCE:-2}" -I{} bash -c 'play "$1"' _ {} || exit 1

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "designs/power/form10_drawing.h"
+#include "designs/power/parameters.h"
 #include "sheets/notation.h"
 #include "sheets/schematic.h"
 #include "sheets/tools.h"
@@ -32,13 +33,6 @@ using host::Look;
 inline constexpr int circuitTop = 94;
 inline constexpr int transistorTop = 404;
 
-/// A field of the parameters, wide enough for fifteen digits.
-constexpr host::Place wide(int top, int row)
-{
-    host::Place place = zones::parameter(top, row);
-    place.width = 100 * twipsPerUnit;
-    return place;
-}
 constexpr host::ControlRow overlay(host::ControlRow row)
 {
     row.overlay = true;
@@ -72,23 +66,23 @@ inline constexpr auto controls = [] {
         hidden({.id = Shape1, .name = "Shape1", .kind = Kind::shape, .place = drawing::peakCurrent.place, .look = Look::result,
                 .drawing = drawing::peakCurrent.marks}),
 
-        field(Text1,  "Text1",  wide(circuitTop, 0), "4", notation::Po),
-        field(Text2,  "Text2",  wide(circuitTop, 1), "8", notation::in(notation::RLw, "Ω")),
-        hidden(field(Text10, "Text10", wide(circuitTop, 2), "24", notation::Es)),
-        hidden(field(Text5,  "Text5",  wide(circuitTop, 3), "6", notation::Ibias)),
-        hidden(field(Text6,  "Text6",  wide(circuitTop, 4), "Rb1a", notation::Rb1a)),
-        hidden(disabled(field(Text7, "Text7", wide(circuitTop, 5), "Rb1b", notation::Rb1b))),
-        hidden(field(Text8,  "Text8",  wide(circuitTop, 6), "Rb2", notation::Rb2)),
-        hidden(disabled(field(Text3, "Text3", wide(circuitTop, 7), "RLb", notation::RLb))),
-        hidden(disabled(field(Text4, "Text4", wide(circuitTop, 8), "RLa", notation::RLa))),
-        hidden(disabled(field(Text9, "Text9", wide(circuitTop, 9), "", notation::Rs))),
-        hidden(field(Text11, "Text11", wide(transistorTop, 0), "", notation::in(notation::IcMax, "A"))),
-        hidden(field(Text12, "Text12", wide(transistorTop, 1), "", notation::VceSat)),
-        hidden(disabled(field(Text13, "Text13", wide(transistorTop, 2), "  QIc", notation::in(notation::IPeak, "")))),
+        field(Text1,  "Text1",  power::parameter(circuitTop, 0), "4", notation::Po),
+        field(Text2,  "Text2",  power::parameter(circuitTop, 1), "8", notation::in(notation::RLw, "Ω")),
+        hidden(field(Text10, "Text10", power::parameter(circuitTop, 2), "24", notation::Es)),
+        hidden(field(Text5,  "Text5",  power::parameter(circuitTop, 3), "6", notation::Ibias)),
+        hidden(field(Text6,  "Text6",  power::parameter(circuitTop, 4), "Rb1a", notation::Rb1a)),
+        hidden(disabled(field(Text7, "Text7", power::parameter(circuitTop, 5), "Rb1b", notation::Rb1b))),
+        hidden(field(Text8,  "Text8",  power::parameter(circuitTop, 6), "Rb2", notation::Rb2)),
+        hidden(disabled(field(Text3, "Text3", power::parameter(circuitTop, 7), "RLb", notation::RLb))),
+        hidden(disabled(field(Text4, "Text4", power::parameter(circuitTop, 8), "RLa", notation::RLa))),
+        hidden(disabled(field(Text9, "Text9", power::parameter(circuitTop, 9), "", notation::Rs))),
+        hidden(field(Text11, "Text11", power::parameter(transistorTop, 0), "", notation::in(notation::IcMax, "A"))),
+        hidden(field(Text12, "Text12", power::parameter(transistorTop, 1), "", notation::VceSat)),
+        hidden(disabled(field(Text13, "Text13", power::parameter(transistorTop, 2), "  QIc", notation::in(notation::IPeak, "")))),
 
         label(Label2,  "Label2",  at(246, 396, 166, 62), Look::note),
         result(Label3, "Label3",  at(866, 236, 100, 18)),
-        result(Label4, "Label4",  at(500, 183, 112, 36)),
+        result(Label4, "Label4",  at(470, 183, 112, 36)),
         result(Label5, "Label5",  at(636, 334, 80, 34)),
         result(Label6, "Label6",  at(636, 400, 90, 18)),
         result(Label8, "Label8",  at(246, 104, 174, 36)),

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "designs/power/class_a_drawing.h"
+#include "designs/power/parameters.h"
 #include "host/window.h"
 #include "sheets/notation.h"
 #include "sheets/rows.h"
@@ -51,7 +52,7 @@ using host::Symbol;
 namespace drawing = class_a::drawing;
 
 inline constexpr auto title = titleBlock({"Clase A simple", "Class A, simple"});
-inline constexpr auto titleFrame = part({Mark{.symbol = Symbol::frame, .from = {930, 588}, .to = {1010, 608}, .ink = host::Ink::quiet}});
+inline constexpr auto titleFrame = part({Mark{.symbol = Symbol::frame, .from = {938, 588}, .to = {1010, 608}, .ink = host::Ink::quiet}});
 
 // Top edges of the two groups of parameters.
 inline constexpr int circuitTop = 94;
@@ -119,8 +120,8 @@ inline constexpr auto controls = [] {
         part(Line12, "Line12", drawing::input<Control>),
 
         hidden(result(Label1, "Label1", at(854, 262, 130, 18), "EQ")),
-        result(Label2,  "Label2",  at(290, 306, 124, 34)),
-        drawnWith(label(Label3, "Label3", zones::parameter(transistorTop, 1), Look::result, "30 V"), voltageLimitName),
+        result(Label2,  "Label2",  at(270, 308, 152, 18)),
+        drawnWith(label(Label3, "Label3", power::parameter(transistorTop, 1), Look::result, "30 V"), voltageLimitName),
         unseen(Label4,  "Label4",  "Po"),
         result(Label5,  "Label5",  at(290, 216, 130, 18)),
         hidden(result(Label8, "Label8", at(670, 286, 80, 34))),
@@ -140,17 +141,17 @@ inline constexpr auto controls = [] {
         hidden(label(Label29, "Label29", at(816, 504, 180, 18), Look::note)),
         result(Q1,      "Q1",      at(680, 362, 112, 18)),
 
-        field(Text1, "Text1", at(98, circuitTop + 24, 108, 22), "0.78", notation::Po),
-        field(Text2, "Text2", zones::parameter(circuitTop, 1), "16", notation::in(notation::RLw, "Ω")),
-        disabled(field(Text3, "Text3", zones::parameter(circuitTop, 2), "", notation::in(notation::QIc2, "A"))),
+        field(Text1, "Text1", power::parameter(circuitTop, 0), "0.78", notation::Po),
+        field(Text2, "Text2", power::parameter(circuitTop, 1), "16", notation::in(notation::RLw, "Ω")),
+        disabled(field(Text3, "Text3", power::parameter(circuitTop, 2), "", notation::in(notation::QIc2, "A"))),
         onDrawing(Text4, "Text4", 904, 119, notation::Es),
         onDrawing(Text5, "Text5", 638, 180, notation::in(notation::RL, "Ω")),
         onDrawing(Text6, "Text6", 464, 226, notation::in(notation::Rb1b, "Ω")),
         onDrawing(Text7, "Text7", 446, 312, notation::in(notation::Rb1a, "Ω")),
         onDrawing(Text8, "Text8", 448, 470, notation::in(notation::Rb2, "Ω")),
         onDrawing(Text9, "Text9", 302, 398, notation::in(notation::Rs, "Ω")),
-        hidden(field(Text10, "Text10", zones::parameter(transistorTop, 2), "100", notation::Beta2)),
-        hidden(field(Text11, "Text11", zones::parameter(transistorTop, 3), "100", notation::Beta1)),
+        hidden(field(Text10, "Text10", power::parameter(transistorTop, 2), "100", notation::Beta2)),
+        hidden(field(Text11, "Text11", power::parameter(transistorTop, 3), "100", notation::Beta1)),
         hidden({.id = Text12, .name = "Text12", .kind = Kind::field, .place = at(16, circuitTop + 108, 204, 22),
                 .text = "Click en Resistencia ó Parlante", .meaning = {"Elija resistencia ó parlante", "Choose resistor or loudspeaker"}}),
 

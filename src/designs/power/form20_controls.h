@@ -27,7 +27,7 @@ using host::Side;
 
 inline constexpr auto title = titleBlock({"Clase A Darlington", "Class A Darlington"});
 inline constexpr auto titleFrame = sheets::part({
-    Mark{.symbol = Symbol::frame, .from = {902, 588}, .to = {1010, 608}, .ink = host::Ink::quiet},
+    Mark{.symbol = Symbol::frame, .from = {926, 588}, .to = {1010, 608}, .ink = host::Ink::quiet},
 });
 
 // The schematic. Columns: collector resistors 620, Q2 740 and 770, Q3 790 and 820, second bootstrap 990.
@@ -105,10 +105,10 @@ inline constexpr auto controls = [] {
             result(Label22, "Label22", at(660, 142, 130, 36)),
             unseen(Label23, "Label23", "Q1"),
             hidden(label(Label29, "Label29", at(836, 514, 170, 18), Look::note)),
-            disabled(field(Text3, "Text3", zones::parameter(circuitTop, 2), "", notation::in(notation::QIc3, "A"))),
+            disabled(field(Text3, "Text3", power::parameter(circuitTop, 2), "", notation::in(notation::QIc3, "A"))),
             onDrawing(Text5, "Text5", 490, 168, notation::in(notation::RL, "Ω")),
-            hidden(field(Text10, "Text10", zones::parameter(transistorTop, 2), "50", notation::Beta3)),
-            hidden(field(Text11, "Text11", zones::parameter(transistorTop, 3), "100", notation::Beta2)),
+            hidden(field(Text10, "Text10", power::parameter(transistorTop, 2), "50", notation::Beta3)),
+            hidden(field(Text11, "Text11", power::parameter(transistorTop, 3), "100", notation::Beta2)),
             cloneTool(Image5, "Image5"),
             {.id = SSPanel1, .name = "SSPanel1", .kind = Kind::panel, .place = zones::nextStep, .look = Look::hint},
         })),

@@ -208,20 +208,36 @@ void Canvas::paintOne(QPainter& painter, Handle control, const QRegion& clip)
 void Canvas::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    // A palette is no sheet: its pictures lie on the desk.
-    const bool onDesk = model_ != nullptr && model_->role() == host::Role::palette;
-    painter.fillRect(event->rect(), onDesk ? view_.inks->desk : view_.inks->paper);
+    // Measuring what a control paints on costs as much as painting it: the most of a canvas is painted without asking.
+    const bool most = canvas_detail::isMostOf(event->region(), rect());
+    const bool painted = model_ != nullptr && most && !std::exchange(seen_, true) && paintAsFirstSeen(painter);
+    if (!painted)
+        paintGround(painter, event->rect());
     if (model_ == nullptr)
         return;
-    // Measuring what a control paints on costs as much as painting it: the most of a canvas is painted without asking.
-    if (!canvas_detail::isMostOf(event->region(), rect())) {
+    if (!most) {
         inOrderOfPainting(*model_, [&](Handle control) { paintOne(painter, control, event->region()); });
         paintPaleFields(painter, event->region());
-    } else if (std::exchange(seen_, true) || !paintAsFirstSeen(painter)) {
+    } else if (!painted) {
         paintWhole(painter);
     }
     if (offering_)
         paintGlow(painter);
+}
+
+// A palette is no sheet: its pictures lie on the desk.
+void Canvas::paintGround(QPainter& painter, const QRect& box) const
+{
+    const bool onDesk = model_ != nullptr && model_->role() == host::Role::palette;
+    painter.fillRect(box, onDesk ? view_.inks->desk : view_.inks->paper);
+}
+
+void Canvas::paintPicture(QPainter& painter, const QPixmap& picture) const
+{
+    const QRect room = pictured().toRect();
+    for (const QRect& beside : QRegion(rect()) - room)
+        paintGround(painter, beside);
+    painter.drawPixmap(room.topLeft(), picture);
 }
 
 // Where what is being dragged may be let go; the place under it more so.
@@ -282,7 +298,7 @@ bool Canvas::paintAsFirstSeen(QPainter& painter)
     const SheetFace face = faceOf(*model_, design_, view_, ratio, std::move(widgets));
     const QRectF room = pictured();
     if (const QPixmap* picture = desk_.firstPictures->find(face)) {
-        painter.drawPixmap(room.topLeft(), *picture);
+        paintPicture(painter, *picture);
         return true;
     }
     if (!desk_.firstPictures->returns(face) || !liesInPicture())
@@ -295,7 +311,7 @@ bool Canvas::paintAsFirstSeen(QPainter& painter)
         inside.translate(-room.topLeft());
         paintWhole(inside);
     }
-    painter.drawPixmap(room.topLeft(), picture);
+    paintPicture(painter, picture);
     desk_.firstPictures->keep(face, picture);
     return true;
 }
