@@ -110,7 +110,6 @@ class CommonBase(BothLanguages, Journey):
         velmor.press(velmor.field("Rb1"))
         self.enter("Rb1", "57.4")
         self.told("318.4713 mF", "7.9618 mF", "Zin=25 Ohm")  # 1 / (125.6 x 25); 1 / (12.56 x 10000)
-        self.picture("form4-finished")
 
     def analysis(self):
         """The same stage takes a hundred times less power when its signal enters the base."""
@@ -132,6 +131,7 @@ class CommonBase(BothLanguages, Journey):
         self.picture("form4-bypassed")
         velmor.press(velmor.see(self.say(("^Volver de la hoja de análisis", "^Back from the leaf of analysis")), "push button"))
         self.told("Zin=25 Ohm", "318.4713 mF")
+        self.picture("form4-finished")
 
     def reported(self):
         self.report(("Elaboración de Informe", "Report Design"), ("Alumno: ", "Student: "),
