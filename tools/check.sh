@@ -54,7 +54,7 @@ check_tidy() {
     # Nothing is built there; the compile commands must be those of today's lists all the same.
     cmake --build "$root/build/tidy" --target build.ninja >/dev/null || stop "CMake failed."
     local files
-    mapfile -t files < <(git ls-files -co --exclude-standard 'src/*.cpp' 'tests/*.cpp')
+    mapfile -t files < <(git ls-files -co --exclude-standard 'src/*.cpp' 'tests/*.cpp' ':!tests/sheets/no_such_row.cpp')
     say "clang-tidy on ${#files[@]} files"
     "$root/tools/tidy.py" "$root/build/tidy" "${files[@]}" || fault "clang-tidy: see above"
 }

@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+#include "host/window.h"
 #include "sheets/notation.h"
 #include "sheets/schematic.h"
 
@@ -40,6 +41,12 @@ constexpr sheets::Quantity besideItsPart(sheets::Quantity quantity)
 {
     quantity.side = host::SymbolSide::part;
     return quantity;
+}
+
+/// "Rb1" beside a field that bears the symbol already; with its value it says more.
+inline bool isBareName(const host::Window& window, host::Handle label)
+{
+    return window.text(label).find('=') == std::string::npos;
 }
 
 /// What the milliammeter shows.

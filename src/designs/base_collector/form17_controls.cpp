@@ -169,12 +169,6 @@ constexpr host::ValueRow valueRows[] = {
 static_assert(host::rowsInOrder(rows));
 static_assert(rows.size() == controlCount);
 
-/// "Rb1" below a field that bears the symbol already; with its value it says more.
-bool isBareName(const host::Window& window, host::Handle label)
-{
-    return window.text(label).find('=') == std::string::npos;
-}
-
 } // namespace controls_detail
 
 const std::span<const host::ControlRow> controls = controls_detail::rows;
@@ -185,10 +179,12 @@ host::Place shownPlace(const host::Window& window, host::Handle control)
 {
     switch (control) {
     case Label24:
-        return controls_detail::isBareName(window, Label24) ? host::Place{} : controls[control].place;
+        return base_collector::isBareName(window, Label24) ? host::Place{} : controls[control].place;
     case Label30:
-        return controls_detail::isBareName(window, Label30) ? host::Place{} : window.placeOf(control);
+        return base_collector::isBareName(window, Label30) ? host::Place{} : window.placeOf(control);
     case Label21:
+        return window.visible(Text16) && base_collector::isBareName(window, Label21) ? host::Place{}
+                                                                                     : controls[control].place;
     case Text22:
     case Text23:
         return controls[control].place;

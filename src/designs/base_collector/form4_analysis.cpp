@@ -46,12 +46,15 @@ void Form4::fillAnalysis()
     host().setVisible(leafWindow, "image2", true);
 }
 
+// The keyboard stays on the leaf: a field of the chain that it fell to would propose its value anew, over the student's.
 void Form4::clickPicture1()
 {
+    show(Picture2);
+    if (focus() == Picture1)
+        host().SetFocus(*this, Picture2);
     closeAnalysis();
     connectCommonBase();
     hide(Image4);
-    show(Picture2);
     tell(texts::clickLeaf);
 }
 

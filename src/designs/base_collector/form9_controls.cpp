@@ -224,8 +224,10 @@ const std::span<const host::ValueRow> values = controls_detail::valueRows;
 host::Place shownPlace(const host::Window& window, host::Handle control)
 {
     switch (control) {
-    case Label19:
     case Label21:
+        return window.visible(Text16) && base_collector::isBareName(window, Label21) ? host::Place{}
+                                                                                     : controls[control].place;
+    case Label19:
     case Label24:
     case Text22:
     case Text23:

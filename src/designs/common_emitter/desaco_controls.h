@@ -44,8 +44,9 @@ inline constexpr sheets::Tools tools{
 
 /// What the help boxes take of the sheet; where they open depends on the main window.
 inline constexpr host::Place helpPlace{13000, 0, 3735, 6000};
-/// Where a screen shows them: beside the drawing, wherever the main window ends.
-inline constexpr host::Place shownHelpPlace = sheets::at(898, 94, 296, 518);
+/// Where a screen shows them, wherever the main window ends: over the right of the drawing, so that the tool that closes them can be
+/// seen.
+inline constexpr host::Place shownHelpPlace = sheets::at(736, 94, 278, 518);
 
 namespace controls_detail {
 

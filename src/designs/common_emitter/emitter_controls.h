@@ -147,12 +147,12 @@ inline constexpr auto emitterRows = std::to_array<ControlRow>({
     disabled(field(C::Text12, "Text12", zones::parameter(circuitTop, 7), "20", notation::fo)),
     disabled(field(C::Text13, "Text13", at(910, 238, 66, 22), "1", notation::above(notation::Eopp))),
     disabled(field(C::Text14, "Text14", at(300, 414, 66, 22), "0.35", notation::above(notation::Ein))),
-    hidden(disabled(field(C::Text15, "Text15", at(640, 459, 130, 22), "", notation::above(notation::Res)))),
+    hidden(disabled(field(C::Text15, "Text15", at(640, 459, 122, 22), "", notation::above(notation::Res)))),
     disabled(field(C::Text16, "Text16", at(706, 119, 122, 22), "", notation::above(notation::Es))),
     disabled(field(C::Text17, "Text17", at(640, 162, 130, 22), "", notation::above(notation::RL))),
     hidden(disabled(field(C::Text18, "Text18", at(448, 459, 122, 22), "", notation::above(notation::Rb2)))),
     disabled(field(C::Text19, "Text19", at(448, 162, 122, 22), "", notation::above(notation::Rb1))),
-    hidden(disabled(field(C::Text20, "Text20", at(816, 422, 76, 22), "", notation::above(notation::Cbp)))),
+    hidden(disabled(field(C::Text20, "Text20", at(806, 422, 86, 22), "", notation::above(notation::Cbp)))),
     {.id = C::Voltaje, .name = "Voltaje", .kind = Kind::label, .place = at(102, 202, 66, 22), .enabled = false,
      .meaning = {"Tensión de estabilidad ERes", "Voltage of stability ERes"}, .look = Look::result, .drawing = emitterVoltageFrame,
      .clickableWhenDisabled = true},
@@ -275,7 +275,7 @@ inline constexpr auto emitterGrowth = std::to_array<host::GrowthRow>({
 // value, part
 template <class C>
 inline constexpr auto emitterValues = std::to_array<host::ValueRow>({
-    {C::Shape3,  C::Line5},  {C::Image2,  C::Line2},
+    {C::Shape3,  C::Line5},  {C::Image2,  C::Line2},  {C::Voltaje, C::Line5},
     {C::Text15,  C::Line2},  {C::res,     C::Line2},  {C::VRes,     C::Line2},  {C::sta1,     C::Line2},  {C::Text20, C::Line2},
     {C::Label24, C::Line6},  {C::statu17, C::Line1},  {C::statu25,  C::Line17},
     {C::Text9,   C::Line8},  {C::statu18, C::Line8},  {C::statu35,  C::Line8},  {C::statu33,  C::Line7},  {C::Text13, C::Line11},

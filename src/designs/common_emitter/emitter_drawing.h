@@ -2,7 +2,7 @@
 // The parts of the schematic that the common-emitter sheets stabilised by current draw alike, counted from the corner of the
 // sheet, on a grid of 10. Knows the names of the fields, no sheet.
 //
-// Columns: generator 280, base divider 430, transistor 590 and 620, bypass 810, load 900.
+// Columns: generator 280, base divider 430, transistor 590 and 620, bypass 800, load 900.
 // Rows: supply 130, collector 280, base 340, emitter 410, ground 520.
 #pragma once
 
@@ -113,11 +113,11 @@ inline constexpr auto loadVoltage = part({
     Mark{.symbol = Symbol::arrow, .from = {600, 216}, .to = {600, 144}, .field = C::Text17},
 });
 inline constexpr auto bypassCapacitor = part({
-    wire(620, 410, 810, 410),
-    wire(810, 410, 810, 440),
-    Mark{.symbol = Symbol::capacitor, .from = {810, 440}, .to = {810, 490}},
-    wire(810, 490, 810, 520),
-    ground(810, 520),
+    wire(620, 410, 800, 410),
+    wire(800, 410, 800, 440),
+    Mark{.symbol = Symbol::capacitor, .from = {800, 440}, .to = {800, 490}},
+    wire(800, 490, 800, 520),
+    ground(800, 520),
 });
 // Bootstrapping: both resistors of the divider in halves, their middles tied to the emitter, in the given row.
 consteval auto bootstrapWiresTo(int emitter)

@@ -114,10 +114,13 @@ std::unique_ptr<host::Window> create(host::SheetHost& host)
     return std::make_unique<Form8>(host);
 }
 
-/// `statu18` asks for another supply from the left edge, where the parameters stand: it is shown beside its load as always.
+/// `statu18` asks for another supply from the left edge, where the parameters stand: it is shown beside the supply, and beside its
+/// load as always when it tells RLac.
 host::Place shownPlace(const host::Window& window, Handle control)
 {
-    return control == statu18 ? window.row(control).place : window.placeOf(control);
+    if (control != statu18)
+        return window.placeOf(control);
+    return window.text(statu18) == askForSupply ? sheets::at(852, 121, 160, 18) : window.row(control).place;
 }
 
 const sheets::SheetSpec sheetSpec{.filter = fileFilter,

@@ -59,11 +59,11 @@ inline constexpr auto wholeResistor = part({
     wire(620, 510, 620, 520),
 });
 inline constexpr auto bypassCapacitor = part({
-    wire(620, 450, 810, 450),
-    wire(810, 450, 810, 460),
-    Mark{.symbol = Symbol::capacitor, .from = {810, 460}, .to = {810, 510}},
-    wire(810, 510, 810, 520),
-    ground(810, 520),
+    wire(620, 450, 800, 450),
+    wire(800, 450, 800, 460),
+    Mark{.symbol = Symbol::capacitor, .from = {800, 460}, .to = {800, 510}},
+    wire(800, 510, 800, 520),
+    ground(800, 520),
 });
 inline constexpr auto bootstrapWires = drawing::bootstrapWiresTo(380);
 inline constexpr auto emitterVoltage = part({
@@ -83,10 +83,10 @@ inline constexpr auto differentRows = std::to_array<ControlRow>({
     disabled(field(Text13, "Text13", at(910, 238, 66, 22), "3", notation::above(notation::Eopp))),
     disabled(field(Text2, "Text2", zones::parameter(transistorTop, 0), "200", notation::Beta)),
     disabled(field(Text5, "Text5", zones::parameter(transistorTop, 1), "50", notation::EcMax)),
-    hidden(disabled(field(Text15, "Text15", at(640, 412, 130, 22), "", notation::above(notation::Res)))),
+    hidden(disabled(field(Text15, "Text15", at(640, 412, 122, 22), "", notation::above(notation::Res)))),
     marked(result(VRes, "VRes", at(667, 462, 100, 18)), emitterVoltageName),
     hidden(result(res, "res", at(640, 484, 146, 36))),
-    hidden(result(sta1, "sta1", at(828, 466, 62, 36))),
+    hidden(result(sta1, "sta1", at(818, 466, 72, 36))),
     hidden(option(Picture6, "Picture6", Kind::picture, zones::option(4), {"Desacoplar todo el emisor", "Bypass the whole emitter"},
                   bypassMarks)),
     inForce(Picture1, "Picture1", 5, {"Desacoplado: vuelve al comienzo", "Bypassed: back to the beginning"}, bypassMarks),

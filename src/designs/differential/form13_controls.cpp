@@ -89,28 +89,28 @@ constexpr auto controls = std::to_array<ControlRow>({
     grown(Shape10, "Shape10", drawings::straightInputs),
 
     later(Label1,  "Label1",  at(572, 100, 120, 20)),
-    later(Label2,  "Label2",  at(286, 152, 84, 18)),
-    later(Label3,  "Label3",  at(286, 170, 84, 18)),
+    later(Label2,  "Label2",  at(262, 152, 104, 18)),
+    later(Label3,  "Label3",  at(262, 170, 104, 18)),
     current(Label4, "Label4", at(412, 435, 70, 34)),
     later(Label5,  "Label5",  at(486, 181, 70, 18)),
     later(Label7,  "Label7",  at(574, 341, 136, 18)),
     later(Label8,  "Label8",  at(574, 181, 68, 18)),
-    later(Label9,  "Label9",  at(486, 199, 70, 18)),
+    later(Label9,  "Label9",  at(486, 199, 100, 18)),
     later(Label10, "Label10", at(734, 136, 84, 18)),
     later(Label11, "Label11", at(734, 181, 84, 18)),
-    later(Label12, "Label12", at(736, 282, 74, 36)),
-    later(Label13, "Label13", at(642, 398, 72, 18)),
-    later(Label14, "Label14", at(574, 227, 70, 18)),
-    later(Label15, "Label15", at(486, 227, 70, 18)),
+    later(Label12, "Label12", at(728, 282, 80, 36)),
+    later(Label13, "Label13", at(622, 398, 90, 18)),
+    later(Label14, "Label14", at(572, 227, 74, 18)),
+    later(Label15, "Label15", at(486, 227, 84, 18)),
     later(Label16, "Label16", at(412, 398, 84, 18)),
     later(Label17, "Label17", at(574, 322, 120, 18)),
     later(Label19, "Label19", at(246, 357, 140, 18)),
     later(Label20, "Label20", at(246, 444, 84, 18)),
-    later(Label21, "Label21", at(836, 172, 110, 18)),
+    later(Label21, "Label21", at(830, 147, 116, 18)),
     later(Label22, "Label22", at(354, 490, 110, 18)),
-    later(Label23, "Label23", at(858, 198, 100, 36)),
+    later(Label23, "Label23", at(830, 168, 116, 36)),
     later(Label24, "Label24", at(862, 386, 95, 18)),
-    later(Label30, "Label30", at(730, 243, 86, 18)),
+    later(Label30, "Label30", at(728, 243, 84, 18)),
     current(Label31, "Label31", at(486, 281, 70, 20)),
     later(Label32, "Label32", at(322, 261, 72, 18)),
     current(Label33, "Label33", at(830, 266, 76, 20)),
@@ -221,6 +221,8 @@ Place place(const host::Window& window, host::Handle control)
         return wideHelp;
     if ((control == Label22 || control == Label35) && window.visible(image2))
         return {}; // the mirror takes the inputs straight: it has no Rb1 and no C1
+    if (control == Label24 && window.text(Label24).ends_with("=>"))
+        return {}; // it led to the field of RLw, which the screen has among the parameters
     if (control == Label19 && window.visible(image2))
         return besideStraightInput;
     if (control == Image1 || control == image2 || (control >= Label1 && control <= Label35))

@@ -208,20 +208,36 @@ void Canvas::paintOne(QPainter& painter, Handle control, const QRegion& clip)
 void Canvas::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    // A palette is no sheet: its pictures lie on the desk.
-    const bool onDesk = model_ != nullptr && model_->role() == host::Role::palette;
-    painter.fillRect(event->rect(), onDesk ? view_.inks->desk : view_.inks->paper);
+    // Measuring what a control paints on costs as much as painting it: the most of a canvas is painted without asking.
+    const bool most = canvas_detail::isMostOf(event->region(), rect());
+    const bool painted = model_ != nullptr && most && !std::exchange(seen_, true) && paintAsFirstSeen(painter);
+    if (!painted)
+        paintGround(painter, event->rect());
     if (model_ == nullptr)
         return;
-    // Measuring what a control paints on costs as much as painting it: the most of a canvas is painted without asking.
-    if (!canvas_detail::isMostOf(event->region(), rect())) {
+    if (!most) {
         inOrderOfPainting(*model_, [&](Handle control) { paintOne(painter, control, event->region()); });
         paintPaleFields(painter, event->region());
-    } else if (std::exchange(seen_, true) || !paintAsFirstSeen(painter)) {
+    } else if (!painted) {
         paintWhole(painter);
     }
     if (offering_)
         paintGlow(painter);
+}
+
+// A palette is no sheet: its pictures lie on the desk.
+void Canvas::paintGround(QPainter& painter, const QRect& box) const
+{
+    const bool onDesk = model_ != nullptr && model_->role() == host::Role::palette;
+    painter.fillRect(box, onDesk ? view_.inks->desk : view_.inks->paper);
+}
+
+void Canvas::paintPicture(QPainter& painter, const QPixmap& picture) const
+{
+    const QRect room = pictured().toRect();
+    for (const QRect& beside : QRegion(rect()) - room)
+        paintGround(painter, beside);
+    painter.drawPixmap(room.topLeft(), picture);
 }
 
 // Where what is being dragged may be let go; the place under it more so.
@@ -262,8 +278,10 @@ bool Canvas::liesInPicture() const
     const QRectF picture = pictured();
     const auto& rows = model_->spec().controls;
     return std::all_of(rows.begin(), rows.end(), [&](const host::ControlRow& row) {
-        return !hasPlace(row.kind) || row.look == host::Look::invisible || !paints(row.id) ||
-               picture.contains(ink(row.id).intersected(rect()));
+        if (!hasPlace(row.kind) || row.look == host::Look::invisible || !paints(row.id))
+            return true;
+        const QRectF seen = ink(row.id).intersected(rect());
+        return seen.isEmpty() || picture.contains(seen);
     });
 }
 
@@ -271,17 +289,16 @@ bool Canvas::liesInPicture() const
 bool Canvas::paintAsFirstSeen(QPainter& painter)
 {
     const bool asNew = view_.hovered == noControl && view_.pressed == noControl && view_.forward == noControl;
-    // A sheet whose prompts stand above it begins further down than its like.
-    if (model_->role() != host::Role::sheet || !asNew || design_.top != 0)
+    if (model_->role() != host::Role::sheet || !asNew)
         return false;
     std::vector<bool> widgets(widgets_.size());
     std::transform(widgets_.begin(), widgets_.end(), widgets.begin(),
                    [](const QWidget* one) { return one != nullptr; });
     const double ratio = devicePixelRatioF();
-    const SheetFace face = faceOf(*model_, view_, ratio, std::move(widgets));
+    const SheetFace face = faceOf(*model_, design_, view_, ratio, std::move(widgets));
     const QRectF room = pictured();
     if (const QPixmap* picture = desk_.firstPictures->find(face)) {
-        painter.drawPixmap(room.topLeft(), *picture);
+        paintPicture(painter, *picture);
         return true;
     }
     if (!desk_.firstPictures->returns(face) || !liesInPicture())
@@ -294,7 +311,7 @@ bool Canvas::paintAsFirstSeen(QPainter& painter)
         inside.translate(-room.topLeft());
         paintWhole(inside);
     }
-    painter.drawPixmap(room.topLeft(), picture);
+    paintPicture(painter, picture);
     desk_.firstPictures->keep(face, picture);
     return true;
 }

@@ -107,6 +107,8 @@ private:
     void tellAbout(host::Handle control, QPoint at);
     void paintWhole(QPainter& painter);
     bool paintAsFirstSeen(QPainter& painter);
+    void paintGround(QPainter& painter, const QRect& box) const;
+    void paintPicture(QPainter& painter, const QPixmap& picture) const;
     QRectF pictured() const;
     bool liesInPicture() const;
     QWidget* makeWidget(host::Handle control);

@@ -11,6 +11,7 @@
 #include "desktop/canvas/canvas.h"
 #include "desktop/canvas/control_pane.h"
 #include "desktop/canvas/document_store.h"
+#include "desktop/canvas/editor_edit.h"
 #include "desktop/canvas/field_edit.h"
 #include "desktop/canvas/report_dress.h"
 #include "desktop/drawing/control_painter.h"
@@ -288,7 +289,7 @@ QWidget* Canvas::makePage(Handle control)
 
 QWidget* Canvas::makeEditor(Handle control)
 {
-    auto* edit = new QPlainTextEdit(this);
+    auto* edit = new EditorEdit(this);
     edit->setFocusPolicy(Qt::NoFocus);
     edit->setFrameShape(QFrame::NoFrame);
     edit->setTabChangesFocus(false);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Characters and positions of a QTextDocument. A text without surrogate pairs, which is nearly every text, is counted
-// unit by unit without being copied.
+// Characters are counted over the units of the text, in which the joints of long lines have no place. A text without surrogate
+// pairs, which is nearly every text, needs no counting.
 #include "desktop/canvas/document_store.h"
 
 #include <algorithm>
+#include <limits>
 
 #include <QPlainTextDocumentLayout>
-#include <QTextBlock>
 
 #include "desktop/drawing/texts.h"
 
@@ -14,43 +14,28 @@ namespace velmor::desktop {
 
 namespace document_store_detail {
 
-constexpr double margin = 12.0; ///< logical pixels around the text
-/// Breaking lines at blanks takes the toolkit the square of their length: longer ones are broken anywhere.
-constexpr int longestAtBlanks = 4096;
+constexpr double margin = 12.0;  ///< logical pixels around the text
+constexpr int stretch = 1 << 14; ///< units that are counted at a time
 
-bool hasLongLine(const QString& text)
+bool hasSurrogates(const QString& text)
 {
-    for (qsizetype start = 0; start < text.size();) {
-        const qsizetype end = text.indexOf(QLatin1Char('\n'), start);
-        if ((end < 0 ? text.size() : end) - start > longestAtBlanks)
-            return true;
-        start = end < 0 ? text.size() : end + 1;
-    }
-    return false;
+    return std::any_of(text.begin(), text.end(), [](QChar unit) { return unit.isSurrogate(); });
 }
 
-QString lineFeeds(QString text)
+std::size_t charactersIn(const QString& text)
 {
-    return text.replace(QChar::ParagraphSeparator, QLatin1Char('\n')).replace(QChar::LineSeparator, QLatin1Char('\n'));
-}
-
-// A carriage return or a foreign line break inside a text becomes one line break of the document.
-QString oneKindOfBreak(std::string_view text)
-{
-    return shown(text)
-        .replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
-        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    const auto seconds = std::count_if(text.begin(), text.end(), [](QChar unit) { return unit.isLowSurrogate(); });
+    return static_cast<std::size_t>(text.size() - seconds);
 }
 
 } // namespace document_store_detail
 
-DocumentStore::DocumentStore() : cursor_(&document_)
+DocumentStore::DocumentStore() : lines_(new LongLines(document_)), cursor_(&document_)
 {
     document_.setDocumentLayout(new QPlainTextDocumentLayout(&document_));
     document_.setDocumentMargin(document_store_detail::margin);
-    // Told before the layout hears of the change.
     QObject::connect(&document_, &QTextDocument::contentsChange, &document_,
-                     [this](int from, int, int added) { lookAt(from, added); });
+                     [this](int from, int, int added) { follow(from, added); });
 }
 
 DocumentStore::~DocumentStore()
@@ -61,27 +46,9 @@ DocumentStore::~DocumentStore()
 
 void DocumentStore::shownBy(QPlainTextEdit* edit)
 {
-    edit->setWordWrapMode(wrapping_);
     edit->setDocument(&document_);
     edit->setTextCursor(cursor_);
     edit_ = edit;
-}
-
-void DocumentStore::wrap(QTextOption::WrapMode how)
-{
-    if (std::exchange(wrapping_, how) != how && edit_)
-        edit_->setWordWrapMode(how);
-}
-
-void DocumentStore::lookAt(int from, int added)
-{
-    const QTextBlock last = document_.findBlock(from + added);
-    for (QTextBlock block = document_.findBlock(from); block.isValid(); block = block.next()) {
-        if (block.length() > document_store_detail::longestAtBlanks)
-            wrap(QTextOption::WrapAnywhere);
-        if (block == last)
-            return;
-    }
 }
 
 QTextCursor DocumentStore::cursor() const
@@ -96,98 +63,106 @@ void DocumentStore::keep(const QTextCursor& cursor)
         edit_->setTextCursor(cursor);
 }
 
-bool DocumentStore::plainUnits() const
+// What the program puts in was looked at before.
+void DocumentStore::follow(int from, int added)
 {
-    if (surrogatesAtRevision_ != document_.revision()) {
-        surrogatesAtRevision_ = document_.revision();
-        const QString text = document_.toRawText();
-        surrogates_ = std::any_of(text.begin(), text.end(), [](QChar unit) { return unit.isSurrogate(); });
-    }
-    return !surrogates_;
+    known_ = {};
+    if (surrogates_ || programChanges())
+        return;
+    QTextCursor reader(&document_);
+    reader.setPosition(std::min(from, document_.characterCount() - 1));
+    reader.setPosition(std::min(from + added, document_.characterCount() - 1), QTextCursor::KeepAnchor);
+    surrogates_ = document_store_detail::hasSurrogates(reader.selectedText());
+}
+
+DocumentStore::Known DocumentStore::knownNear(std::size_t character, int unit) const
+{
+    return known_.character <= character && known_.unit <= unit ? known_ : Known{};
 }
 
 int DocumentStore::unitOf(std::size_t character) const
 {
-    const int end = document_.characterCount() - 1;
-    if (plainUnits())
+    const int end = lines_->length();
+    if (!surrogates_)
         return static_cast<int>(std::min(character, static_cast<std::size_t>(end)));
-    int unit = 0;
-    for (; character > 0 && unit < end; --character)
-        unit += document_.characterAt(unit).isHighSurrogate() && unit + 1 < end ? 2 : 1;
-    return unit;
+    Known at = knownNear(character, end);
+    while (at.character < character && at.unit < end) {
+        const std::size_t wanted = std::min<std::size_t>(document_store_detail::stretch, character - at.character);
+        int to = std::min(end, at.unit + static_cast<int>(wanted));
+        if (to < end && document_.characterAt(lines_->positionOf(to)).isLowSurrogate())
+            ++to;
+        at.character += document_store_detail::charactersIn(lines_->text(at.unit, to));
+        at.unit = to;
+    }
+    return (known_ = at).unit;
 }
 
 std::size_t DocumentStore::characterOf(int unit) const
 {
-    if (plainUnits())
+    if (!surrogates_)
         return static_cast<std::size_t>(unit);
-    std::size_t character = 0;
-    for (int at = 0; at < unit; ++at)
-        if (!document_.characterAt(at).isLowSurrogate())
-            ++character;
-    return character;
-}
-
-QString DocumentStore::units(int from, int to) const
-{
-    QTextCursor reader(const_cast<QTextDocument*>(&document_));
-    reader.setPosition(from);
-    reader.setPosition(to, QTextCursor::KeepAnchor);
-    return document_store_detail::lineFeeds(reader.selectedText());
+    Known at = knownNear(static_cast<std::size_t>(unit), unit);
+    at.character += document_store_detail::charactersIn(lines_->text(at.unit, unit));
+    at.unit = unit;
+    return (known_ = at).character;
 }
 
 std::size_t DocumentStore::length() const
 {
-    return characterOf(document_.characterCount() - 1);
+    return characterOf(lines_->length());
 }
 
 std::string DocumentStore::slice(std::size_t from, std::size_t count) const
 {
     const int start = unitOf(from);
-    const int end = count > length() ? document_.characterCount() - 1 : unitOf(from + count);
-    return end > start ? held(units(start, end)) : std::string();
+    const int end = unitOf(count > std::numeric_limits<std::size_t>::max() - from ? count : from + count);
+    return end > start ? held(lines_->text(start, end)) : std::string();
 }
 
 std::string DocumentStore::all() const
 {
-    return held(document_store_detail::lineFeeds(document_.toRawText()));
+    return held(lines_->text());
 }
 
 void DocumentStore::setAll(std::string_view text)
 {
     ++changing_;
-    const QString whole = document_store_detail::oneKindOfBreak(text);
-    wrap(document_store_detail::hasLongLine(whole) ? QTextOption::WrapAnywhere
-                                                   : QTextOption::WrapAtWordBoundaryOrAnywhere);
-    document_.setPlainText(whole);
+    const QString whole = withLineFeeds(shown(text));
+    surrogates_ = document_store_detail::hasSurrogates(whole);
+    lines_->set(whole);
     keep(QTextCursor(&document_));
     --changing_;
 }
 
 std::size_t DocumentStore::selectionStart() const
 {
-    return characterOf(cursor().selectionStart());
+    return characterOf(lines_->unitOf(cursor().selectionStart()));
 }
 
 std::size_t DocumentStore::selectionLength() const
 {
     const QTextCursor now = cursor();
-    return characterOf(now.selectionEnd()) - characterOf(now.selectionStart());
+    const std::size_t start = characterOf(lines_->unitOf(now.selectionStart()));
+    return characterOf(lines_->unitOf(now.selectionEnd())) - start;
 }
 
 void DocumentStore::select(std::size_t from, std::size_t count)
 {
     QTextCursor now(&document_);
-    now.setPosition(unitOf(from));
-    now.setPosition(unitOf(from + std::min(count, length())), QTextCursor::KeepAnchor);
+    const int start = unitOf(from);
+    const int end = unitOf(count > std::numeric_limits<std::size_t>::max() - from ? count : from + count);
+    now.setPosition(lines_->positionOf(start));
+    now.setPosition(lines_->positionOf(end), QTextCursor::KeepAnchor);
     keep(now);
 }
 
 void DocumentStore::replaceSelection(std::string_view text)
 {
     ++changing_;
+    const QString part = withLineFeeds(shown(text));
+    surrogates_ = surrogates_ || document_store_detail::hasSurrogates(part);
     QTextCursor now = cursor();
-    now.insertText(document_store_detail::oneKindOfBreak(text));
+    now.setPosition(lines_->put(now, part));
     keep(now);
     --changing_;
 }

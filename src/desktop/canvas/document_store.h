@@ -7,8 +7,8 @@
 #include <QPointer>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <QTextOption>
 
+#include "desktop/canvas/long_lines.h"
 #include "host/text_store.h"
 
 namespace velmor::desktop {
@@ -34,22 +34,26 @@ public:
     void replaceSelection(std::string_view text) override;
 
 private:
+    /// A place in the text that is known in both ways of counting.
+    struct Known {
+        std::size_t character = 0;
+        int unit = 0;
+    };
+
     QTextCursor cursor() const;
     void keep(const QTextCursor& cursor);
-    bool plainUnits() const;
+    void follow(int from, int added);
+    Known knownNear(std::size_t character, int unit) const;
     int unitOf(std::size_t character) const;
     std::size_t characterOf(int unit) const;
-    QString units(int from, int to) const;
-    void wrap(QTextOption::WrapMode how);
-    void lookAt(int from, int added);
 
     QTextDocument document_;
+    LongLines* lines_;
     QTextCursor cursor_;
     QPointer<QPlainTextEdit> edit_;
-    QTextOption::WrapMode wrapping_ = QTextOption::WrapAtWordBoundaryOrAnywhere;
     int changing_ = 0;
-    mutable int surrogatesAtRevision_ = -1;
-    mutable bool surrogates_ = false;
+    bool surrogates_ = false; ///< may stand in the text
+    mutable Known known_;
 };
 
 } // namespace velmor::desktop

@@ -24,10 +24,12 @@ std::size_t bytesOf(const QPixmap& picture)
 
 } // namespace first_pictures_detail
 
-SheetFace faceOf(const host::Window& window, const View& view, double pixelRatio, std::vector<bool> widgets)
+SheetFace faceOf(const host::Window& window, const host::Place& part, const View& view, double pixelRatio,
+                 std::vector<bool> widgets)
 {
     SheetFace face{.state = host::copyOf(window),
                    .widgets = std::move(widgets),
+                   .part = part,
                    .pixelsPerTwip = view.pixelsPerTwip,
                    .pixelRatio = pixelRatio,
                    .inks = view.inks,

@@ -20,6 +20,7 @@ namespace velmor::desktop {
 struct SheetFace {
     host::WindowState state{};   ///< controls and the field in hand
     std::vector<bool> widgets{}; ///< by control: a widget, which paints itself
+    host::Place part{};          ///< of the window that is painted, in twips: what stands above may be shown elsewhere
     double pixelsPerTwip = 0.0;
     double pixelRatio = 1.0; ///< device's pixels in a logical one
     const Inks* inks = nullptr;
@@ -27,8 +28,9 @@ struct SheetFace {
     friend bool operator==(const SheetFace&, const SheetFace&) = default;
 };
 
-/// The face of a window that is looked at so; `widgets` by control.
-SheetFace faceOf(const host::Window& window, const View& view, double pixelRatio, std::vector<bool> widgets);
+/// The face of that part of a window, looked at so; `widgets` by control.
+SheetFace faceOf(const host::Window& window, const host::Place& part, const View& view, double pixelRatio,
+                 std::vector<bool> widgets);
 
 class FirstPictures {
 public:

@@ -7,6 +7,8 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
+#include "desktop/canvas/long_lines.h"
+
 namespace velmor::desktop {
 
 namespace report_dress_detail {
@@ -36,7 +38,7 @@ bool isTitle(const QTextBlock& block)
 /// The name of the design stands two steps in, and ends the opening.
 bool endsOpening(const QTextBlock& block)
 {
-    return block.blockNumber() > 0 && indentOf(block.text()) >= 2 * step;
+    return block.blockNumber() > 0 && indentOf(block.text()) >= 2 * step && !LongLines::goesOn(block);
 }
 
 ReportLine kindOf(const QTextBlock& block, int before)
@@ -44,7 +46,8 @@ ReportLine kindOf(const QTextBlock& block, int before)
     if (isTitle(block) || (before == opening && endsOpening(block)))
         return ReportLine::title;
     const QString line = block.text();
-    const bool heads = before == body && indentOf(line) == step && line.size() <= longestHeading;
+    const bool heads =
+        before == body && indentOf(line) == step && line.size() <= longestHeading && !LongLines::goesOn(block);
     return heads ? ReportLine::heading : ReportLine::plain;
 }
 

@@ -209,14 +209,23 @@ Answer answerTo(const QString& text, const Manner& manner, QSizeF room, int flag
     return *answers.insert(question, search(text, manner, room, flags, wanted));
 }
 
+double lettersOfField(const host::Window& window, host::Handle field, double points, const View& view)
+{
+    const double height = host::shownPlace(window, field).height * view.pixelsPerTwip;
+    const double wanted = std::max(8.5, points) * twipsPerPoint * view.pixelsPerTwip;
+    return std::max(smallestLetters, std::min(wanted, height * 0.68));
+}
+
 } // namespace fitting
 
 double fieldLetters(const host::Window& window, host::Handle field, const View& view)
 {
-    const double height = host::shownPlace(window, field).height * view.pixelsPerTwip;
-    const double wanted =
-        std::max<double>(8.5, window.control(field).fontSize) * fitting::twipsPerPoint * view.pixelsPerTwip;
-    return std::max(smallestLetters, std::min(wanted, height * 0.68));
+    return fitting::lettersOfField(window, field, window.control(field).fontSize, view);
+}
+
+double usualFieldLetters(const host::Window& window, host::Handle field, const View& view)
+{
+    return fitting::lettersOfField(window, field, window.row(field).fontSize, view);
 }
 
 CaptionSetting setCaption(const host::Window& window, host::Handle control, const View& view)

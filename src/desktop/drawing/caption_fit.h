@@ -28,5 +28,7 @@ CaptionSetting setCaption(const host::Window& window, host::Handle control, cons
 
 /// Letters of a field's own text in logical pixels.
 double fieldLetters(const host::Window& window, host::Handle field, const View& view);
+/// The same at the size that the field begins with: what stands beside it does not grow with it.
+double usualFieldLetters(const host::Window& window, host::Handle field, const View& view);
 
 } // namespace velmor::desktop

@@ -276,13 +276,14 @@ QColor buttonBorder(const Scene& scene)
     return scene.enabled() ? scene.inks().edge : scene.inks().rule;
 }
 
-/// A bar along the lower edge, as under the tab in front: the choice in force is told by its form, not by its colour alone.
+/// A bar along the lower edge, as under the tab in front: the choice in force is told by its form, not by its colour alone. It
+/// keeps clear of what hangs below the line of a caption.
 void chosenBar(const Scene& scene)
 {
     const double height = std::min(3.0 * scene.unit(), scene.box.height() / 6.0);
     const double inset = std::min(10.0 * scene.unit(), scene.box.width() / 6.0);
-    const QRectF bar(scene.box.left() + inset, scene.box.bottom() - 2.0 * height, scene.box.width() - 2.0 * inset,
-                     height);
+    const QRectF bar(scene.box.left() + inset, scene.box.bottom() - scene.unit() - height,
+                     scene.box.width() - 2.0 * inset, height);
     scene.painter.setPen(Qt::NoPen);
     scene.painter.setBrush(scene.inks().accent);
     scene.painter.drawRoundedRect(bar, height / 2.0, height / 2.0);

@@ -3,6 +3,7 @@
 #include "desktop/drawing/field_marks.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include <QPainter>
 
@@ -93,7 +94,7 @@ Setting symbolOf(const Window& window, Handle field, const View& view)
     const double space = gap * view.pixelsPerUnit();
     const bool above = row.symbolSide == host::SymbolSide::above;
     const double room = above ? box.width() * 1.5 : roomBeside(window, field, view, true) - space;
-    const double letters = fieldLetters(window, field, view) * symbolSize;
+    const double letters = usualFieldLetters(window, field, view) * symbolSize;
     setting.label = fitted([&row](double pixels) { return setLabel(row.symbol, pixels); }, letters, room);
     setting.baseline =
         above ? QPointF(box.left(), box.top() - space * 0.6 - setting.label.descent)
@@ -102,17 +103,25 @@ Setting symbolOf(const Window& window, Handle field, const View& view)
     return setting;
 }
 
+/// A value that the sheet has written with its unit, "20 K" or "1.2089 mA".
+bool bearsItsUnit(std::string_view text)
+{
+    const auto last = text.find_last_not_of(' ');
+    return last != std::string_view::npos &&
+           std::string_view("0123456789.,").find(text[last]) == std::string_view::npos;
+}
+
 Setting unitOf(const Window& window, Handle field, const View& view)
 {
     Setting setting;
     const host::ControlRow& row = window.row(field);
-    if (row.unit.empty())
+    if (row.unit.empty() || bearsItsUnit(window.text(field)))
         return setting;
     const QRectF box = boxOf(window, field, view);
     const double space = gap * view.pixelsPerUnit();
     const QString unit = QString::fromUtf8(row.unit.data(), static_cast<qsizetype>(row.unit.size()));
     const double room = roomBeside(window, field, view, false) - space;
-    const double letters = fieldLetters(window, field, view) * unitSize;
+    const double letters = usualFieldLetters(window, field, view) * unitSize;
     setting.label = fitted([&unit](double pixels) { return setUpright(unit, pixels); }, letters, room);
     setting.baseline = {box.right() + space, box.center().y() + setting.label.capHeight / 2.0};
     setting.box = boxAround(setting.label, setting.baseline);

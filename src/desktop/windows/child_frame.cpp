@@ -168,7 +168,7 @@ bool ChildFrame::event(QEvent* event)
     if (event->type() != QEvent::WindowTitleChange || isMaximized())
         return QMdiSubWindow::event(event);
     update(0, 0, width(), view_->y());
-    return QWidget::event(event);
+    return QWidget::event(event); // NOLINT(bugprone-parent-virtual-call): past the area's own frame, on purpose
 }
 
 // A maximised frame would write its name into the main window's title at each change of it, also from behind the active child.

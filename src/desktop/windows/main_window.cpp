@@ -321,11 +321,11 @@ void MainWindow::layOutWelcome(const QRect& rest)
         welcome_->layOut(welcome_->scaleFor(place.size()), place.size());
         welcome_->move(place.topLeft());
         welcome_->raise();
+        edge_->raise();
     }
     welcome_->setVisible(page || whole);
     edge_->setGeometry(welcome_->x(), welcome_->y(), welcome_->width(), main_window_detail::edgeHeight);
     edge_->setVisible(page);
-    edge_->raise();
 }
 
 void MainWindow::hovered(const host::Window& window, Handle control)

@@ -144,9 +144,11 @@ void PaletteStrip::followControls()
     view_->bringUpToDate();
 }
 
+// Where it rests nothing lies over it; each raising would paint its pictures anew.
 void PaletteStrip::bringToFront()
 {
-    raise();
+    if (floats_)
+        raise();
 }
 
 void PaletteStrip::relabel()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// All hits are found in one pass over the text; of their marks only those in view are made, so that a text of ten megabytes
-// scrolls as a short one does.
+// All hits are found in one pass over the text, a long one in stretches between which keys are heard; of their marks only those in
+// view are made, so that a text of ten megabytes scrolls as a short one does. Hits are counted in units of the text, in which the
+// joints of a long line have no place.
 #include "desktop/windows/search_line.h"
 
 #include <algorithm>
@@ -12,9 +13,9 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTextBlock>
 #include <QVBoxLayout>
 
+#include "desktop/canvas/long_lines.h"
 #include "desktop/drawing/texts.h"
 #include "host/bitext.h"
 
@@ -24,6 +25,7 @@ namespace search_line_detail {
 
 constexpr int pause = 150;              ///< milliseconds between the last change and a new search
 constexpr int shortText = 1 << 18;      ///< units; a text up to there is searched at once
+constexpr int stretch = 1 << 19;        ///< units that are searched at a time
 constexpr std::size_t mostMarks = 2000; ///< in view
 constexpr double markInk = 0.25;        ///< how much of the accent lies behind a hit
 constexpr int lettersOfField = 28;
@@ -58,10 +60,39 @@ QTextCharFormat markFormat(const Inks& inks)
     return format;
 }
 
-/// Where in the text the lower end of what is seen lies.
-int endOfView(const QPlainTextEdit& text)
+QString wholeOf(const QPlainTextEdit& text)
 {
-    return text.cursorForPosition(QPoint(text.viewport()->width(), text.viewport()->height())).position();
+    const LongLines* lines = LongLines::of(*text.document());
+    return lines != nullptr ? lines->text() : text.toPlainText();
+}
+
+int unitOf(const QPlainTextEdit& text, int position)
+{
+    const LongLines* lines = LongLines::of(*text.document());
+    return lines != nullptr ? lines->unitOf(position) : position;
+}
+
+QTextCursor stretchOf(const QPlainTextEdit& text, int from, int to)
+{
+    const LongLines* lines = LongLines::of(*text.document());
+    QTextCursor cursor(text.document());
+    cursor.setPosition(lines != nullptr ? lines->positionOf(from) : from);
+    cursor.setPosition(lines != nullptr ? lines->positionOf(to) : to, QTextCursor::KeepAnchor);
+    return cursor;
+}
+
+/// The unit of the text that lies under a point of the view.
+int unitAt(const QPlainTextEdit& text, QPoint point)
+{
+    return unitOf(text, text.cursorForPosition(point).position());
+}
+
+void replaceWith(const QPlainTextEdit& text, QTextCursor cursor, const QString& words)
+{
+    if (LongLines* lines = LongLines::of(*text.document()))
+        lines->put(std::move(cursor), words);
+    else
+        cursor.insertText(words);
 }
 
 } // namespace search_line_detail
@@ -81,6 +112,7 @@ SearchLine::SearchLine(QPlainTextEdit& text, const Inks& inks, bool english, QWi
     layOut();
     later_.setSingleShot(true);
     connect(&later_, &QTimer::timeout, this, [this] { look(); });
+    connect(&onward_, &QTimer::timeout, this, [this] { lookOn(); });
     connect(wanted_, &QLineEdit::textChanged, this, [this] { lookLater(); });
     connect(text.document(), &QTextDocument::contentsChanged, this, [this] {
         if (isVisible())
@@ -187,6 +219,7 @@ void SearchLine::open(bool replacing)
 void SearchLine::close()
 {
     later_.stop();
+    onward_.stop();
     hits_.clear();
     hide();
     markHits();
@@ -204,6 +237,7 @@ void SearchLine::go(Way way)
         show();
     if (later_.isActive() || hits_.empty() || length_ != wanted_->text().size())
         look();
+    lookToTheEnd();
     step(way);
 }
 
@@ -211,27 +245,51 @@ void SearchLine::go(Way way)
 void SearchLine::lookLater()
 {
     wrapped_ = false;
+    onward_.stop();
     if (text_ && text_->document()->characterCount() > search_line_detail::shortText)
         later_.start(search_line_detail::pause);
     else
         look();
 }
 
-// Small and capital letters are the same here; a hit begins behind the end of the one before.
 void SearchLine::look()
 {
     later_.stop();
     hits_.clear();
+    length_ = static_cast<int>(wanted_->text().size());
+    at_ = 0;
+    whole_ = text_ && length_ > 0 ? search_line_detail::wholeOf(*text_) : QString();
+    lookOn();
+}
+
+// Small and capital letters are the same here; a hit begins behind the end of the one before.
+void SearchLine::lookOn()
+{
+    const int end = static_cast<int>(std::min<qsizetype>(whole_.size(), at_ + search_line_detail::stretch));
+    const QStringView searched = QStringView(whole_).first(std::min<qsizetype>(whole_.size(), end + length_ - 1));
     const QString wanted = wanted_->text();
-    length_ = static_cast<int>(wanted.size());
-    if (text_ && !wanted.isEmpty()) {
-        const QString whole = text_->document()->toRawText();
-        for (qsizetype at = whole.indexOf(wanted, 0, Qt::CaseInsensitive); at >= 0;
-             at = whole.indexOf(wanted, at + length_, Qt::CaseInsensitive))
-            hits_.push_back(static_cast<int>(at));
+    while (at_ < end) {
+        const qsizetype hit = searched.indexOf(wanted, at_, Qt::CaseInsensitive);
+        if (hit >= 0)
+            hits_.push_back(static_cast<int>(hit));
+        at_ = hit < 0 ? end : static_cast<int>(hit) + length_;
     }
-    markHits();
-    tell();
+    if (at_ < whole_.size()) {
+        onward_.start(0);
+    } else {
+        onward_.stop();
+        whole_.clear();
+        markHits();
+        tell();
+    }
+}
+
+void SearchLine::lookToTheEnd()
+{
+    if (later_.isActive())
+        look();
+    while (onward_.isActive())
+        lookOn();
 }
 
 void SearchLine::markHits()
@@ -241,28 +299,40 @@ void SearchLine::markHits()
         return;
     QList<QTextEdit::ExtraSelection> marks;
     if (!hits_.empty() && isVisible()) {
-        const int from = text_->cursorForPosition(QPoint(0, 0)).position() - length_;
-        const int to = endOfView(*text_);
+        const int from = unitAt(*text_, QPoint(0, 0)) - length_;
+        const int to = unitAt(*text_, QPoint(text_->viewport()->width(), text_->viewport()->height()));
         const QTextCharFormat format = markFormat(*inks_);
         for (auto hit = std::lower_bound(hits_.begin(), hits_.end(), from);
-             hit != hits_.end() && *hit <= to && static_cast<std::size_t>(marks.size()) < mostMarks; ++hit) {
-            QTextCursor cursor(text_->document());
-            cursor.setPosition(*hit);
-            cursor.setPosition(*hit + length_, QTextCursor::KeepAnchor);
-            marks.append({cursor, format});
-        }
+             hit != hits_.end() && *hit <= to && static_cast<std::size_t>(marks.size()) < mostMarks; ++hit)
+            marks.append({stretchOf(*text_, *hit, *hit + length_), format});
     }
     text_->setExtraSelections(marks);
+}
+
+/// The units between which the selection lies.
+std::pair<int, int> SearchLine::selected() const
+{
+    const QTextCursor cursor = text_->textCursor();
+    return {search_line_detail::unitOf(*text_, cursor.selectionStart()),
+            search_line_detail::unitOf(*text_, cursor.selectionEnd())};
+}
+
+void SearchLine::select(int hit)
+{
+    text_->setTextCursor(search_line_detail::stretchOf(*text_, hit, hit + length_));
+    text_->ensureCursorVisible();
+    markHits();
+    tell();
 }
 
 /// Number of the hit that is selected, counted from 0; -1 for none.
 int SearchLine::hitInHand() const
 {
-    const QTextCursor cursor = text_->textCursor();
-    if (cursor.selectionEnd() - cursor.selectionStart() != length_)
+    const auto [from, to] = selected();
+    if (to - from != length_)
         return -1;
-    const auto at = std::lower_bound(hits_.begin(), hits_.end(), cursor.selectionStart());
-    return at != hits_.end() && *at == cursor.selectionStart() ? static_cast<int>(at - hits_.begin()) : -1;
+    const auto at = std::lower_bound(hits_.begin(), hits_.end(), from);
+    return at != hits_.end() && *at == from ? static_cast<int>(at - hits_.begin()) : -1;
 }
 
 void SearchLine::tell()
@@ -288,26 +358,19 @@ void SearchLine::step(Way way)
 {
     if (!text_ || hits_.empty())
         return;
-    const QTextCursor now = text_->textCursor();
+    const auto [from, to] = selected();
     auto hit = hits_.end();
     if (way == Way::forward) {
-        const int from = hitInHand() >= 0 ? now.selectionEnd() : now.selectionStart();
-        hit = std::lower_bound(hits_.begin(), hits_.end(), from);
+        hit = std::lower_bound(hits_.begin(), hits_.end(), hitInHand() >= 0 ? to : from);
         wrapped_ = hit == hits_.end();
         if (wrapped_)
             hit = hits_.begin();
     } else {
-        hit = std::lower_bound(hits_.begin(), hits_.end(), now.selectionStart());
+        hit = std::lower_bound(hits_.begin(), hits_.end(), from);
         wrapped_ = hit == hits_.begin();
         hit = std::prev(wrapped_ ? hits_.end() : hit);
     }
-    QTextCursor cursor(text_->document());
-    cursor.setPosition(*hit);
-    cursor.setPosition(*hit + length_, QTextCursor::KeepAnchor);
-    text_->setTextCursor(cursor);
-    text_->ensureCursorVisible();
-    markHits();
-    tell();
+    select(*hit);
 }
 
 // The hit in hand gives way, and the next one comes into hand; without one in hand the next is looked for first.
@@ -315,29 +378,32 @@ void SearchLine::replace()
 {
     if (!text_ || hits_.empty())
         return;
+    lookToTheEnd();
     if (hitInHand() >= 0) {
-        QTextCursor cursor = text_->textCursor();
-        cursor.insertText(instead_->text());
-        text_->setTextCursor(cursor);
+        search_line_detail::replaceWith(*text_, text_->textCursor(), instead_->text());
         look();
+        lookToTheEnd();
     }
     step(Way::forward);
 }
 
-// From the end, so that the places of the hits before stay right; one undo takes all of it back.
+// All that lies between the first hit and the last is put in anew: a million hits are one change, and one undo takes it back.
 void SearchLine::replaceAll()
 {
-    if (!text_)
+    lookToTheEnd();
+    if (!text_ || hits_.empty())
         return;
-    const std::vector<int> hits = hits_;
-    QTextCursor cursor(text_->document());
-    cursor.beginEditBlock();
-    for (auto hit = hits.rbegin(); hit != hits.rend(); ++hit) {
-        cursor.setPosition(*hit);
-        cursor.setPosition(*hit + length_, QTextCursor::KeepAnchor);
-        cursor.insertText(instead_->text());
+    const int from = hits_.front();
+    const int to = hits_.back() + length_;
+    const QString old = search_line_detail::wholeOf(*text_);
+    QString words;
+    int taken = from;
+    for (const int hit : hits_) {
+        words += QStringView(old).mid(taken, hit - taken);
+        words += instead_->text();
+        taken = hit + length_;
     }
-    cursor.endEditBlock();
+    search_line_detail::replaceWith(*text_, search_line_detail::stretchOf(*text_, from, to), words);
     look();
 }
 

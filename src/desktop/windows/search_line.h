@@ -3,6 +3,7 @@
 // the search goes round in both directions. It knows the text box alone, no window and no engine.
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include <QPointer>
@@ -32,7 +33,7 @@ public:
     void speak(bool english);
     void setInks(const Inks& inks);
     bool hasKeyboard() const;
-    /// Where the hits begin, in units of the text.
+    /// Where the hits begin, in units of the text; those found so far while a long one is searched.
     const std::vector<int>& hits() const { return hits_; }
 
 protected:
@@ -45,9 +46,13 @@ private:
     bool pressed(int key, Qt::KeyboardModifiers modifiers);
     void lookLater();
     void look();
+    void lookOn();
+    void lookToTheEnd();
     void markHits();
     void tell();
     void step(Way way);
+    std::pair<int, int> selected() const;
+    void select(int hit);
     int hitInHand() const;
     void replace();
     void replaceAll();
@@ -57,6 +62,8 @@ private:
     const Inks* inks_;
     bool english_;
     bool wrapped_ = false;
+    QString whole_; ///< what is searched, while it is
+    int at_ = 0;    ///< how far it has been searched
     std::vector<int> hits_;
     int length_ = 0; ///< of what the hits were found for
     QLineEdit* wanted_;
@@ -69,6 +76,7 @@ private:
     QPushButton* one_;
     QPushButton* all_;
     QTimer later_;
+    QTimer onward_;
 };
 
 } // namespace velmor::desktop

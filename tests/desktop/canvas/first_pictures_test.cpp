@@ -37,11 +37,12 @@ protected:
 
     /// A new sheet as it is first painted, without its sides.
     QImage painted(
-        void (*prepare)(host::Window&) = [](host::Window&) {}, int width = 320, double scale = 1.0)
+        void (*prepare)(host::Window&) = [](host::Window&) {}, int width = 320, double scale = 1.0, int top = 0)
     {
         windows.push_back(std::make_unique<host::Window>(engine.host(), spec));
         prepare(*windows.back());
         desktop::Canvas canvas(desk, *windows.back());
+        canvas.setDesign({0, top, spec.place.width, spec.place.height - top});
         canvas.applyAll();
         canvas.layOut(scale, {width, 180});
         const QImage whole = canvas.grab().toImage();
@@ -92,6 +93,18 @@ TEST_F(FirstPictures, AreOnlyForWhatLooksTheSame)
     EXPECT_NE(painted([](host::Window&) {}, 320, 0.9), first) << "another size";
     desk.inks = &desktop::darkInks();
     EXPECT_NE(painted(), first) << "other colours";
+}
+
+TEST_F(FirstPictures, OfASheetThatBeginsFurtherDownAreItsOwn)
+{
+    const auto belowPrompts = [&] { return painted([](host::Window&) {}, 320, 1.0, 600); };
+    const QImage whole = painted();
+    const QImage first = belowPrompts();
+    EXPECT_NE(first, whole);
+    EXPECT_EQ(belowPrompts(), first);
+    EXPECT_EQ(desk.firstPictures->pictures(), 1U);
+    EXPECT_EQ(belowPrompts(), first) << "the picture";
+    EXPECT_EQ(painted(), whole);
 }
 
 TEST_F(FirstPictures, AreNotMadeOfASheetThatHasBeenSeen)

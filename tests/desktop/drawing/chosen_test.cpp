@@ -77,14 +77,15 @@ TEST_F(ChosenButtons, LookUnlikeDeadAndWaitingOnes)
     EXPECT_NE(imageOf(Volts), waiting);
 }
 
-// Place 10, 10 to 94, 50 at twice the size: the bar lies from 12 to 9 units above 2 units from the lower edge, inset by 10.
+// Place 10, 10 to 94, 50 at twice the size: the bar lies from 46 to 49, inset by 10. Above it there is room for a caption.
 TEST_F(ChosenButtons, AreUnderlinedInTheAccent)
 {
-    const QRect middleOfTheBar(60, 90, 80, 2);
+    const QRect middleOfTheBar(60, 94, 80, 2);
     EXPECT_EQ(pixelsOf(imageOf(Volts), lightInks().accent, middleOfTheBar), 0);
     window.disable(Volts);
     EXPECT_EQ(pixelsOf(imageOf(Volts), lightInks().accent, middleOfTheBar), 160);
     EXPECT_EQ(pixelsOf(imageOf(Volts, desktop::darkInks()), desktop::darkInks().accent, middleOfTheBar), 160);
+    EXPECT_EQ(pixelsOf(imageOf(Volts), lightInks().accent, {60, 84, 80, 6}), 0);
 }
 
 TEST_F(ChosenButtons, KeepTheFullInkOfCaptionAndDrawing)

@@ -282,6 +282,30 @@ TEST_F(PaintedControls, TheSymbolOfAFieldTellsWhetherItIsInHandOrOff)
     EXPECT_GT(countOf(test::imageOfControl(stage, test::FieldLoad, view), unit, lightInks().quiet), 5);
 }
 
+TEST_F(PaintedControls, AUnitThatTheValueBearsIsNotSaidTwice)
+{
+    const auto unitBeside = [&](const char* text) {
+        stage.setText(test::FieldLoad, text);
+        return !desktop::unitBounds(stage, test::FieldLoad, test::viewAt(1.0)).isEmpty();
+    };
+    for (const char* bare : {"", "  ", "20", " 2.5 ", "0,6", "7."})
+        EXPECT_TRUE(unitBeside(bare)) << bare;
+    for (const char* withUnit : {"20 K", "1.2089 mA", "9.2 V ", "Res :3 K"})
+        EXPECT_FALSE(unitBeside(withUnit)) << withUnit;
+}
+
+TEST_F(PaintedControls, SymbolAndUnitDoNotGrowWithTheLettersOfTheirField)
+{
+    const desktop::View view = test::viewAt(1.0);
+    const QRectF symbol = desktop::symbolBounds(stage, test::FieldLoad, view);
+    const QRectF unit = desktop::unitBounds(stage, test::FieldLoad, view);
+    const double letters = desktop::fieldLetters(stage, test::FieldLoad, view);
+    stage.setFontSize(test::FieldLoad, 12);
+    EXPECT_GT(desktop::fieldLetters(stage, test::FieldLoad, view), letters);
+    EXPECT_EQ(desktop::symbolBounds(stage, test::FieldLoad, view), symbol);
+    EXPECT_EQ(desktop::unitBounds(stage, test::FieldLoad, view), unit);
+}
+
 TEST_F(PaintedControls, ADisabledControlDoesNotAnswerThePointer)
 {
     desktop::View view = test::viewAt(1.0);

@@ -100,6 +100,20 @@ TEST_F(SearchTest, itGoesForwardAndBackwardAndRound)
     EXPECT_EQ(told(), "2 de 3");
 }
 
+// Ten thousand letters are held in several pieces, of 4096 units at most, between which "yz" is sure to be torn for one begin of two.
+TEST_F(SearchTest, aHitInALongLineIsFoundWhereverItLies)
+{
+    for (const std::string begin : {"", "y"}) {
+        std::string line = begin;
+        while (line.size() < 10000)
+            line += "yz";
+        write(line);
+        Bench::keys("Ctrl+F");
+        part<QLineEdit>("searchWanted").setText("yz");
+        ASSERT_EQ(this->line()->hits().size(), (line.size() - begin.size()) / 2);
+    }
+}
+
 TEST_F(SearchTest, theKeysWorkFromTheTextToo)
 {
     text().moveCursor(QTextCursor::Start);
@@ -256,6 +270,27 @@ TEST_F(SearchTest, aReportIsShownInAReadableTypeAndKeepsItsOwnForPaper)
     chosen.size = 20;
     on.engine.userRun([&] { editor->setFont(editors::txtEdit, chosen); });
     EXPECT_EQ(text().font().pointSizeF(), 20.0) << "what the student chooses is what is shown";
+}
+
+// A text that is longer than what is searched at once: 600 000 letters of which each is a hit.
+TEST_F(SearchTest, aLongTextIsSearchedInStretchesAndReplacedInOneStep)
+{
+    constexpr std::size_t count = 600000;
+    write(std::string(count, 'a') + "\nfin");
+    Bench::keys("Ctrl+F");
+    part<QLineEdit>("searchWanted").setText("a");
+    Bench::key(Qt::Key_Return);
+    EXPECT_EQ(line()->hits().size(), count) << "who asks for the next hit does not wait for a pause";
+    EXPECT_EQ(told(), "1 de 600000");
+    Bench::keys("Ctrl+H");
+    part<QLineEdit>("searchInstead").setText("bc");
+    part<QPushButton>("searchReplaceAll").click();
+    std::string replaced;
+    for (std::size_t i = 0; i < count; ++i)
+        replaced += "bc";
+    EXPECT_TRUE(editor->wholeText(editors::txtEdit) == replaced + "\nfin");
+    text().undo();
+    EXPECT_TRUE(editor->wholeText(editors::txtEdit) == std::string(count, 'a') + "\nfin");
 }
 
 } // namespace velmor::test::search_test

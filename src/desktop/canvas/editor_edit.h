@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// The text box of an editor. Caret, selection, deleting, copying and pasting go over the joints of a long line as if it were one
+// block; everything else is the toolkit's.
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace velmor::desktop {
+
+class LongLines;
+
+class EditorEdit final : public QPlainTextEdit {
+    Q_OBJECT
+
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    QMimeData* createMimeDataFromSelection() const override;
+    void insertFromMimeData(const QMimeData* source) override;
+
+private:
+    LongLines* lines() const;
+    void stepOver(const QKeyEvent& event);
+    void goOn(int from, QTextCursor::MoveOperation step, QTextCursor::MoveMode mode);
+    void select(int from, int to);
+};
+
+} // namespace velmor::desktop
