@@ -24,8 +24,9 @@ struct Orders {
 
 /// Of the input signal, Hz.
 inline constexpr double waveFrequency = 1000;
-/// What of the wave is looked at, s: whole cycles.
-inline constexpr double waveSpan = 0.01;
+/// What of the wave is looked at, in cycles and s.
+inline constexpr int waveCycles = 10;
+inline constexpr double waveSpan = waveCycles / waveFrequency;
 
 /// A number as both simulator and student read it: at most ten digits, "e" and an exponent where due.
 std::string plainNumber(double value);

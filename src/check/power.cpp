@@ -14,7 +14,6 @@ namespace velmor::check {
 
 namespace power_detail {
 
-constexpr int cycles = static_cast<int>(waveFrequency * waveSpan + 0.5);
 constexpr double stepDown = 0.8; // of the drive, while the wave is not clean
 constexpr double leastDrive = 0.03;
 constexpr double mostDrive = 4;
@@ -95,9 +94,9 @@ PowerPoint powerPointOf(const Design& design, const std::vector<Plot>& plots, do
     const Part* supply = partOf(design.circuit, "Es");
     if (plot == nullptr || load == nullptr || supply == nullptr)
         return point;
-    const Wave out = waveOf(*plot, "v(" + design.circuit.output + ")", waveFrequency, cycles);
-    const Wave base = waveOf(*plot, "v(b)", waveFrequency, cycles);
-    const Wave current = waveOf(*plot, "i(ves)", waveFrequency, cycles);
+    const Wave out = waveOf(*plot, "v(" + design.circuit.output + ")", waveFrequency, waveCycles);
+    const Wave base = waveOf(*plot, "v(b)", waveFrequency, waveCycles);
+    const Wave current = waveOf(*plot, "i(ves)", waveFrequency, waveCycles);
     if (out.values.empty() || current.values.empty())
         return point;
     const Harmonics harmonics = harmonicsOf(out);

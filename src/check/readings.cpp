@@ -13,7 +13,6 @@ namespace velmor::check {
 namespace readings_detail {
 
 constexpr double milliamperes = 1000;
-constexpr int cyclesSeen = static_cast<int>(waveFrequency * waveSpan + 0.5);
 
 std::string small(std::string text)
 {
@@ -124,8 +123,8 @@ Swing readSwing(const Design& design, const std::vector<Plot>& plots, double dri
     const Plot* plot = plotOf(plots, "Transient Analysis");
     if (plot == nullptr)
         return swing;
-    swing.input = waveOf(*plot, nodeColumn(design.circuit.generator), waveFrequency, cyclesSeen);
-    swing.output = waveOf(*plot, nodeColumn(design.circuit.output), waveFrequency, cyclesSeen);
+    swing.input = waveOf(*plot, nodeColumn(design.circuit.generator), waveFrequency, waveCycles);
+    swing.output = waveOf(*plot, nodeColumn(design.circuit.output), waveFrequency, waveCycles);
     if (swing.output.values.empty())
         return swing;
     swing.harmonics = harmonicsOf(swing.output);

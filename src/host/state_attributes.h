@@ -90,7 +90,7 @@ struct Key {
     Attribute attribute = Attribute::text;
     std::uint16_t own = 0; ///< of Attribute::own: which of the window's own values, counted over all its tables
 
-    friend auto operator<=>(const Key&, const Key&) = default;
+    friend auto operator<=>(const Key&, const Key&) = default; // NOLINT(modernize-use-nullptr): a slip of clang-tidy 14
 };
 
 /// Attributes that every control has, and those of few controls which this one has.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 
 #include "designs/common_emitter/feedback_controls.h"
 
@@ -46,11 +47,17 @@ inline constexpr auto obtainedCurrent = sheets::part({
     Mark{.symbol = Symbol::arrow, .from = {634, 398}, .to = {634, 430}},
 });
 
+/// A result with its name beside it.
+constexpr host::ControlRow named(host::ControlRow row, std::span<const Mark> name)
+{
+    row.drawing = name;
+    return row;
+}
+
 } // namespace own_drawing
 
 inline constexpr auto controls = [] {
     using namespace sheets; // NOLINT(google-build-using-namespace): the words of the table
-    using host::ControlRow;
     using host::Kind;
     using host::Look;
     return joined(
@@ -72,11 +79,7 @@ inline constexpr auto controls = [] {
             disabled(hidden(drawn(Shape6, "Shape6", Kind::shape, feedback::drawing::feedbackPreset))),
             hidden(drawn(Line19, "Line19", Kind::line, own_drawing::lowerResistor)),
             hidden(disabled(field(Text18, "Text18", at(446, 459, 64, 22), "", notation::above(notation::Rb2)))),
-            [] {
-                ControlRow row = hidden(result(Label26, "Label26", at(644, 410, 110, 18)));
-                row.drawing = own_drawing::obtainedCurrentName;
-                return row;
-            }(),
+            own_drawing::named(hidden(result(Label26, "Label26", at(644, 410, 110, 18))), own_drawing::obtainedCurrentName),
             hidden(label(Label27, "Label27", at(644, 430, 210, 52), Look::note)),
             hidden(label(Label29, "Label29", at(644, 484, 210, 34), Look::warning)),
             hidden(label(Label28, "Label28", at(1022, 540, 172, 22), Look::balloon)),
