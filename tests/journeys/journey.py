@@ -362,7 +362,7 @@ class Program:
     def turn_to(self, title):
         """Goes from window to window with the keyboard until that one is in hand."""
         for _ in self.sheets():
-            before = self.in_hand()
+            before = until(self.in_hand, "a window in hand")
             if re.search(title, before.get_name()):
                 return
             self.key("ctrl+Tab")
