@@ -298,7 +298,7 @@ class CommonCollector(Metered, Journey):
                                    "Voltage COLLECTOR - EMITTER is smaller to 3 Volts..."),
                     ("Desea continuar..? (Si) Cambiar Fuente...(No)", "Continue..? (Yes) Change Source...(No)"))
         self.program.focused("Rb2")
-        self.step_back("Res", "Rb2", {"Rb2": "10"})
+        self.step_back("Res", "Rb2", {"Res": "20 K"})  # the base has no resistor yet
         # 1.9937 / (2 x 0.82456 K), times 4.7
         self.told("Eq =2.9937 Volts", "ERes= 5.6818 Volts", {"Rb2": "47"},
                   ("Rb2 =47 Kohm Coloque un valor comercial.", "Rb2 =47 Kohm Put a normalized value."),
