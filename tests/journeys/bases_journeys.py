@@ -110,7 +110,6 @@ class CommonBase(BothLanguages, Journey):
         velmor.press(velmor.field("Rb1"))
         self.enter("Rb1", "57.4")
         self.told("318.4713 mF", "7.9618 mF", "Zin=25 Ohm")  # 1 / (125.6 x 25); 1 / (12.56 x 10000)
-        self.picture("form4-finished")
 
     def analysis(self):
         """The same stage takes a hundred times less power when its signal enters the base."""
@@ -132,10 +131,12 @@ class CommonBase(BothLanguages, Journey):
         self.picture("form4-bypassed")
         velmor.press(velmor.see(self.say(("^Volver de la hoja de análisis", "^Back from the leaf of analysis")), "push button"))
         self.told("Zin=25 Ohm", "318.4713 mF")
+        self.picture("form4-finished")
 
     def reported(self):
         self.report(("Elaboración de Informe", "Report Design"), ("Alumno: ", "Student: "),
-                    ("Base Común Realimentado p/ corriente, polarizado p/ Base", "  Common Base, Feedback for Current, polarized for Base"),
+                    ("Base Común Realimentado p/ corriente, polarizado p/ Base",
+                     "  Common Base, Feedback for Current, polarized for Base"),
                     ("Ejercicio N° 4 ", "Exercise N° 4 "), ("QIc = 1.0337 mA", "Qic (mA) = 1.05769230769231"), "Rb1 (kohm) = 57.4",
                     "Es = 11.2887", "Res (kohm) = 1.3 K", "ERl = 5.9231 V",
                     ("Conteste el siguiente cuestionario: ", "Answer the following questionnaire : "),
@@ -298,7 +299,7 @@ class CommonCollector(Metered, Journey):
                                    "Voltage COLLECTOR - EMITTER is smaller to 3 Volts..."),
                     ("Desea continuar..? (Si) Cambiar Fuente...(No)", "Continue..? (Yes) Change Source...(No)"))
         self.program.focused("Rb2")
-        self.step_back("Res", "Rb2", {"Res": "20 K"})  # the base has no resistor yet
+        self.step_back("Res", "Rb2", {"Res": "20 K"})
         # 1.9937 / (2 x 0.82456 K), times 4.7
         self.told("Eq =2.9937 Volts", "ERes= 5.6818 Volts", {"Rb2": "47"},
                   ("Rb2 =47 Kohm Coloque un valor comercial.", "Rb2 =47 Kohm Put a normalized value."),
@@ -349,7 +350,8 @@ class CommonCollector(Metered, Journey):
     def reported(self):
         """All of the English report but its head is Spanish, and its questions are those of the differential amplifier."""
         self.report(("Elaboración de Informe : Colector Común", "Design :   Long Tail pair "), ("Alumno: ", "Student: "),
-                    "Ejercicio N° 5 ", "Rg = 100", "Ein = 0.707 Volt (r.m.s.)", "Rb1 (kohm) = 16.4", "QIc  = 1.2301 mA", "Cin = 2.6596 mF",
+                    "Ejercicio N° 5 ", "Rg = 100", "Ein = 0.707 Volt (r.m.s.)", "Rb1 (kohm) = 16.4", "QIc  = 1.2301 mA",
+                    "Cin = 2.6596 mF",
                     ("Aconsejo continuar con el diseño de Diferencial Compuesto ", "Aconsejo continuar con el diseño de Base a Masa "))
         self.guide("COLECTOR COMÚN", "1. OBJETIVO")
 
@@ -447,7 +449,8 @@ class PhaseSplitter(Metered, Journey):
         self.kept()
 
     def to_the_signal(self):
-        self.told(("Ingrese el valor de la resistencia interna del generador (Rint)", "Enters the value of the internal resistance of the generator (Rg)"),
+        self.told(("Ingrese el valor de la resistencia interna del generador (Rint)",
+                   "Enters the value of the internal resistance of the generator (Rg)"),
                   ("Parámetros del Transistor", "Transistor Parameters"), ("Parámetros del Circuito", "Circuits Parameters"),
                   ("Rg de generador (Kohm)", "Rg of generator (Kohm)"))
         self.picture("form9-start")

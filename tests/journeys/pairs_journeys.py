@@ -28,9 +28,9 @@ class TwoPairs(Pairs, Journey):
     def whole_design(self):
         self.to_the_output()
         self.to_the_second_pair()
-        self.warning()
+        self.in_the_other_language(self.warning)
         self.to_the_first_pair()
-        self.in_the_other_language(self.load)
+        self.load()
         self.mirror()
         self.kept()
         self.reported()
@@ -57,7 +57,8 @@ class TwoPairs(Pairs, Journey):
         self.go(
             ("Es", "13", "RL2", "Es = 13 V", {"RL2": "13"},  # (13 - 6.5) / 0.5 mA
              ("Asigne valor comercial al resistor RL2...", "Put normalized value of RL2...")),
-            ("RL2", "12", "Res", {"Res": "2"}, ("Asigne valor comercial al resistor Res..", "Assigns commercial value to the resister Res..")),
+            ("RL2", "12", "Res", {"Res": "2"},
+             ("Asigne valor comercial al resistor Res..", "Assigns commercial value to the resister Res..")),
         )
         self.picture("form13-half")
 
@@ -154,7 +155,8 @@ class KnownInput(Pairs, Journey):
         self.warned("Res", "4", *self.high_voltage, self.yes())
         self.enter("Res", "4")
         self.answer(*self.high_voltage, "n")
-        self.answer(("Menos corriente.., menos tensión en RL2.., recorte de la señal !!", "Low current.., low voltage in RL2.., cut sign !!"),
+        self.answer(("Menos corriente.., menos tensión en RL2.., recorte de la señal !!",
+                     "Low current.., low voltage in RL2.., cut sign !!"),
                     ("Pruebe disminuyendo Res, caso contrario imposible continuar..!",
                      "Diminishing Res, impossible contrary case to continue..!"))
         self.enter("Res", "2")
@@ -175,7 +177,8 @@ class KnownInput(Pairs, Journey):
     def heavy_load(self):
         """0.1 K beside 1.8 K is 9.4737 K at the base, less than ten times 15 K; 27 K make it 168.75 K."""
         velmor = self.program
-        self.warned("RLw", "0.1", ("Eleve el valor de RLw o diseñe un nuevo circuito...", "Elevates the value of RLw or design a new circuit..."),
+        self.warned("RLw", "0.1", ("Eleve el valor de RLw o diseñe un nuevo circuito...",
+                                   "Elevates the value of RLw or design a new circuit..."),
                     ("La resistencia estática de entrada del circuito, influye sobre la corriente de colector del diferencial que lo "
                      "alimenta...",
                      "The static resistance of entrance of the circuit, influences on the current of collector of the differential that "
@@ -221,8 +224,10 @@ class CurrentSource(BothLanguages, Journey):
 
     def voltages(self):
         self.go(
-            ("QIc", "2", "Eb", {"QIc": "2 mA"}, ("Elegir una tensión de base superior a 2 Volts", "To choose a voltage of Base, 2V high too")),
-            ("Eb", "4", "Eq", {"Eb": "4 V"}, ("Elegir una tensión de Colector igual a Eb", "To choose a voltage of Collector similar to Eb")),
+            ("QIc", "2", "Eb", {"QIc": "2 mA"},
+             ("Elegir una tensión de base superior a 2 Volts", "To choose a voltage of Base, 2V high too")),
+            ("Eb", "4", "Eq", {"Eb": "4 V"},
+             ("Elegir una tensión de Colector igual a Eb", "To choose a voltage of Collector similar to Eb")),
             # 4 + 4 + 1.2
             ("Eq", "", "-Ebias", {"-Ebias": "9.2"}, "Ebias = EQ + Eb + 1.2 V", "Ebias = 9.2 V"),
             ("-Ebias", "", "Res", {"Res": "2.3", "Eq": "4 V"},  # (9.2 - 4.6) / 2 mA
@@ -234,7 +239,8 @@ class CurrentSource(BothLanguages, Journey):
     def share(self):
         self.go(
             ("Res", "2.2", "Ibias", {"QIc": "2.0909mA"},  # 4.6 / 2.2
-             ("Asigne un valor de Ibias entre 0.3 y 1 , del valor de Qic...", "Assigns a value of Ibias among 0.3 to 1 , the value of Qic...")),
+             ("Asigne un valor de Ibias entre 0.3 y 1 , del valor de Qic...",
+              "Assigns a value of Ibias among 0.3 to 1 , the value of Qic...")),
             ("Ibias", "", "Rb1", {"Ibias": "1.0455mA", "Rb1": "3.8259"},  # half of it; 4 / 1.0455
              ("El valor de estabilidad es: S = 2", "The value of stability is: S = 2")),
         )

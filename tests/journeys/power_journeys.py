@@ -188,7 +188,8 @@ class ClassA(Power):
         velmor.design(
             # 5.9936 / 160; 9.992 / 1600
             ("RL", "160", "Rb1b", r"^0\.0375 A", ("Rb1b", "160"),
-             self.say(r"\( QIc1 \) con Beta = 100 \(Beta Q2\), es de : 0\.0062 A", r"\(QIc1\) with Beta = 100 \(Beta Q2\), it is : 0\.0062 A")),
+             self.say(r"\( QIc1 \) con Beta = 100 \(Beta Q2\), es de : 0\.0062 A",
+                      r"\(QIc1\) with Beta = 100 \(Beta Q2\), it is : 0\.0062 A")),
             ("Rb1b", "", "Rb1a", ("Rb1a", "1440")),  # 10 x 160 - 160
             ("Rb1a", "", "Rb2", r"^Cbp= 49\.7611 mF", ("Rb2", "160.1537")),  # 0.6 / (6.5936 / 1600 - 0.03746 / 100)
         )
@@ -253,7 +254,8 @@ class ClassADarlington(Power):
             ("Elaboración de Informe : Clase A Compuesto", "Resultados del diseño de Potencia en Clase A Compuesto: ", "Beta Q1 = 50",
              "Icmáx (A)= 0.3709", "RLw = 11.2", "Vg (Q1)= 256   Valor", "Aconsejo continuar"),
             ("Design :   Class A Darlington ", "Ejercicio N° 2 ", "Exercise N° 3 ",
-             "Results of the design of Power in Class B ,Simple : ", "Icmáx (A)= 0.3709", "RLw = 11.2", "Vg (Q1)= 256   Value", "Advise to")))
+             "Results of the design of Power in Class B ,Simple : ", "Icmáx (A)= 0.3709", "RLw = 11.2", "Vg (Q1)= 256   Value",
+             "Advise to")))
         self.keep("stage" + self.say(".CAD", ".DAC"),
                   self.say(("Potencia, Clase A", "Clase A - Darlington"), ("Power, Class A", "(Class A Darlington)")),
                   self.say("Circuito de Archivo", "Archive Circuit"),
@@ -414,7 +416,8 @@ class ClassB(Power):
         velmor.shows(self.say("^A la mitad del valor de Rb1", "^To half of the value of Rb1"))
         velmor.design(
             ("Rb1b", "", "Rb1a", ("Rb1a", "12"), r"Rb1a = 13\.5 K"),  # 3/4 of 18 K
-            ("Rb1a", "", "Rb2", ("Rb2", "1"), self.say(r"El valor calculado de Rb2 es : 1\.0465 K", r"The calculated value of Rb2 is : 1\.0465 K")),
+            ("Rb1a", "", "Rb2", ("Rb2", "1"), self.say(r"El valor calculado de Rb2 es : 1\.0465 K",
+                                                            r"The calculated value of Rb2 is : 1\.0465 K")),
             ("Rb2", "", "RLb", ("RLb", ""), r"^IRb1 = 633\.3333 microÄ Ib = 60 microA", r"RL\(total\) : 0\.45 K"),
         )
         self.picture("form10-half")
@@ -442,11 +445,13 @@ class ClassB(Power):
         velmor.design(
             # 5600 / 265.4867 x 0.1828; the capacitors for 20 c/s
             ("Rs", "5.6", "Ic(max)", r"^Z = 5\.8655 K Ein = 3\.8556 Volts p-p", r"^Cin = 29\.9894 microF", r"^Cbp = 6\.1244 microF"),
-            ("Ic(max)", "2", "Vce(sat)", self.say(r"^Coloque valor de Ic\(max\) del manual", r"^It places value of Ic\(max\) of the manual")),
+            ("Ic(max)", "2", "Vce(sat)", self.say(r"^Coloque valor de Ic\(max\) del manual",
+                                                  r"^It places value of Ic\(max\) of the manual")),
         )
         velmor.key("Return")
         velmor.wait_value("Ip", "1.375 Amps")  # (12 - 1) / 8
-        velmor.shows(self.say(r"^La corriente pico .* :1\.375 Amper, .* los causa", r"^The peak current .* :1\.375 Amper, .* the cage of your head"))
+        velmor.shows(self.say(r"^La corriente pico .* :1\.375 Amper, .* los causa",
+                              r"^The peak current .* :1\.375 Amper, .* the cage of your head"))
         self.picture("form10-finished")
 
 
@@ -544,7 +549,8 @@ class ClassBDarlington(Power):
         velmor = self.program
         field = velmor.field("Po")
         velmor.key("ctrl+1")
-        velmor.see(self.say("^Recomendaciones para la puesta en marcha: .* 4\\)", "^Recommendations for the setting in march:.* 4\\)"), "label")
+        velmor.see(self.say("^Recomendaciones para la puesta en marcha: .* 4\\)",
+                            "^Recommendations for the setting in march:.* 4\\)"), "label")
         velmor.see(self.say("^9\\).* 2\\.5 a 10 mA", "^9\\).* 2\\.5 to 10 mA"), "label")
         self.picture("form11-steps")
         velmor.press(velmor.see(self.say("^Volver$", "^Back$"), "push button"))

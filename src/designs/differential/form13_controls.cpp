@@ -110,7 +110,7 @@ constexpr auto controls = std::to_array<ControlRow>({
     later(Label22, "Label22", at(354, 490, 110, 18)),
     later(Label23, "Label23", at(830, 168, 116, 36)),
     later(Label24, "Label24", at(862, 386, 95, 18)),
-    later(Label30, "Label30", at(728, 243, 84, 18)),
+    later(Label30, "Label30", at(730, 243, 86, 18)),
     current(Label31, "Label31", at(486, 281, 70, 20)),
     later(Label32, "Label32", at(322, 261, 72, 18)),
     current(Label33, "Label33", at(830, 266, 76, 20)),

@@ -10,8 +10,8 @@ namespace velmor::power {
 constexpr host::Place parameter(int top, int row)
 {
     host::Place place = sheets::zones::parameter(top, row);
-    place.left -= 22 * sheets::twipsPerUnit;
-    place.width = 122 * sheets::twipsPerUnit;
+    place.left -= 30 * sheets::twipsPerUnit;
+    place.width = 130 * sheets::twipsPerUnit;
     return place;
 }
 

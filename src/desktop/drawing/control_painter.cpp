@@ -225,8 +225,9 @@ void paintPaper(const Scene& scene)
 /// The name of a result that is still to come: it would stand there as if it named what is beside it.
 bool awaitsItsResult(const Scene& scene)
 {
-    const auto isName = [](const host::Mark& mark) {
-        return mark.symbol == host::Symbol::text || mark.symbol == host::Symbol::label;
+    const auto isName = [&scene](const host::Mark& mark) {
+        const bool isWritten = mark.symbol == host::Symbol::text || mark.symbol == host::Symbol::label;
+        return isWritten && valueText(scene.window, mark).isEmpty();
     };
     const auto drawing = scene.drawing();
     return scene.row().look == Look::result && !scene.speaks() && !scene.view.pale &&

@@ -103,12 +103,12 @@ Setting symbolOf(const Window& window, Handle field, const View& view)
     return setting;
 }
 
-/// A value that the sheet has written with its unit, "20 K" or "1.2089 mA".
+/// A value that the sheet has written with its unit, "20 K" or "1.2089 mA"; a placeholder is none.
 bool bearsItsUnit(std::string_view text)
 {
+    constexpr std::string_view digits = "0123456789";
     const auto last = text.find_last_not_of(' ');
-    return last != std::string_view::npos &&
-           std::string_view("0123456789.,").find(text[last]) == std::string_view::npos;
+    return text.find_first_of(digits) != std::string_view::npos && text.find_first_of("0123456789.,", last) != last;
 }
 
 Setting unitOf(const Window& window, Handle field, const View& view)

@@ -11,6 +11,9 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
 #include <QTextLayout>
 #include <QVBoxLayout>
 
@@ -71,7 +74,7 @@ QPalette paletteOf(const Inks& inks, const QPalette& desktop)
 
 } // namespace quiet_box_detail
 
-BoxText::BoxText(const QString& text) : QLabel(text)
+BoxText::BoxText(const QString& text, int most) : QLabel(text), most_(most)
 {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Minimum);
@@ -79,7 +82,7 @@ BoxText::BoxText(const QString& text) : QLabel(text)
 
 int BoxText::measure() const
 {
-    const int most = quiet_box_detail::lettersAcross * fontMetrics().averageCharWidth();
+    const int most = std::min(most_, quiet_box_detail::lettersAcross * fontMetrics().averageCharWidth());
     int widest = 0;
     for (const QString& line : text().split(QLatin1Char('\n')))
         widest = std::max(widest, fontMetrics().horizontalAdvance(line) + 1);
@@ -107,8 +110,8 @@ QSize BoxText::sizeHint() const
     // A very long text is wider rather than taller than the screen.
     const int narrow = measure();
     int width = narrow;
-    while (heightFor(width) > width && width < 3 * narrow)
-        width += narrow / 4 + 1;
+    while (heightFor(width) > width && width < std::min(most_, 3 * narrow))
+        width = std::min(most_, width + narrow / 4 + 1);
     return {width, heightFor(width)};
 }
 
@@ -163,10 +166,36 @@ QString QuietBox::text() const
 
 void QuietBox::setText(const QString& text)
 {
-    auto* label = new BoxText(text);
-    add(label);
-    parts_->setAlignment(label, Qt::AlignVCenter | Qt::AlignLeft);
+    const QSize room = roomForText();
+    auto* label = new BoxText(text, room.width());
     setAccessibleDescription(text);
+    if (label->sizeHint().height() <= room.height()) {
+        add(label);
+        parts_->setAlignment(label, Qt::AlignVCenter | Qt::AlignLeft);
+        return;
+    }
+    text_ = label;
+    scrolled_ = new QScrollArea(this);
+    scrolled_->setFrameShape(QFrame::NoFrame);
+    scrolled_->setFocusPolicy(Qt::NoFocus);
+    scrolled_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrolled_->setWidget(label);
+    scrolled_->setMinimumWidth(label->sizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    scrolled_->setFixedHeight(room.height());
+    add(scrolled_);
+}
+
+QSize QuietBox::mostSize() const
+{
+    const QScreen* screen = QGuiApplication::screenAt(stage_.room.center());
+    return (screen == nullptr ? stage_.room.size() : screen->availableSize()) * quiet_box_detail::largestShare;
+}
+
+// Beside the text stand a sign and margins, above and below it the title and the buttons.
+QSize QuietBox::roomForText() const
+{
+    const int line = fontMetrics().lineSpacing();
+    return mostSize() - QSize(7 * line, title_->sizeHint().height() + 6 * line);
 }
 
 QPushButton* QuietBox::addButton(const QString& caption)
@@ -191,9 +220,7 @@ void QuietBox::takeSize()
 {
     layout()->activate();
     const int titleWidth = title_->wholeWidth();
-    const QScreen* screen = QGuiApplication::screenAt(stage_.room.center());
-    const QSize most =
-        (screen == nullptr ? stage_.room.size() : screen->availableSize()) * quiet_box_detail::largestShare;
+    const QSize most = mostSize();
     const QSize wanted = layout()->sizeHint();
     resize(
         QSize(std::min(std::max(wanted.width(), titleWidth), most.width()), std::min(wanted.height(), most.height())));
@@ -243,7 +270,32 @@ void QuietBox::keyPressEvent(QKeyEvent* event)
             return;
         }
     }
-    QDialog::keyPressEvent(event);
+    if (!scroll(event->key()))
+        QDialog::keyPressEvent(event);
+}
+
+// The buttons keep the keyboard; the keys that they do not know move a long text.
+bool QuietBox::scroll(int key)
+{
+    if (scrolled_ == nullptr)
+        return false;
+    QScrollBar& bar = *scrolled_->verticalScrollBar();
+    switch (key) {
+    case Qt::Key_PageDown:
+        bar.setValue(bar.value() + bar.pageStep());
+        return true;
+    case Qt::Key_PageUp:
+        bar.setValue(bar.value() - bar.pageStep());
+        return true;
+    case Qt::Key_Home:
+        bar.setValue(bar.minimum());
+        return true;
+    case Qt::Key_End:
+        bar.setValue(bar.maximum());
+        return true;
+    default:
+        return false;
+    }
 }
 
 void QuietBox::showEvent(QShowEvent* event)

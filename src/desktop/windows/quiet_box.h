@@ -14,6 +14,7 @@
 
 class QHBoxLayout;
 class QPushButton;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace velmor::desktop {
@@ -32,7 +33,8 @@ struct Stage {
 /// A text to the letter, broken to a measure that is easily read; a word that is too long is broken too.
 class BoxText final : public QLabel {
 public:
-    explicit BoxText(const QString& text);
+    /// No wider than `most` pixels.
+    BoxText(const QString& text, int most);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -42,6 +44,8 @@ protected:
 private:
     int measure() const;
     int heightFor(int width) const;
+
+    int most_;
 };
 
 class QuietBox final : public QDialog {
@@ -67,13 +71,17 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QSize mostSize() const;
+    QSize roomForText() const;
     void takeSize();
+    bool scroll(int key);
 
     Stage stage_;
     TitleLine* title_;
     QVBoxLayout* parts_;
     QHBoxLayout* row_;
     QLabel* text_ = nullptr;
+    QScrollArea* scrolled_ = nullptr; ///< around a text that is taller than the screen
     std::vector<QPushButton*> buttons_;
 };
 

@@ -137,10 +137,12 @@ void SheetView::search(Canvas::Search deed)
     }
 }
 
-// The text makes room for its search line.
+// The text makes room for its search line, and for the row that replaces when that opens.
 bool SheetView::eventFilter(QObject* object, QEvent* event)
 {
-    if (object == search_ && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
+    const bool changesSize =
+        event->type() == QEvent::Show || event->type() == QEvent::Hide || event->type() == QEvent::Resize;
+    if (object == search_ && changesSize)
         QTimer::singleShot(0, this, [this] {
             layout()->activate();
             layOutCanvas();

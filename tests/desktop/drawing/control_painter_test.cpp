@@ -288,7 +288,7 @@ TEST_F(PaintedControls, AUnitThatTheValueBearsIsNotSaidTwice)
         stage.setText(test::FieldLoad, text);
         return !desktop::unitBounds(stage, test::FieldLoad, test::viewAt(1.0)).isEmpty();
     };
-    for (const char* bare : {"", "  ", "20", " 2.5 ", "0,6", "7."})
+    for (const char* bare : {"", "  ", "20", " 2.5 ", "0,6", "7.", "RL", "Rb1", "Click"})
         EXPECT_TRUE(unitBeside(bare)) << bare;
     for (const char* withUnit : {"20 K", "1.2089 mA", "9.2 V ", "Res :3 K"})
         EXPECT_FALSE(unitBeside(withUnit)) << withUnit;

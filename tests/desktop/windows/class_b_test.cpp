@@ -3,7 +3,7 @@
 // sizes, and a long voice beside the next step instead of over it.
 #include <gtest/gtest.h>
 
-#include "designs/power/form10_controls.h"
+#include "designs/power/form11_controls.h"
 #include "desktop/desktop_fixture.h"
 #include "desktop/drawing/control_painter.h"
 #include "desktop/written_texts.h"
@@ -29,6 +29,15 @@ protected:
         if (!value.isEmpty())
             Bench::type(value);
         Bench::key(Qt::Key_Return);
+        expectTextsFit();
+    }
+    /// The button of the page leads back to the sheet.
+    void returnFromPage()
+    {
+        host::Window* page = on.engine.host().find("Form7");
+        ASSERT_NE(page, nullptr);
+        on.engine.userClick(*page, page->named("SSCommand2"));
+        Bench::settle();
         expectTextsFit();
     }
     void expectTextsFit()
@@ -77,6 +86,27 @@ TEST_P(ClassBTest, aSimpleStageIsDesignedAndItsLongVoiceHidesNothing)
     on.engine.userFocus(*sheet, Text9);
     Bench::settle();
     EXPECT_EQ(sheet->focus(), Text9);
+    expectVoiceBesideTheNextStep();
+}
+
+TEST_P(ClassBTest, anImprovedStageIsDesignedWithItsPageOfCalculations)
+{
+    open("Form11");
+    for (const host::Handle field : {Text1, Text2})
+        enter(field);
+    enter(Text10, QStringLiteral("36"));
+    enter(Text5);
+    on.click(*sheet, Text6);
+    returnFromPage();
+    ASSERT_EQ(sheet->focus(), Text7);
+    on.click(*sheet, Text7);
+    for (const host::Handle field : {Text7, Text6, Text8, Text3, Text4})
+        enter(field);
+    returnFromPage();
+    enter(Text9, QStringLiteral("1.5"));
+    enter(Text11, QStringLiteral("4"));
+    enter(Text12);
+    EXPECT_EQ(sheet->text(Text13), "2.0875 Amps") << "(18 - 1 - 0.3) / 8";
     expectVoiceBesideTheNextStep();
 }
 

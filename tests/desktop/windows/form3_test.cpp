@@ -167,6 +167,7 @@ TEST_P(Form3Test, theMeterReadsByMouseAndByKeyboard)
     ASSERT_EQ(sheet->drawing(Shape13).size(), 1u);
     EXPECT_EQ(desktop::valueText(*sheet, sheet->drawing(Shape13)[0]), QStringLiteral("0.5\u00A0mA"));
     const desktop::View view = viewAt(1.0);
+    EXPECT_FALSE(inkedBox(imageOfControl(*sheet, Shape13, view), view.inks->paper).isEmpty()) << "seen on the face";
     EXPECT_TRUE(inkedBox(imageOfControl(*sheet, SSPanel2, view), view.inks->paper).isEmpty()) << "written twice";
     // another function leaves nothing on the face
     on.click(*sheet, c1);

@@ -9,6 +9,9 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -20,6 +23,7 @@
 #include "desktop/desktop_fixture.h"
 #include "desktop/full_disk.h"
 #include "desktop/windows/questions.h"
+#include "desktop/windows/quiet_box.h"
 
 namespace velmor::test::question_test {
 
@@ -89,6 +93,36 @@ TEST_F(QuestionTest, textAndTitleAreShownToTheLetter)
     EXPECT_TRUE(on.boxes.back().plain);
     EXPECT_EQ(on.boxes.back().text, "Valor <b>fuera</b> & de rango\nElija otro");
     EXPECT_EQ(on.boxes.back().title, "Criterio & <i>diseño</i>");
+}
+
+TEST_F(QuestionTest, aTextThatIsTallerThanTheScreenScrollsAndTheButtonsStayInView)
+{
+    QString text;
+    for (int line = 1; line <= 300; ++line)
+        text += QStringLiteral("Renglon %1 de un texto largo\n").arg(line);
+    text += QString(3000, QLatin1Char('x'));
+    int seen = 0;
+    on.duringBox = [&] {
+        auto& box = dynamic_cast<desktop::QuietBox&>(*QApplication::activeModalWidget());
+        const QRect screen = box.screen()->availableGeometry();
+        EXPECT_TRUE(screen.contains(box.geometry()));
+        for (const QPushButton* button : box.buttons())
+            EXPECT_TRUE(box.rect().contains(QRect(button->mapTo(&box, QPoint()), button->size())));
+        auto* area = box.findChild<QScrollArea*>();
+        ASSERT_NE(area, nullptr);
+        EXPECT_TRUE(box.rect().contains(QRect(area->mapTo(&box, QPoint()), area->size())));
+        EXPECT_LE(area->widget()->width(), area->viewport()->width());
+        QScrollBar& bar = *area->verticalScrollBar();
+        EXPECT_GE(bar.maximum() + area->viewport()->height(), area->widget()->height()) << "to its last line";
+        QTest::keyClick(&box, Qt::Key_PageDown);
+        EXPECT_EQ(bar.value(), std::min(bar.pageStep(), bar.maximum()));
+        QTest::keyClick(&box, Qt::Key_End);
+        EXPECT_EQ(bar.value(), bar.maximum());
+        ++seen;
+    };
+    on.answerByKey(Qt::Key_Return);
+    EXPECT_EQ(on.screen.messageBox({text.toStdString(), "Velmor", 33}), Answer::ok);
+    EXPECT_EQ(seen, 1);
 }
 
 TEST_F(QuestionTest, buttonsSpeakTheLanguageOfTheMoment)

@@ -114,6 +114,16 @@ TEST_F(SearchTest, aHitInALongLineIsFoundWhereverItLies)
     }
 }
 
+TEST_F(SearchTest, theTextMakesRoomForTheRowThatReplacesToo)
+{
+    const auto belowText = [&] { return text().mapTo(line()->window(), QPoint(0, text().height())).y(); };
+    for (const char* key : {"Ctrl+F", "Ctrl+H"}) {
+        Bench::keys(key);
+        Bench::settle();
+        EXPECT_LE(belowText(), line()->mapTo(line()->window(), QPoint()).y()) << key;
+    }
+}
+
 TEST_F(SearchTest, theKeysWorkFromTheTextToo)
 {
     text().moveCursor(QTextCursor::Start);
