@@ -28,6 +28,8 @@ class SmallScreen(Journey):
             until(lambda: self.in_view(self.program.field(symbol)), symbol + " in view")
 
         self.program.focused = focused_and_in_view
+        self.press = self.program.press
+        self.program.press = self.press_in_view
 
     def on_screen(self, node):
         width, height = (int(side) for side in self.size.split("x"))
@@ -39,6 +41,19 @@ class SmallScreen(Journey):
         strip = self.program.named("^(Diseños posibles|Possible designs)", None)
         return shell_journeys.inside(place, self.program.place(self.main_window())) and \
             (strip is None or shell_journeys.apart(place, self.program.place(strip)))
+
+    def press_in_view(self, node, button="1"):
+        """As a person who finds it by the wheel: up or down, then to the side."""
+        wheel = {True: ("4", "6"), False: ("5", "7")}
+        middle = [side // 2 for side in self.program.place(self.main_window())[2:]]
+        for _ in range(12):
+            if self.in_view(node):
+                break
+            place = self.program.place(node)
+            axis = 1 if not 150 < place[1] < 450 else 0
+            self.program.tool("mousemove", str(middle[0]), str(middle[1]), "click", wheel[place[axis] < 150][1 - axis])
+            until(lambda: self.program.place(node) != place, "the sheet moved by the wheel")
+        self.press(node, button)
 
     def test_a_stage_is_designed_in_spanish_with_every_field_in_view(self):
         journeys.Design.test_a_student_designs_a_stage_with_the_keyboard_alone(self)
@@ -70,6 +85,8 @@ class SmallScreen(Journey):
         velmor.key("ctrl+r")
         editor = velmor.see("^Texto$", "text")
         until(lambda: "Ejercicio" in velmor.text(editor), "the report")
+        velmor.key("ctrl+f")
+        velmor.see("^Siguiente$", "push button")
         velmor.key("ctrl+h")
         for name in ("Anterior", "Siguiente", "Cerrar", "Reemplazar", "Reemplazar todo"):
             button = velmor.see("^%s$" % name, "push button")
