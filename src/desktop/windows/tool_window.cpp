@@ -52,9 +52,9 @@ void ToolWindow::followWindow()
 {
     if (model() == nullptr)
         return;
-    const QString title = shownTitle(model()->caption()).simplified();
-    if (windowTitle() != title)
-        setWindowTitle(title);
+    const QString shownCaption = shownTitle(model()->caption()).simplified();
+    if (windowTitle() != shownCaption)
+        setWindowTitle(shownCaption);
     title().setTitle(shown(model()->caption()).simplified());
     followSize();
     const bool minimised = model()->windowState() == 1;

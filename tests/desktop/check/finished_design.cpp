@@ -4,12 +4,14 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include <QElapsedTimer>
 #include <QTest>
 
-#include "desktop/check/design_checks.h"
+#include "console/verbs.h"
+#include "console/walk_lines.h"
+#include "console/whole_program.h"
+#include "designs/circuits.h"
 #include "places.h"
 
 namespace velmor::test {
@@ -18,71 +20,53 @@ namespace finished_design_detail {
 
 constexpr int patience = 20'000; // milliseconds
 
-void fill(Bench& bench, host::Window& sheet, host::Handle field, const std::string& text)
+std::string pathOf(const std::string& name)
 {
-    if (sheet.focus() != field)
-        bench.click(sheet, field);
-    bench.key(Qt::Key_A, Qt::ControlModifier);
-    bench.type(QString::fromStdString(text));
+    return places::source() + "/tests/check/walks/" + name + ".walk";
 }
 
-void enter(Bench& bench, host::Window& sheet, std::istringstream& words)
+void run(console::Walk& walk, const console::Command& command)
 {
-    std::string field;
-    std::string text;
-    if (words >> field && words >> text)
-        fill(bench, sheet, sheet.named(field), text);
-    bench.key(Qt::Key_Return);
-}
-
-/// False at the word that ends the design.
-bool play(Bench& bench, host::Window*& sheet, const std::string& line)
-{
-    std::istringstream words(line);
-    std::string verb;
-    std::string name;
-    if (!(words >> verb) || verb.starts_with('#') || verb == "language")
-        return true;
-    if (verb == "check")
-        return false;
-    if (verb == "new") {
-        words >> name;
-        sheet = &bench.show(name);
-    } else if (verb == "enter") {
-        enter(bench, *sheet, words);
-    } else if (verb == "enter-each") {
-        while (words >> name)
-            bench.key(Qt::Key_Return);
-    } else if (verb == "fill") {
-        std::string text;
-        words >> name >> text;
-        fill(bench, *sheet, sheet->named(name), text);
-    } else if (verb == "click") {
-        words >> name;
-        bench.click(*sheet, sheet->named(name));
-    } else if (verb == "answer") {
-        words >> name;
-        bench.answerByKey(name == "yes" ? Qt::Key_S : Qt::Key_N);
-    } else if (verb == "window") {
-        bench.engine.userActivate(*sheet);
-        Bench::settle();
-    }
-    return true;
+    walk.loadProgram();
+    console::verbOf(command.words.front())->run(walk, console::Words(command.words).subspan(1));
 }
 
 } // namespace finished_design_detail
 
 using namespace finished_design_detail;
 
-host::Window& finishDesign(Bench& bench, const std::string& name)
+FinishedDesign::FinishedDesign(const std::string& name) : walk_(console::wholeProgram(), name, out_, false)
 {
-    std::ifstream walk(places::source() + "/tests/check/walks/" + name + ".walk");
-    host::Window* sheet = nullptr;
+    desk_.engine = &walk_.engine();
+    std::ifstream text(pathOf(name));
+    console::WalkLines lines(text);
     std::string line;
-    while (std::getline(walk, line) && play(bench, sheet, line)) {
-    }
-    Bench::settle();
-    return *sheet;
+    while (lines.next(line))
+        for (const console::Command& command : lines.commands()) {
+            if (command.words.front() == "check")
+                return;
+            run(walk_, command);
+        }
+}
+
+check::Design FinishedDesign::design()
+{
+    return check::designOf(sheet(), *designs::circuitTableOf(sheet().name()));
+}
+
+void FinishedDesign::play(const std::string& command)
+{
+    std::istringstream text(command);
+    console::WalkLines lines(text);
+    std::string line;
+    while (lines.next(line))
+        for (const console::Command& one : lines.commands())
+            run(walk_, one);
+}
+
+void FinishedDesign::speak(bool english)
+{
+    walk_.engine().values().LanguageIsEnglish = english ? host::trueValue : std::int16_t{0};
 }
 
 std::vector<std::string> finishedDesigns()
@@ -92,13 +76,6 @@ std::vector<std::string> finishedDesigns()
         names.push_back(file.path().stem().string());
     std::sort(names.begin(), names.end());
     return names;
-}
-
-desktop::CheckWindow* checkOf(Bench& bench, const host::Window& sheet)
-{
-    desktop::DesignChecks* checks = bench.screen.checks();
-    desktop::CheckWindow* window = checks == nullptr ? nullptr : checks->windowOf(sheet);
-    return window != nullptr && window->isVisible() ? window : nullptr;
 }
 
 bool waitFor(const std::function<bool()>& condition)

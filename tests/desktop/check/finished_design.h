@@ -1,22 +1,38 @@
 // SPDX-License-Identifier: MIT
-// A whole design on real windows: the deeds of a walk of tests/check, done with keys and clicks.
+// The finished designs of tests/check, and the windows of their checks: the deeds of a walk up to its `check`.
 #pragma once
 
+#include <functional>
+#include <memory>
+#include <sstream>
 #include <string>
+#include <vector>
 
+#include "console/walk.h"
 #include "desktop/check/check_window.h"
-#include "desktop/desktop_fixture.h"
 
 namespace velmor::test {
 
-/// Plays what comes before `check` in tests/check/walks/NAME.walk and gives the sheet.
-host::Window& finishDesign(Bench& bench, const std::string& name);
+class FinishedDesign {
+public:
+    /// Plays tests/check/walks/NAME.walk as far as its `check`.
+    explicit FinishedDesign(const std::string& name);
+
+    host::Window& sheet() { return walk_.current(); }
+    check::Design design();
+    /// What is asked of the walk from here on.
+    void play(const std::string& command);
+    desktop::Desk& desk() { return desk_; }
+    void speak(bool english);
+
+private:
+    std::ostringstream out_;
+    console::Walk walk_;
+    desktop::Desk desk_;
+};
 
 /// The names of these walks: one a sheet.
 std::vector<std::string> finishedDesigns();
-
-/// The window of the check of that sheet; null while there is none in sight.
-desktop::CheckWindow* checkOf(Bench& bench, const host::Window& sheet);
 
 /// Lets the program run until the condition holds; false when it never does.
 bool waitFor(const std::function<bool()>& condition);
