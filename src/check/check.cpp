@@ -19,8 +19,10 @@ constexpr double mostDrive = 10;
 constexpr double saturationVoltage = 0.2; // V
 
 constexpr host::BiText asleep{
-    "Termine el diseño: se comprueba cuando la cadena se recorrió hasta el final sin avisos.",
-    "Finish the design: it can be checked once the chain has been walked to its end without a warning."};
+    "Espera: termine primero el diseño, hasta el último paso y sin avisos. Un diseño leído de un archivo se recorre "
+    "otra vez.",
+    "It waits: finish the design first, to its last step and without a warning. A design read from a file is walked "
+    "through again."};
 
 /// What was asked in a field; nothing when nobody has left it.
 Measured askedIn(const host::Window& sheet, const QuantityRow& row)
@@ -59,6 +61,7 @@ Ceilings ceilingsOf(const Stage& stage, Measured Vce)
     // A follower swings over what its emitter sees.
     const double load = stage.kind == StageKind::follower ? beside(stage.Res, stage.RLw) : beside(stage.RL, stage.RLw);
     return {.known = stage.kind != StageKind::compound && stage.kind != StageKind::other,
+            .cutOffAbove = stage.kind != StageKind::follower,
             .cutOff = stage.trueQIc * load,
             .saturation = std::max(0.0, Vce.value_or(0) - saturationVoltage)};
 }
@@ -82,6 +85,8 @@ Words excuseOf(CheckEnd end)
     case CheckEnd::tooLong:
         return {"El simulador no terminó en cinco segundos y fue detenido.",
                 "The simulator had not finished after five seconds and was ended."};
+    case CheckEnd::stopped:
+        return {"Se interrumpió.", "It was interrupted."};
     case CheckEnd::tooMuch:
         return {"El simulador escribió más de lo que cabe y fue detenido.",
                 "The simulator wrote more than can be meant and was ended."};
@@ -102,6 +107,8 @@ CheckEnd endOf(const Simulation& simulation)
         return CheckEnd::tooLong;
     case SimulationEnd::tooMuch:
         return CheckEnd::tooMuch;
+    case SimulationEnd::stopped:
+        return CheckEnd::stopped;
     }
     return CheckEnd::failed;
 }
@@ -122,6 +129,7 @@ void readPlots(Check& check, const Design& design, const std::vector<Plot>& plot
 
 void simulate(Check& check, const Design& design, Simulator& simulator)
 {
+    check.circuit = design.circuit;
     check.netlist = deckOf(design.circuit, {.response = isSmallSignal(design)});
     Simulation simulation = simulator.run(check.netlist);
     check.end = endOf(simulation);
@@ -182,6 +190,7 @@ Check checkDesign(const Design& design, Simulator& simulator)
     Check check;
     for (const Expected& row : design.rows)
         check.rows.push_back({.quantity = row.quantity, .asked = row.asked, .course = row.course});
+    check.circuit = design.circuit;
     check.netlist = deckOf(design.circuit, {});
     const std::string impossible = impossiblePart(design.circuit);
     if (impossible.empty()) {
@@ -194,6 +203,12 @@ Check checkDesign(const Design& design, Simulator& simulator)
         check.excuse = {impossible + ": " + check.excuse.es, impossible + ": " + check.excuse.en};
     explain(check, design);
     return check;
+}
+
+Design trimmedBy(const Check& check, Design design)
+{
+    design.circuit = check.circuit;
+    return design;
 }
 
 Swing swingOf(const Design& design, Simulator& simulator, double drive)

@@ -5,7 +5,7 @@
 // For a window:
 //   const Design design = designOf(sheet, table);          // in the program's thread, when `isAwake`
 //   const Check check = checkDesign(design, simulator);    // anywhere; up to five seconds where the simulator hangs
-//   const Swing swing = swingOf(design, simulator, drive); // the slider: 0.1 to 4 times Ein
+//   const Swing swing = swingOf(trimmedBy(check, design), simulator, drive); // the slider: 0.1 to 4 times Ein
 //   Bet, textTable and csvTable (bet.h, table_text.h) do the rest.
 #pragma once
 
@@ -86,9 +86,10 @@ struct Swing {
 
 /// How far the output can go from its rest before the transistor is cut off or saturated, V; the lesser bends first.
 struct Ceilings {
-    bool known = false;    ///< of a stage with one transistor at its output, or a pair
-    double cutOff = 0;     ///< QIc x RLac
-    double saturation = 0; ///< Vce less 0.2 V
+    bool known = false;      ///< of a stage with one transistor at its output, or a pair
+    bool cutOffAbove = true; ///< where the output ends when the transistor is cut off; of a follower it is below
+    double cutOff = 0;       ///< QIc x RLac
+    double saturation = 0;   ///< Vce less 0.2 V
     bool cutOffIsNearer() const { return cutOff <= saturation; }
 };
 
@@ -100,6 +101,7 @@ enum class CheckEnd : std::uint8_t {
     incomplete,  ///< some plots are missing
     tooLong,
     tooMuch,
+    stopped, ///< nobody waits for it any more
 };
 
 struct Check {
@@ -109,11 +111,15 @@ struct Check {
     Response response{};     ///< gain over frequency, 0.01 Hz to `midBand`
     Swing swing{};
     Ceilings ceilings{};
+    Circuit circuit{}; ///< as it was simulated: presets are trimmed
     std::string netlist{};
     std::string details{}; ///< what the simulator said
 };
 
 Check checkDesign(const Design& design, Simulator& simulator);
+
+/// The design with the circuit that the check has simulated.
+Design trimmedBy(const Check& check, Design design);
 
 /// Drive is kept between 0.1 and 10.
 Swing swingOf(const Design& design, Simulator& simulator, double drive);

@@ -158,9 +158,10 @@ ProgramRun follow(pid_t child, const ProgramOrder& order, Pipe& pipe)
             break;
         }
         const bool late = Clock::now() >= deadline;
-        if (!late && !outgrown(order))
+        const bool stops = order.stop.stop_requested();
+        if (!stops && !late && !outgrown(order))
             continue;
-        run.end = late ? ProgramEnd::tooLong : ProgramEnd::tooMuch;
+        run.end = stops ? ProgramEnd::stopped : late ? ProgramEnd::tooLong : ProgramEnd::tooMuch;
         endGroup(child);
         ::waitpid(child, &status, 0);
         return run;

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,7 @@ struct ProgramOrder {
     std::size_t mostBytes = 64U << 20U;
     std::size_t mostWords = 64U << 10U; ///< bytes of what it says that are kept; the rest is read and dropped
     std::chrono::milliseconds limit{5000};
+    std::stop_token stop{}; ///< nobody waits for it any more
 };
 
 enum class ProgramEnd : std::uint8_t {
@@ -43,6 +45,7 @@ enum class ProgramEnd : std::uint8_t {
     tooLong,    ///< ended by us after the time limit
     tooMuch,    ///< ended by us: the watched file had outgrown its bound
     broken,     ///< by a signal that was not ours
+    stopped,    ///< ended by us: it was asked to stop
 };
 
 struct ProgramRun {

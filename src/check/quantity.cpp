@@ -34,7 +34,7 @@ constexpr QuantityText table[] = {
      {"Frecuencia de corte inferior, a -3 dB", "Lower cut-off frequency, at -3 dB"}},
     {Quantity::dBfo,      "dBfo",       "dB",    Measure::difference,
      {"Nivel a la frecuencia fo", "Level at the frequency fo"}},
-    {Quantity::output,    "output",     "of Eg", Measure::share,
+    {Quantity::output,    "output",     "Eg",    Measure::share,
      {"Parte de Eg que llega a la salida", "Share of Eg that reaches the output"}},
     {Quantity::Eopp,      "Eopp",       "V",     Measure::atLeast,
      {"Salida pico a pico", "Output peak to peak"}},

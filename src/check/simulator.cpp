@@ -43,6 +43,8 @@ SimulationEnd endOf(const ProgramRun& run, bool hasPlots)
         return SimulationEnd::tooLong;
     case ProgramEnd::tooMuch:
         return SimulationEnd::tooMuch;
+    case ProgramEnd::stopped:
+        return SimulationEnd::stopped;
     case ProgramEnd::broken:
         return SimulationEnd::failed;
     case ProgramEnd::normal:
@@ -57,6 +59,8 @@ SimulationEnd endOf(const ProgramRun& run, bool hasPlots)
 Simulation Ngspice::run(const std::string& deck)
 {
     using namespace simulator_detail;
+    if (stop_.stop_requested())
+        return {.end = SimulationEnd::stopped};
     const std::filesystem::path program = findProgram(program_.empty() ? "ngspice" : program_);
     if (program.empty())
         return {};
@@ -69,7 +73,8 @@ Simulation Ngspice::run(const std::string& deck)
                                  .folder = folder.path(),
                                  .watchedFile = rawName,
                                  .mostBytes = mostRawBytes,
-                                 .limit = limit_});
+                                 .limit = limit_,
+                                 .stop = stop_});
     Simulation simulation{.details = std::move(run.words)};
     if (run.end == ProgramEnd::normal)
         simulation.plots = readRaw(readRawFile(folder.path()));

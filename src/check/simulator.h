@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <stop_token>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,6 +20,7 @@ enum class SimulationEnd : std::uint8_t {
     failed,  ///< it ended with a failure, or without a plot
     tooLong, ///< it was ended after five seconds
     tooMuch, ///< it wrote more than can be meant
+    stopped, ///< nobody waits for it any more
 };
 
 struct Simulation {
@@ -38,14 +40,17 @@ class Ngspice final : public Simulator {
 public:
     /// The path or name of the program; empty: "ngspice" on the PATH. It is looked for at each run, so that one that is
     /// installed meanwhile is found.
-    explicit Ngspice(std::string program = {}, std::chrono::milliseconds limit = std::chrono::seconds(5))
-        : program_(std::move(program)), limit_(limit)
+    /// When a stop is asked for, a run that goes on ends, and no other begins.
+    explicit Ngspice(std::string program = {}, std::chrono::milliseconds limit = std::chrono::seconds(5),
+                     std::stop_token stop = {})
+        : program_(std::move(program)), limit_(limit), stop_(std::move(stop))
     {}
     Simulation run(const std::string& deck) override;
 
 private:
     std::string program_;
     std::chrono::milliseconds limit_;
+    std::stop_token stop_;
 };
 
 } // namespace velmor::check

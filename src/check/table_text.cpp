@@ -45,8 +45,8 @@ std::string ladderLines(const Row& row, bool english)
     lines += std::string(pick(fromCourse, english)) + std::string(text.name) + " = " +
              amountText(row.ladder.start, text.unit) + std::string(lineEnd);
     for (std::size_t i = 0; i < row.ladder.rungs.size(); ++i)
-        lines += amountText(row.ladder.rungs[i].value, text.unit) + " (" + amountText(row.ladder.stepOf(i), "dB") +
-                 ")\t" + std::string(pick(row.ladder.rungs[i].reason, english)) + std::string(lineEnd);
+        lines += amountText(row.ladder.rungs[i].value, text.unit) + " (" + stepText(row, i) + ")\t" +
+                 std::string(pick(row.ladder.rungs[i].reason, english)) + std::string(lineEnd);
     return lines + std::string(pick(remainder, english)) + ": " + amountText(row.ladder.remainder(), "dB") +
            std::string(lineEnd);
 }

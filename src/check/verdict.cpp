@@ -219,6 +219,17 @@ std::string amountText(double value, std::string_view unit)
     return fixedText(shown, digits) + (shownUnit.empty() ? "" : " " + std::string(shownUnit));
 }
 
+std::string stepText(const Row& row, std::size_t rung)
+{
+    const double step = row.ladder.stepOf(rung);
+    const bool isGain = textOf(row.quantity).measure == Measure::decibel;
+    const double percent = 100 * (std::pow(10, step / 20) - 1);
+    // Steps are compared with each other: as many digits behind the point for all.
+    const std::string amount =
+        isGain ? verdict_detail::fixedText(step, 2) + " dB" : verdict_detail::fixedText(percent, 1) + " %";
+    return step > 0 && amount.front() != '0' ? '+' + amount : amount;
+}
+
 void judge(Row& row, const Design& design, const Ceilings& ceilings)
 {
     row.judgement = verdict_detail::judgementOf(row, ceilings);

@@ -9,6 +9,9 @@ namespace velmor::check {
 /// A number for reading: three or four digits, no exponent, the unit behind it; thousands of ohms as K.
 std::string amountText(double value, std::string_view unit);
 
+/// What a rung of the row's ladder does to the figure: dB of a gain, per cent of anything else, with its sign.
+std::string stepText(const Row& row, std::size_t rung);
+
 /// Judges the row and says so in it.
 void judge(Row& row, const Design& design, const Ceilings& ceilings);
 

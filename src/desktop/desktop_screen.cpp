@@ -13,6 +13,7 @@
 #include <QProcess>
 
 #include "desktop/canvas/document_store.h"
+#include "desktop/check/design_checks.h"
 #include "desktop/drawing/texts.h"
 #include "desktop/file_places.h"
 #include "desktop/printing.h"
@@ -44,11 +45,22 @@ void DesktopScreen::attach(host::Engine& engine)
     desk_.engine = &engine;
     desk_.inks = &inksFor(QGuiApplication::palette());
     keeper_ = std::make_unique<WindowKeeper>(desk_);
+    desk_.canCheck = DesignChecks::isFor;
+    desk_.check = [this](host::Window& sheet) { check(sheet); };
 }
 
 void DesktopScreen::detach()
 {
+    checks_.reset();
     keeper_.reset();
+}
+
+void DesktopScreen::check(host::Window& sheet)
+{
+    if (!checks_)
+        checks_ = std::make_unique<DesignChecks>(desk_, *keeper_,
+                                                 [this](const host::FileDialog& dialog) { return fileDialog(dialog); });
+    checks_->open(sheet);
 }
 
 // A question shows what led to it, waits, and hands the keyboard back to the window that asked.
@@ -229,6 +241,8 @@ void DesktopScreen::windowRaised(host::Window& window)
 
 void DesktopScreen::windowGone(host::Window& window)
 {
+    if (checks_)
+        checks_->gone(window);
     if (keeper_)
         keeper_->gone(window);
 }
@@ -239,6 +253,8 @@ void DesktopScreen::bringUpToDate()
         texts_.follow(desk_.english());
     if (keeper_)
         keeper_->bringUpToDate();
+    if (checks_ && !desk_.closing)
+        checks_->follow();
 }
 
 void DesktopScreen::programEnded()

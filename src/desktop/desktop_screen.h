@@ -15,6 +15,7 @@
 
 namespace velmor::desktop {
 
+class DesignChecks;
 class WindowKeeper;
 
 class DesktopScreen final : public host::Screen {
@@ -31,6 +32,8 @@ public:
     void settleIn();
     Desk& desk() { return desk_; }
     WindowKeeper& keeper() { return *keeper_; }
+    /// The checks of designs; null before the first was asked for.
+    DesignChecks* checks() { return checks_.get(); }
 
     host::Answer messageBox(const host::MessageBox& box) override;
     std::optional<std::string> fileDialog(const host::FileDialog& dialog) override;
@@ -66,6 +69,7 @@ private:
     template <class Ask>
     auto ask(Ask question);
     void prepareFolder();
+    void check(host::Window& sheet);
     host::Window* asking() const;
 
     FolderPlaces places_;
@@ -73,6 +77,7 @@ private:
     ToolkitTexts texts_;
     Desk desk_;
     std::unique_ptr<WindowKeeper> keeper_;
+    std::unique_ptr<DesignChecks> checks_;
     QString folder_;
     bool busy_ = false;
 };

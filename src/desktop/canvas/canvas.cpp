@@ -12,6 +12,7 @@
 #include <QToolTip>
 #include <QtMath>
 
+#include "desktop/canvas/check_tile.h"
 #include "desktop/canvas/control_pane.h"
 #include "desktop/canvas/field_edit.h"
 #include "desktop/canvas/keyboard.h"
@@ -47,7 +48,7 @@ bool isMostOf(const QRegion& region, const QRect& whole)
 Canvas::Canvas(Desk& desk, host::Window& model, Handle area, Handle except)
     : desk_(desk), model_(&model), area_(area), except_(except), plan_(CanvasPlan::of(model.spec())),
       widgets_(model.controlCount()), ink_(model.controlCount()), pointer_(std::make_unique<Pointer>(*this)),
-      keyboard_(std::make_unique<Keyboard>(*this))
+      keyboard_(std::make_unique<Keyboard>(*this)), checkTile_(std::make_unique<CheckTile>(*this))
 {
     design_ = area == noControl ? host::Place{0, 0, model.spec().place.width, model.spec().place.height}
                                 : host::shownPlace(model, area);
@@ -94,6 +95,7 @@ void Canvas::layOut(double scale, QSize size)
     for (std::size_t control = 0; control < widgets_.size(); ++control)
         if (widgets_[control] != nullptr)
             place(static_cast<Handle>(control), *widgets_[control]);
+    checkTile_->label();
     update();
 }
 
@@ -221,6 +223,7 @@ void Canvas::paintEvent(QPaintEvent* event)
     } else if (!painted) {
         paintWhole(painter);
     }
+    checkTile_->paint(painter, event->region());
     if (offering_)
         paintGlow(painter);
 }
@@ -381,7 +384,10 @@ bool Canvas::event(QEvent* event)
     if (event->type() == QEvent::ToolTip && model_ != nullptr) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const Handle control = controlAt(help->pos());
-        tellAbout(control, help->globalPos());
+        if (checkTile_->isAt(help->pos()))
+            checkTile_->tellAbout(help->globalPos());
+        else
+            tellAbout(control, help->globalPos());
         return true;
     }
     if (event->type() == QEvent::ShortcutOverride && keyboard_->wants(*static_cast<QKeyEvent*>(event))) {

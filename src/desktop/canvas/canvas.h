@@ -21,6 +21,7 @@ class QPlainTextEdit;
 
 namespace velmor::desktop {
 
+class CheckTile;
 class Keyboard;
 class Pointer;
 
@@ -72,6 +73,7 @@ public:
     const CanvasPlan::Entry& planOf(host::Handle control) const { return plan_.entries[control]; }
     QString tipOf(host::Handle control) const;
     Pointer& pointer() { return *pointer_; }
+    CheckTile& checkTile() { return *checkTile_; }
 
     /// What a key asks of the search line of an editor.
     enum class Search { open, openReplacing, on, back };
@@ -140,6 +142,7 @@ private:
     bool seen_ = false;    ///< has been painted whole
     std::unique_ptr<Pointer> pointer_;
     std::unique_ptr<Keyboard> keyboard_;
+    std::unique_ptr<CheckTile> checkTile_;
 };
 
 } // namespace velmor::desktop

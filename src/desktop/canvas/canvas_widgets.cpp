@@ -9,6 +9,7 @@
 #include <QStyledItemDelegate>
 
 #include "desktop/canvas/canvas.h"
+#include "desktop/canvas/check_tile.h"
 #include "desktop/canvas/control_pane.h"
 #include "desktop/canvas/document_store.h"
 #include "desktop/canvas/editor_edit.h"
@@ -414,6 +415,7 @@ void Canvas::relabel()
     for (std::size_t control = 0; control < widgets_.size(); ++control)
         if (widgets_[control] != nullptr)
             label(static_cast<Handle>(control), *widgets_[control]);
+    checkTile_->label();
     update();
 }
 
@@ -423,6 +425,7 @@ void Canvas::recolor()
     for (QWidget* widget : widgets_)
         if (auto* field = dynamic_cast<FieldEdit*>(widget))
             field->setInks(*desk_.inks);
+    checkTile_->label();
     applyAll();
 }
 

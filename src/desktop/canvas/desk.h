@@ -37,6 +37,10 @@ struct Desk {
     /// The pointer, or a key in its place, has come over a control of that window; noControl is its background.
     std::function<void(const host::Window&, host::Handle)> hovered;
 
+    /// The window has a design that can be checked, once it has passed; and the check itself.
+    std::function<bool(const host::Window&)> canCheck;
+    std::function<void(host::Window&)> check;
+
     bool english() const { return engine->values().LanguageIsEnglish == host::trueValue; }
     bool idle() const { return !closing && engine->idle() && !engine->ended(); }
     int pixels(int twips) const { return static_cast<int>(twips * scale / 15.0 + (twips < 0 ? -0.5 : 0.5)); }

@@ -13,11 +13,13 @@
 #include <QPointer>
 
 #include "desktop/canvas/canvas.h"
+#include "desktop/canvas/check_tile.h"
 #include "desktop/canvas/field_edit.h"
 #include "desktop/canvas/pointer.h"
 #include "desktop/drawing/texts.h"
 #include "host/state_change.h"
 #include "rules/code_page.h"
+#include "sheets/check_tool.h"
 
 namespace velmor::desktop {
 
@@ -52,6 +54,7 @@ constexpr CommonKeyRow commonKeyRows[] = {
     {"Ctrl+Z",       CommonKey::undo,       {"deshace lo tecleado, o un paso",             "undoes typing, or a step"}},
     {"Ctrl+Shift+Z", CommonKey::redo,       {"rehace lo tecleado, o un paso",              "types it again, or a step forward"}},
     {"Ctrl+Y",       CommonKey::redo,       {"rehace lo tecleado, o un paso",              "types it again, or a step forward"}},
+    {sheets::checkKey, CommonKey::check,    {"comprueba el diseño terminado",                "checks the finished design"}},
     {"Esc",          CommonKey::close,      {"cierra una ventana de ayuda o herramienta",    "closes a window of help or a tool"}},
 };
 // clang-format on
@@ -149,7 +152,8 @@ bool Keyboard::wants(const QKeyEvent& event) const
         return false;
     const QKeyCombination keys = keysOf(event);
     const bool steps = model->role() == host::Role::sheet || model->role() == host::Role::editor;
-    return shortcutRow(model->spec(), keys) != noRow || (steps && keyboard_detail::isUndo(keys)) ||
+    const bool checks = canvas_.checkTile().isThere() && keys == keyboard_detail::combinationOf(sheets::checkKey);
+    return shortcutRow(model->spec(), keys) != noRow || checks || (steps && keyboard_detail::isUndo(keys)) ||
            keyboard_detail::searchOf(*model, keys).has_value();
 }
 
@@ -262,6 +266,12 @@ bool Keyboard::run(CommonKey deed)
         return undoTyping(host::Direction::back) || step(host::Direction::back);
     case CommonKey::redo:
         return undoTyping(host::Direction::forth) || step(host::Direction::forth);
+    case CommonKey::check:
+        if (!canvas_.checkTile().isThere())
+            return false;
+        canvas_.checkTile().press();
+        canvas_.checkTile().release();
+        return true;
     }
     return false;
 }

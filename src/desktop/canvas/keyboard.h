@@ -24,7 +24,7 @@ class Canvas;
 class FieldEdit;
 
 /// What a key does in every window, beside the rows of the window's own table.
-enum class CommonKey : std::uint8_t { next, previous, rightPress, hover, nextPane, close, stepBack, undo, redo };
+enum class CommonKey : std::uint8_t { next, previous, rightPress, hover, nextPane, close, stepBack, undo, redo, check };
 struct CommonKeyRow {
     std::string_view keys;
     CommonKey deed;

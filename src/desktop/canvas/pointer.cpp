@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include "desktop/canvas/canvas.h"
+#include "desktop/canvas/check_tile.h"
 #include "desktop/canvas/field_edit.h"
 
 namespace velmor::desktop {
@@ -65,7 +66,9 @@ void Pointer::pressed(QPoint point, const QMouseEvent& event)
         if (!alive || canvas_.model() == nullptr)
             return;
     }
-    if (event.button() == Qt::LeftButton)
+    if (event.button() == Qt::LeftButton && canvas_.checkTile().isAt(point))
+        canvas_.checkTile().press();
+    else if (event.button() == Qt::LeftButton)
         leftPress(control, point, event, false);
     else if (event.button() == Qt::RightButton)
         rightPress(control, event);
@@ -76,7 +79,9 @@ void Pointer::doubleClicked(QPoint point, const QMouseEvent& event)
 {
     if (canvas_.model() == nullptr || canvas_.desk().closing)
         return;
-    if (event.button() == Qt::LeftButton)
+    if (event.button() == Qt::LeftButton && canvas_.checkTile().isAt(point))
+        canvas_.checkTile().press();
+    else if (event.button() == Qt::LeftButton)
         leftPress(canvas_.controlAt(point), point, event, true);
     else if (event.button() == Qt::RightButton)
         rightPress(canvas_.controlAt(point), event);
@@ -122,6 +127,8 @@ void Pointer::moved(QPoint point, Qt::MouseButtons buttons)
         return;
     }
     hover(canvas_.controlAt(point));
+    if (canvas_.model() != nullptr)
+        canvas_.checkTile().hover(point);
 }
 
 // Once per change of control: slots show the same each time, so repeating them would only cost.
@@ -146,6 +153,7 @@ void Pointer::hover(Handle control)
 void Pointer::left()
 {
     hoverKnown_ = false;
+    canvas_.checkTile().leave();
     if (canvas_.model() != nullptr)
         canvas_.setHovered(noControl);
 }
@@ -155,6 +163,7 @@ void Pointer::released(QPoint point, const QMouseEvent& event)
     if (event.button() != Qt::LeftButton || canvas_.model() == nullptr)
         return;
     canvas_.setPressed(noControl);
+    canvas_.checkTile().release();
     const Handle held = std::exchange(held_, noControl);
     if (dragging_) {
         held_ = held;

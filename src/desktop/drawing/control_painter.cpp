@@ -26,6 +26,9 @@ using host::Look;
 
 namespace painting {
 
+constexpr double fadedInk = 0.45;    ///< of the drawing of a tool that cannot be used
+constexpr double buttonCorner = 5.0; ///< units
+
 /// All that one control's painting needs.
 struct Scene {
     QPainter& painter;
@@ -55,29 +58,43 @@ QColor colorOf(std::int32_t rgb)
 }
 
 /// A box on whole device pixels, so that its border is one crisp line.
-QRectF crisp(const Scene& scene, const QRectF& box)
+QRectF crisp(const QPainter& painter, const View& view, const QRectF& box)
 {
-    if (scene.view.forPrint)
+    if (view.forPrint)
         return box;
-    const double ratio = scene.painter.deviceTransform().m11();
-    const QTransform& transform = scene.painter.deviceTransform();
+    const double ratio = painter.deviceTransform().m11();
+    const QTransform& transform = painter.deviceTransform();
     const QRect pixels = transform.mapRect(box).toRect();
     return transform.inverted().mapRect(QRectF(pixels)).adjusted(0.5 / ratio, 0.5 / ratio, -0.5 / ratio, -0.5 / ratio);
 }
 
+QRectF crisp(const Scene& scene, const QRectF& box)
+{
+    return crisp(scene.painter, scene.view, box);
+}
+
+double hairline(const QPainter& painter, const View& view)
+{
+    if (view.forPrint)
+        return 0.8 * view.pixelsPerUnit();
+    const double ratio = painter.deviceTransform().m11();
+    return std::max(1.0, std::floor(view.pixelsPerUnit() * ratio + 0.2)) / ratio;
+}
+
 double hairline(const Scene& scene)
 {
-    if (scene.view.forPrint)
-        return 0.8 * scene.unit();
-    const double ratio = scene.painter.deviceTransform().m11();
-    return std::max(1.0, std::floor(scene.unit() * ratio + 0.2)) / ratio;
+    return hairline(scene.painter, scene.view);
+}
+
+void plate(QPainter& painter, const View& view, const QRectF& box, PlateLook look)
+{
+    look.round = std::min(look.round * view.pixelsPerUnit(), std::min(box.width(), box.height()) / 2.0);
+    (view.forPrint ? paintPlate : paintPlateOnScreen)(painter, crisp(painter, view, box), look);
 }
 
 void plate(const Scene& scene, const QColor& ground, const QColor& border, double radius, double width)
 {
-    const double round = std::min(radius * scene.unit(), std::min(scene.box.width(), scene.box.height()) / 2.0);
-    const PlateLook look{ground, border, round, width};
-    (scene.view.forPrint ? paintPlate : paintPlateOnScreen)(scene.painter, crisp(scene, scene.box), look);
+    plate(scene.painter, scene.view, scene.box, {ground, border, radius, width});
 }
 
 void focusRing(const Scene& scene)
@@ -129,7 +146,7 @@ void paintDrawing(const Scene& scene)
     if (drawing.empty())
         return;
     const bool faded = !scene.enabled() && !scene.chosen() && scene.row().look == Look::toolButton;
-    scene.painter.setOpacity(faded ? 0.45 : 1.0);
+    scene.painter.setOpacity(faded ? fadedInk : 1.0);
     View view = scene.view;
     view.onButton = scene.row().look == Look::toolButton;
     paintMarks(scene.painter, scene.window, drawing, scene.box.topLeft(), view);
@@ -294,7 +311,7 @@ void paintButton(const Scene& scene)
 {
     const QColor ground = buttonGround(scene);
     const double weight = scene.chosen() || scene.forward() ? 2.0 : 1.0;
-    plate(scene, ground, buttonBorder(scene), 5.0, hairline(scene) * weight);
+    plate(scene, ground, buttonBorder(scene), buttonCorner, hairline(scene) * weight);
     paintDrawing(scene);
     if (scene.chosen())
         chosenBar(scene);
@@ -471,9 +488,32 @@ bool isPainted(const host::Window& window, Handle control)
     return row.look != Look::invisible && row.kind != Kind::timer && row.kind != Kind::menu;
 }
 
+void paintTile(QPainter& painter, const host::Window& window, const Tile& tile, const View& view)
+{
+    const Inks& inks = *view.inks;
+    const QRectF box = boxOf(tile.place, view);
+    const QColor ground = !tile.awake    ? inks.buttonOff
+                          : tile.pressed ? inks.accentTint
+                          : tile.hovered ? inks.buttonHover
+                                         : inks.button;
+    const QColor border = !tile.awake ? inks.rule : tile.hovered ? inks.accent : inks.edge;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painting::plate(painter, view, box, {ground, border, painting::buttonCorner, painting::hairline(painter, view)});
+    View onButton = view;
+    onButton.onButton = true;
+    painter.setOpacity(tile.awake ? 1.0 : painting::fadedInk);
+    paintMarks(painter, window, tile.drawing, box.topLeft(), onButton);
+    painter.restore();
+}
+
 QRectF boxOf(const host::Window& window, Handle control, const View& view)
 {
-    const host::Place place = host::shownPlace(window, control);
+    return boxOf(host::shownPlace(window, control), view);
+}
+
+QRectF boxOf(const host::Place& place, const View& view)
+{
     const double scale = view.pixelsPerTwip;
     const double left = view.origin.x() + place.left * scale;
     const double room = view.widest > 0.0 ? std::max(0.0, view.widest - left) : place.width * scale;

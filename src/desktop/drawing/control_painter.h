@@ -3,6 +3,8 @@
 // shapes), and symbol and unit beside fields. Texts are plain texts: no markup, no ampersand is ever interpreted.
 #pragma once
 
+#include <span>
+
 #include <QFont>
 #include <QRectF>
 #include <QString>
@@ -21,6 +23,19 @@ void paintControl(QPainter& painter, const host::Window& window, host::Handle co
 /// Paints a whole window: ground, pale parts, then every visible control in table order, overlays last. Widgets are not painted,
 /// unless `view.forPrint`, where fields show their text in a plain box.
 void paintWindow(QPainter& painter, const host::Window& window, const View& view);
+
+/// A tool button that is no control of the window: the screen's own, painted as the window's are.
+struct Tile {
+    host::Place place{};
+    std::span<const host::Mark> drawing{};
+    bool awake = true;
+    bool hovered = false;
+    bool pressed = false;
+};
+void paintTile(QPainter& painter, const host::Window& window, const Tile& tile, const View& view);
+
+/// Place in the painter's coordinates.
+QRectF boxOf(const host::Place& place, const View& view);
 
 /// Visible or pale, in visible panels, of a look and kind that show something.
 bool isPainted(const host::Window& window, host::Handle control);

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <QtMath>
 
+#include "desktop/canvas/check_tile.h"
 #include "desktop/canvas/field_edit.h"
 #include "desktop/canvas/finished.h"
 #include "desktop/canvas/pointer.h"
@@ -108,6 +109,7 @@ void SheetView::followDesign()
     const bool now = hasPassed(*model());
     if (std::exchange(passed_, now) == now)
         return;
+    canvas_->checkTile().follow();
     forward_->stop();
     canvas_->setForward(now ? reportTool(model()->spec()) : noControl);
     if (now)

@@ -6,14 +6,10 @@
 #include <numeric>
 
 #include <QCloseEvent>
-#include <QPainter>
 #include <QScreen>
 #include <QTimer>
-#include <QVBoxLayout>
-#include <QWindow>
 
 #include "desktop/canvas/field_edit.h"
-#include "desktop/drawing/plates.h"
 #include "desktop/drawing/texts.h"
 #include "desktop/windows/placing.h"
 #include "desktop/windows/sheet_view.h"
@@ -25,7 +21,6 @@ namespace tool_window_detail {
 
 constexpr int gap = 12;               ///< logical pixels to the edge of the screen
 constexpr double largestShare = 0.92; ///< of the screen
-constexpr int frame = 3;              ///< logical pixels around the window, by which its size is changed
 constexpr int movedByHand = 64;       ///< logical pixels; window managers move a little on their own
 
 int areaOf(const QRegion& region)
@@ -37,24 +32,13 @@ int areaOf(const QRegion& region)
 } // namespace tool_window_detail
 
 ToolWindow::ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow)
-    : QWidget(mainWindow, Qt::Dialog | Qt::FramelessWindowHint), desk_(desk), view_(new SheetView(desk, model)),
-      title_(new TitleLine(*desk.inks, this))
+    : ToolFrame(desk, mainWindow), view_(new SheetView(desk, model))
 {
-    const int frame = tool_window_detail::frame;
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(frame, frame, frame, frame);
-    column->setSpacing(0);
-    column->addWidget(title_);
-    column->addWidget(view_, 1);
+    hold(*view_);
     setObjectName(shown(model.name()));
     setFocusProxy(view_);
     setAttribute(Qt::WA_AlwaysShowToolTips); // pointing tells, whichever window has the keyboard
     setAttribute(Qt::WA_ShowWithoutActivating, isQuiet());
-    setMouseTracking(true);
-    for (QWidget* inside : {static_cast<QWidget*>(title_), static_cast<QWidget*>(view_)})
-        inside->setCursor(Qt::ArrowCursor); // the frame's arrows are its own
-    title_->speak(desk.english());
-    title_->closed = [this] { close(); };
     if (model.spec().modal)
         setWindowModality(Qt::ApplicationModal);
 }
@@ -64,21 +48,14 @@ host::Window* ToolWindow::model() const
     return view_->model();
 }
 
-QRect ToolWindow::room() const
-{
-    const QWidget* beside = parentWidget();
-    const QScreen* screen = beside != nullptr ? beside->screen() : this->screen();
-    return screen == nullptr ? QRect(0, 0, 1024, 768) : screen->availableGeometry();
-}
-
 void ToolWindow::followWindow()
 {
     if (model() == nullptr)
         return;
-    const QString title = shownTitle(model()->caption()).simplified();
-    if (windowTitle() != title)
-        setWindowTitle(title);
-    title_->setTitle(shown(model()->caption()).simplified());
+    const QString shownCaption = shownTitle(model()->caption()).simplified();
+    if (windowTitle() != shownCaption)
+        setWindowTitle(shownCaption);
+    title().setTitle(shown(model()->caption()).simplified());
     followSize();
     const bool minimised = model()->windowState() == 1;
     if (model()->shown() && !isVisible()) {
@@ -93,7 +70,7 @@ void ToolWindow::followWindow()
 void ToolWindow::beginAtField()
 {
     QTimer::singleShot(0, this, [this] {
-        if (model() == nullptr || !model()->shown() || !desk_.idle())
+        if (model() == nullptr || !model()->shown() || !desk().idle())
             return;
         for (const host::Handle control : host::Engine::tabOrder(*model()))
             if (model()->canTakeFocus(control)) {
@@ -107,7 +84,7 @@ void ToolWindow::beginAtField()
 // What stands there from the last time gives way to the first key, also where the field has had the focus all the time.
 void ToolWindow::beginIn(host::Handle field)
 {
-    desk_.engine->userFocus(*model(), field);
+    desk().engine->userFocus(*model(), field);
     if (model() == nullptr || model()->focus() != field)
         return;
     if (auto* edit = dynamic_cast<FieldEdit*>(view_->canvas().widgetOf(field)))
@@ -121,7 +98,7 @@ void ToolWindow::followSize()
         return;
     told_ = design;
     view_->canvas().setDesign(design);
-    const QSize around(2 * tool_window_detail::frame, 2 * tool_window_detail::frame + title_->sizeHint().height());
+    const QSize around(2 * frame, 2 * frame + title().sizeHint().height());
     const QSize wanted = view_->wantedSize() + around;
     const QSize most = room().size() * tool_window_detail::largestShare;
     resize(wanted.width() > most.width() || wanted.height() > most.height() ? wanted.scaled(most, Qt::KeepAspectRatio)
@@ -143,8 +120,8 @@ void ToolWindow::place()
     placed_ = true;
     const QRect all = room();
     const int gap = tool_window_detail::gap;
-    const QRect field = desk_.inHand ? desk_.inHand() : QRect();
-    const QRegion taken = desk_.taken ? desk_.taken() : QRegion();
+    const QRect field = desk().inHand ? desk().inHand() : QRect();
+    const QRegion taken = desk().taken ? desk().taken() : QRegion();
     const QPoint middle = all.center() - rect().center();
     const int right = all.right() + 1 - width() - gap;
     const int bottom = all.bottom() + 1 - height() - 3 * gap;
@@ -214,14 +191,13 @@ void ToolWindow::bringToFront()
 void ToolWindow::relabel()
 {
     view_->relabel();
-    title_->speak(desk_.english());
+    speakInFrame();
 }
 
 void ToolWindow::recolor()
 {
     view_->recolor();
-    title_->setInks(*desk_.inks);
-    update();
+    recolorFrame();
 }
 
 void ToolWindow::farewell()
@@ -234,53 +210,8 @@ void ToolWindow::farewell()
 void ToolWindow::closeEvent(QCloseEvent* event)
 {
     event->ignore();
-    if (model() != nullptr && !desk_.closing)
-        desk_.engine->userClose(*model());
-}
-
-void ToolWindow::changeEvent(QEvent* event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange) {
-        title_->setActive(isActiveWindow());
-        update();
-    }
-}
-
-void ToolWindow::paintEvent(QPaintEvent*)
-{
-    QPainter painter(this);
-    painter.fillRect(rect(), desk_.inks->desk);
-    fillFrame(painter, rect(), 1.0, isActiveWindow() ? desk_.inks->edge : desk_.inks->rule);
-}
-
-Qt::Edges ToolWindow::edgesAt(QPoint place) const
-{
-    const int reach = 2 * tool_window_detail::frame;
-    Qt::Edges edges;
-    edges.setFlag(Qt::LeftEdge, place.x() < reach);
-    edges.setFlag(Qt::RightEdge, place.x() >= width() - reach);
-    edges.setFlag(Qt::TopEdge, place.y() < reach);
-    edges.setFlag(Qt::BottomEdge, place.y() >= height() - reach);
-    return edges;
-}
-
-void ToolWindow::mousePressEvent(QMouseEvent* event)
-{
-    if (event->button() == Qt::LeftButton && windowHandle() != nullptr)
-        windowHandle()->startSystemResize(edgesAt(event->position().toPoint()));
-}
-
-void ToolWindow::mouseMoveEvent(QMouseEvent* event)
-{
-    const Qt::Edges edges = edgesAt(event->position().toPoint());
-    const bool across = edges & (Qt::LeftEdge | Qt::RightEdge);
-    const bool down = edges & (Qt::TopEdge | Qt::BottomEdge);
-    const bool falling = edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
-    setCursor(across && down ? (falling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor)
-              : across       ? Qt::SizeHorCursor
-              : down         ? Qt::SizeVerCursor
-                             : Qt::ArrowCursor);
+    if (model() != nullptr && !desk().closing)
+        desk().engine->userClose(*model());
 }
 
 } // namespace velmor::desktop

@@ -3,16 +3,12 @@
 // closes. It keeps the proportions of its table, stands beside the field that it was asked for at, and never over it.
 #pragma once
 
-#include <QWidget>
-
-#include "desktop/canvas/desk.h"
+#include "desktop/windows/tool_frame.h"
 #include "desktop/windows/window_frame.h"
 
 namespace velmor::desktop {
 
-class TitleLine;
-
-class ToolWindow final : public QWidget, public WindowFrame {
+class ToolWindow final : public ToolFrame, public WindowFrame {
 public:
     ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow);
 
@@ -33,10 +29,6 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void changeEvent(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
     void followSize();
@@ -45,12 +37,8 @@ private:
     void place();
     void moveTo(QPoint place);
     bool isMovedByHand() const;
-    Qt::Edges edgesAt(QPoint place) const;
-    QRect room() const;
 
-    Desk& desk_;
     SheetView* view_;
-    TitleLine* title_;
     host::Place told_;
     QPoint wished_;
     bool placed_ = false;

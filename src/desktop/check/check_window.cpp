@@ -1,0 +1,485 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/check/check_window.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "check/deck.h"
+#include "check/table_text.h"
+#include "desktop/check/check_words.h"
+#include "desktop/check/curves_page.h"
+#include "desktop/check/row_panel.h"
+#include "desktop/check/rows_table.h"
+#include "desktop/windows/title_line.h"
+
+namespace velmor::desktop {
+
+using check_words::in;
+
+namespace check_window_detail {
+
+constexpr QSize wantedSize{1040, 690};
+constexpr double largestShare = 0.94; ///< of the screen
+constexpr int tableShare = 57;        ///< of a hundred; the curves have the rest
+constexpr int margin = 10;
+
+QString waveFilter(const QString& words, const char* ending)
+{
+    return QStringLiteral("%1|*.%2").arg(words, QLatin1String(ending));
+}
+
+bool sameRows(const check::Design& one, const check::Design& other)
+{
+    return std::equal(one.rows.begin(), one.rows.end(), other.rows.begin(), other.rows.end(),
+                      [](const check::Expected& a, const check::Expected& b) {
+                          return a.quantity == b.quantity && a.asked == b.asked && a.course == b.course;
+                      });
+}
+
+bool sameDesign(const check::Design& one, const check::Design& other)
+{
+    return one.fo == other.fo && sameRows(one, other) &&
+           check::deckOf(one.circuit, {}) == check::deckOf(other.circuit, {});
+}
+
+/// The rows that stand there before the simulator has spoken.
+check::Check expectedOf(const check::Design& design)
+{
+    check::Check result;
+    for (const check::Expected& row : design.rows)
+        result.rows.push_back({.quantity = row.quantity, .asked = row.asked, .course = row.course});
+    result.circuit = design.circuit;
+    result.netlist = check::deckOf(design.circuit, {});
+    return result;
+}
+
+QPalette colorsOf(const Inks& inks)
+{
+    QPalette colors;
+    colors.setColor(QPalette::Window, inks.paper);
+    colors.setColor(QPalette::WindowText, inks.ink);
+    colors.setColor(QPalette::Base, inks.paper);
+    colors.setColor(QPalette::AlternateBase, inks.voice);
+    colors.setColor(QPalette::Text, inks.ink);
+    colors.setColor(QPalette::Button, inks.button);
+    colors.setColor(QPalette::ButtonText, inks.ink);
+    colors.setColor(QPalette::Highlight, inks.accent);
+    colors.setColor(QPalette::HighlightedText, inks.onAccent);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        colors.setColor(QPalette::Disabled, role, inks.buttonOffInk);
+    return colors;
+}
+
+} // namespace check_window_detail
+
+using namespace check_window_detail;
+
+CheckWindow::CheckWindow(Desk& desk, std::string simulator, CheckDeeds deeds, QWidget* mainWindow)
+    : ToolFrame(desk, mainWindow), deeds_(std::move(deeds)), service_(std::move(simulator))
+{
+    setObjectName(QStringLiteral("checkWindow"));
+    checked_.english = desk.english();
+    layOut();
+    connectParts();
+    recolor();
+    relabel();
+    const QSize most = room().size() * largestShare;
+    resize(wantedSize.boundedTo(most));
+    move(room().center() - rect().center());
+}
+
+void CheckWindow::layOut()
+{
+    auto* inside = new QWidget;
+    inside->setAutoFillBackground(true);
+    auto* column = new QVBoxLayout(inside);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(makeTop());
+    auto* left = new QSplitter(Qt::Vertical);
+    rows_ = new RowsTable(checked_, *desk().inks, nullptr);
+    panel_ = new RowPanel(checked_, *desk().inks, nullptr);
+    left->addWidget(rows_);
+    left->addWidget(panel_);
+    left->setStretchFactor(0, 1);
+    left->setStretchFactor(1, 1);
+    auto* across = new QSplitter(Qt::Horizontal);
+    across->addWidget(left);
+    across->addWidget(makePages());
+    across->setStretchFactor(0, tableShare);
+    across->setStretchFactor(1, 100 - tableShare);
+    for (QSplitter* splitter : {left, across})
+        splitter->setChildrenCollapsible(false);
+    across->setSizes({tableShare * 100, (100 - tableShare) * 100});
+    left->setSizes({5200, 4800});
+    column->addWidget(across, 1);
+    column->addWidget(makeBottom());
+    hold(*inside);
+}
+
+QWidget* CheckWindow::makeTop()
+{
+    auto* top = new QWidget;
+    top->setObjectName(QStringLiteral("checkTop"));
+    top->setAutoFillBackground(true);
+    state_ = new QLabel;
+    state_->setObjectName(QStringLiteral("checkState"));
+    state_->setTextFormat(Qt::PlainText);
+    state_->setWordWrap(true);
+    again_ = new QPushButton;
+    again_->setObjectName(QStringLiteral("checkAgain"));
+    auto* line = new QHBoxLayout(top);
+    line->setContentsMargins(margin + 2, margin / 2, margin, margin / 2);
+    line->addWidget(state_, 1);
+    line->addWidget(again_);
+    return top;
+}
+
+QPlainTextEdit* CheckWindow::makeText(const char* name)
+{
+    auto* text = new QPlainTextEdit;
+    text->setObjectName(QLatin1String(name));
+    text->setReadOnly(true);
+    text->setFrameShape(QFrame::NoFrame);
+    text->setTabChangesFocus(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->document()->setDocumentMargin(margin);
+    return text;
+}
+
+QWidget* CheckWindow::makePages()
+{
+    pages_ = new QTabWidget;
+    pages_->setObjectName(QStringLiteral("checkPages"));
+    pages_->setDocumentMode(true);
+    curves_ = new CurvesPage(checked_, *desk().inks, nullptr);
+    assumed_ = makeText("checkAssumed");
+    netlist_ = makeText("checkNetlist");
+    netlist_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    QFont fixed(QStringLiteral("monospace"));
+    fixed.setStyleHint(QFont::Monospace);
+    fixed.setPointSizeF(font().pointSizeF());
+    netlist_->setFont(fixed);
+    details_ = makeText("checkDetails");
+    for (QWidget* page : std::initializer_list<QWidget*>{curves_, assumed_, netlist_, details_})
+        pages_->addTab(page, QString());
+    return pages_;
+}
+
+QWidget* CheckWindow::makeBottom()
+{
+    auto* bottom = new QWidget;
+    report_ = new QPushButton;
+    copy_ = new QPushButton;
+    save_ = new QPushButton;
+    saving_ = new QMenu(save_);
+    save_->setMenu(saving_);
+    report_->setObjectName(QStringLiteral("checkReport"));
+    copy_->setObjectName(QStringLiteral("checkCopy"));
+    save_->setObjectName(QStringLiteral("checkSave"));
+    told_ = new QLabel;
+    told_->setObjectName(QStringLiteral("checkTold"));
+    told_->setTextFormat(Qt::PlainText);
+    auto* line = new QHBoxLayout(bottom);
+    line->setContentsMargins(margin, margin / 2, margin, margin);
+    for (QPushButton* button : {report_, copy_, save_}) {
+        button->setAutoDefault(false);
+        line->addWidget(button);
+    }
+    line->addSpacing(margin);
+    line->addWidget(told_, 1);
+    return bottom;
+}
+
+void CheckWindow::connectParts()
+{
+    service_.checked = [this](const check::Check& result) { take(result); };
+    service_.swung = [this](const check::Swing& swing) {
+        checked_.swing = swing;
+        curves_->followWave();
+    };
+    rows_->chosen = [this] { followRow(); };
+    panel_->guessed = [this](check::Guess guess) { bet(guess); };
+    panel_->allOpened = [this] { openAll(); };
+    curves_->driven = [this](double drive) {
+        service_.swing(check::trimmedBy(checked_.result, checked_.design), drive);
+    };
+    connect(again_, &QPushButton::clicked, this, [this] { deeds_.again(); });
+    connect(report_, &QPushButton::clicked, this, [this] {
+        const bool written = deeds_.toReport(shown(table(false)));
+        tell(in(written ? check_words::reported : check_words::notReported, checked_.english));
+    });
+    connect(copy_, &QPushButton::clicked, this, [this] {
+        QGuiApplication::clipboard()->setText(shown(table(false)));
+        tell(in(check_words::copied, checked_.english));
+    });
+    const auto onKey = [this](QKeySequence keys, auto deed) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, deed);
+    };
+    onKey(Qt::Key_F5, [this] { deeds_.again(); });
+    onKey(Qt::CTRL | Qt::Key_T, [this] { deeds_.again(); });
+    for (const auto& [key, guess] : {std::pair{Qt::Key_1, check::Guess::lower},
+                                     {Qt::Key_2, check::Guess::same},
+                                     {Qt::Key_3, check::Guess::higher}})
+        onKey(key, [this, guess = guess] {
+            if (panel_->takesBet())
+                bet(guess);
+        });
+}
+
+void CheckWindow::begin(const check::Design& design, const QString& sheetTitle)
+{
+    sheetTitle_ = sheetTitle;
+    checked_.design = design;
+    checked_.result = expectedOf(design);
+    checked_.bet = {};
+    checked_.swing = {};
+    checked_.freshness = Freshness::running;
+    curves_->resetDrive();
+    tell(QString());
+    service_.begin(design);
+    relabel();
+}
+
+void CheckWindow::take(const check::Check& result)
+{
+    checked_.result = result;
+    checked_.swing = result.swing;
+    checked_.freshness = Freshness::fresh;
+    follow();
+}
+
+void CheckWindow::compare(const check::Design* now)
+{
+    if (checked_.freshness == Freshness::running && now != nullptr && !sameDesign(*now, checked_.design)) {
+        // Nobody asks for what the sheet no longer has.
+        service_.stop();
+        checked_.freshness = Freshness::changed;
+        return follow();
+    }
+    const Freshness fresh = checked_.freshness == Freshness::running ? Freshness::running : Freshness::fresh;
+    const Freshness next = now == nullptr                      ? Freshness::asleep
+                           : sameDesign(*now, checked_.design) ? fresh
+                                                               : Freshness::changed;
+    if (next == checked_.freshness)
+        return;
+    if (checked_.freshness == Freshness::running)
+        service_.stop();
+    // A check that was broken off has nothing to come back to.
+    const bool hasResult = !checked_.result.details.empty() || !checked_.result.excuse.en.empty() ||
+                           std::any_of(checked_.result.rows.begin(), checked_.result.rows.end(),
+                                       [](const check::Row& row) { return row.simulated.has_value(); });
+    checked_.freshness = next == Freshness::fresh && !hasResult ? Freshness::changed : next;
+    follow();
+}
+
+void CheckWindow::follow()
+{
+    state_->setText(state());
+    const bool old = checked_.freshness == Freshness::changed;
+    again_->setVisible(old);
+    QPalette colors = state_->palette();
+    const bool stands = old || checked_.freshness == Freshness::asleep;
+    colors.setColor(QPalette::Window, stands ? desk().inks->hint : desk().inks->voice);
+    colors.setColor(QPalette::WindowText, desk().inks->ink);
+    state_->parentWidget()->setPalette(colors);
+    rows_->follow();
+    followRow();
+    followPages();
+}
+
+QString CheckWindow::state() const
+{
+    const bool english = checked_.english;
+    switch (checked_.freshness) {
+    case Freshness::running:
+        return in(check_words::atWork, english);
+    case Freshness::changed:
+        return in(check_words::changed, english);
+    case Freshness::asleep:
+        return in(check::whyAsleep(), english);
+    case Freshness::fresh:
+        break;
+    }
+    if (!checked_.result.excuse.en.empty())
+        return in(checked_.result.excuse, english);
+    const auto& rows = checked_.result.rows;
+    const auto open = [this](const check::Row& row) { return checked_.isOpen(row); };
+    if (!std::all_of(rows.begin(), rows.end(), open) && checked_.bet.placed() == 0)
+        return in(check_words::invitation, english);
+    const auto compared = std::count_if(rows.begin(), rows.end(), [&](const check::Row& row) {
+        return open(row) && row.judgement < check::Judgement::unexplained;
+    });
+    const auto agreed = std::count_if(rows.begin(), rows.end(), [&](const check::Row& row) {
+        return open(row) && row.judgement == check::Judgement::agrees;
+    });
+    QString text = in(check_words::tally, english).arg(compared).arg(agreed);
+    if (checked_.bet.placed() > 0)
+        text += QLatin1Char(' ') +
+                in(check_words::score, english).arg(checked_.bet.placed()).arg(checked_.bet.won(checked_.result));
+    return text;
+}
+
+void CheckWindow::followRow()
+{
+    panel_->follow(rows_->inHand());
+}
+
+void CheckWindow::followPages()
+{
+    const bool english = checked_.english;
+    curves_->follow();
+    QStringList lines{in(check_words::assumedHead, english)};
+    if (checked_.design.table != nullptr)
+        for (const host::BiText& text : checked_.design.table->assumed)
+            lines.append(QStringLiteral("\n• ") + in(text, english));
+    assumed_->setPlainText(lines.join(QLatin1Char('\n')));
+    if (netlist_->toPlainText() != shown(checked_.result.netlist).trimmed())
+        netlist_->setPlainText(shown(checked_.result.netlist).trimmed());
+    const QString details = shown(checked_.result.details).trimmed();
+    details_->setPlainText(details.isEmpty() ? in(check_words::noDetails, english) : details);
+}
+
+void CheckWindow::bet(check::Guess guess)
+{
+    if (const auto quantity = rows_->inHand(); quantity && checked_.freshness != Freshness::running) {
+        checked_.bet.guess(*quantity, guess);
+        follow();
+        rows_->setFocus();
+    }
+}
+
+void CheckWindow::openAll()
+{
+    checked_.bet.openAll();
+    follow();
+    rows_->setFocus();
+}
+
+// Who takes the table away takes all of it.
+std::string CheckWindow::table(bool csv)
+{
+    if (checked_.freshness != Freshness::running)
+        openAll();
+    return csv ? check::csvTable(checked_.result, checked_.english)
+               : check::textTable(checked_.result, checked_.design, checked_.english);
+}
+
+CurvesPaper CheckWindow::paper() const
+{
+    CurvesPaper paper{.title = windowTitle(), .english = checked_.english};
+    for (const PlotView* view : curves_->views())
+        if (view->plot().hasData())
+            paper.plots.push_back(&view->plot());
+    return paper;
+}
+
+void CheckWindow::saveAs(const host::BiText& title, const QString& filter, const QString& ending,
+                         const std::function<bool(const QString&)>& write)
+{
+    const bool english = checked_.english;
+    QString words = in(title, english);
+    words.remove(QStringLiteral("..."));
+    const QString path = deeds_.fileFor(words, QStringLiteral("%1|*.%2").arg(filter, ending), QString());
+    activateWindow();
+    if (path.isEmpty())
+        return;
+    const bool written = write(path);
+    tell(in(written ? check_words::written : check_words::notWritten, english).arg(QFileInfo(path).fileName()));
+}
+
+void CheckWindow::tell(const QString& words)
+{
+    told_->setText(words);
+    told_->setAccessibleName(words);
+}
+
+void CheckWindow::relabel()
+{
+    const bool english = desk().english();
+    checked_.english = english;
+    speakInFrame();
+    const QString caption = in(check_words::title, english).arg(sheetTitle_);
+    title().setTitle(caption);
+    setWindowTitle(shownTitle(held(caption)));
+    again_->setText(in(check_words::again, english));
+    report_->setText(in(check_words::toReport, english));
+    report_->setToolTip(shownTip(in(check_words::toReportTip, english)));
+    copy_->setText(in(check_words::toClipboard, english));
+    save_->setText(in(check_words::save, english));
+    const host::BiText pages[] = {check_words::curves, check_words::assumedPage, check_words::netlistPage,
+                                  check_words::detailsPage};
+    for (int page = 0; page < pages_->count(); ++page) {
+        pages_->setTabText(page, in(pages[page], english));
+        pages_->widget(page)->setAccessibleName(in(pages[page], english).remove(QLatin1Char('&')));
+    }
+    saving_->clear();
+    const auto offer = [&](const host::BiText& text, const char* filter, const char* ending,
+                           std::function<bool(const QString&)> write) {
+        saving_->addAction(in(text, english), this, [this, &text, filter, ending, write = std::move(write)] {
+            saveAs(text, QLatin1String(filter), QLatin1String(ending), write);
+        });
+    };
+    offer(check_words::saveTable, "CSV", "csv", [this](const QString& path) { return exportText(path, table(true)); });
+    offer(check_words::saveSvg, "SVG", "svg", [this](const QString& path) {
+        openAll();
+        return exportCurvesSvg(path, paper());
+    });
+    offer(check_words::savePdf, "PDF", "pdf", [this](const QString& path) {
+        openAll();
+        return exportCurvesPdf(path, paper());
+    });
+    offer(check_words::saveNetlist, "SPICE", "cir",
+          [this](const QString& path) { return exportText(path, checked_.result.netlist); });
+    follow();
+}
+
+void CheckWindow::recolor()
+{
+    const Inks& inks = *desk().inks;
+    setPalette(colorsOf(inks));
+    recolorFrame();
+    rows_->setInks(inks);
+    panel_->setInks(inks);
+    curves_->setInks(inks);
+    follow();
+}
+
+void CheckWindow::changeEvent(QEvent* event)
+{
+    ToolFrame::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange && curves_ != nullptr)
+        recolor();
+}
+
+void CheckWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        ToolFrame::keyPressEvent(event);
+}
+
+void CheckWindow::closeEvent(QCloseEvent* event)
+{
+    service_.stop();
+    ToolFrame::closeEvent(event);
+    if (deeds_.closed)
+        deeds_.closed();
+}
+
+} // namespace velmor::desktop

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/check/plots.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QPainter>
+
+#include "check/deck.h"
+#include "desktop/check/check_words.h"
+
+namespace velmor::desktop {
+
+using check_words::in;
+
+namespace wave_plot_detail {
+
+constexpr double cyclesSeen = 2;
+constexpr double strong = 2.2; ///< pixels of the curve that counts
+constexpr double thin = 1.2;
+
+/// The wave between two of its values; its last cycles end with it.
+double valueAt(const check::Wave& wave, double seconds)
+{
+    const auto cycle = static_cast<double>(wave.values.size()) / std::max(1, wave.cycles);
+    const double place = static_cast<double>(wave.values.size()) - cyclesSeen * cycle + seconds / wave.step;
+    const double last = static_cast<double>(wave.values.size()) - 1;
+    const double kept = std::clamp(place, 0.0, last);
+    const auto before = static_cast<std::size_t>(kept);
+    const std::size_t after = std::min(before + 1, wave.values.size() - 1);
+    const double share = kept - static_cast<double>(before);
+    return wave.values[before] * (1 - share) + wave.values[after] * share;
+}
+
+double highest(const check::Wave& wave)
+{
+    return *std::max_element(wave.values.begin(), wave.values.end());
+}
+
+double lowest(const check::Wave& wave)
+{
+    return *std::min_element(wave.values.begin(), wave.values.end());
+}
+
+std::vector<QPointF> curveOf(const check::Wave& wave, double times)
+{
+    std::vector<QPointF> points;
+    const double span = cyclesSeen / check::waveFrequency;
+    constexpr int count = 400;
+    for (int i = 0; i <= count; ++i)
+        points.emplace_back(1000 * span * i / count, times * valueAt(wave, span * i / count));
+    return points;
+}
+
+} // namespace wave_plot_detail
+
+using namespace wave_plot_detail;
+
+bool WavePlot::hasData() const
+{
+    return checked().swing.output.values.size() > 1;
+}
+
+bool WavePlot::isOpen() const
+{
+    return checked().isOpen(check::Quantity::Eopp);
+}
+
+QString WavePlot::name() const
+{
+    return in(check_words::waveName, checked().english);
+}
+
+PlotAxis WavePlot::times() const
+{
+    const double span = 1000 * cyclesSeen / check::waveFrequency;
+    return {.from = 0, .to = span, .ticks = evenTicks(0, span, 4), .unit = "ms"};
+}
+
+// The ceilings hold the scale: while the slider moves, the wave grows, not the paper.
+PlotAxis WavePlot::heights() const
+{
+    const check::Wave& wave = checked().swing.output;
+    const double rest = check::mean(wave);
+    double reach = 1.15 * std::max(highest(wave) - rest, rest - lowest(wave));
+    const check::Ceilings& ceilings = checked().result.ceilings;
+    if (ceilings.known) {
+        const auto [nearer, farther] = std::minmax({ceilings.cutOff, ceilings.saturation});
+        reach = std::max({reach, 1.25 * nearer, 1.15 * std::min(farther, 2 * nearer)});
+    }
+    reach = std::max(reach, 1e-6);
+    return {.from = rest - reach, .to = rest + reach, .ticks = evenTicks(rest - reach, rest + reach, 6), .unit = "V"};
+}
+
+/// The input is drawn so many times larger that it can be told beside the output.
+double WavePlot::magnified() const
+{
+    const check::Swing& first = checked().result.swing;
+    if (first.input.values.empty() || first.output.values.empty() || check::peakToPeak(first.input) <= 0)
+        return 1;
+    const double gain = check::peakToPeak(first.output) / check::peakToPeak(first.input);
+    return gain < 1 ? 1 : niceBelow(gain);
+}
+
+void WavePlot::paintCeilings(const PlotPaper& paper, const PlotAxis& y, const PlotLook& look) const
+{
+    const check::Ceilings& ceilings = checked().result.ceilings;
+    if (!ceilings.known)
+        return;
+    const double rest = check::mean(checked().swing.output);
+    const auto draw = [&](double ceiling, bool above, const host::BiText& text, bool nearer) {
+        const double height = rest + (above ? ceiling : -ceiling);
+        if (height > y.to || height < y.from)
+            return;
+        QString name = in(text, look.english).arg(volts(ceiling));
+        if (nearer)
+            name += QStringLiteral(", ") + in(check_words::bendsFirst, look.english);
+        paper.paintLevel(height, name, nearer ? look.inks->warning : look.inks->quiet, PlotPaper::Edge::left, above);
+    };
+    draw(ceilings.cutOff, ceilings.cutOffAbove, check_words::cutOff, ceilings.cutOffIsNearer());
+    draw(ceilings.saturation, !ceilings.cutOffAbove, check_words::saturation, !ceilings.cutOffIsNearer());
+}
+
+void WavePlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look, std::optional<double> place) const
+{
+    const PlotAxis x = times();
+    const PlotAxis y = hasData() && isOpen() ? heights() : PlotAxis{.from = -1, .to = 1};
+    const PlotPaper paper(painter, room, x, y, look);
+    paper.paintGround(name());
+    if (!hasData() || !isOpen())
+        return paper.paintVeil(in(hasData() ? check_words::waveVeil : check_words::noPlot, look.english));
+    const check::Swing& swing = checked().swing;
+    paintCeilings(paper, y, look);
+    if (!swing.input.values.empty())
+        paper.paintCurve(curveOf(swing.input, magnified()), look.inks->quiet, thin);
+    paper.paintCurve(curveOf(swing.output, 1), look.inks->accent, strong);
+    painter.setPen(look.inks->quiet);
+    const double gap = look.letters / 2;
+    painter.drawText(
+        QRectF(paper.field().left(), room.top(), paper.field().width(), paper.field().top() - room.top() - 3),
+        Qt::AlignRight | Qt::AlignBottom,
+        in(check_words::inputTimes, look.english).arg(check_words::amount(magnified(), "")));
+    painter.setPen(look.inks->ink);
+    painter.drawText(paper.field().adjusted(gap, 0, -gap, -gap / 2), Qt::AlignRight | Qt::AlignBottom,
+                     in(check_words::thdAmount, look.english)
+                         .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%")));
+    if (place)
+        paper.paintReading(x.valueAt(*place), reading(*place));
+}
+
+QString WavePlot::reading(double place) const
+{
+    if (!hasData() || !isOpen())
+        return {};
+    const double time = times().valueAt(place) / 1000;
+    const check::Swing& swing = checked().swing;
+    QString text =
+        QStringLiteral("%1: %2").arg(check_words::amount(time * 1000, "ms"), volts(valueAt(swing.output, time)));
+    if (!swing.input.values.empty())
+        text += QStringLiteral(" (%1)").arg(volts(valueAt(swing.input, time)));
+    return text;
+}
+
+QString WavePlot::sentence() const
+{
+    const bool english = checked().english;
+    if (!hasData())
+        return in(check_words::noPlot, english);
+    if (!isOpen())
+        return in(check_words::waveVeil, english);
+    const check::Wave& wave = checked().swing.output;
+    const double rest = check::mean(wave);
+    const double up = highest(wave) - rest;
+    const double down = rest - lowest(wave);
+    const host::BiText& shape = up < 0.9 * down   ? check_words::flatTop
+                                : down < 0.9 * up ? check_words::flatBottom
+                                                  : check_words::roundWave;
+    return in(check_words::waveShape, english)
+        .arg(volts(highest(wave)), volts(lowest(wave)), check_words::amount(checked().swing.distortion, "%"),
+             in(shape, english));
+}
+
+} // namespace velmor::desktop

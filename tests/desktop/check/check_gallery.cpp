@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+// Pictures of the window of a check, to be judged by eye: each finished design of tests/check, in both languages.
+//     velmor_check_gallery FOLDER [NAME ...]
+//     NAME-bet: before the first bet; NAME-es, NAME-en: all rows open; NAME-loud: at three times the input; NAME-small: on a
+//     small screen; NAME-dark; NAME-curves.svg and .pdf
+#include <clocale>
+#include <cstdio>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QSlider>
+#include <QTableView>
+
+#include "desktop/check/finished_design.h"
+#include "desktop/drawing/quiet_style.h"
+
+namespace velmor::test {
+
+namespace check_gallery {
+
+class Gallery {
+public:
+    Gallery(QString folder, std::string name)
+        : folder_(std::move(folder)), name_(std::move(name)), design_(name_),
+          window_(design_.desk(), "", deeds(), nullptr)
+    {
+        window_.begin(design_.design(), QString::fromUtf8(design_.sheet().caption().data()).simplified());
+        window_.show();
+    }
+
+    void take()
+    {
+        if (!waitForCheck(window_)) {
+            std::printf("%s: no end\n", name_.c_str());
+            return;
+        }
+        choose("Zin");
+        save("bet");
+        window_.findChild<QAbstractButton*>(QStringLiteral("checkOpenAll"))->click();
+        for (const char* quantity : {"Pout", "Vg", "Zin"})
+            choose(quantity);
+        for (const bool english : {false, true}) {
+            design_.speak(english);
+            window_.relabel();
+            save(english ? "en" : "es");
+        }
+        takeLoud();
+    }
+
+private:
+    desktop::CheckDeeds deeds()
+    {
+        return {.again = [] {}, .fileFor = {}, .toReport = [](const QString&) { return true; }, .closed = {}};
+    }
+
+    void takeLoud()
+    {
+        choose("Eopp");
+        window_.findChild<QSlider*>(QStringLiteral("checkDrive"))->setValue(145);
+        waitForCheck(window_);
+        save("loud");
+        design_.desk().inks = &desktop::darkInks();
+        window_.recolor();
+        save("dark");
+        window_.resize(780, 560);
+        save("small");
+    }
+
+    void save(const char* what)
+    {
+        QCoreApplication::processEvents();
+        window_.grab().save(
+            QStringLiteral("%1/%2-%3.png").arg(folder_, QString::fromStdString(name_), QLatin1String(what)));
+    }
+
+    void choose(const char* quantity)
+    {
+        auto* rows = window_.findChild<QTableView*>(QStringLiteral("checkRows"));
+        const QString wanted = QLatin1String(quantity) + QStringLiteral(",");
+        for (int row = 0; row < rows->model()->rowCount(); ++row)
+            if (rows->model()->index(row, 0).data(Qt::AccessibleTextRole).toString().startsWith(wanted))
+                rows->setCurrentIndex(rows->model()->index(row, 3));
+    }
+
+    QString folder_;
+    std::string name_;
+    FinishedDesign design_;
+    desktop::CheckWindow window_;
+};
+
+} // namespace check_gallery
+
+} // namespace velmor::test
+
+int main(int argumentCount, char** arguments)
+{
+    using namespace velmor;
+    const QApplication application(argumentCount, arguments);
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setStyle(new desktop::QuietStyle);
+    const QStringList words = QApplication::arguments().mid(1);
+    if (words.isEmpty())
+        return 2;
+    std::vector<std::string> names;
+    for (const QString& word : words.mid(1))
+        names.push_back(word.toStdString());
+    for (const std::string& name : names.empty() ? test::finishedDesigns() : names)
+        test::check_gallery::Gallery(words.front(), name).take();
+    return 0;
+}
