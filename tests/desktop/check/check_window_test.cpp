@@ -244,6 +244,7 @@ TEST(CheckServiceTest, endsTheCheckThatNobodyWaitsForAnyMore)
 int main(int argumentCount, char** arguments)
 {
     testing::InitGoogleTest(&argumentCount, arguments);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argumentCount, arguments);
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setStyle(new velmor::desktop::QuietStyle);
