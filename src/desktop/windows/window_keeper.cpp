@@ -137,7 +137,8 @@ void WindowKeeper::gone(host::Window& window)
         return;
     frames_.erase(&window);
     const QScopedValueRollback following(following_, true);
-    const bool hadKeyboard = window.role() == Role::tool && frame->widget().isActiveWindow();
+    const bool hadKeyboard =
+        window.role() == Role::tool && (frame->widget().isActiveWindow() || answered_ == &frame->widget());
     frame->farewell();
     if (hadKeyboard)
         giveKeyboardBack();
@@ -382,6 +383,8 @@ void WindowKeeper::followDesktop()
 void WindowKeeper::windowActivated()
 {
     QWidget* active = QApplication::activeWindow();
+    if (active != nullptr)
+        answered_ = nullptr;
     if (desk_.closing || active == nullptr || !desk_.idle() || handedBack(active))
         return;
     if (awaited_ && awaited_ != active)
@@ -505,6 +508,7 @@ std::vector<QWidget*> WindowKeeper::windowsInSight() const
 void WindowKeeper::dialogClosed(QWidget* parent)
 {
     if (parent != nullptr && parent->isVisible() && !desk_.closing) {
+        answered_ = parent;
         parent->activateWindow();
         postFocus();
     }

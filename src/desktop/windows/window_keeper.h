@@ -85,12 +85,13 @@ private:
     std::unordered_map<const host::Window*, WindowFrame*> frames_;
     std::vector<host::Window*> raised_;
     QPointer<PaletteStrip> strip_;
-    bool stripInHand_ = false;  ///< the strip has the keyboard, which the person gave it by key
-    QPointer<QWidget> byHand_;  ///< the view in which a key or a press is being answered
-    QPointer<QWidget> awaited_; ///< asked to become active; other activations on the way to it do not count
-    QPointer<QWidget> wanted_;  ///< the person asked for it by key
-    QPointer<QWidget> quiet_;   ///< has just been shown to be read, and shall not have the keyboard for that
-    bool returning_ = false;    ///< the main window is active next, though nobody has turned to it
+    bool stripInHand_ = false;   ///< the strip has the keyboard, which the person gave it by key
+    QPointer<QWidget> byHand_;   ///< the view in which a key or a press is being answered
+    QPointer<QWidget> awaited_;  ///< asked to become active; other activations on the way to it do not count
+    QPointer<QWidget> wanted_;   ///< the person asked for it by key
+    QPointer<QWidget> answered_; ///< a dialog of its own has closed, and it waits for the keyboard
+    QPointer<QWidget> quiet_;    ///< has just been shown to be read, and shall not have the keyboard for that
+    bool returning_ = false;     ///< the main window is active next, though nobody has turned to it
     std::int16_t language_ = 0;
     bool following_ = false;
     bool again_ = false;

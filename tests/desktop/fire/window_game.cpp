@@ -22,6 +22,8 @@
 #include "desktop/canvas/canvas.h"
 #include "desktop/drawing/texts.h"
 #include "desktop/windows/offer_line.h"
+#include "desktop/windows/search_line.h"
+#include "desktop/windows/sheet_view.h"
 #include "frame/mdi_form1_controls.h"
 #include "program/catalogue.h"
 
@@ -40,6 +42,11 @@ constexpr Qt::Key pressedKeys[] = {
 constexpr const char* numbers[] = {"0",  "1",       "3.3", "12", "100", "0.4", "75",
                                    "-5", "1000000", "abc", "9",  "24",  "1.5", ""};
 const char* const pasted[] = {"12.5", "1e3", "una línea\notra", "0,7", "áéñ"};
+
+std::string named(const QWidget& widget)
+{
+    return std::string(widget.metaObject()->className()) + " " + widget.objectName().toStdString();
+}
 
 } // namespace window_game_detail
 
@@ -147,8 +154,40 @@ void WindowGame::check(const std::string& event)
         faults_.push_back(event + ": " + fault);
 }
 
-// No open frame leaves the area, and the frame in front is that of the engine's active child.
 std::string WindowGame::faultNow()
+{
+    const std::string fault = frameFault();
+    return fault.empty() ? keyboardFault() : fault;
+}
+
+// The keyboard is where the window that has it keeps its focus, unless a menu, a box, a search line or the quiet line has it.
+std::string WindowGame::keyboardFault()
+{
+    const QWidget* now = QApplication::focusWidget();
+    const QWidget* offer = on_->main().findChild<QWidget*>(QStringLiteral("offer"));
+    if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr ||
+        on_->main().isMinimized() || (offer != nullptr && now != nullptr && offer->isAncestorOf(now)) ||
+        (now != nullptr && now->inherits("QMenuBar")))
+        return {};
+    desktop::SheetView* view = on_->screen.keeper().activeView();
+    if (view == nullptr)
+        return QApplication::activeWindow() == nullptr ? "no window is active" : "";
+    if (view->searchLine() != nullptr && view->searchLine()->hasKeyboard())
+        return {};
+    const host::Window* current = on_->engine.current();
+    if (current != nullptr && current != view->model() && current->role() == host::Role::tool &&
+        !current->spec().reading && current->shown())
+        return std::string(current->name()) + " is in front, and the keyboard with " +
+               std::string(view->model()->name());
+    const QWidget* wanted = view->canvas().focusTarget();
+    if (now == wanted)
+        return {};
+    return "the keyboard is in " + (now == nullptr ? "nothing" : window_game_detail::named(*now)) + " instead of " +
+           window_game_detail::named(*wanted) + " of " + std::string(view->model()->name());
+}
+
+// No open frame leaves the area, and the frame in front is that of the engine's active child.
+std::string WindowGame::frameFault()
 {
     const QMdiArea& area = on_->main().area();
     for (const QMdiSubWindow* frame : area.subWindowList())

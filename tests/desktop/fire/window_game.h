@@ -41,6 +41,8 @@ private:
     const Move& chosen();
     void check(const std::string& event);
     std::string faultNow();
+    std::string frameFault();
+    std::string keyboardFault();
 
     void typeNumber();
     void typeText();

@@ -177,4 +177,17 @@ TEST_F(ConversionTest, theKeyboardIsBackInTheSheetWithTheTemperature)
     EXPECT_EQ(sheet.text(temperature), "81");
 }
 
+// The page that is read is the window in front then, and does not take the keyboard.
+TEST_F(ConversionTest, theKeyboardIsBackInTheSheetFromTheConversionOverAPage)
+{
+    on.show("Form21");
+    host::Window& conversion = on.show("Form22");
+    answer("350");
+    on.click(conversion, conversion.named("Command2"));
+    EXPECT_EQ(QApplication::activeWindow(), &on.main());
+    Bench::type("7");
+    const host::Window& sheet = *on.engine.instance("Form2", 0);
+    EXPECT_EQ(sheet.text(sheet.focus()), "7");
+}
+
 } // namespace velmor::test::reading_test
