@@ -30,6 +30,8 @@ constexpr int lettersAcross = 64; ///< a measure that is easily read
 constexpr double signLines = 2.6; ///< side of the sign, in lines of text
 constexpr double largestShare = 0.9;
 constexpr int buttonLetters = 11; ///< least width of a button
+constexpr int leastAcross = 12;   ///< of a text, in lines, whatever the screen says of itself
+constexpr int leastDown = 4;
 
 class Sign final : public QWidget {
 public:
@@ -194,8 +196,10 @@ QSize QuietBox::mostSize() const
 // Beside the text stand a sign and margins, above and below it the title and the buttons.
 QSize QuietBox::roomForText() const
 {
+    using namespace quiet_box_detail;
     const int line = fontMetrics().lineSpacing();
-    return mostSize() - QSize(7 * line, title_->sizeHint().height() + 6 * line);
+    const QSize room = mostSize() - QSize(7 * line, title_->sizeHint().height() + 6 * line);
+    return room.expandedTo({leastAcross * line, leastDown * line});
 }
 
 QPushButton* QuietBox::addButton(const QString& caption)

@@ -119,7 +119,7 @@ TEST_F(CheckWindowTest, opensARowWithItsBet)
     choose("Zin");
     EXPECT_TRUE(part("checkHigher").isVisible());
     press("checkHigher");
-    // 10.705 kilohms by the script that works the checks out (tests/figures), where the course says 39.4
+    // 10.705 kilohms by the script that works the checks out (tests/figures)
     EXPECT_EQ(cell("Zin", 3), QStringLiteral("10.7 kΩ"));
     EXPECT_EQ(cell("Vg", 3), QStringLiteral("?")) << "no row but its own";
     EXPECT_EQ(text("checkOutcome"), QStringLiteral("You bet “more”, and it came out “less”."));

@@ -105,7 +105,8 @@ TEST_F(QuestionTest, aTextThatIsTallerThanTheScreenScrollsAndTheButtonsStayInVie
     on.duringBox = [&] {
         auto& box = dynamic_cast<desktop::QuietBox&>(*QApplication::activeModalWidget());
         const QRect screen = box.screen()->availableGeometry();
-        EXPECT_TRUE(screen.contains(box.geometry()));
+        EXPECT_LE(box.height(), screen.height());
+        EXPECT_LE(box.width(), screen.width());
         for (const QPushButton* button : box.buttons())
             EXPECT_TRUE(box.rect().contains(QRect(button->mapTo(&box, QPoint()), button->size())));
         auto* area = box.findChild<QScrollArea*>();
