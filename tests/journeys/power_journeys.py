@@ -8,7 +8,7 @@ import unittest
 from journey import Atspi, Journey, has, until
 
 
-class Power(Journey):
+class Power:
     """A design that is said once and gone through in both languages."""
     english = False
 
@@ -110,7 +110,7 @@ class Power(Journey):
         self.program.reads(heading)
 
 
-class ClassA(Power):
+class ClassA(Power, Journey):
     """A resistor is driven; the design is saved, and the one that the file brings back is walked once more with a loudspeaker."""
 
     def whole_design(self):
@@ -241,7 +241,7 @@ class ClassA(Power):
         self.picture("form15-loudspeaker")
 
 
-class ClassADarlington(Power):
+class ClassADarlington(Power, Journey):
     """A loudspeaker is driven; the design is saved, and the one that the file brings back is walked once more with a resistor."""
 
     def whole_design(self):
@@ -345,7 +345,7 @@ class ClassADarlington(Power):
         self.picture("form20-resistor")
 
 
-class ClassB(Power):
+class ClassB(Power, Journey):
     def whole_design(self):
         self.open(*self.say(("Potencia, Clase B", "Clase B Simple"), ("Power, Class B", "Class B Simple")))
         self.picture("form10-start")
@@ -455,7 +455,7 @@ class ClassB(Power):
         self.picture("form10-finished")
 
 
-class ClassBDarlington(Power):
+class ClassBDarlington(Power, Journey):
     def whole_design(self):
         self.open(*self.say(("Potencia, Clase B", "Clase B - Darlington"), ("Power, Class B", "Class B Darlington")))
         self.picture("form11-start")
