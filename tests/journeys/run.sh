@@ -27,7 +27,9 @@ print("\n".join(names(unittest.defaultTestLoader.discover(".", pattern="*journey
 END
 }
 
-# play JOURNEY: the bus of assistive technology has one place in a runtime folder, so each journey has a folder too.
+# play JOURNEY [again]: one that fails is played once more, and that is said: window managers pass the keyboard on in their own
+# time, and a person would look and press again. The bus of assistive technology has one place in a runtime folder, so each
+# journey has a folder too.
 play() {
     local log failed=0
     XDG_RUNTIME_DIR=$(mktemp -d "$room/XXXX")
@@ -38,6 +40,7 @@ play() {
         ((failed == 0)) || echo "$log"
         echo "$1: $(tail -n 1 <<<"$log")"
     } 9>"$room/turn"
+    ((failed == 0)) || [[ -n ${2:-} ]] || { play "$1" again && echo "$1: failed once, held when played again" && failed=0; }
     return $failed
 }
 export -f play
