@@ -7,7 +7,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
+#include <QPolygonF>
 
 #include "desktop/check/check_words.h"
 #include "desktop/drawing/plates.h"
@@ -153,14 +153,14 @@ void PlotPaper::paintGround(const QString& title) const
 
 void PlotPaper::paintCurve(std::span<const QPointF> points, const QColor& ink, double width) const
 {
-    QPainterPath path;
+    QPolygonF line;
     for (const QPointF& point : points)
-        path.isEmpty() ? path.moveTo(at(point.x(), point.y())) : path.lineTo(at(point.x(), point.y()));
+        line.append(at(point.x(), point.y()));
     painter_.save();
     painter_.setClipRect(field_);
     painter_.setBrush(Qt::NoBrush);
     painter_.setPen(QPen(ink, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter_.drawPath(path);
+    painter_.drawPolyline(line);
     painter_.restore();
 }
 
