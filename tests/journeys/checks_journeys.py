@@ -5,7 +5,7 @@ import re
 import shutil
 import unittest
 
-from journey import Atspi, Journey, has, until
+from journey import Atspi, Journey, children, has, until
 
 
 class Checked(Journey):
@@ -37,7 +37,9 @@ class Checked(Journey):
                      "a field in hand")
 
     def check_window(self, title):
-        return self.program.see(title, "dialog")
+        velmor = self.program
+        until(lambda: any(re.search(title, node.get_name() or "") and has(node, Atspi.StateType.ACTIVE)
+                          for node in children(velmor.root)), "the window " + title)
 
     def row(self, name):
         """The row of that quantity in hand."""

@@ -12,6 +12,19 @@ namespace velmor::desktop {
 
 using check_words::in;
 
+namespace harmonics_plot_detail {
+
+/// Short enough to stand over a bar; the sentence has the whole figure.
+QString overBar(double percent)
+{
+    const int places = percent >= 10 ? 0 : percent >= 1 ? 1 : 2;
+    return percent < 0.005 ? QStringLiteral("0") : QString::number(percent, 'f', places);
+}
+
+} // namespace harmonics_plot_detail
+
+using namespace harmonics_plot_detail;
+
 bool HarmonicsPlot::hasData() const
 {
     return checked().swing.harmonics[1] > 0;
@@ -54,7 +67,7 @@ void HarmonicsPlot::paint(QPainter& painter, const QRectF& room, const PlotLook&
         painter.drawRect(bar);
         painter.setPen(look.inks->ink);
         painter.drawText(QRectF(bar.center().x() - 30, bar.top() - 1.4 * look.letters, 60, 1.4 * look.letters),
-                         Qt::AlignHCenter | Qt::AlignVCenter, check_words::amount(share(i), ""));
+                         Qt::AlignHCenter | Qt::AlignVCenter, overBar(share(i)));
     }
 }
 

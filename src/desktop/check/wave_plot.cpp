@@ -134,16 +134,11 @@ void WavePlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look
     if (!swing.input.values.empty())
         paper.paintCurve(curveOf(swing.input, magnified()), look.inks->quiet, thin);
     paper.paintCurve(curveOf(swing.output, 1), look.inks->accent, strong);
-    painter.setPen(look.inks->quiet);
-    const double gap = look.letters / 2;
-    painter.drawText(
-        QRectF(paper.field().left(), room.top(), paper.field().width(), paper.field().top() - room.top() - 3),
-        Qt::AlignRight | Qt::AlignBottom,
-        in(check_words::inputTimes, look.english).arg(check_words::amount(magnified(), "")));
-    painter.setPen(look.inks->ink);
-    painter.drawText(paper.field().adjusted(gap, 0, -gap, -gap / 2), Qt::AlignRight | Qt::AlignBottom,
-                     in(check_words::thdAmount, look.english)
-                         .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%")));
+    const QString legend =
+        in(check_words::inputTimes, look.english).arg(check_words::amount(magnified(), "")) + QLatin1Char('\n') +
+        in(check_words::thdAmount, look.english)
+            .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%"));
+    paper.paintLegend(legend);
     if (place)
         paper.paintReading(x.valueAt(*place), reading(*place));
 }
