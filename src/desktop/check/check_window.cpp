@@ -87,6 +87,7 @@ CheckWindow::CheckWindow(Desk& desk, std::string simulator, CheckDeeds deeds, QW
     : ToolFrame(desk, mainWindow), deeds_(std::move(deeds)), service_(std::move(simulator))
 {
     setObjectName(QStringLiteral("checkWindow"));
+    setAttribute(Qt::WA_AlwaysShowToolTips); // pointing tells, whichever window has the keyboard
     checked_.english = desk.english();
     layOut();
     connectParts();

@@ -66,7 +66,7 @@ inline constexpr BiText noPlot     {"Sin simulación no hay curva.", "Without a 
 inline constexpr BiText noUpper    {"sin límite superior en el modelo", "no upper limit in the model"};
 inline constexpr BiText cutOff     {"corte: %1", "cut-off: %1"};
 inline constexpr BiText saturation {"saturación: %1", "saturation: %1"};
-inline constexpr BiText bendsFirst {"primero aquí", "here first"};
+inline constexpr BiText bendsFirst {"primero", "first"};
 inline constexpr BiText inputTimes {"entrada × %1", "input × %1"};
 inline constexpr BiText output     {"salida", "output"};
 inline constexpr BiText gainShape  {"Sube desde las frecuencias bajas, cruza −3 dB en %1, y desde %2 es plana hasta 100 kHz. A fo = %3 está en %4.",

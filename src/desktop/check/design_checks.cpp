@@ -137,7 +137,8 @@ bool DesignChecks::toReport(host::Window& sheet, const QString& text)
 
 QPlainTextEdit* DesignChecks::openReport() const
 {
-    const host::Window* editor = desk_.engine->host().find(desk_.english() ? sheets::reportEditor.en : sheets::reportEditor.es);
+    const host::Window* editor =
+        desk_.engine->host().find(desk_.english() ? sheets::reportEditor.en : sheets::reportEditor.es);
     WindowFrame* frame = editor == nullptr || !editor->shown() ? nullptr : keeper_.frameOf(*editor);
     if (frame == nullptr || frame->view() == nullptr)
         return nullptr;

@@ -17,8 +17,7 @@ namespace harmonics_plot_detail {
 /// Short enough to stand over a bar; the sentence has the whole figure.
 QString overBar(double percent)
 {
-    const int places = percent >= 10 ? 0 : percent >= 1 ? 1 : 2;
-    return percent < 0.005 ? QStringLiteral("0") : QString::number(percent, 'f', places);
+    return percent < 0.05 ? QStringLiteral("0") : QString::number(percent, 'f', percent >= 9.95 ? 0 : 1);
 }
 
 } // namespace harmonics_plot_detail
@@ -54,7 +53,8 @@ void HarmonicsPlot::paint(QPainter& painter, const QRectF& room, const PlotLook&
     PlotAxis x{.from = 1.4, .to = 5.6};
     for (int i = 2; i <= 5; ++i)
         x.ticks.push_back({static_cast<double>(i), QString::number(i)});
-    const PlotPaper paper(painter, room, x, {.from = 0, .to = most, .ticks = evenTicks(0, most, 4), .unit = "%"}, look);
+    const PlotPaper paper(painter, room, x, {.from = 0, .to = 1.08 * most, .ticks = evenTicks(0, most, 4), .unit = "%"},
+                          look);
     paper.paintGround(name());
     if (!shows)
         return paper.paintVeil(QString());

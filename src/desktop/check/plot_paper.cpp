@@ -147,8 +147,8 @@ void PlotPaper::paintGround(const QString& title) const
                       Qt::AlignRight | Qt::AlignBottom, y_.unit);
     painter_.setFont(interfaceFont(look_.letters, true));
     painter_.setPen(look_.inks->ink);
-    painter_.drawText(QRectF(field_.left(), head.top(), room_.right() - field_.left(), head.height()), Qt::AlignLeft | Qt::AlignBottom,
-                      title);
+    painter_.drawText(QRectF(field_.left(), head.top(), room_.right() - field_.left(), head.height()),
+                      Qt::AlignLeft | Qt::AlignBottom, title);
     painter_.setFont(interfaceFont(look_.letters));
 }
 
