@@ -73,8 +73,10 @@ inline constexpr BiText saturation {"saturación: %1", "saturation: %1"};
 inline constexpr BiText bendsFirst {"primero", "first"};
 inline constexpr BiText inputTimes {"entrada × %1", "input × %1"};
 inline constexpr BiText output     {"salida", "output"};
-inline constexpr BiText gainShape  {"Sube desde las frecuencias bajas, cruza −3 dB en %1, y desde %2 es plana hasta 100 kHz. A fo = %3 está en %4.",
-                                    "It rises from the low frequencies, crosses −3 dB at %1, and is flat from %2 to 100 kHz. At fo = %3 it is at %4."};
+inline constexpr BiText gainShape  {"Sube desde las frecuencias bajas, cruza −3 dB en %1, "
+                                    "y desde %2 es plana hasta 100 kHz. A fo = %3 está en %4.",
+                                    "It rises from the low frequencies, crosses −3 dB at %1, "
+                                    "and is flat from %2 to 100 kHz. At fo = %3 it is at %4."};
 inline constexpr BiText waveShape  {"Sube hasta %1 y baja hasta %2; distorsión %3. %4",
                                     "It goes up to %1 and down to %2; distortion %3. %4"};
 inline constexpr BiText flatTop    {"La cresta está aplastada.", "The crest is flattened."};
