@@ -16,7 +16,6 @@ constexpr Saying overwriteReport{
     .flags = 65};
 constexpr int answerOk = 1;
 constexpr host::BiText textEditor{.es = "frmEdito1", .en = "frmEdito3"};
-constexpr host::BiText reportEditor{.es = "frmEdito2", .en = "frmEdito3"};
 
 bool anyArrangementMark(host::SheetHost& host)
 {
@@ -109,7 +108,7 @@ void DesignSheet::showReport(bool build)
     if (!wasOpen && editor != nullptr)
         host().SetWindowState(*editor, 0);
     if (build)
-        host().setText(name, "txtEdit", reportText());
+        host().setText(name, textOfReport, reportText());
 }
 
 host::Window* DesignSheet::openSheet(std::string_view sheetName, const host::BiText& title)

@@ -27,6 +27,10 @@ struct Tools {
     ImagePair help{}; ///< the second puts the help away again
 };
 
+/// The editor that shows a sheet's report, and the control with its text.
+inline constexpr host::BiText reportEditor{.es = "frmEdito2", .en = "frmEdito3"};
+inline constexpr std::string_view textOfReport = "txtEdit";
+
 namespace tools_detail {
 
 // Two columns of three, in the right top corner under the teacher's voice.

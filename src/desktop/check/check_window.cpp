@@ -37,11 +37,6 @@ constexpr double largestShare = 0.94; ///< of the screen
 constexpr int tableShare = 57;        ///< of a hundred; the curves have the rest
 constexpr int margin = 10;
 
-QString waveFilter(const QString& words, const char* ending)
-{
-    return QStringLiteral("%1|*.%2").arg(words, QLatin1String(ending));
-}
-
 bool sameRows(const check::Design& one, const check::Design& other)
 {
     return std::equal(one.rows.begin(), one.rows.end(), other.rows.begin(), other.rows.end(),
@@ -92,6 +87,7 @@ CheckWindow::CheckWindow(Desk& desk, std::string simulator, CheckDeeds deeds, QW
     : ToolFrame(desk, mainWindow), deeds_(std::move(deeds)), service_(std::move(simulator))
 {
     setObjectName(QStringLiteral("checkWindow"));
+    setAttribute(Qt::WA_AlwaysShowToolTips); // pointing tells, whichever window has the keyboard
     checked_.english = desk.english();
     layOut();
     connectParts();
@@ -330,7 +326,7 @@ QString CheckWindow::state() const
     QString text = in(check_words::tally, english).arg(compared).arg(agreed);
     if (checked_.bet.placed() > 0)
         text += QLatin1Char(' ') +
-                in(check_words::score, english).arg(checked_.bet.placed()).arg(checked_.bet.won(checked_.result));
+                in(check_words::score, english).arg(checked_.bet.won(checked_.result)).arg(checked_.bet.placed());
     return text;
 }
 

@@ -26,7 +26,8 @@ inline QString in(const check::Words& words, bool english)
 inline constexpr BiText title      {"Comprobar: %1", "Check: %1"};
 // the table
 inline constexpr BiText tableName  {"Magnitudes del diseño", "Quantities of the design"};
-inline constexpr BiText columns[]  {{"Magnitud", "Quantity"}, {"Pedido", "Asked"}, {"Curso", "Course"}, {"Simulador", "Simulator"}, {"Veredicto", "Verdict"}};
+inline constexpr BiText columns[]  {{"Magnitud", "Quantity"}, {"Pedido", "Asked"}, {"Curso", "Course"},
+                                    {"Simulador", "Simulator"}, {"Veredicto", "Verdict"}};
 inline constexpr BiText nothing    {"nada", "nothing"};
 inline constexpr BiText closedCell {"su apuesta", "your bet"};
 inline constexpr BiText running    {"simulando", "simulating"};
@@ -41,7 +42,8 @@ inline constexpr BiText invitation {"¿Qué medirá el simulador? Elija una fila
 inline constexpr BiText score      {"Apuestas acertadas: %1 de %2.", "Bets won: %1 of %2."};
 inline constexpr BiText tally      {"De %1 comparadas, coinciden %2.", "Of %1 compared, %2 agree."};
 // the row in hand
-inline constexpr BiText question   {"El curso calcula %1. El simulador medirá...", "The course works out %1. The simulator will measure..."};
+inline constexpr BiText question   {"El curso calcula %1. El simulador medirá...",
+                                    "The course works out %1. The simulator will measure..."};
 inline constexpr BiText lower      {"&1  menos", "&1  less"};
 inline constexpr BiText same       {"&2  lo mismo", "&2  the same"};
 inline constexpr BiText higher     {"&3  más", "&3  more"};
@@ -60,18 +62,23 @@ inline constexpr BiText curves     {"C&urvas", "C&urves"};
 inline constexpr BiText gainName   {"Ganancia según la frecuencia", "Gain against frequency"};
 inline constexpr BiText waveName   {"Onda de salida a 1 kHz", "Output wave at 1 kHz"};
 inline constexpr BiText harmonicsName{"Armónicas", "Harmonics"};
-inline constexpr BiText gainVeil   {"Se abre con las apuestas de fL y del nivel a fo.", "It opens with the bets on fL and on the level at fo."};
-inline constexpr BiText waveVeil   {"Se abre con la apuesta de la salida pico a pico.", "It opens with the bet on the output peak to peak."};
+inline constexpr BiText gainVeil   {"Se abre con las apuestas de fL y del nivel a fo.",
+                                    "It opens with the bets on fL and on the level at fo."};
+inline constexpr BiText waveVeil   {"Se abre con la apuesta de la salida pico a pico.",
+                                    "It opens with the bet on the output peak to peak."};
 inline constexpr BiText noPlot     {"Sin simulación no hay curva.", "Without a simulation there is no curve."};
 inline constexpr BiText noUpper    {"sin límite superior en el modelo", "no upper limit in the model"};
 inline constexpr BiText cutOff     {"corte: %1", "cut-off: %1"};
 inline constexpr BiText saturation {"saturación: %1", "saturation: %1"};
-inline constexpr BiText bendsFirst {"primero aquí", "here first"};
+inline constexpr BiText bendsFirst {"primero", "first"};
 inline constexpr BiText inputTimes {"entrada × %1", "input × %1"};
 inline constexpr BiText output     {"salida", "output"};
-inline constexpr BiText gainShape  {"Sube desde las frecuencias bajas, cruza -3 dB en %1, y desde %2 es plana hasta 100 kHz. A fo = %3 está en %4.",
-                                    "It rises from the low frequencies, crosses -3 dB at %1, and is flat from %2 to 100 kHz. At fo = %3 it is at %4."};
-inline constexpr BiText waveShape  {"Sube hasta %1 y baja hasta %2; distorsión %3. %4", "It goes up to %1 and down to %2; distortion %3. %4"};
+inline constexpr BiText gainShape  {"Sube desde las frecuencias bajas, cruza −3 dB en %1, "
+                                    "y desde %2 es plana hasta 100 kHz. A fo = %3 está en %4.",
+                                    "It rises from the low frequencies, crosses −3 dB at %1, "
+                                    "and is flat from %2 to 100 kHz. At fo = %3 it is at %4."};
+inline constexpr BiText waveShape  {"Sube hasta %1 y baja hasta %2; distorsión %3. %4",
+                                    "It goes up to %1 and down to %2; distortion %3. %4"};
 inline constexpr BiText flatTop    {"La cresta está aplastada.", "The crest is flattened."};
 inline constexpr BiText flatBottom {"El valle está aplastado.", "The trough is flattened."};
 inline constexpr BiText roundWave  {"Ambas mitades son casi iguales.", "Both halves are nearly alike."};
@@ -87,7 +94,8 @@ inline constexpr BiText detailsPage{"&Detalles", "&Details"};
 inline constexpr BiText noDetails  {"El simulador no dijo nada.", "The simulator said nothing."};
 // deeds
 inline constexpr BiText toReport   {"Al &informe", "To the &report"};
-inline constexpr BiText toReportTip{"Agrega la tabla al final del informe; lo abre si hace falta", "Adds the table at the end of the report; opens it if need be"};
+inline constexpr BiText toReportTip{"Agrega la tabla al final del informe; lo abre si hace falta",
+                                    "Adds the table at the end of the report; opens it if need be"};
 inline constexpr BiText toClipboard{"Co&piar la tabla", "Co&py the table"};
 inline constexpr BiText save       {"&Guardar", "&Save"};
 inline constexpr BiText saveTable  {"Tabla (CSV)...", "Table (CSV)..."};

@@ -19,6 +19,9 @@ namespace curves_page_detail {
 
 constexpr int atCourse = 100; ///< the slider's value of the course's input
 constexpr int atMost = 160;
+// Heights beside each other.
+constexpr int gainHeight = 4;
+constexpr int waveHeight = 5;
 constexpr double leastDrive = 0.1;
 constexpr double mostDrive = 4;
 
@@ -66,8 +69,8 @@ CurvesPage::CurvesPage(const Checked& checked, const Inks& inks, QWidget* parent
     grid->addLayout(driving, 2, 0, 1, 2);
     grid->setColumnStretch(0, 5);
     grid->setColumnStretch(1, 2);
-    grid->setRowStretch(0, 4);
-    grid->setRowStretch(1, 5);
+    grid->setRowStretch(0, gainHeight);
+    grid->setRowStretch(1, waveHeight);
     connect(slider_, &QSlider::valueChanged, this, [this] {
         tellDrive();
         if (driven)
@@ -98,6 +101,8 @@ void CurvesPage::tellDrive()
 void CurvesPage::follow()
 {
     gain_->setVisible(checked_.isSmallSignal());
+    // A hidden plot leaves its room to the others.
+    static_cast<QGridLayout*>(layout())->setRowStretch(0, checked_.isSmallSignal() ? gainHeight : 0);
     gain_->follow(checked_.english);
     name_->setText(in(check_words::drive, checked_.english));
     slider_->setAccessibleName(in(check_words::driveName, checked_.english));

@@ -12,13 +12,12 @@
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/sheet_view.h"
 #include "desktop/windows/window_keeper.h"
+#include "sheets/tools.h"
 
 namespace velmor::desktop {
 
 namespace design_checks_detail {
 
-constexpr host::BiText reportEditor{.es = "frmEdito2", .en = "frmEdito3"};
-constexpr std::string_view reportText = "txtEdit";
 constexpr int asksBeforeReplacing = 2;
 
 std::optional<check::Design> designOf(const host::Window& sheet)
@@ -138,11 +137,12 @@ bool DesignChecks::toReport(host::Window& sheet, const QString& text)
 
 QPlainTextEdit* DesignChecks::openReport() const
 {
-    const host::Window* editor = desk_.engine->host().find(desk_.english() ? reportEditor.en : reportEditor.es);
+    const host::Window* editor =
+        desk_.engine->host().find(desk_.english() ? sheets::reportEditor.en : sheets::reportEditor.es);
     WindowFrame* frame = editor == nullptr || !editor->shown() ? nullptr : keeper_.frameOf(*editor);
     if (frame == nullptr || frame->view() == nullptr)
         return nullptr;
-    return qobject_cast<QPlainTextEdit*>(frame->view()->canvas().widgetOf(editor->named(reportText)));
+    return qobject_cast<QPlainTextEdit*>(frame->view()->canvas().widgetOf(editor->named(sheets::textOfReport)));
 }
 
 } // namespace velmor::desktop

@@ -71,7 +71,7 @@ void GainPlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look
     if (!hasData() || !isOpen())
         return paper.paintVeil(in(hasData() ? check_words::gainVeil : check_words::noPlot, look.english));
     const Inks& inks = *look.inks;
-    paper.paintLevel(courseLevel, QStringLiteral("−0.9 dB"), inks.quiet, PlotPaper::Edge::right, true);
+    paper.paintLevel(courseLevel, QStringLiteral("−0.9 dB"), inks.quiet, PlotPaper::Edge::right, false);
     paper.paintLevel(cornerLevel, QStringLiteral("−3 dB"), inks.quiet, PlotPaper::Edge::right, false);
     const check::Response& response = checked().result.response;
     std::vector<QPointF> points;
@@ -82,13 +82,13 @@ void GainPlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look
     paper.paintCurve(points, inks.accent, curveWidth);
     const double level = levelAt(checked().design.fo);
     paper.paintDot(checked().design.fo, level, inks.accent);
-    paper.paintNote(paper.at(checked().design.fo, std::max(level, lowestLevel + 2)) + QPointF(0, 1.6 * look.letters),
+    paper.paintNote(paper.at(checked().design.fo, std::max(level, lowestLevel + 2)) + QPointF(0, 5.2 * look.letters),
                     QStringLiteral("fo = %1: %2").arg(hertz(checked().design.fo), check_words::amount(level, "dB")),
                     inks.ink);
     const check::Row* corner = check::rowOf(checked().result, check::Quantity::fL);
     if (corner != nullptr && corner->simulated) {
         paper.paintDot(*corner->simulated, cornerLevel, inks.ink);
-        paper.paintNote(paper.at(*corner->simulated, cornerLevel) + QPointF(0, 3.4 * look.letters),
+        paper.paintNote(paper.at(*corner->simulated, cornerLevel) + QPointF(0, 6.6 * look.letters),
                         QStringLiteral("fL = %1").arg(hertz(*corner->simulated)), inks.ink);
     }
     painter.setPen(inks.quiet);

@@ -12,6 +12,18 @@ namespace velmor::desktop {
 
 using check_words::in;
 
+namespace harmonics_plot_detail {
+
+/// Short enough to stand over a bar; the sentence has the whole figure.
+QString overBar(double percent)
+{
+    return percent < 0.05 ? QStringLiteral("0") : QString::number(percent, 'f', percent >= 9.95 ? 0 : 1);
+}
+
+} // namespace harmonics_plot_detail
+
+using namespace harmonics_plot_detail;
+
 bool HarmonicsPlot::hasData() const
 {
     return checked().swing.harmonics[1] > 0;
@@ -41,7 +53,8 @@ void HarmonicsPlot::paint(QPainter& painter, const QRectF& room, const PlotLook&
     PlotAxis x{.from = 1.4, .to = 5.6};
     for (int i = 2; i <= 5; ++i)
         x.ticks.push_back({static_cast<double>(i), QString::number(i)});
-    const PlotPaper paper(painter, room, x, {.from = 0, .to = most, .ticks = evenTicks(0, most, 4), .unit = "%"}, look);
+    const PlotPaper paper(painter, room, x, {.from = 0, .to = 1.08 * most, .ticks = evenTicks(0, most, 4), .unit = "%"},
+                          look);
     paper.paintGround(name());
     if (!shows)
         return paper.paintVeil(QString());
@@ -54,7 +67,7 @@ void HarmonicsPlot::paint(QPainter& painter, const QRectF& room, const PlotLook&
         painter.drawRect(bar);
         painter.setPen(look.inks->ink);
         painter.drawText(QRectF(bar.center().x() - 30, bar.top() - 1.4 * look.letters, 60, 1.4 * look.letters),
-                         Qt::AlignHCenter | Qt::AlignVCenter, check_words::amount(share(i), ""));
+                         Qt::AlignHCenter | Qt::AlignVCenter, overBar(share(i)));
     }
 }
 

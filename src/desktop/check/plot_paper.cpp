@@ -7,7 +7,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
+#include <QPolygonF>
 
 #include "desktop/check/check_words.h"
 #include "desktop/drawing/plates.h"
@@ -19,7 +19,7 @@ namespace plot_paper_detail {
 
 // In heights of the letters.
 constexpr double leftMargin = 3.4;
-constexpr double rightMargin = 1.0;
+constexpr double rightMargin = 1.6;
 constexpr double topMargin = 1.9;
 constexpr double bottomMargin = 1.9;
 
@@ -139,28 +139,29 @@ void PlotPaper::paintGround(const QString& title) const
     painter_.setBrush(Qt::NoBrush);
     painter_.drawRect(field_);
     painter_.setPen(look_.inks->quiet);
-    const QRectF corner(room_.left(), field_.bottom() + 2, field_.left() - room_.left() - 5, 1.5 * look_.letters);
+    const QRectF corner(room_.left(), field_.bottom() + 2, field_.left() - room_.left() - 1.4 * look_.letters,
+                        1.5 * look_.letters);
     painter_.drawText(corner, Qt::AlignRight | Qt::AlignTop, x_.unit);
     const QRectF head(room_.left(), room_.top(), room_.width(), topMargin * look_.letters - 3);
     painter_.drawText(QRectF(head.left(), head.top(), field_.left() - room_.left() - 5, head.height()),
                       Qt::AlignRight | Qt::AlignBottom, y_.unit);
     painter_.setFont(interfaceFont(look_.letters, true));
     painter_.setPen(look_.inks->ink);
-    painter_.drawText(QRectF(field_.left(), head.top(), field_.width(), head.height()), Qt::AlignLeft | Qt::AlignBottom,
-                      title);
+    painter_.drawText(QRectF(field_.left(), head.top(), room_.right() - field_.left(), head.height()),
+                      Qt::AlignLeft | Qt::AlignBottom, title);
     painter_.setFont(interfaceFont(look_.letters));
 }
 
 void PlotPaper::paintCurve(std::span<const QPointF> points, const QColor& ink, double width) const
 {
-    QPainterPath path;
+    QPolygonF line;
     for (const QPointF& point : points)
-        path.isEmpty() ? path.moveTo(at(point.x(), point.y())) : path.lineTo(at(point.x(), point.y()));
+        line.append(at(point.x(), point.y()));
     painter_.save();
     painter_.setClipRect(field_);
     painter_.setBrush(Qt::NoBrush);
     painter_.setPen(QPen(ink, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter_.drawPath(path);
+    painter_.drawPolyline(line);
     painter_.restore();
 }
 
@@ -203,6 +204,18 @@ void PlotPaper::paintNote(QPointF beside, const QString& text, const QColor& ink
     painter_.fillRect(box.adjusted(-2, 0, 2, 0), ground);
     painter_.setPen(ink);
     painter_.drawText(box, Qt::AlignLeft | Qt::AlignVCenter, text);
+}
+
+void PlotPaper::paintLegend(const QString& text) const
+{
+    const double gap = look_.letters / 2;
+    const QRectF room = field_.adjusted(gap, gap / 2, -gap, -gap / 2);
+    const int how = Qt::AlignRight | Qt::AlignBottom | Qt::TextWordWrap;
+    QColor ground = look_.inks->field;
+    ground.setAlphaF(0.8F);
+    painter_.fillRect(painter_.boundingRect(room, how, text), ground);
+    painter_.setPen(look_.inks->ink);
+    painter_.drawText(room, how, text);
 }
 
 void PlotPaper::paintReading(double x, const QString& text) const

@@ -67,6 +67,8 @@ public:
     void paintDot(double x, double y, const QColor& ink) const;
     /// A line of text, inside the field, beside a point.
     void paintNote(QPointF beside, const QString& text, const QColor& ink) const;
+    /// Lines at the foot of the field, wrapped where it is narrow.
+    void paintLegend(const QString& text) const;
     /// The place that is being read, and what is read there.
     void paintReading(double x, const QString& text) const;
     /// Instead of a curve.

@@ -22,7 +22,7 @@ public:
     /// What is read just now; empty while nobody reads.
     QString reading() const;
     QSize sizeHint() const override { return {360, 170}; }
-    QSize minimumSizeHint() const override { return {150, 110}; }
+    QSize minimumSizeHint() const override { return {110, 110}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

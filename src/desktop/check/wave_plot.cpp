@@ -18,6 +18,7 @@ namespace wave_plot_detail {
 constexpr double cyclesSeen = 2;
 constexpr double strong = 2.2; ///< pixels of the curve that counts
 constexpr double thin = 1.2;
+constexpr double legendRoom = 1.35; ///< below the wave, of what it has above
 
 /// The wave between two of its values; its last cycles end with it.
 double valueAt(const check::Wave& wave, double seconds)
@@ -42,13 +43,14 @@ double lowest(const check::Wave& wave)
     return *std::min_element(wave.values.begin(), wave.values.end());
 }
 
-std::vector<QPointF> curveOf(const check::Wave& wave, double times)
+/// So many times as high, and lifted to where the output rests.
+std::vector<QPointF> curveOf(const check::Wave& wave, double times, double lift)
 {
     std::vector<QPointF> points;
     const double span = cyclesSeen / check::waveFrequency;
     constexpr int count = 400;
     for (int i = 0; i <= count; ++i)
-        points.emplace_back(1000 * span * i / count, times * valueAt(wave, span * i / count));
+        points.emplace_back(1000 * span * i / count, lift + times * valueAt(wave, span * i / count));
     return points;
 }
 
@@ -89,7 +91,8 @@ PlotAxis WavePlot::heights() const
         reach = std::max({reach, 1.25 * nearer, 1.15 * std::min(farther, 2 * nearer)});
     }
     reach = std::max(reach, 1e-6);
-    return {.from = rest - reach, .to = rest + reach, .ticks = evenTicks(rest - reach, rest + reach, 6), .unit = "V"};
+    const double from = rest - legendRoom * reach;
+    return {.from = from, .to = rest + reach, .ticks = evenTicks(from, rest + reach, 6), .unit = "V"};
 }
 
 /// The input is drawn so many times larger that it can be told beside the output.
@@ -110,7 +113,7 @@ void WavePlot::paintCeilings(const PlotPaper& paper, const PlotAxis& y, const Pl
     const double rest = check::mean(checked().swing.output);
     const auto draw = [&](double ceiling, bool above, const host::BiText& text, bool nearer) {
         const double height = rest + (above ? ceiling : -ceiling);
-        if (height > y.to || height < y.from)
+        if (std::abs(height - rest) > y.to - rest)
             return;
         QString name = in(text, look.english).arg(volts(ceiling));
         if (nearer)
@@ -132,18 +135,13 @@ void WavePlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look
     const check::Swing& swing = checked().swing;
     paintCeilings(paper, y, look);
     if (!swing.input.values.empty())
-        paper.paintCurve(curveOf(swing.input, magnified()), look.inks->quiet, thin);
-    paper.paintCurve(curveOf(swing.output, 1), look.inks->accent, strong);
-    painter.setPen(look.inks->quiet);
-    const double gap = look.letters / 2;
-    painter.drawText(
-        QRectF(paper.field().left(), room.top(), paper.field().width(), paper.field().top() - room.top() - 3),
-        Qt::AlignRight | Qt::AlignBottom,
-        in(check_words::inputTimes, look.english).arg(check_words::amount(magnified(), "")));
-    painter.setPen(look.inks->ink);
-    painter.drawText(paper.field().adjusted(gap, 0, -gap, -gap / 2), Qt::AlignRight | Qt::AlignBottom,
-                     in(check_words::thdAmount, look.english)
-                         .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%")));
+        paper.paintCurve(curveOf(swing.input, magnified(), check::mean(swing.output)), look.inks->quiet, thin);
+    paper.paintCurve(curveOf(swing.output, 1, 0), look.inks->accent, strong);
+    const QString legend =
+        in(check_words::inputTimes, look.english).arg(check_words::amount(magnified(), "")) + QLatin1Char('\n') +
+        in(check_words::thdAmount, look.english)
+            .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%"));
+    paper.paintLegend(legend);
     if (place)
         paper.paintReading(x.valueAt(*place), reading(*place));
 }
