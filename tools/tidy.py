@@ -76,7 +76,8 @@ class Unit:
         """Comments and macros count: clang-tidy reads them too."""
         text = subprocess.run(self.command() + ["-E", "-CC", "-dD"], cwd=self.entry["directory"], stdout=subprocess.PIPE,
                               check=True).stdout
-        return hashlib.sha256(b"".join([tool, *self.settings(), text])).hexdigest()
+        # Wherever the checkout lies.
+        return hashlib.sha256(b"".join([tool, *self.settings(), text.replace(bytes(root), b"")])).hexdigest()
 
     def place(self, found):
         """The line of its own file that a line of the joined text is."""
