@@ -10,7 +10,7 @@ source "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/steps.sh"
 
 made=$root/build/package
 folder=$(realpath -m -- "${1:-$made}")
-install_packages build run package
+install_packages build run wayland package
 build package
 version=$(sed -n 's/^project(Velmor VERSION \([0-9.]*\).*/\1/p' "$root/CMakeLists.txt")
 name=velmor-$version
@@ -19,7 +19,8 @@ lib=$tree/lib
 plugins=$(qtpaths6 --query QT_INSTALL_PLUGINS)
 translations=$(qtpaths6 --query QT_INSTALL_TRANSLATIONS)
 # What Qt loads by name: the screen, dead keys, input methods, printers, pictures.
-wanted_plugins=(platforms/libqxcb.so platforminputcontexts/libcomposeplatforminputcontextplugin.so
+wanted_plugins=(platforms/libqxcb.so platforms/libqwayland-generic.so wayland-shell-integration/libxdg-shell.so
+    wayland-decoration-client/libbradient.so platforminputcontexts/libcomposeplatforminputcontextplugin.so
     platforminputcontexts/libibusplatforminputcontextplugin.so printsupport/libcupsprintersupport.so imageformats/libqsvg.so
     imageformats/libqjpeg.so iconengines/libqsvgicon.so)
 wanted_fonts=(DejaVuSans.ttf DejaVuSans-Bold.ttf DejaVuSansMono.ttf DejaVuSansMono-Bold.ttf texgyretermes-regular.otf
