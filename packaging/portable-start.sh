@@ -23,7 +23,9 @@ if [ ! -x "$loader" ] || ! "$loader" --verify "$lib/$program" 2>/dev/null; then
         cp -- "$loader" "$own/"
         chmod 700 "$own/${loader##*/}"
         ! "$own/${loader##*/}" --verify "$lib/$program" 2>/dev/null || break
+        # What nobody may write would keep the copy from being taken away again.
         cp -R -- "$lib" "$own/lib" && lib=$own/lib
+        chmod -R u+rwX "$own/lib"
         ! "$own/${loader##*/}" --verify "$lib/$program" 2>/dev/null || break
         forget
         own=

@@ -48,12 +48,17 @@ for font in "${wanted_fonts[@]}"; do
 done
 install -m 644 "$translations/qtbase_es.qm" "$lib/translations/"
 printf '[Paths]\nPrefix=.\nPlugins=plugins\nTranslations=translations\n' >"$lib/qt.conf"
+# The machine's own choice of typefaces comes first; where it makes none, texts of even letters keep them.
 cat >"$lib/fonts/fonts.conf" <<'END'
 <?xml version="1.0"?>
 <!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
 <fontconfig>
   <include ignore_missing="yes">/etc/fonts/fonts.conf</include>
   <dir prefix="relative">.</dir>
+  <alias><family>Courier New</family><default><family>monospace</family></default></alias>
+  <alias><family>monospace</family><prefer><family>DejaVu Sans Mono</family></prefer></alias>
+  <alias><family>sans-serif</family><prefer><family>DejaVu Sans</family></prefer></alias>
+  <alias><family>serif</family><prefer><family>TeX Gyre Termes</family></prefer></alias>
   <cachedir prefix="xdg">fontconfig</cachedir>
 </fontconfig>
 END
