@@ -184,8 +184,9 @@ try_package() {
     make_tree
     add_student
     (inside apt-get -q update) </dev/null >"$folder/install.log" 2>&1
-    # What every desktop has: it tells a file's type, and which program opens it.
-    install_inside --no-install-recommends desktop-file-utils libglib2.0-bin shared-mime-info
+    # What every desktop has: it tells a file's type, and which program opens it; and what starts the machine, which is never removed
+    # again once it is there.
+    install_inside --no-install-recommends desktop-file-utils libglib2.0-bin shared-mime-info systemd-sysv
     before=$(every_file)
     packages=$(packages_inside)
     ! chroot "$tree" sh -c 'command -v cc g++ gcc' || stop "The tree has a compiler."
