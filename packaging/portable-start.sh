@@ -23,7 +23,9 @@ if [ ! -x "$loader" ] || ! "$loader" --verify "$lib/$program" 2>/dev/null; then
         cp -- "$loader" "$own/"
         chmod 700 "$own/${loader##*/}"
         ! "$own/${loader##*/}" --verify "$lib/$program" 2>/dev/null || break
+        # What nobody may write would keep the copy from being taken away again.
         cp -R -- "$lib" "$own/lib" && lib=$own/lib
+        chmod -R u+rwX "$own/lib"
         ! "$own/${loader##*/}" --verify "$lib/$program" 2>/dev/null || break
         forget
         own=
@@ -39,7 +41,11 @@ fi
 
 VELMOR_PORTABLE=$here
 FONTCONFIG_FILE=$lib/fonts/fonts.conf
-QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-xcb}
+# Most desktops of Wayland have an X server too, where windows stand beside what they speak of.
+if [ -z "${QT_QPA_PLATFORM:-}" ]; then
+    QT_QPA_PLATFORM=xcb
+    [ -n "${DISPLAY:-}" ] || [ -z "${WAYLAND_DISPLAY:-}" ] || QT_QPA_PLATFORM=wayland
+fi
 export VELMOR_PORTABLE FONTCONFIG_FILE QT_QPA_PLATFORM
 if [ -z "$own" ]; then
     exec "$loader" --argv0 "$program" --library-path "$lib" "$lib/$program" "$@"

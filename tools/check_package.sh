@@ -28,9 +28,13 @@ reads_well() {
     [[ -z $warnings ]]
 }
 
-sed 's#@VELMOR_WEB@#https://velmor.invalid#' "$root/packaging/velmor.metainfo.xml" >"$folder/velmor.metainfo.xml"
+sed '/@VELMOR_PUBLISHED@/d' "$root/packaging/velmor.metainfo.xml" >"$folder/velmor.metainfo.xml"
+sed -e "/@VELMOR_PUBLISHED@/{r $root/packaging/published.xml.in" -e 'd}' "$root/packaging/velmor.metainfo.xml" |
+    sed 's#@VELMOR_WEB@#https://velmor.invalid#' >"$folder/published.metainfo.xml"
 holds xmllint --noout "$root"/packaging/*.xml "$root"/packaging/*.svg
-holds appstreamcli validate --no-net "$folder/velmor.metainfo.xml"
+# With the pictures' addresses and without.
+holds appstreamcli validate --no-net "$folder/velmor.metainfo.xml" "$folder/published.metainfo.xml"
+holds grep -q '<image type="source"' "$folder/published.metainfo.xml"
 holds desktop-file-validate "$root/packaging/velmor.desktop"
 # Each type of the desktop entry is one that the program brings, and the other way round.
 holds diff <(sed -n 's/^MimeType=//p' "$root/packaging/velmor.desktop" | tr ';' '\n' | sed '/^$/d' | sort) \

@@ -130,10 +130,10 @@ every_file() {
         -path "$tree/var/log" -o -path "$tree/tmp" -o -path "$tree/home" \) -prune -o -printf '%P\n' | sort
 }
 
-# show_inside NAME TITLE COMMAND...: starts it in the tree as a student on a virtual display out here, waits for a window of
-# that title, takes the picture NAME.png and ends it. Sets $shown_after, in milliseconds.
-show_inside() {
-    local name=$1 title=$2 id started
+# start_inside NAME TITLE COMMAND...: starts it in the tree as a student on a virtual display out here, waits for a window of that
+# title and takes the picture NAME.png.
+start_inside() {
+    local name=$1 title=$2 started shown_after
     shift 2
     install -D -m 644 "$XAUTHORITY" "$tree/tmp/cookie"
     # Each start has processes of its own, numbered alike: the mark of one that was killed would pass for a running one's.
@@ -141,16 +141,24 @@ show_inside() {
     started=$(date +%s%N)
     (inside runuser -u student -- env HOME=/home/student DISPLAY="$DISPLAY" XAUTHORITY=/tmp/cookie "$@") </dev/null \
         >"$folder/$name.log" 2>&1 &
-    id=$!
-    virtual_display_ids+=("$id")
+    shown_id=$!
+    virtual_display_ids+=("$shown_id")
     until_true 60 xdotool search --onlyvisible --name "$title" >/dev/null 2>&1 ||
         stop "No window '$title' came of: $*, see $folder/$name.log"
     shown_after=$((($(date +%s%N) - started) / 1000000))
     sleep 2
     import -silent -window root "$folder/$name.png"
-    kill -KILL "$id" 2>/dev/null || true
-    wait "$id" 2>/dev/null || true
     say "$shown_after ms to the window of: ${*##*/}, see $folder/$name.png"
+}
+
+end_inside() {
+    kill -KILL "$shown_id" 2>/dev/null || true
+    wait "$shown_id" 2>/dev/null || true
+}
+
+show_inside() {
+    start_inside "$@"
+    end_inside
 }
 
 # A student with a circuit in his home, and without rights.
@@ -167,7 +175,7 @@ virtual_display_out_here() {
 }
 
 install_inside() {
-    (inside env DEBIAN_FRONTEND=noninteractive apt-get -q -y install --no-install-recommends "$@") </dev/null \
+    (inside env DEBIAN_FRONTEND=noninteractive apt-get -q -y install "$@") </dev/null \
         >>"$folder/install.log" 2>&1 || stop "Installing failed, see $folder/install.log"
 }
 
@@ -176,8 +184,9 @@ try_package() {
     make_tree
     add_student
     (inside apt-get -q update) </dev/null >"$folder/install.log" 2>&1
-    # What every desktop has: it tells a file's type, and which program opens it.
-    install_inside desktop-file-utils libglib2.0-bin shared-mime-info
+    # What every desktop has: it tells a file's type, and which program opens it; and what starts the machine, which is never removed
+    # again once it is there.
+    install_inside --no-install-recommends desktop-file-utils libglib2.0-bin shared-mime-info systemd-sysv
     before=$(every_file)
     packages=$(packages_inside)
     ! chroot "$tree" sh -c 'command -v cc g++ gcc' || stop "The tree has a compiler."
@@ -185,7 +194,7 @@ try_package() {
     started=$SECONDS
     install_inside /tmp/velmor.deb
     say "$((SECONDS - started)) seconds to install, $(packages_inside |
-        comm -13 <(echo "$packages") - | wc -l) packages with it"
+        comm -13 <(echo "$packages") - | wc -l) packages; $(grep -E '^(Need to get|After this)' "$folder/install.log" | tail -n 2 | xargs)"
     (inside velmor --version) </dev/null
     (inside velmor-walk /dev/stdin) <<<'new Form2' | tail -n 1
     virtual_display_out_here
@@ -203,16 +212,45 @@ try_package() {
     say "Removed without a trace; other packages left $(wc -l <"$folder/traces.list") files of their own"
 }
 
+print_dialog_is_there() {
+    xdotool search --onlyvisible --name '^(Imprimir|Print)' >/dev/null 2>&1
+}
+
+printed_inside() {
+    find "$tree/home/student" -name '*.pdf' -size +1k | grep -q .
+}
+
+# A guide, from the sheet that stands in front to a file in the student's home.
+print_inside() {
+    xdotool key ctrl+g
+    # The editor opens in its own time; before that the key is nobody's.
+    for _ in {1..30}; do
+        xdotool key ctrl+p
+        ! until_true 2 print_dialog_is_there || break
+    done
+    print_dialog_is_there || stop "The dialog for printing does not come, see $folder/portable.log"
+    import -silent -window root "$folder/print.png"
+    xdotool key Return
+    until_true 60 printed_inside || stop "Nothing was printed, see $folder/print.png"
+    say "Printed $(find "$tree/home/student" -name '*.pdf' -printf '%f, %k KB\n')"
+}
+
 try_portable() {
-    local archive=$1
+    local archive=$1 started
     make_tree
     add_student
     tar -xJf "$archive" -C "$tree/opt"
     chmod -R a-w "$tree/opt"
     ! find "$tree" -xdev -name 'libQt*' -not -path "$tree/opt/*" | grep . || stop "The tree has Qt."
     virtual_display_out_here
-    show_inside portable 'no sabe vivir' "/opt/$(ls "$tree/opt")/velmor" /home/student/bajo.BCC
-    show_inside portable-again 'no sabe vivir' "/opt/$(ls "$tree/opt")/velmor"
+    started=/opt/$(ls "$tree/opt")/velmor
+    start_inside portable 'no sabe vivir' "$started" /home/student/bajo.BCC
+    print_inside
+    end_inside
+    show_inside portable-again 'no sabe vivir' "$started"
+    # A stick with the FAT file system knows no programs.
+    find "$tree/opt" -type f -exec chmod a-x {} +
+    show_inside portable-stick 'no sabe vivir' sh "$started"
 }
 
 ask_package_manager

@@ -4,7 +4,8 @@
 #
 #   tools/package.sh [FOLDER]     leaves velmor_VERSION_ARCHITECTURE.deb in FOLDER, build/package without it
 #
-# WEB=https://... tells where the project is published; the software centre looks for its pictures there.
+# WEB=https://... tells where the project is published and its pictures (docs/*.png) stand, for the software centre. Without it
+# the package names no place.
 set -euo pipefail
 # shellcheck source=tools/steps.sh
 source "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/steps.sh"
@@ -13,7 +14,7 @@ made=$root/build/package
 folder=$(realpath -m -- "${1:-$made}")
 install_packages build package
 configure package
-[[ -z ${WEB:-} ]] || cmake -DVELMOR_WEB="$WEB" "$made" >/dev/null
+cmake -DVELMOR_WEB="${WEB:-}" "$made" >/dev/null
 build package
 
 say "Packing"

@@ -10,7 +10,7 @@ source "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/steps.sh"
 
 made=$root/build/package
 folder=$(realpath -m -- "${1:-$made}")
-install_packages build run package
+install_packages build run wayland package
 build package
 version=$(sed -n 's/^project(Velmor VERSION \([0-9.]*\).*/\1/p' "$root/CMakeLists.txt")
 name=velmor-$version
@@ -19,7 +19,8 @@ lib=$tree/lib
 plugins=$(qtpaths6 --query QT_INSTALL_PLUGINS)
 translations=$(qtpaths6 --query QT_INSTALL_TRANSLATIONS)
 # What Qt loads by name: the screen, dead keys, input methods, printers, pictures.
-wanted_plugins=(platforms/libqxcb.so platforminputcontexts/libcomposeplatforminputcontextplugin.so
+wanted_plugins=(platforms/libqxcb.so platforms/libqwayland-generic.so wayland-shell-integration/libxdg-shell.so
+    wayland-decoration-client/libbradient.so platforminputcontexts/libcomposeplatforminputcontextplugin.so
     platforminputcontexts/libibusplatforminputcontextplugin.so printsupport/libcupsprintersupport.so imageformats/libqsvg.so
     imageformats/libqjpeg.so iconengines/libqsvgicon.so)
 wanted_fonts=(DejaVuSans.ttf DejaVuSans-Bold.ttf DejaVuSansMono.ttf DejaVuSansMono-Bold.ttf texgyretermes-regular.otf
@@ -47,12 +48,17 @@ for font in "${wanted_fonts[@]}"; do
 done
 install -m 644 "$translations/qtbase_es.qm" "$lib/translations/"
 printf '[Paths]\nPrefix=.\nPlugins=plugins\nTranslations=translations\n' >"$lib/qt.conf"
+# The machine's own choice of typefaces comes first; where it makes none, texts of even letters keep them.
 cat >"$lib/fonts/fonts.conf" <<'END'
 <?xml version="1.0"?>
 <!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
 <fontconfig>
   <include ignore_missing="yes">/etc/fonts/fonts.conf</include>
   <dir prefix="relative">.</dir>
+  <alias><family>Courier New</family><default><family>monospace</family></default></alias>
+  <alias><family>monospace</family><prefer><family>DejaVu Sans Mono</family></prefer></alias>
+  <alias><family>sans-serif</family><prefer><family>DejaVu Sans</family></prefer></alias>
+  <alias><family>serif</family><prefer><family>TeX Gyre Termes</family></prefer></alias>
   <cachedir prefix="xdg">fontconfig</cachedir>
 </fontconfig>
 END

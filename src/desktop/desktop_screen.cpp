@@ -25,10 +25,14 @@ namespace velmor::desktop {
 
 namespace desktop_screen_detail {
 
-/// Where a person looks for what they have written; the program's folder where there is no such place.
+/// Where a person looks for what they have written; the program's folder where there is no such place. That one may lie on a stick
+/// that is locked.
 QString documentsOf(const FolderPlaces& places, const std::string& programFolder)
 {
-    return QDir(places.documents).exists() ? places.documents : shown(programFolder);
+    for (const QString& folder : {places.documents, shown(programFolder)})
+        if (QFileInfo(folder).isWritable())
+            return folder;
+    return QDir::homePath();
 }
 
 } // namespace desktop_screen_detail

@@ -98,7 +98,9 @@ FileProposal proposalFor(host::Window* asking, const host::FileDialog& dialog, c
 
 FileProposal proposalForPrint(host::Window* asking, const host::SettingsStore& settings, const QString& documents)
 {
-    FileProposal proposal{.sort = FileSort::print, .folder = folderOf(settings, FileSort::print, documents)};
+    // The dialog for printing has no look at the folder.
+    const QString last = folderOf(settings, FileSort::print, documents);
+    FileProposal proposal{.sort = FileSort::print, .folder = QFileInfo(last).isWritable() ? last : documents};
     if (asking != nullptr)
         proposal.name = nameOf(*asking);
     if (proposal.name.isEmpty())

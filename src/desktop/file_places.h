@@ -28,7 +28,7 @@ struct FileProposal {
 /// else the dialog's own; a new report begins in `documents`, not among the guides.
 FileProposal proposalFor(host::Window* asking, const host::FileDialog& dialog, const host::SettingsStore& settings,
                          const QString& documents);
-/// For what `asking` prints into a file.
+/// For what `asking` prints into a file: beside the last one, if that folder may still be written, else in `documents`.
 FileProposal proposalForPrint(host::Window* asking, const host::SettingsStore& settings, const QString& documents);
 
 /// The file of that sort has been chosen: the next dialog begins beside it.

@@ -132,6 +132,15 @@ TEST_F(FilePlacesTest, whatIsPrintedIsProposedUnderTheNameOfItsDesign)
     EXPECT_EQ(QDir(QFileInfo(name).path()).canonicalPath(), documents());
 }
 
+TEST_F(FilePlacesTest, whatIsPrintedGoesHomeWhereNeitherDocumentsNorProgramsFolderCanBeWritten)
+{
+    host::Window& editor = showReport();
+    ASSERT_TRUE(QDir(on.folder.path()).removeRecursively());
+    seeDialog();
+    on.engine.userMenu(editor, editors::mnuImprimir);
+    EXPECT_EQ(QFileInfo(name).path(), QDir::homePath());
+}
+
 TEST_F(FilePlacesTest, dialogsSpeakTheLanguageOfTheMomentAlsoAfterASwitch)
 {
     save();
