@@ -123,7 +123,7 @@ TEST(Check, neverSimulatesANegativeResistor)
     Answering simulator(done({}));
     const Check check = checkDesign(negative, simulator);
     EXPECT_EQ(check.end, CheckEnd::impossible);
-    EXPECT_EQ(check.excuse.en, "Res: not simulated: a value is zero or negative");
+    EXPECT_EQ(check.excuse.en, "Res: not simulated, because its value is zero or negative.");
     EXPECT_FALSE(swingOf(negative, simulator, 1).peakToPeak);
     EXPECT_EQ(simulator.runs, 0);
 }
