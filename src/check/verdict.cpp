@@ -16,6 +16,9 @@ constexpr double oneDecibel = 1.0;
 constexpr double bentDistortion = 10.0; // %; what counts as clean power has less
 constexpr double lightLoad = 0.9; ///< of Eg must arrive for a load to be called light
 
+constexpr host::BiText judgements[]{{"coincide", "agrees"},         {"difiere", "differs"}, {"no se alcanza", "not reached"},
+                                    {"sin explicar", "unexplained"}, {"medido", "measured"}, {"sin simular", "not simulated"}};
+
 std::string fixedText(double value, int digits)
 {
     std::array<char, 64> text{};
@@ -270,6 +273,11 @@ std::string stepText(const Row& row, std::size_t rung)
     const std::string amount =
         isGain ? verdict_detail::fixedText(step, 2) + " dB" : verdict_detail::fixedText(percent, 1) + " %";
     return step > 0 && amount.front() != '0' ? '+' + amount : amount;
+}
+
+const host::BiText& judgementText(Judgement judgement)
+{
+    return verdict_detail::judgements[static_cast<std::size_t>(judgement)];
 }
 
 std::string sentence(std::string_view reason)

@@ -13,6 +13,9 @@ std::string amountText(double value, std::string_view unit);
 /// What a rung of the row's ladder does to the figure: dB of a gain, per cent of anything else, with its sign.
 std::string stepText(const Row& row, std::size_t rung);
 
+/// A judgement in a word or two.
+const host::BiText& judgementText(Judgement judgement);
+
 /// A reason where it begins a line: its first letter raised.
 std::string sentence(std::string_view reason);
 

@@ -44,7 +44,9 @@ private:
 
     CheckWindow* make(host::Window& sheet);
     bool toReport(host::Window& sheet, const QString& text);
-    QPlainTextEdit* openReport() const;
+    std::string_view editorName() const;
+    void writeReport(host::Window& sheet);
+    QPlainTextEdit* reportOf(const host::Window& sheet) const;
 
     Desk& desk_;
     WindowKeeper& keeper_;

@@ -25,13 +25,6 @@ QLabel* plainLabel(const char* name)
     return label;
 }
 
-QString capitalised(QString text)
-{
-    if (!text.isEmpty())
-        text[0] = text[0].toUpper();
-    return text;
-}
-
 std::size_t indexOf(check::Guess guess)
 {
     return static_cast<std::size_t>(guess);
@@ -148,7 +141,7 @@ void RowPanel::askFor(const check::Row& row)
 
 void RowPanel::tellOf(const check::Row& row)
 {
-    verdict_->setText(capitalised(check_words::minus(in(row.verdict, checked_.english))));
+    verdict_->setText(check_words::prose(shown(check::sentence(row.verdict.in(checked_.english)))));
     outcome_->setText(outcomeOf(row));
 }
 

@@ -2,6 +2,7 @@
 #include "desktop/check/plots.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include <QPainter>
@@ -137,11 +138,11 @@ void WavePlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look
     if (!swing.input.values.empty())
         paper.paintCurve(curveOf(swing.input, magnified(), check::mean(swing.output)), look.inks->quiet, thin);
     paper.paintCurve(curveOf(swing.output, 1, 0), look.inks->accent, strong);
-    const QString legend =
-        in(check_words::inputTimes, look.english).arg(check_words::amount(magnified(), "")) + QLatin1Char('\n') +
-        in(check_words::thdAmount, look.english)
-            .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%"));
-    paper.paintLegend(legend);
+    const QString times = in(check_words::inputTimes, look.english).arg(check_words::amount(magnified(), ""));
+    const QString output = in(check_words::thdAmount, look.english)
+                               .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%"));
+    paper.paintKeys(std::array{PlotKey{look.inks->quiet, PlotKey::Sign::line, times},
+                               PlotKey{look.inks->accent, PlotKey::Sign::line, output}});
     if (place)
         paper.paintReading(x.valueAt(*place), reading(*place));
 }
