@@ -272,7 +272,7 @@ std::string stepText(const Row& row, std::size_t rung)
     // Steps are compared with each other: as many digits behind the point for all.
     const std::string amount =
         isGain ? verdict_detail::fixedText(step, 2) + " dB" : verdict_detail::fixedText(percent, 1) + " %";
-    return step > 0 && amount.front() != '0' ? '+' + amount : amount;
+    return step > 0 && !amount.starts_with("0 ") ? '+' + amount : amount;
 }
 
 const host::BiText& judgementText(Judgement judgement)

@@ -261,7 +261,9 @@ void CheckWindow::followPages()
     const bool isDriven = std::any_of(parts.begin(), parts.end(), [](const check::Part& part) {
         return part.kind == check::PartKind::generator;
     });
-    pages_->setTabVisible(pages_->indexOf(curves_), isDriven);
+    const bool hasCurves = isDriven || checked_.design.table == nullptr;
+    if (const int page = pages_->indexOf(curves_); pages_->isTabVisible(page) != hasCurves)
+        pages_->setTabVisible(page, hasCurves);
     curves_->follow();
     QStringList lines{in(check_words::assumedHead, english)};
     if (checked_.design.table != nullptr)

@@ -99,6 +99,8 @@ QWidget* CheckWindow::makePages()
     fixed.setPointSizeF(font().pointSizeF());
     netlist_->setFont(fixed);
     details_ = makeText("checkDetails");
+    details_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    details_->setFont(fixed);
     for (QWidget* page : std::initializer_list<QWidget*>{curves_, assumed_, netlist_, details_})
         pages_->addTab(page, QString());
     return pages_;

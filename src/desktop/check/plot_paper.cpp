@@ -170,14 +170,19 @@ void PlotPaper::paintLevel(double y, const QString& name, const QColor& ink, Edg
     const double height = at(x_.from, y).y();
     painter_.setPen(QPen(ink, 1.2, Qt::DashLine));
     painter_.drawLine(QPointF(field_.left(), height), QPointF(field_.right(), height));
-    painter_.setPen(ink);
     const double lines = 1.3 * look_.letters;
-    const QRectF room(field_.left() + 4, above ? height - lines - 1 : height + 1, field_.width() - 8, lines);
+    const bool fitsAbove = height - lines - 1 >= field_.top();
+    const QRectF room(field_.left() + 4, above && fitsAbove ? height - lines - 1 : height + 1, field_.width() - 8, lines);
     // What stands behind the last comma is said by the ink too: it goes first where room is scarce.
-    const bool fits = QFontMetricsF(interfaceFont(look_.letters)).horizontalAdvance(name) <= room.width();
-    const QString shortName = fits ? name : name.section(QLatin1Char(','), 0, -2);
-    painter_.drawText(room, (edge == Edge::left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter,
-                      shortName.isEmpty() ? name : shortName);
+    const QFontMetricsF letters(interfaceFont(look_.letters));
+    const bool fits = letters.horizontalAdvance(name) <= room.width() || !name.contains(QLatin1Char(','));
+    const QString text = fits ? name : name.section(QLatin1Char(','), 0, -2);
+    const auto how = (edge == Edge::left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
+    QColor ground = look_.inks->field;
+    ground.setAlphaF(0.8F);
+    painter_.fillRect(painter_.boundingRect(room, how, text).adjusted(-2, 0, 2, 0), ground);
+    painter_.setPen(ink);
+    painter_.drawText(room, how, text);
 }
 
 void PlotPaper::paintPlace(double x, const QColor& ink) const
@@ -204,7 +209,7 @@ void PlotPaper::paintKeys(std::span<const PlotKey> keys) const
     double widest = 0;
     for (const PlotKey& key : keys)
         widest = std::max(widest, letters.horizontalAdvance(key.text));
-    const double sign = 1.6 * look_.letters;
+    const double sign = 1.9 * look_.letters;
     QRectF box(0, 0, std::min(widest + sign + gap, field_.width() - 2), line * static_cast<double>(keys.size()) + gap);
     box.moveBottomRight(field_.bottomRight() - QPointF(gap / 2, gap / 2));
     QColor ground = look_.inks->field;

@@ -23,6 +23,7 @@ constexpr int padding = 8;
 constexpr int barWidth = 4;
 constexpr int fewestLetters = 8;
 constexpr double symbolLetters = 3.9; ///< width of the symbols, in heights of the letters
+constexpr double leastName = 3.0;     ///< of room in heights of the letters; less shows nothing but dots
 constexpr double quietGround = 0.55;  ///< ink of rows from before
 
 } // namespace rows_table_detail
@@ -66,8 +67,12 @@ public:
     {
         if (orientation != Qt::Horizontal)
             return {};
-        if (role == Qt::DisplayRole)
-            return check_words::in(check_words::columns[section], checked_.english);
+        if (role == Qt::DisplayRole) {
+            // The header keeps no distance of its own from the next column.
+            const QString name = check_words::in(check_words::columns[section], checked_.english);
+            const bool isAmount = section != quantityColumn && section != verdictColumn;
+            return isAmount ? name + QString(2, QChar(QChar::Nbsp)) : QString(1, QChar(QChar::Nbsp)) + name;
+        }
         if (role == Qt::TextAlignmentRole)
             return data(index(0, section), role);
         return {};
@@ -163,6 +168,8 @@ private:
         painter.setPen(inks_->ink);
         drawLabel(painter, label, QPointF(room.left(), room.center().y() + label.capHeight / 2.0));
         room.setLeft(room.left() + qRound(letters * symbolLetters));
+        if (room.width() < letters * leastName)
+            return;
         painter.setPen(inks_->quiet);
         painter.setFont(option.font);
         const QString text = check_words::in(words.meaning, checked_.english);

@@ -134,10 +134,10 @@ void WavePlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look
     if (!hasData() || !isOpen())
         return paper.paintVeil(in(hasData() ? check_words::waveVeil : check_words::noPlot, look.english));
     const check::Swing& swing = checked().swing;
-    paintCeilings(paper, y, look);
     if (!swing.input.values.empty())
         paper.paintCurve(curveOf(swing.input, magnified(), check::mean(swing.output)), look.inks->quiet, thin);
     paper.paintCurve(curveOf(swing.output, 1, 0), look.inks->accent, strong);
+    paintCeilings(paper, y, look);
     const QString times = in(check_words::inputTimes, look.english).arg(check_words::amount(magnified(), ""));
     const QString output = in(check_words::thdAmount, look.english)
                                .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%"));
