@@ -46,7 +46,10 @@ constexpr QuantityText table[] = {
      {"Potencia con esa entrada", "Power at the course's input"}},
     {Quantity::Pclean,    "Pclean",     "W",     Measure::atLeast,
      {"Limpia: 10 % de distorsión", "Clean: 10 % distortion"}},
-    {Quantity::efficiency,"efficiency", "%",     Measure::shown,        {"Rendimiento", "Efficiency"}},
+    {Quantity::efficiency,"efficiency", "%",     Measure::shown,
+     {"Rendimiento de la limpia", "Efficiency of the clean one"}},
+    {Quantity::heat,      "heat",       "W",     Measure::shown,
+     {"Calor con esa entrada", "Heat at the course's input"}},
 };
 // clang-format on
 static_assert(std::size(table) == static_cast<std::size_t>(Quantity::count));

@@ -209,6 +209,17 @@ Words loadWords(double share)
             "a heavy load: " + percent + " of Eg arrives. Rg and Zin share the signal."};
 }
 
+/// What a measured value means that nothing is compared with.
+Words measuredWords(const Row& row)
+{
+    if (row.quantity == Quantity::output)
+        return loadWords(*row.simulated);
+    if (row.quantity == Quantity::heat)
+        return {"medido: es lo que la fuente entrega y no llega a RLw.",
+                "measured: it is what the supply gives and does not reach RLw."};
+    return {"medido", "measured"};
+}
+
 /// A power or a swing may be reached by a wave that nobody wants to hear.
 Words agreement(const Row& row, const Measured& distortion)
 {
@@ -238,7 +249,7 @@ Words verdictOf(const Row& row, const Design& design, const Ceilings& ceilings, 
     case Judgement::unexplained:
         return {"no se pudo explicar: sin veredicto", "could not be explained: no verdict"};
     case Judgement::shown:
-        return row.quantity == Quantity::output ? loadWords(*row.simulated) : Words{"medido", "measured"};
+        return measuredWords(row);
     case Judgement::missing:
         break;
     }

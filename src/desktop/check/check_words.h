@@ -113,7 +113,7 @@ inline std::string_view symbolOf(check::Quantity quantity)
 {
     static constexpr std::string_view symbols[]{"Q_Ic", "Q_Ic2", "Q_Ic3", "Q_Ic4", "Q_Ic5", "Q_Ic6",   "Q_Ic7",
                                                 "V_ce", "V_g",   "Z_in",  "f_L",   "dB_fo", "E_o/E_g", "E_opp",
-                                                "THD",  "ΔQ_Ic", "P_o",   "P_10",  "η"};
+                                                "THD",  "ΔQ_Ic", "P_o",   "P_10",  "η",     "P_Q"};
     static_assert(std::size(symbols) == static_cast<std::size_t>(check::Quantity::count));
     return symbols[static_cast<std::size_t>(quantity)];
 }
