@@ -122,6 +122,7 @@ void CheckWindow::connectParts()
         connect(new QShortcut(keys, this), &QShortcut::activated, this, deed);
     };
     onKey(Qt::Key_F5, [this] { deeds_.again(); });
+    onKey(Qt::Key_F6, [this] { desk().nextPane(); });
     onKey(Qt::CTRL | Qt::Key_T, [this] { deeds_.again(); });
     for (const auto& [key, guess] : {std::pair{Qt::Key_1, check::Guess::lower},
                                      {Qt::Key_2, check::Guess::same},

@@ -80,6 +80,7 @@ inline constexpr BiText waveShape  {"Sube hasta %1 y baja hasta %2; distorsión 
                                     "It goes up to %1 and down to %2; distortion %3. %4"};
 inline constexpr BiText flatTop    {"La cresta está aplastada.", "The crest is flattened."};
 inline constexpr BiText flatBottom {"El valle está aplastado.", "The trough is flattened."};
+inline constexpr BiText bothFlat   {"La cresta y el valle están aplastados.", "The crest and the trough are flattened."};
 inline constexpr BiText roundWave  {"Ambas mitades son casi iguales.", "Both halves are nearly alike."};
 inline constexpr BiText drive      {"En&trada", "&Input"};
 inline constexpr BiText driveName  {"Entrada, en veces la del curso", "Input, in times that of the course"};

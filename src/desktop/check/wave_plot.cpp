@@ -19,6 +19,7 @@ namespace wave_plot_detail {
 constexpr double cyclesSeen = 2;
 constexpr double strong = 2.2; ///< pixels of the curve that counts
 constexpr double thin = 1.2;
+constexpr double bentDistortion = 10; ///< %
 constexpr double legendRoom = 1.35; ///< below the wave, of what it has above
 
 /// The wave between two of its values; its last cycles end with it.
@@ -171,8 +172,10 @@ QString WavePlot::sentence() const
     const double rest = check::mean(wave);
     const double up = highest(wave) - rest;
     const double down = rest - lowest(wave);
+    const bool bent = checked().swing.distortion.value_or(0) > bentDistortion;
     const host::BiText& shape = up < 0.9 * down   ? check_words::flatTop
                                 : down < 0.9 * up ? check_words::flatBottom
+                                : bent            ? check_words::bothFlat
                                                   : check_words::roundWave;
     return in(check_words::waveShape, english)
         .arg(volts(highest(wave)), volts(lowest(wave)), check_words::amount(checked().swing.distortion, "%"),
