@@ -112,4 +112,5 @@ class CheckedDesign(BothLanguages, Journey):
         velmor.reads(self.say(("Resultados de diseño Parafase: ", "Result of Paraphase design: ")), "Rb1 (kohm) = 46.2",
                      self.say(("Zin: difiere, porque el curso deja afuera Rb1", "Zin: differs, because the course leaves Rb1 out")),
                      self.say(("El simulador; sin explicar quedan 0 dB.", "The simulator; left unexplained: 0 dB.")))
+        velmor.key("Escape")
         self.picture("check-reported")

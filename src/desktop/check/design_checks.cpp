@@ -3,9 +3,11 @@
 
 #include <utility>
 
+#include <QApplication>
 #include <QFontMetricsF>
 #include <QPlainTextEdit>
 #include <QSet>
+#include <QTimer>
 
 #include "designs/circuits.h"
 #include "desktop/canvas/finished.h"
@@ -99,6 +101,7 @@ CheckWindow* DesignChecks::make(host::Window& sheet)
                 return chosen ? shown(*chosen) : QString();
             },
         .toReport = [this, &sheet](const QString& text) { return toReport(sheet, text); },
+        .closed = [this] { handBack(); },
     };
     const std::string simulator = desk_.engine->settings().value("Check", "Simulator").value_or("");
     auto* window = new CheckWindow(desk_, simulator, std::move(deeds), keeper_.mainWindow());
@@ -140,8 +143,22 @@ void DesignChecks::gone(const host::Window& sheet)
         return;
     CheckWindow* window = std::exchange(found->second.window, nullptr);
     entries_.erase(found);
+    const bool wasInFront = window->isActiveWindow();
     window->hide();
     window->deleteLater();
+    if (wasInFront)
+        handBack();
+}
+
+/// The keyboard goes back to where the check was asked for, once the window is gone; not every window manager sees to it.
+void DesignChecks::handBack()
+{
+    if (keeper_.mainWindow() == nullptr || desk_.closing)
+        return;
+    QTimer::singleShot(0, keeper_.mainWindow(), [main = keeper_.mainWindow()] {
+        if (QApplication::activeWindow() == nullptr)
+            main->activateWindow();
+    });
 }
 
 // The report of this sheet if one is open; otherwise the sheet's own tool opens one, with what it writes.

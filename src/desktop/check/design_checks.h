@@ -42,6 +42,7 @@ private:
         unsigned stirrings = 0;
     };
 
+    void handBack();
     CheckWindow* make(host::Window& sheet);
     bool toReport(host::Window& sheet, const QString& text);
     std::string_view editorName() const;

@@ -95,7 +95,7 @@ private:
         const bool english = checked_.english;
         switch (column) {
         case quantityColumn:
-            return check_words::in(words.meaning, english);
+            return check_words::minus(check_words::in(words.meaning, english));
         case askedColumn:
             return check_words::amount(row.asked, words.unit);
         case courseColumn:
@@ -172,7 +172,7 @@ private:
             return;
         painter.setPen(inks_->quiet);
         painter.setFont(option.font);
-        const QString text = check_words::in(words.meaning, checked_.english);
+        const QString text = check_words::minus(check_words::in(words.meaning, checked_.english));
         painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
                          option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
     }
