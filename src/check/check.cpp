@@ -22,7 +22,7 @@ constexpr host::BiText asleep{
     "Espera: termine primero el diseño, hasta el último paso y sin avisos. Un diseño leído de un archivo se recorre "
     "otra vez.",
     "It waits: finish the design first, to its last step and without a warning. A design read from a file is walked "
-    "through again."};
+    "through once more."};
 
 /// What was asked in a field; nothing when nobody has left it.
 Measured askedIn(const host::Window& sheet, const QuantityRow& row)
@@ -72,7 +72,8 @@ Words excuseOf(CheckEnd end)
     case CheckEnd::done:
         return {};
     case CheckEnd::impossible:
-        return {"no se simula: un valor es cero o negativo", "not simulated: a value is zero or negative"};
+        return {"no se simula, porque su valor es cero o negativo.",
+                "not simulated, because its value is zero or negative."};
     case CheckEnd::noSimulator:
         return {"No hay simulador: instale el paquete ngspice y compruebe otra vez.",
                 "There is no simulator: install the package ngspice and check again."};
@@ -80,16 +81,16 @@ Words excuseOf(CheckEnd end)
         return {"El simulador terminó con una falla; vea los detalles.",
                 "The simulator ended with a failure; see the details."};
     case CheckEnd::incomplete:
-        return {"El simulador no dio todo lo pedido; falta lo que queda vacío.",
-                "The simulator did not give all it was asked for; what is empty is missing."};
+        return {"El simulador no dio todo lo pedido; lo que falta queda vacío.",
+                "The simulator did not give all it was asked for; what is missing stays empty."};
     case CheckEnd::tooLong:
         return {"El simulador no terminó en cinco segundos y fue detenido.",
                 "The simulator had not finished after five seconds and was ended."};
     case CheckEnd::stopped:
-        return {"Se interrumpió.", "It was interrupted."};
+        return {"La comprobación se interrumpió.", "The check was interrupted."};
     case CheckEnd::tooMuch:
         return {"El simulador escribió más de lo que cabe y fue detenido.",
-                "The simulator wrote more than can be meant and was ended."};
+                "The simulator wrote more than there is room for and was ended."};
     }
     return {};
 }
@@ -154,7 +155,7 @@ void explain(Check& check, const Design& design)
     check.ceilings = ceilingsOf(stage, Vce == nullptr ? std::nullopt : Vce->simulated);
     for (Row& row : check.rows) {
         row.ladder = ladderOf(design, stage, row);
-        judge(row, design, check.ceilings);
+        judge(row, design, check.ceilings, check.swing.distortion);
     }
 }
 

@@ -69,12 +69,12 @@ std::string savedCurrents(const Circuit& circuit)
     return line + '\n';
 }
 
-/// The wave's own steps: two hundred a cycle. The first point that is written may come a step late, so it is asked for earlier.
-std::string waveOrder(double settling)
+/// The first point that is written may come a step late, so it is asked for earlier.
+std::string waveOrder(const Orders& orders)
 {
-    constexpr double step = 1 / waveFrequency / 200;
-    return ".tran " + plainNumber(step) + ' ' + plainNumber(settling + waveSpan) + ' ' +
-           plainNumber(settling - 2 * step) + ' ' + plainNumber(step) + '\n';
+    const double step = 1 / waveFrequency / orders.stepsPerCycle;
+    return ".tran " + plainNumber(step) + ' ' + plainNumber(orders.settling + orders.cycles / waveFrequency) + ' ' +
+           plainNumber(orders.settling - 2 * step) + ' ' + plainNumber(step) + '\n';
 }
 
 std::string ordersOf(const Circuit& circuit, const Orders& orders)
@@ -87,7 +87,7 @@ std::string ordersOf(const Circuit& circuit, const Orders& orders)
     if (orders.response && isDriven)
         lines += ".ac dec 50 0.01 1e6\n";
     if (orders.wave && isDriven)
-        lines += waveOrder(orders.settling);
+        lines += waveOrder(orders);
     if (orders.drift && circuit.drift)
         lines += ".dc temp " + plainNumber(circuit.drift->from) + ' ' + plainNumber(circuit.drift->to) + ' ' +
                  plainNumber(circuit.drift->to - circuit.drift->from) + '\n';

@@ -16,6 +16,8 @@ struct Orders {
     bool drift = true;            ///< operating points at two temperatures, if the circuit has any
     double drive = 1;             ///< times the input that the course worked out
     double settling = 0.02;       ///< s before the wave is looked at
+    int cycles = 10;              ///< of the wave
+    int stepsPerCycle = 200;
     const Part* turned = nullptr; ///< a resistor that is turned from one value to another, ohm
     double turnFrom = 0;
     double turnTo = 0;
@@ -24,9 +26,8 @@ struct Orders {
 
 /// Of the input signal, Hz.
 inline constexpr double waveFrequency = 1000;
-/// What of the wave is looked at, in cycles and s.
+/// What of the wave is looked at.
 inline constexpr int waveCycles = 10;
-inline constexpr double waveSpan = waveCycles / waveFrequency;
 
 /// A number as both simulator and student read it: at most ten digits, "e" and an exponent where due.
 std::string plainNumber(double value);

@@ -14,6 +14,10 @@ namespace velmor::check {
 
 namespace power_detail {
 
+// A search asks for a dozen waves: each as short and as coarse as five harmonics allow.
+constexpr int searchCycles = 4;
+constexpr int searchSteps = 100;
+
 constexpr double stepDown = 0.8; // of the drive, while the wave is not clean
 constexpr double leastDrive = 0.03;
 constexpr double mostDrive = 4;
@@ -26,8 +30,13 @@ constexpr double turnStep = 0.05;
 
 PowerPoint runAt(const Design& design, Simulator& simulator, double drive)
 {
-    const std::string deck = deckOf(design.circuit, {.bias = false, .response = false, .drift = false, .drive = drive});
-    return powerPointOf(design, simulator.run(deck).plots, drive);
+    const Orders orders{.bias = false,
+                        .response = false,
+                        .drift = false,
+                        .drive = drive,
+                        .cycles = searchCycles,
+                        .stepsPerCycle = searchSteps};
+    return powerPointOf(design, simulator.run(deckOf(design.circuit, orders)).plots, drive, searchCycles);
 }
 
 /// Two runs at once: waiting is what a run costs most.
@@ -86,7 +95,7 @@ void setReading(Check& check, Quantity quantity, Measured value)
 
 using namespace power_detail;
 
-PowerPoint powerPointOf(const Design& design, const std::vector<Plot>& plots, double drive)
+PowerPoint powerPointOf(const Design& design, const std::vector<Plot>& plots, double drive, int cycles)
 {
     PowerPoint point{.drive = drive};
     const Plot* plot = plotOf(plots, "Transient Analysis");
@@ -94,9 +103,9 @@ PowerPoint powerPointOf(const Design& design, const std::vector<Plot>& plots, do
     const Part* supply = partOf(design.circuit, "Es");
     if (plot == nullptr || load == nullptr || supply == nullptr)
         return point;
-    const Wave out = waveOf(*plot, "v(" + design.circuit.output + ")", waveFrequency, waveCycles);
-    const Wave base = waveOf(*plot, "v(b)", waveFrequency, waveCycles);
-    const Wave current = waveOf(*plot, "i(ves)", waveFrequency, waveCycles);
+    const Wave out = waveOf(*plot, "v(" + design.circuit.output + ")", waveFrequency, cycles);
+    const Wave base = waveOf(*plot, "v(b)", waveFrequency, cycles);
+    const Wave current = waveOf(*plot, "i(ves)", waveFrequency, cycles);
     if (out.values.empty() || current.values.empty())
         return point;
     const Harmonics harmonics = harmonicsOf(out);
@@ -163,10 +172,12 @@ PowerPoint cleanPoint(const Design& design, Simulator& simulator, const PowerPoi
 
 void measurePower(Check& check, const Design& design, Simulator& simulator, const std::vector<Plot>& plots)
 {
-    const PowerPoint atCourse = powerPointOf(design, plots, 1);
+    const PowerPoint atCourse = powerPointOf(design, plots, 1, waveCycles);
     if (!atCourse.power)
         return;
     setReading(check, Quantity::Pout, atCourse.power);
+    if (atCourse.supplied)
+        setReading(check, Quantity::heat, *atCourse.supplied - *atCourse.power);
     const PowerPoint clean = cleanPoint(design, simulator, atCourse);
     setReading(check, Quantity::Pclean, clean.power);
     if (clean.power && clean.supplied && *clean.supplied > 0)

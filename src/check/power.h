@@ -19,7 +19,7 @@ struct PowerPoint {
 /// The distortion at which power still counts as clean, %.
 inline constexpr double cleanDistortion = 10;
 
-PowerPoint powerPointOf(const Design& design, const std::vector<Plot>& plots, double drive);
+PowerPoint powerPointOf(const Design& design, const std::vector<Plot>& plots, double drive, int cycles);
 
 /// The same design with its preset where the middle stands at half the supply; unchanged where there is none to turn, or no
 /// place for it.
@@ -28,7 +28,7 @@ Design trimmed(const Design& design, Simulator& simulator);
 /// The highest drive at which the wave is clean, from the point at drive 1 on; without power where there is none.
 PowerPoint cleanPoint(const Design& design, Simulator& simulator, const PowerPoint& atCourse);
 
-/// Fills in what only further runs can tell: Pout, Pclean, efficiency, and Vg at half the swing.
+/// Fills in what only further runs can tell: Pout and the heat it costs, Pclean, efficiency, and Vg at half the swing.
 void measurePower(Check& check, const Design& design, Simulator& simulator, const std::vector<Plot>& plots);
 
 } // namespace velmor::check

@@ -31,6 +31,7 @@ enum class Quantity : std::uint8_t {
     Pout,
     Pclean,
     efficiency,
+    heat,
     count,
 };
 

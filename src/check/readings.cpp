@@ -168,6 +168,7 @@ Measured readingOf(const Design& design, const std::vector<Plot>& plots, const S
     case Quantity::Pout:
     case Quantity::Pclean:
     case Quantity::efficiency:
+    case Quantity::heat:
         return std::nullopt;
     default:
         return biasReading(design.circuit, plots, quantity);

@@ -17,8 +17,9 @@ constexpr host::BiText heading{"Magnitud\tPedido\tCurso\tSimulador\tVeredicto",
                                "Quantity\tAsked\tCourse\tSimulator\tVerdict"};
 constexpr host::BiText csvHeading{"magnitud,unidad,pedido,curso,simulador,resto dB,veredicto",
                                   "quantity,unit,asked,course,simulator,remainder dB,verdict"};
-constexpr host::BiText fromCourse{"Del curso al simulador: ", "From the course to the simulator: "};
-constexpr host::BiText remainder{"Resto", "Remainder"};
+constexpr host::BiText fromCourse{", del curso al simulador:", ", from the course to the simulator:"};
+constexpr host::BiText course{"El curso.", "The course."};
+constexpr host::BiText measured{"El simulador; sin explicar quedan ", "The simulator; left unexplained: "};
 constexpr host::BiText assumed{"Supuesto: ", "Assumed: "};
 
 std::string_view pick(const host::BiText& text, bool english)
@@ -35,20 +36,33 @@ std::string rowLine(const Row& row, bool english)
 {
     const QuantityText& text = textOf(row.quantity);
     return std::string(text.name) + '\t' + cell(row.asked, text.unit) + '\t' + cell(row.course, text.unit) + '\t' +
-           cell(row.simulated, text.unit) + '\t' + row.verdict.in(english) + std::string(lineEnd);
+           cell(row.simulated, text.unit) + '\t' + std::string(pick(judgementText(row.judgement), english)) +
+           std::string(lineEnd);
+}
+
+/// What the verdict says beyond the word that stands in the row.
+std::string verdictLine(const Row& row, bool english)
+{
+    const std::string& verdict = row.verdict.in(english);
+    if (verdict == pick(judgementText(row.judgement), english))
+        return {};
+    return std::string(textOf(row.quantity).name) + ": " + verdict + std::string(lineEnd);
 }
 
 std::string ladderLines(const Row& row, bool english)
 {
     const QuantityText& text = textOf(row.quantity);
     std::string lines(lineEnd);
-    lines += std::string(pick(fromCourse, english)) + std::string(text.name) + " = " +
-             amountText(row.ladder.start, text.unit) + std::string(lineEnd);
+    const auto add = [&](double value, const std::string& step, const std::string& reason) {
+        lines += amountText(value, text.unit) + '\t' + step + '\t' + reason + std::string(lineEnd);
+    };
+    lines += std::string(text.name) + std::string(pick(fromCourse, english)) + std::string(lineEnd);
+    add(row.ladder.start, "", std::string(pick(course, english)));
     for (std::size_t i = 0; i < row.ladder.rungs.size(); ++i)
-        lines += amountText(row.ladder.rungs[i].value, text.unit) + " (" + stepText(row, i) + ")\t" +
-                 std::string(pick(row.ladder.rungs[i].reason, english)) + std::string(lineEnd);
-    return lines + std::string(pick(remainder, english)) + ": " + amountText(row.ladder.remainder(), "dB") +
-           std::string(lineEnd);
+        add(row.ladder.rungs[i].value, stepText(row, i), sentence(pick(row.ladder.rungs[i].reason, english)));
+    add(row.ladder.measured, "",
+        std::string(pick(measured, english)) + amountText(row.ladder.remainder(), "dB") + '.');
+    return lines;
 }
 
 std::string csvField(std::string_view text)
@@ -75,9 +89,13 @@ std::string textTable(const Check& check, const Design& design, bool english)
     std::string text = std::string(pick(heading, english)) + std::string(lineEnd);
     for (const Row& row : check.rows)
         text += rowLine(row, english);
+    text += lineEnd;
+    for (const Row& row : check.rows)
+        text += verdictLine(row, english);
     for (const Row& row : check.rows)
         if (!row.ladder.rungs.empty())
             text += ladderLines(row, english);
+    text += lineEnd;
     for (const host::BiText& assumption : design.table->assumed)
         text += std::string(pick(assumed, english)) + std::string(pick(assumption, english)) + std::string(lineEnd);
     if (!check.excuse.en.empty())

@@ -13,7 +13,11 @@ namespace verdict_detail {
 
 constexpr double tenth = 0.1;
 constexpr double oneDecibel = 1.0;
+constexpr double bentDistortion = 10.0; // %; what counts as clean power has less
 constexpr double lightLoad = 0.9; ///< of Eg must arrive for a load to be called light
+
+constexpr host::BiText judgements[]{{"coincide", "agrees"},         {"difiere", "differs"}, {"no se alcanza", "not reached"},
+                                    {"sin explicar", "unexplained"}, {"medido", "measured"}, {"sin simular", "not simulated"}};
 
 std::string fixedText(double value, int digits)
 {
@@ -86,6 +90,8 @@ Judgement judgementOf(const Row& row, const Ceilings& ceilings)
     return measure == Measure::atLeast || measure == Measure::atMost ? Judgement::notReached : Judgement::differs;
 }
 
+// Reasons begin small, as they go on behind "because"; who puts one at the beginning of a line raises its first letter.
+
 /// Why the power does not come out: the current that the outputs can get, or the driver that bends first.
 Words powerReason(const Row& row, const Design& design)
 {
@@ -96,14 +102,52 @@ Words powerReason(const Row& row, const Design& design)
     const std::string needed = amountText(peak, "A");
     if (design.mostPeak > 0 && design.mostPeak < peak) {
         const std::string most = amountText(design.mostPeak, "A");
-        return {"Ibias x Beta da " + most + " y la corriente pico pide " + needed + ".",
-                "Ibias x Beta gives " + most + ", and the peak current asks for " + needed + "."};
+        return {"Ibias x Beta da " + most + ", y la corriente pico tiene que ser de " + needed + ".",
+                "Ibias x Beta gives " + most + ", and the peak current must be " + needed + "."};
     }
-    return {"Q1 debe mover casi toda su corriente de reposo: su r'e cambia con la señal, y la onda se dobla antes que "
-            "la salida.",
-            "Q1 must swing nearly its whole quiescent current: its r'e changes with the signal, and the wave bends "
-            "before the "
-            "output does."};
+    return {"Q1 tiene que mover casi toda su corriente de reposo: su r'e cambia con la señal y dobla la onda antes de "
+            "que la salida llegue a su límite.",
+            "Q1 must swing nearly its whole quiescent current: its r'e changes with the signal and bends the wave "
+            "before the output comes to its limit."};
+}
+
+/// Why a class B stage amplifies otherwise than the course says, at half the swing.
+Words powerGainReason(const Row& row, const Design& design)
+{
+    const auto Eopp = std::find_if(design.rows.begin(), design.rows.end(),
+                                   [](const Expected& other) { return other.quantity == Quantity::Eopp; });
+    const Part* load = partOf(design.circuit, "RLw");
+    const bool isSmaller = row.simulated.value_or(0) < row.course.value_or(0);
+    if (isSmaller && design.mostPeak > 0 && load != nullptr && Eopp != design.rows.end() && Eopp->course) {
+        const double peak = *Eopp->course / 4 / load->value;
+        const std::string needed = amountText(peak, "A");
+        const std::string most = amountText(design.mostPeak, "A");
+        if (peak > design.mostPeak)
+            return {"ya a media excursión la corriente pico tendría que ser de " + needed + ", e Ibias x Beta da " +
+                        most + ": la onda queda recortada.",
+                    "even at half the swing the peak current would have to be " + needed + ", and Ibias x Beta gives " +
+                        most + ": the wave is clipped."};
+    }
+    if (isSmaller)
+        return {"a media excursión, el cruce por cero se queda con una parte de la ganancia.",
+                "at half the swing, the crossover keeps a part of the gain."};
+    return {"el curso cuenta RLa como carga de Q1; por el bootstrap está a la salida, y Q1 casi no la ve.",
+            "the course counts RLa as a load of Q1; by the bootstrap it hangs at the output, and Q1 hardly sees it."};
+}
+
+/// Why a small-signal stage does not swing as far as it was asked to.
+Words swingReason(const Row& row, const Ceilings& ceilings)
+{
+    if (!isBent(row, ceilings))
+        return {"la ganancia es menor que la del curso; vea Vg.", "the gain is less than the course's; see Vg."};
+    if (ceilings.cutOffIsNearer()) {
+        const std::string cutOff = amountText(ceilings.cutOff, "V");
+        return {"la onda se dobla porque QIc x RLac es " + cutOff + ".",
+                "the wave bends because QIc x RLac is " + cutOff + "."};
+    }
+    const std::string saturation = amountText(ceilings.saturation, "V");
+    return {"la onda se dobla porque el transistor se satura: Vce deja " + saturation + ".",
+            "the wave bends because the transistor saturates: Vce leaves " + saturation + "."};
 }
 
 /// The reason that a row without a ladder may have.
@@ -113,53 +157,41 @@ Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
     const bool isPower = design.table->stage == StageKind::other;
     switch (row.quantity) {
     case Quantity::dBfo:
-        return {"Una décima en reactancia no es una décima en ganancia: la suya da " + amount + " a fo.",
-                "A tenth in reactance is not a tenth in gain: yours gives " + amount + " at fo."};
+        return {"una décima en reactancia no es una décima en ganancia: la suya da " + amount + " a fo.",
+                "a tenth in reactance is not a tenth in gain: yours gives " + amount + " at fo."};
     case Quantity::fL:
-        return {"Cada capacitor quita su parte, y las partes se suman: a -3 dB se llega recién en " + amount + ".",
-                "Each capacitor takes its share, and the shares add up: -3 dB are met only at " + amount + "."};
+        return {"cada capacitor quita su parte, y las partes se suman: a -3 dB se llega ya en " + amount + ".",
+                "each capacitor takes its share, and the shares add up: -3 dB are met already at " + amount + "."};
     case Quantity::Vg:
-        return {
-            "A media excursión el cruce por cero y la corriente que cambia con la señal quitan o agregan ganancia.",
-            "At half the swing the crossing of zero, and a current that changes with the signal, take or add gain."};
-    case Quantity::Eopp: {
-        if (isPower)
-            return powerReason(row, design);
-        const double cutOff = ceilings.cutOff;
-        if (!isBent(row, ceilings))
-            return {"La ganancia es menor que la del curso: vea Vg.", "The gain is less than the course's: see Vg."};
-        if (ceilings.cutOffIsNearer())
-            return {"La onda se dobla porque QIc x RLac es " + amountText(cutOff, "V") + ".",
-                    "The wave bends because QIc x RLac is " + amountText(cutOff, "V") + "."};
-        return {"La onda se dobla porque el transistor satura: Vce deja " + amountText(ceilings.saturation, "V") + ".",
-                "The wave bends because the transistor saturates: Vce leaves " + amountText(ceilings.saturation, "V") +
-                    "."};
-    }
+        return powerGainReason(row, design);
+    case Quantity::Eopp:
+        return isPower ? powerReason(row, design) : swingReason(row, ceilings);
     case Quantity::Pout:
     case Quantity::Pclean:
         return powerReason(row, design);
     case Quantity::drift:
-        return {"La tensión sobre Res no alcanza para tanto corrimiento de Vbe.",
-                "The voltage across Res is too small for so much drift of Vbe."};
+        return {"la tensión sobre Res es poca para tanto corrimiento de Vbe.",
+                "the voltage across Res is too small for so much drift of Vbe."};
     default:
         break;
     }
     if (isPower)
-        return {"El curso cuenta 0.6 V por juntura; las del simulador siguen a su corriente.",
-                "The course counts 0.6 V a junction; those of the simulator follow their current."};
-    return {
-        "El curso cuenta una tensión de juntura fija; la del simulador sigue a la corriente, y la base toma la suya.",
-        "The course counts a fixed junction voltage; that of the simulator follows the current, and the base takes its "
-        "own."};
+        return {"el curso cuenta 0.6 V por juntura, y en el simulador cada juntura sigue a su corriente.",
+                "the course counts 0.6 V a junction, and in the simulator each junction follows its current."};
+    return {"el curso cuenta una tensión de juntura fija; en el simulador sigue a la corriente, y la base toma la suya.",
+            "the course counts a fixed junction voltage; in the simulator it follows the current, and the base takes its "
+            "own."};
 }
 
 /// What the ladder says: its highest rung, and where that leads.
 Words reasonOfLadder(const Row& row)
 {
     const Rung& rung = *row.ladder.highest();
-    const std::string amount = amountText(*row.simulated, textOf(row.quantity).unit);
-    return {std::string(rung.reason.es) + " El simulador mide " + amount + ".",
-            std::string(rung.reason.en) + " The simulator measures " + amount + "."};
+    const std::string_view unit = textOf(row.quantity).unit;
+    const std::string there = amountText(rung.value, unit);
+    const std::string amount = amountText(*row.simulated, unit);
+    return {std::string(rung.reason.es) + " Así da " + there + "; el simulador mide " + amount + ".",
+            std::string(rung.reason.en) + " That makes " + there + "; the simulator measures " + amount + "."};
 }
 
 Words because(const Row& row, const Design& design, const Ceilings& ceilings)
@@ -172,30 +204,52 @@ Words loadWords(double share)
 {
     const std::string percent = amountText(100 * share, "%");
     if (share >= lightLoad)
-        return {"carga liviana: llega " + percent + " de Eg.", "a light load: " + percent + " of Eg arrives."};
-    return {"carga pesada: de Eg llega " + percent + ". Rg y Zin se reparten la señal.",
+        return {"carga liviana: llega el " + percent + " de Eg.", "a light load: " + percent + " of Eg arrives."};
+    return {"carga pesada: llega el " + percent + " de Eg. Rg y Zin se reparten la señal.",
             "a heavy load: " + percent + " of Eg arrives. Rg and Zin share the signal."};
 }
 
-Words verdictOf(const Row& row, const Design& design, const Ceilings& ceilings)
+/// What a measured value means that nothing is compared with.
+Words measuredWords(const Row& row)
+{
+    if (row.quantity == Quantity::output)
+        return loadWords(*row.simulated);
+    if (row.quantity == Quantity::heat)
+        return {"medido: es lo que la fuente entrega y no llega a RLw.",
+                "measured: it is what the supply gives and does not reach RLw."};
+    return {"medido", "measured"};
+}
+
+/// A power or a swing may be reached by a wave that nobody wants to hear.
+Words agreement(const Row& row, const Measured& distortion)
+{
+    const bool isPower = row.quantity == Quantity::Pout || row.quantity == Quantity::Eopp;
+    if (!isPower || !distortion || *distortion <= bentDistortion)
+        return {"coincide", "agrees"};
+    const std::string amount = amountText(*distortion, "%");
+    return {"coincide, pero con la onda doblada: " + amount + " de distorsión.",
+            "agrees, but with a bent wave: " + amount + " distortion."};
+}
+
+Words verdictOf(const Row& row, const Design& design, const Ceilings& ceilings, const Measured& distortion)
 {
     const QuantityText& text = textOf(row.quantity);
     switch (row.judgement) {
     case Judgement::agrees:
-        return {"coincide", "agrees"};
+        return agreement(row, distortion);
     case Judgement::differs: {
         const Words reason = because(row, design, ceilings);
-        return {"difiere, porque: " + reason.es, "differs, because: " + reason.en};
+        return {"difiere, porque " + reason.es, "differs, because " + reason.en};
     }
     case Judgement::notReached: {
         const Words reason = because(row, design, ceilings);
         const std::string wanted = amountText(*referenceOf(row), text.unit);
-        return {wanted + " no se alcanza. " + reason.es, wanted + " not reached. " + reason.en};
+        return {"no se alcanzan " + wanted + ": " + reason.es, wanted + " not reached: " + reason.en};
     }
     case Judgement::unexplained:
         return {"no se pudo explicar: sin veredicto", "could not be explained: no verdict"};
     case Judgement::shown:
-        return row.quantity == Quantity::output ? loadWords(*row.simulated) : Words{"medido", "measured"};
+        return measuredWords(row);
     case Judgement::missing:
         break;
     }
@@ -214,7 +268,9 @@ std::string amountText(double value, std::string_view unit)
     const double size = std::abs(shown);
     const int whole = size >= 1 ? static_cast<int>(std::floor(std::log10(size))) + 1 : 0;
     const int leadingZeros = size > 0 && size < 1 ? static_cast<int>(-std::floor(std::log10(size))) - 1 : 0;
-    const int digits = std::clamp(3 - whole + leadingZeros, 0, 9);
+    // Of levels and shares the third digit behind the point says nothing to anybody.
+    const int most = unit == "dB" || unit == "%" ? 2 : 9;
+    const int digits = std::clamp(3 - whole + leadingZeros, 0, most);
     const std::string_view shownUnit = isThousands ? "K" : unit;
     return fixedText(shown, digits) + (shownUnit.empty() ? "" : " " + std::string(shownUnit));
 }
@@ -227,13 +283,26 @@ std::string stepText(const Row& row, std::size_t rung)
     // Steps are compared with each other: as many digits behind the point for all.
     const std::string amount =
         isGain ? verdict_detail::fixedText(step, 2) + " dB" : verdict_detail::fixedText(percent, 1) + " %";
-    return step > 0 && amount.front() != '0' ? '+' + amount : amount;
+    return step > 0 && !amount.starts_with("0 ") ? '+' + amount : amount;
 }
 
-void judge(Row& row, const Design& design, const Ceilings& ceilings)
+const host::BiText& judgementText(Judgement judgement)
+{
+    return verdict_detail::judgements[static_cast<std::size_t>(judgement)];
+}
+
+std::string sentence(std::string_view reason)
+{
+    std::string text(reason);
+    if (!text.empty() && text.front() >= 'a' && text.front() <= 'z')
+        text.front() = static_cast<char>(text.front() - 'a' + 'A');
+    return text;
+}
+
+void judge(Row& row, const Design& design, const Ceilings& ceilings, const Measured& distortion)
 {
     row.judgement = verdict_detail::judgementOf(row, ceilings);
-    row.verdict = verdict_detail::verdictOf(row, design, ceilings);
+    row.verdict = verdict_detail::verdictOf(row, design, ceilings, distortion);
 }
 
 } // namespace velmor::check

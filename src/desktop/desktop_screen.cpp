@@ -13,6 +13,7 @@
 #include <QProcess>
 
 #include "desktop/canvas/document_store.h"
+#include "desktop/check/check_window.h"
 #include "desktop/check/design_checks.h"
 #include "desktop/drawing/texts.h"
 #include "desktop/file_places.h"
@@ -50,6 +51,7 @@ void DesktopScreen::attach(host::Engine& engine)
     desk_.inks = &inksFor(QGuiApplication::palette());
     keeper_ = std::make_unique<WindowKeeper>(desk_);
     desk_.canCheck = DesignChecks::isFor;
+    desk_.checkOf = [this](const host::Window& sheet) -> QWidget* { return checks_ ? checks_->windowOf(sheet) : nullptr; };
     desk_.check = [this](host::Window& sheet) { check(sheet); };
 }
 

@@ -6,12 +6,15 @@
 #include <exception>
 #include <utility>
 
+#include "player/checked.h"
+
 namespace velmor::player {
 
 namespace player_detail {
 
 constexpr std::size_t rememberedEvents = 40;
 constexpr std::uint64_t fieldsLookedAt = 16; // every so many events
+constexpr std::uint64_t designsLookedAt = 3;
 constexpr int slotsWithoutEnd = 3000;
 constexpr int questionsWithoutEnd = 300;
 
@@ -173,6 +176,7 @@ void Player::perform(const Deed& deed)
 
 void Player::check()
 {
+    using player_detail::designsLookedAt;
     using player_detail::fieldsLookedAt;
     for (const host::Window* window : engine_->windows())
         if (window->serial() > newestWindow_) {
@@ -186,6 +190,8 @@ void Player::check()
         fault = textFault(*engine_);
     if (fault.empty() && events_ % fieldsLookedAt == 0)
         fault = fieldFault(*engine_);
+    if (fault.empty() && !engine_->ended() && events_ % designsLookedAt == 0)
+        fault = checkFault(*engine_, checks_);
     if (!fault.empty())
         report(fault);
 }

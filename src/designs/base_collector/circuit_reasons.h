@@ -8,26 +8,26 @@ namespace velmor::base_collector {
 
 // clang-format off
 inline constexpr host::BiText upperLeftOut{
-    "El curso deja afuera Rb1; está en paralelo con la entrada y la baja.",
-    "The course leaves Rb1 out here; it lies beside the input and lowers it."};
+    "el curso deja afuera Rb1, que está en paralelo con la entrada y baja su impedancia.",
+    "the course leaves Rb1 out here; it lies in parallel with the input and lowers its impedance."};
 inline constexpr host::BiText junctionInInput{
-    "El curso deja afuera r'e; por Beta, sube un poco la impedancia de entrada.",
-    "The course leaves r'e out; times Beta it raises the input impedance a little."};
+    "el curso deja afuera r'e, que multiplicada por Beta sube un poco la impedancia de entrada.",
+    "the course leaves r'e out; times Beta it raises the input impedance a little."};
 inline constexpr host::BiText junctionInGain{
-    "El curso deja afuera r'e: está en serie con la carga del emisor y se queda con una parte de la señal.",
-    "The course leaves r'e out: it stands in series with the emitter's load and keeps a part of the signal."};
+    "el curso deja afuera r'e, que está en serie con la carga del emisor y se queda con una parte de la señal.",
+    "the course leaves r'e out; it stands in series with the emitter's load and keeps a part of the signal."};
 inline constexpr host::BiText thermalVolts{
-    "El curso cuenta 25 mV por juntura; a 27 grados son 25.9 mV.",
-    "The course counts 25 mV a junction; at 27 degrees there are 25.9 mV."};
+    "el curso cuenta 25 mV por juntura; a 27 grados son 25.9 mV.",
+    "the course counts 25 mV a junction; at 27 degrees it is 25.9 mV."};
 inline constexpr host::BiText trueCurrent{
-    "El transistor no lleva justo la QIc del diseño: con la corriente verdadera r'e es otra.",
-    "The transistor does not carry exactly the QIc of the design: with the true current r'e is another."};
+    "el transistor no lleva exactamente la QIc del diseño, y con la corriente verdadera r'e cambia.",
+    "the transistor does not carry exactly the designed QIc, and with the true current r'e changes."};
 inline constexpr host::BiText baseCurrentInEmitter{
-    "El emisor lleva también la corriente de base: Beta + 1 partes, no Beta.",
-    "The emitter carries the base current too: Beta + 1 parts, not Beta."};
+    "por el emisor pasa también la corriente de base: Beta + 1 partes, no Beta.",
+    "the emitter carries the base current too: Beta + 1 parts, not Beta."};
 inline constexpr host::BiText noEarlyEffect{
     "Transistores sin efecto Early ni capacidades: no hay corte superior",
-    "Transistors without Early effect and capacitances: no upper corner"};
+    "Transistors without Early effect or capacitances: no upper corner"};
 // clang-format on
 
 } // namespace velmor::base_collector

@@ -57,8 +57,8 @@ constexpr check::RungRow inputRungs[] = {
     {Truth::thermal,         thermalVolts},
     {Truth::current,         trueCurrent},
     {Truth::alpha,           baseCurrentInEmitter},
-    {Truth::emitterResistor, {"El curso deja afuera Res: está en paralelo con r'e.",
-                              "The course leaves Res out: it lies beside r'e."}},
+    {Truth::emitterResistor, {"el curso deja afuera Res, que está en paralelo con r'e.",
+                              "the course leaves Res out; it lies in parallel with r'e."}},
 };
 constexpr host::BiText assumed[] = {
     {"Generador de 0 ohm", "Generator of 0 ohm"},

@@ -58,18 +58,18 @@ constexpr check::QuantityRow quantities[] = {
 };
 
 constexpr check::RungRow gainRungs[] = {
-    {Truth::load,     {"Las dos cargas RLw son iguales, y la ganancia del curso sigue en 1.",
-                       "The two loads RLw are alike, and the course's gain stays at 1."}},
+    {Truth::load,     {"el curso pone una ganancia de 1 sin mirar las cargas; como las dos RLw son iguales, sigue en 1.",
+                       "the course sets a gain of 1 without looking at the loads; as both RLw are alike, it stays 1."}},
     {Truth::junction, junctionInGain},
     {Truth::thermal,  thermalVolts},
     {Truth::current,  trueCurrent},
-    {Truth::alpha,    {"El emisor lleva también la corriente de base; el colector no la tiene, y su salida es un poco menor.",
-                       "The emitter carries the base current too; the collector lacks it, and its output is a little smaller."}},
+    {Truth::alpha,    {"por el emisor pasa también la corriente de base y por el colector no: su salida es un poco menor.",
+                       "the emitter carries the base current too and the collector does not: its output is a little smaller."}},
 };
 constexpr check::RungRow inputRungs[] = {
     {Truth::upperResistor, upperLeftOut},
-    {Truth::load,          {"El curso deja afuera RLw del lado del emisor: con ella, la base ve menos.",
-                            "The course leaves out the RLw at the emitter: with it the base sees less."}},
+    {Truth::load,          {"el curso deja afuera la RLw del emisor; con ella, la base ve una resistencia menor.",
+                            "the course leaves out the RLw at the emitter; with it the base sees a smaller resistance."}},
     {Truth::junction,      junctionInInput},
     {Truth::thermal,       thermalVolts},
     {Truth::current,       trueCurrent},

@@ -41,31 +41,34 @@ constexpr std::array<check::QuantityRow, 9> quantityRows(check::Figure Zin)
 
 // clang-format off
 inline constexpr host::BiText junctionLeftOut{
-    "El curso deja afuera r'e: está en serie con Res y quita su parte de la señal.",
-    "The course leaves r'e out: it stands in series with Res and takes its part of the signal."};
+    "el curso deja afuera r'e, que está en serie con Res y se queda con una parte de la señal.",
+    "the course leaves r'e out; it stands in series with Res and takes its part of the signal."};
+inline constexpr host::BiText junctionInInput{
+    "el curso deja afuera r'e, que multiplicada por Beta sube un poco la impedancia de entrada.",
+    "the course leaves r'e out; times Beta it raises the input impedance a little."};
 inline constexpr host::BiText thermalVolts{
-    "El curso cuenta 25 mV por juntura; a 27 grados son 25.9 mV.",
-    "The course counts 25 mV a junction; at 27 degrees there are 25.9 mV."};
+    "el curso cuenta 25 mV por juntura; a 27 grados son 25.9 mV.",
+    "the course counts 25 mV a junction; at 27 degrees it is 25.9 mV."};
 inline constexpr host::BiText trueCurrent{
-    "El transistor no lleva justo la QIc del diseño: con la corriente verdadera r'e es otra.",
-    "The transistor does not carry exactly the QIc of the design: with the true current r'e is another."};
+    "el transistor no lleva exactamente la QIc del diseño, y con la corriente verdadera r'e cambia.",
+    "the transistor does not carry exactly the designed QIc, and with the true current r'e changes."};
 inline constexpr host::BiText baseCurrentInEmitter{
-    "El emisor lleva también la corriente de base: Res ve Beta + 1 partes, no Beta.",
-    "The emitter carries the base current too: Res sees Beta + 1 parts, not Beta."};
+    "por el emisor pasa también la corriente de base: Res ve Beta + 1 partes, no Beta.",
+    "the emitter carries the base current too: Res sees Beta + 1 parts, not Beta."};
 inline constexpr host::BiText kilohmsAndOhms{
-    "El curso mezcla kilohms y ohms, y Beta x Res casi no cuenta; contada, carga la entrada.",
-    "The course mixes kilohms and ohms, and Beta x Res hardly counts; counted, it loads the input."};
+    "el curso mezcla kilohms con ohms, y así Beta x Res casi no se nota; en una misma unidad, carga la entrada.",
+    "the course mixes kilohms with ohms, so that Beta x Res hardly shows; in one unit it loads the input."};
 inline constexpr host::BiText lowerLeftOut{
-    "El curso deja afuera Rb2; está en paralelo con la entrada y la baja.",
-    "The course leaves Rb2 out here; it lies beside the input and lowers it."};
+    "el curso deja afuera Rb2, que está en paralelo con la entrada y baja su impedancia.",
+    "the course leaves Rb2 out here; it lies in parallel with the input and lowers its impedance."};
 inline constexpr host::BiText upperMixed{
-    "El curso mezcla kilohms y ohms, y Rb1 casi no cuenta; contada, carga la entrada.",
-    "The course mixes kilohms and ohms, and Rb1 hardly counts; counted, it loads the input."};
+    "el curso mezcla kilohms con ohms, y así Rb1 casi no se nota; en una misma unidad, carga la entrada.",
+    "the course mixes kilohms with ohms, so that Rb1 hardly shows; in one unit it loads the input."};
 inline constexpr host::BiText idealGenerator{
     "Generador de 0 ohm", "Generator of 0 ohm"};
 inline constexpr host::BiText noEarlyEffect{
     "Transistores sin efecto Early ni capacidades: no hay corte superior",
-    "Transistors without Early effect and capacitances: no upper corner"};
+    "Transistors without Early effect or capacitances: no upper corner"};
 // clang-format on
 
 inline constexpr auto unbypassedGainRungs = std::to_array<check::RungRow>({

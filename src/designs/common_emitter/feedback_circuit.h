@@ -44,25 +44,25 @@ constexpr std::array<check::QuantityRow, 8> quantityRows()
 
 // clang-format off
 inline constexpr auto gainRungs = std::to_array<check::RungRow>({
-    {Truth::thermal,      {"El curso cuenta 25 mV por juntura; a 27 grados son 25.9 mV.",
-                           "The course counts 25 mV a junction; at 27 degrees there are 25.9 mV."}},
-    {Truth::current,      {"El transistor no lleva justo la QIc del diseño; la ganancia va con la corriente verdadera.",
-                           "The transistor does not carry exactly the QIc of the design; the gain goes with the true current."}},
-    {Truth::feedbackLoad, {"El curso deja afuera que Rb1 también carga al colector.",
-                           "The course leaves out that Rb1 loads the collector too."}},
+    {Truth::thermal,      {"el curso cuenta 25 mV por juntura; a 27 grados son 25.9 mV.",
+                           "the course counts 25 mV a junction; at 27 degrees it is 25.9 mV."}},
+    {Truth::current,      {"el transistor no lleva exactamente la QIc del diseño, y la ganancia sigue a la corriente verdadera.",
+                           "the transistor does not carry exactly the designed QIc, and the gain follows the true current."}},
+    {Truth::feedbackLoad, {"el curso deja afuera que Rb1 carga también al colector.",
+                           "the course leaves out that Rb1 loads the collector too."}},
 });
-inline constexpr host::BiText thermalInput{"El curso cuenta 25 mV por juntura; con 25.9 mV, Beta x r'e es mayor.",
-                                           "The course counts 25 mV a junction; with 25.9 mV Beta x r'e is larger."};
-inline constexpr host::BiText currentInput{"Con la corriente verdadera, Beta x r'e y la ganancia son otras.",
-                                           "With the true current, Beta x r'e and the gain are others."};
-inline constexpr host::BiText loadInput{"Rb1 carga al colector y baja la ganancia, y con ella lo que la entrada ve de Rb1.",
-                                        "Rb1 loads the collector and lowers the gain, and with it what the input sees of Rb1."};
-inline constexpr host::BiText oneMoreInput{"Rb1 se ve 1 + Vg veces menor, no Vg veces: el colector baja mientras la base sube.",
-                                           "Rb1 looks 1 + Vg times smaller, not Vg times: the collector falls while the base rises."};
+inline constexpr host::BiText thermalInput{"el curso cuenta 25 mV por juntura; con 25.9 mV, Beta x r'e es mayor.",
+                                           "the course counts 25 mV a junction; with 25.9 mV, Beta x r'e is larger."};
+inline constexpr host::BiText currentInput{"con la corriente verdadera cambian Beta x r'e y la ganancia.",
+                                           "with the true current, Beta x r'e and the gain change."};
+inline constexpr host::BiText loadInput{"Rb1 carga al colector y baja la ganancia; por eso, desde la entrada, Rb1 se ve mayor.",
+                                        "Rb1 loads the collector and lowers the gain, so that from the input Rb1 looks larger."};
+inline constexpr host::BiText oneMoreInput{"Rb1 se ve 1 + Vg veces menor, no Vg veces: mientras la base sube, el colector baja.",
+                                           "Rb1 looks 1 + Vg times smaller, not Vg times: while the base rises, the collector falls."};
 inline constexpr host::BiText assumptions[] = {
     {"Las mitades de Rb1 son iguales", "The halves of Rb1 are equal"},
     {"Transistores sin efecto Early ni capacidades: no hay corte superior",
-     "Transistors without Early effect and capacitances: no upper corner"},
+     "Transistors without Early effect or capacitances: no upper corner"},
 };
 // clang-format on
 

@@ -31,10 +31,10 @@ constexpr auto oneTransistor = std::to_array<check::TransistorRow>({
 });
 
 constexpr auto inputRungs = std::to_array<check::RungRow>({
-    {Truth::asMeant,       {"El curso pone fo en el lugar de Beta; con la Beta del transistor la entrada es otra.",
-                            "The course puts fo in the place of Beta here; with the transistor's Beta the input is another."}},
-    {Truth::lowerResistor, {"El curso deja casi afuera Rb2; está en paralelo con la entrada y la baja.",
-                            "The course nearly leaves Rb2 out here; it lies beside the input and lowers it."}},
+    {Truth::asMeant,       {"el curso pone fo en el lugar de Beta; con la Beta del transistor, la impedancia de entrada es otra.",
+                            "the course puts fo in the place of Beta here; with the transistor's Beta the input impedance is another."}},
+    {Truth::lowerResistor, {"el curso deja casi afuera Rb2, que está en paralelo con la entrada y baja su impedancia.",
+                            "the course nearly leaves Rb2 out here; it lies in parallel with the input and lowers its impedance."}},
     {Truth::thermal,       thermalInput},
     {Truth::current,       currentInput},
     {Truth::feedbackLoad,  loadInput},

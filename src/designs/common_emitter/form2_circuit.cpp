@@ -30,7 +30,7 @@ constexpr check::PartRow parts[] = {
 
 constexpr auto inputRungs = std::to_array<check::RungRow>({
     {Truth::ownInput, kilohmsAndOhms},
-    {Truth::junction, junctionLeftOut},
+    {Truth::junction, junctionInInput},
     {Truth::thermal,  thermalVolts},
     {Truth::current,  trueCurrent},
     {Truth::alpha,    baseCurrentInEmitter},

@@ -35,8 +35,8 @@ constexpr auto oneTransistor = std::to_array<check::TransistorRow>({
 });
 
 constexpr auto inputRungs = std::to_array<check::RungRow>({
-    {Truth::asMeant,      {"La fórmula con el Rb1 y la ganancia puestos; con Cdp, cada mitad de Rb1 está a masa para la señal.",
-                           "The formula with the Rb1 and the gain in use; with Cdp, each half of Rb1 is grounded for the signal."}},
+    {Truth::asMeant,      {"el curso contó con la Rb1 y la ganancia que él propuso; aquí van las que quedaron, con Rb1 a masa en su mitad si hay Cdp.",
+                           "the course counted with the Rb1 and the gain that it proposed; here are those in use, the middle of Rb1 grounded if there is a Cdp."}},
     {Truth::thermal,      thermalInput},
     {Truth::current,      currentInput},
     {Truth::feedbackLoad, loadInput},

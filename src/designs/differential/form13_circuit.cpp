@@ -80,21 +80,21 @@ constexpr check::QuantityRow quantities[] = {
     {Quantity::drift, host::noControl, 1, {.scale = 7}},
 };
 
-constexpr host::BiText thermalVolts{"El curso cuenta 25 mV por juntura; a 27 grados son 25.9 mV.",
-                                    "The course counts 25 mV a junction; at 27 degrees there are 25.9 mV."};
-constexpr host::BiText trueCurrent{"Los transistores no llevan justo la QIc del diseño: con la corriente verdadera r'e es otra.",
-                                   "The transistors do not carry exactly the QIc of the design: with the true current r'e is another."};
+constexpr host::BiText thermalVolts{"el curso cuenta 25 mV por juntura; a 27 grados son 25.9 mV.",
+                                    "the course counts 25 mV a junction; at 27 degrees it is 25.9 mV."};
+constexpr host::BiText trueCurrent{"los transistores no llevan exactamente la QIc del diseño, y con la corriente verdadera r'e cambia.",
+                                   "the transistors do not carry exactly the designed QIc, and with the true current r'e changes."};
 constexpr check::RungRow gainRungs[] = {
-    {Truth::pairFactor, {"El curso divide por 1.25 y 2.5 x r'e; por las junturas son 1 y 2.",
-                         "The course divides by 1.25 and 2.5 x r'e; by the junctions they are 1 and 2."}},
+    {Truth::pairFactor, {"el curso divide por 1.25 y por 2.5 x r'e; si se cuentan las junturas, son 1 y 2.",
+                         "the course divides by 1.25 and by 2.5 x r'e; counting the junctions, it is 1 and 2."}},
     {Truth::thermal,    thermalVolts},
     {Truth::current,    trueCurrent},
-    {Truth::secondLoad, {"El curso deja afuera Q5: carga a RL2, y su r'e se queda con algo de la salida.",
-                         "The course leaves Q5 out: it loads RL2, and its r'e keeps a little of the output."}},
+    {Truth::secondLoad, {"el curso deja afuera Q5, que carga a RL2 y cuya r'e se queda con algo de la salida.",
+                         "the course leaves Q5 out; it loads RL2, and its r'e keeps a little of the output."}},
 };
 constexpr check::RungRow inputRungs[] = {
-    {Truth::upperResistor, {"El curso iguala Zin a Rb1; Rb1 y la base están en paralelo, y queda la mitad.",
-                            "The course sets Zin equal to Rb1; Rb1 and the base lie side by side, and half is left."}},
+    {Truth::upperResistor, {"el curso iguala Zin a Rb1, pero Rb1 y la base están en paralelo, y queda la mitad.",
+                            "the course sets Zin equal to Rb1, but Rb1 and the base lie in parallel, and half is left."}},
     {Truth::thermal,       thermalVolts},
     {Truth::current,       trueCurrent},
 };
@@ -103,7 +103,7 @@ constexpr host::BiText assumed[] = {
     {"Fuente de corriente ideal de 2 x QIc(1-2) hacia -Ebias", "Ideal current source of 2 x QIc(1-2) to -Ebias"},
     {"Salida en el emisor de Q5", "Output at the emitter of Q5"},
     {"Beta 100, Vj 0.6 V; transistores sin efecto Early ni capacidades: no hay corte superior",
-     "Beta 100, Vj 0.6 V; transistors without Early effect and capacitances: no upper corner"},
+     "Beta 100, Vj 0.6 V; transistors without Early effect or capacitances: no upper corner"},
 };
 // clang-format on
 

@@ -60,37 +60,37 @@ constexpr check::QuantityRow quantities[] = {
     {Quantity::drift, Text1,           1, {.held = heldBy<Form3, &Quantities::dQic>}},
 };
 
-constexpr host::BiText thermalVolts{"El curso cuenta 25 mV por juntura; a 27 grados son 25.9 mV.",
-                                    "The course counts 25 mV a junction; at 27 degrees there are 25.9 mV."};
+constexpr host::BiText thermalVolts{"el curso cuenta 25 mV por juntura; a 27 grados son 25.9 mV.",
+                                    "the course counts 25 mV a junction; at 27 degrees it is 25.9 mV."};
 constexpr host::BiText trueCurrent{
-    "Los transistores no llevan justo la QIc del diseño: con la corriente verdadera r'e es otra.",
-                                   "The transistors do not carry exactly the QIc of the design: with the true current r'e is another."};
+    "los transistores no llevan exactamente la QIc del diseño, y con la corriente verdadera r'e cambia.",
+                                   "the transistors do not carry exactly the designed QIc, and with the true current r'e changes."};
 constexpr host::BiText tailResistor{
-    "Res no es una fuente de corriente perfecta: los emisores siguen a la entrada un poco menos que la mitad.",
-                                    "Res is no perfect current source: the emitters follow the input by a little less than the half."};
+    "Res no es una fuente de corriente perfecta: los emisores siguen a la entrada en algo menos de la mitad.",
+                                    "Res is no perfect current source: the emitters follow the input by a little less than half."};
 constexpr check::RungRow gainRungs[] = {
-    {Truth::pairFactor, {"El curso divide por 2.5 x r'e; la señal pasa por dos junturas, que son 2 x r'e.",
-                         "The course divides by 2.5 x r'e; the signal passes two junctions, which are 2 x r'e."}},
+    {Truth::pairFactor, {"el curso divide por 2.5 x r'e, pero la señal pasa por dos junturas, que son 2 x r'e.",
+                         "the course divides by 2.5 x r'e, but the signal passes two junctions, which are 2 x r'e."}},
     {Truth::thermal,    thermalVolts},
     {Truth::current,    trueCurrent},
     {Truth::tail,       tailResistor},
-    {Truth::alpha,      {"Una parte de la corriente de emisor es de base y no llega a RL.",
-                         "A part of the emitter's current is the base's and does not reach RL."}},
+    {Truth::alpha,      {"una parte de la corriente de emisor es de base, y no llega a RL.",
+                         "part of the emitter's current is the base's, and does not reach RL."}},
 };
 constexpr check::RungRow inputRungs[] = {
-    {Truth::lowerResistor, {"El curso deja afuera Rb2; está en paralelo con la entrada y la baja.",
-                            "The course leaves Rb2 out here; it lies beside the input and lowers it."}},
+    {Truth::lowerResistor, {"el curso deja afuera Rb2, que está en paralelo con la entrada y baja su impedancia.",
+                            "the course leaves Rb2 out here; it lies in parallel with the input and lowers its impedance."}},
     {Truth::thermal,       thermalVolts},
     {Truth::current,       trueCurrent},
     {Truth::tail,          tailResistor},
-    {Truth::alpha,         {"Los emisores llevan también la corriente de base.", "The emitters carry the base current too."}},
+    {Truth::alpha,         {"por los emisores pasa también la corriente de base.", "the emitters carry the base current too."}},
 };
 constexpr host::BiText assumed[] = {
     {"Generador de 0 ohm", "Generator of 0 ohm"},
     {"La otra entrada, a masa por su Cci", "The other input grounded through its Cci"},
     {"La salida que se mide es la del transistor excitado", "The output that is measured is that of the driven transistor"},
     {"Transistores sin efecto Early ni capacidades: no hay corte superior",
-     "Transistors without Early effect and capacitances: no upper corner"},
+     "Transistors without Early effect or capacitances: no upper corner"},
 };
 // clang-format on
 

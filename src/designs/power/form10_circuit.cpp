@@ -56,6 +56,7 @@ constexpr check::QuantityRow quantities[] = {
     {Quantity::Pout,   Text1,           1, {Text1}},
     {Quantity::Pclean, Text1,           1, {Text1}},
     {.quantity = Quantity::efficiency},
+    {.quantity = Quantity::heat},
 };
 constexpr host::BiText assumed[] = {{"Betas 100 y 50", "Betas 100 and 50"}, power::presetTurned, power::plainTransistors};
 // clang-format on

@@ -66,6 +66,7 @@ constexpr check::QuantityRow quantities[] = {
     {Quantity::Pout,   Text1,           1, {Text1}},
     {Quantity::Pclean, Text1,           1, {Text1}},
     {.quantity = Quantity::efficiency},
+    {.quantity = Quantity::heat},
 };
 constexpr host::BiText assumed[] = {
     {"Q8: una fuente de 2.35 V; Betas 100 y 20 x 20", "Q8: a source of 2.35 V; Betas 100 and 20 x 20"},

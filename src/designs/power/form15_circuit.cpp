@@ -40,6 +40,7 @@ constexpr check::QuantityRow quantities[] = {
     {Quantity::Pout,   Text1,         1,    {Text1}},
     {Quantity::Pclean, Text1,         1,    {Text1}},
     {.quantity = Quantity::efficiency},
+    {.quantity = Quantity::heat},
 };
 constexpr host::BiText assumed[] = {{"Rb1 empieza en la salida", "Rb1 starts at the output"}, power::plainTransistors};
 // clang-format on

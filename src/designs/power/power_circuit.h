@@ -13,7 +13,7 @@ inline constexpr check::Figure Vj{.scale = 0.6};
 
 // clang-format off
 inline constexpr host::BiText plainTransistors{"Transistores sin efecto Early ni capacidades, Vj 0.6 V",
-                                               "Transistors without Early effect and capacitances, Vj 0.6 V"};
+                                               "Transistors without Early effect or capacitances, Vj 0.6 V"};
 inline constexpr host::BiText presetTurned{"Preset ajustado hasta que el medio queda en Es / 2",
                                            "Preset turned until the middle stands at Es / 2"};
 // clang-format on

@@ -39,6 +39,7 @@ struct Desk {
 
     /// The window has a design that can be checked, once it has passed; and the check itself.
     std::function<bool(const host::Window&)> canCheck;
+    std::function<QWidget*(const host::Window&)> checkOf; ///< the window of its check, or null
     std::function<void(host::Window&)> check;
 
     bool english() const { return engine->values().LanguageIsEnglish == host::trueValue; }

@@ -8,7 +8,6 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -16,7 +15,6 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QTabWidget>
-#include <QVBoxLayout>
 
 #include "check/deck.h"
 #include "check/table_text.h"
@@ -32,10 +30,9 @@ using check_words::in;
 
 namespace check_window_detail {
 
-constexpr QSize wantedSize{1040, 690};
+constexpr QSize wantedSize{1240, 720};
 constexpr double largestShare = 0.94; ///< of the screen
-constexpr int tableShare = 57;        ///< of a hundred; the curves have the rest
-constexpr int margin = 10;
+constexpr int mostRowsShare = 62;     ///< of a hundred, of the height; the row in hand has the rest
 
 bool sameRows(const check::Design& one, const check::Design& other)
 {
@@ -98,111 +95,9 @@ CheckWindow::CheckWindow(Desk& desk, std::string simulator, CheckDeeds deeds, QW
     move(room().center() - rect().center());
 }
 
-void CheckWindow::layOut()
-{
-    auto* inside = new QWidget;
-    inside->setAutoFillBackground(true);
-    auto* column = new QVBoxLayout(inside);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(makeTop());
-    auto* left = new QSplitter(Qt::Vertical);
-    rows_ = new RowsTable(checked_, *desk().inks, nullptr);
-    panel_ = new RowPanel(checked_, *desk().inks, nullptr);
-    left->addWidget(rows_);
-    left->addWidget(panel_);
-    left->setStretchFactor(0, 1);
-    left->setStretchFactor(1, 1);
-    auto* across = new QSplitter(Qt::Horizontal);
-    across->addWidget(left);
-    across->addWidget(makePages());
-    across->setStretchFactor(0, tableShare);
-    across->setStretchFactor(1, 100 - tableShare);
-    for (QSplitter* splitter : {left, across})
-        splitter->setChildrenCollapsible(false);
-    across->setSizes({tableShare * 100, (100 - tableShare) * 100});
-    left->setSizes({5200, 4800});
-    column->addWidget(across, 1);
-    column->addWidget(makeBottom());
-    hold(*inside);
-}
-
-QWidget* CheckWindow::makeTop()
-{
-    auto* top = new QWidget;
-    top->setObjectName(QStringLiteral("checkTop"));
-    top->setAutoFillBackground(true);
-    state_ = new QLabel;
-    state_->setObjectName(QStringLiteral("checkState"));
-    state_->setTextFormat(Qt::PlainText);
-    state_->setWordWrap(true);
-    again_ = new QPushButton;
-    again_->setObjectName(QStringLiteral("checkAgain"));
-    auto* line = new QHBoxLayout(top);
-    line->setContentsMargins(margin + 2, margin / 2, margin, margin / 2);
-    line->addWidget(state_, 1);
-    line->addWidget(again_);
-    return top;
-}
-
-QPlainTextEdit* CheckWindow::makeText(const char* name)
-{
-    auto* text = new QPlainTextEdit;
-    text->setObjectName(QLatin1String(name));
-    text->setReadOnly(true);
-    text->setFrameShape(QFrame::NoFrame);
-    text->setTabChangesFocus(true);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    text->document()->setDocumentMargin(margin);
-    return text;
-}
-
-QWidget* CheckWindow::makePages()
-{
-    pages_ = new QTabWidget;
-    pages_->setObjectName(QStringLiteral("checkPages"));
-    pages_->setDocumentMode(true);
-    curves_ = new CurvesPage(checked_, *desk().inks, nullptr);
-    assumed_ = makeText("checkAssumed");
-    netlist_ = makeText("checkNetlist");
-    netlist_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    QFont fixed(QStringLiteral("monospace"));
-    fixed.setStyleHint(QFont::Monospace);
-    fixed.setPointSizeF(font().pointSizeF());
-    netlist_->setFont(fixed);
-    details_ = makeText("checkDetails");
-    for (QWidget* page : std::initializer_list<QWidget*>{curves_, assumed_, netlist_, details_})
-        pages_->addTab(page, QString());
-    return pages_;
-}
-
-QWidget* CheckWindow::makeBottom()
-{
-    auto* bottom = new QWidget;
-    report_ = new QPushButton;
-    copy_ = new QPushButton;
-    save_ = new QPushButton;
-    saving_ = new QMenu(save_);
-    save_->setMenu(saving_);
-    report_->setObjectName(QStringLiteral("checkReport"));
-    copy_->setObjectName(QStringLiteral("checkCopy"));
-    save_->setObjectName(QStringLiteral("checkSave"));
-    told_ = new QLabel;
-    told_->setObjectName(QStringLiteral("checkTold"));
-    told_->setTextFormat(Qt::PlainText);
-    auto* line = new QHBoxLayout(bottom);
-    line->setContentsMargins(margin, margin / 2, margin, margin);
-    for (QPushButton* button : {report_, copy_, save_}) {
-        button->setAutoDefault(false);
-        line->addWidget(button);
-    }
-    line->addSpacing(margin);
-    line->addWidget(told_, 1);
-    return bottom;
-}
-
 void CheckWindow::connectParts()
 {
+    connect(left_, &QSplitter::splitterMoved, this, [this] { handMoved_ = true; });
     service_.checked = [this](const check::Check& result) { take(result); };
     service_.swung = [this](const check::Swing& swing) {
         checked_.swing = swing;
@@ -227,6 +122,7 @@ void CheckWindow::connectParts()
         connect(new QShortcut(keys, this), &QShortcut::activated, this, deed);
     };
     onKey(Qt::Key_F5, [this] { deeds_.again(); });
+    onKey(Qt::Key_F6, [this] { desk().nextPane(); });
     onKey(Qt::CTRL | Qt::Key_T, [this] { deeds_.again(); });
     for (const auto& [key, guess] : {std::pair{Qt::Key_1, check::Guess::lower},
                                      {Qt::Key_2, check::Guess::same},
@@ -249,6 +145,29 @@ void CheckWindow::begin(const check::Design& design, const QString& sheetTitle)
     tell(QString());
     service_.begin(design);
     relabel();
+    giveRowsTheirRoom();
+}
+
+// The table has what its rows need, the row in hand the rest; who has moved the handle, has moved it.
+void CheckWindow::giveRowsTheirRoom()
+{
+    if (handMoved_)
+        return;
+    const int all = left_->height();
+    const int wanted = std::min(rows_->wholeHeight(), all * mostRowsShare / 100);
+    left_->setSizes({wanted, all - wanted});
+}
+
+void CheckWindow::resizeEvent(QResizeEvent* event)
+{
+    ToolFrame::resizeEvent(event);
+    giveRowsTheirRoom();
+}
+
+void CheckWindow::showEvent(QShowEvent* event)
+{
+    ToolFrame::showEvent(event);
+    giveRowsTheirRoom();
 }
 
 void CheckWindow::take(const check::Check& result)
@@ -338,6 +257,14 @@ void CheckWindow::followRow()
 void CheckWindow::followPages()
 {
     const bool english = checked_.english;
+    // What has no signal has no curves.
+    const auto& parts = checked_.design.circuit.parts;
+    const bool isDriven = std::any_of(parts.begin(), parts.end(), [](const check::Part& part) {
+        return part.kind == check::PartKind::generator;
+    });
+    const bool hasCurves = isDriven || checked_.design.table == nullptr;
+    if (const int page = pages_->indexOf(curves_); pages_->isTabVisible(page) != hasCurves)
+        pages_->setTabVisible(page, hasCurves);
     curves_->follow();
     QStringList lines{in(check_words::assumedHead, english)};
     if (checked_.design.table != nullptr)

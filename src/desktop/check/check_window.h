@@ -15,6 +15,7 @@ class QLabel;
 class QMenu;
 class QPlainTextEdit;
 class QPushButton;
+class QSplitter;
 class QTabWidget;
 
 namespace velmor::desktop {
@@ -49,6 +50,8 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -58,6 +61,7 @@ private:
     QWidget* makeBottom();
     QPlainTextEdit* makeText(const char* name);
     void connectParts();
+    void giveRowsTheirRoom();
     void take(const check::Check& result);
     void follow();
     void followRow();
@@ -75,6 +79,8 @@ private:
     Checked checked_;
     CheckService service_;
     QString sheetTitle_;
+    QSplitter* left_ = nullptr;
+    bool handMoved_ = false; ///< the handle between the rows and the row in hand
     QLabel* state_ = nullptr;
     QPushButton* again_ = nullptr;
     RowsTable* rows_ = nullptr;

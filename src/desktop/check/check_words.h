@@ -2,6 +2,7 @@
 // The texts of the window of a check, in both languages. What a quantity is and what a verdict says stands in src/check.
 #pragma once
 
+#include <QRegularExpression>
 #include <QString>
 
 #include "check/check.h"
@@ -31,8 +32,6 @@ inline constexpr BiText columns[]  {{"Magnitud", "Quantity"}, {"Pedido", "Asked"
 inline constexpr BiText nothing    {"nada", "nothing"};
 inline constexpr BiText closedCell {"su apuesta", "your bet"};
 inline constexpr BiText running    {"simulando", "simulating"};
-inline constexpr BiText judgements[]{{"coincide", "agrees"}, {"difiere", "differs"}, {"no se alcanza", "not reached"},
-                                     {"sin explicar", "unexplained"}, {"medido", "measured"}, {"sin simular", "not simulated"}};
 // the line above it
 inline constexpr BiText atWork     {"El simulador trabaja...", "The simulator is at work..."};
 inline constexpr BiText changed    {"El diseño cambió: esto es de antes.", "The design has changed: this is from before."};
@@ -55,8 +54,8 @@ inline constexpr BiText won        {"Apostó «%1», y acertó.", "You bet “%1
 inline constexpr BiText lost       {"Apostó «%1», y resultó «%2».", "You bet “%1”, and it came out “%2”."};
 inline constexpr BiText ladderName {"Del curso al simulador, paso a paso", "From the course to the simulator, step by step"};
 inline constexpr BiText course     {"El curso", "The course"};
-inline constexpr BiText simulator  {"El simulador", "The simulator"};
-inline constexpr BiText remainder  {"sin explicar quedan %1", "%1 are left unexplained"};
+inline constexpr BiText remainder  {"El simulador: sin explicar quedan %1", "The simulator: %1 are left unexplained"};
+inline constexpr BiText explained  {"El simulador: no queda nada sin explicar", "The simulator: nothing is left unexplained"};
 // plots
 inline constexpr BiText curves     {"C&urvas", "C&urves"};
 inline constexpr BiText gainName   {"Ganancia según la frecuencia", "Gain against frequency"};
@@ -81,11 +80,12 @@ inline constexpr BiText waveShape  {"Sube hasta %1 y baja hasta %2; distorsión 
                                     "It goes up to %1 and down to %2; distortion %3. %4"};
 inline constexpr BiText flatTop    {"La cresta está aplastada.", "The crest is flattened."};
 inline constexpr BiText flatBottom {"El valle está aplastado.", "The trough is flattened."};
+inline constexpr BiText bothFlat   {"La cresta y el valle están aplastados.", "The crest and the trough are flattened."};
 inline constexpr BiText roundWave  {"Ambas mitades son casi iguales.", "Both halves are nearly alike."};
 inline constexpr BiText drive      {"En&trada", "&Input"};
 inline constexpr BiText driveName  {"Entrada, en veces la del curso", "Input, in times that of the course"};
 inline constexpr BiText driveAmount{"%1 × Ein = %2 pico", "%1 × Ein = %2 peak"};
-inline constexpr BiText thdAmount  {"%1 Vpp, distorsión %2", "%1 Vpp, distortion %2"};
+inline constexpr BiText thdAmount  {"salida: %1 Vpp, distorsión %2", "output: %1 Vpp, distortion %2"};
 // the other pages
 inline constexpr BiText assumedPage{"&Supuestos", "&Assumed"};
 inline constexpr BiText assumedHead{"Lo que la hoja no dice y se supuso:", "What the sheet does not say, and was assumed:"};
@@ -114,7 +114,7 @@ inline std::string_view symbolOf(check::Quantity quantity)
 {
     static constexpr std::string_view symbols[]{"Q_Ic", "Q_Ic2", "Q_Ic3", "Q_Ic4", "Q_Ic5", "Q_Ic6",   "Q_Ic7",
                                                 "V_ce", "V_g",   "Z_in",  "f_L",   "dB_fo", "E_o/E_g", "E_opp",
-                                                "THD",  "ΔQ_Ic", "P_o",   "P_10",  "η"};
+                                                "THD",  "ΔQ_Ic", "P_o",   "P_10",  "η",     "P_Q"};
     static_assert(std::size(symbols) == static_cast<std::size_t>(check::Quantity::count));
     return symbols[static_cast<std::size_t>(quantity)];
 }
@@ -123,18 +123,23 @@ inline std::string_view symbolOf(check::Quantity quantity)
 inline QString minus(QString text)
 {
     for (qsizetype i = 0; i + 1 < text.size(); ++i)
-        if (text[i] == QLatin1Char('-') && text[i + 1].isDigit() && (i == 0 || text[i - 1] == QLatin1Char(' ')))
+        if (text[i] == QLatin1Char('-') && text[i + 1].isDigit() && (i == 0 || text[i - 1] == QLatin1Char(' ') || text[i - 1] == QLatin1Char('(')))
             text[i] = QChar(0x2212);
     return text;
 }
 
-/// An amount as it stands on the screen: ohms as on the sheets.
+/// Words with figures in them as they stand on the screen: ohms and minus signs as on the sheets.
+inline QString prose(QString text)
+{
+    static const QRegularExpression kilohms(QStringLiteral("(?<=\\d) K\\b"));
+    static const QRegularExpression ohms(QStringLiteral("(?<=\\d) ohm\\b"));
+    return minus(text.replace(kilohms, QStringLiteral(" kΩ")).replace(ohms, QStringLiteral(" Ω")));
+}
+
+/// An amount as it stands on the screen.
 inline QString amount(double value, std::string_view unit)
 {
-    QString text = shown(check::amountText(value, unit));
-    if (unit == "ohm")
-        text.replace(QStringLiteral(" K"), QStringLiteral(" kΩ")).replace(QStringLiteral(" ohm"), QStringLiteral(" Ω"));
-    return minus(text);
+    return prose(shown(check::amountText(value, unit)));
 }
 inline QString amount(const check::Measured& value, std::string_view unit)
 {

@@ -22,6 +22,9 @@ constexpr int atMost = 160;
 // Heights beside each other.
 constexpr int gainHeight = 4;
 constexpr int waveHeight = 5;
+// Widths beside each other.
+constexpr int waveWidth = 7;
+constexpr int harmonicsWidth = 4;
 constexpr double leastDrive = 0.1;
 constexpr double mostDrive = 4;
 
@@ -67,8 +70,8 @@ CurvesPage::CurvesPage(const Checked& checked, const Inks& inks, QWidget* parent
     grid->addWidget(wave_, 1, 0);
     grid->addWidget(harmonics_, 1, 1);
     grid->addLayout(driving, 2, 0, 1, 2);
-    grid->setColumnStretch(0, 5);
-    grid->setColumnStretch(1, 2);
+    grid->setColumnStretch(0, waveWidth);
+    grid->setColumnStretch(1, harmonicsWidth);
     grid->setRowStretch(0, gainHeight);
     grid->setRowStretch(1, waveHeight);
     connect(slider_, &QSlider::valueChanged, this, [this] {
@@ -100,15 +103,30 @@ void CurvesPage::tellDrive()
 
 void CurvesPage::follow()
 {
-    gain_->setVisible(checked_.isSmallSignal());
-    // A hidden plot leaves its room to the others.
-    static_cast<QGridLayout*>(layout())->setRowStretch(0, checked_.isSmallSignal() ? gainHeight : 0);
+    arrange();
     gain_->follow(checked_.english);
     name_->setText(in(check_words::drive, checked_.english));
     slider_->setAccessibleName(in(check_words::driveName, checked_.english));
     slider_->setEnabled(checked_.freshness == Freshness::fresh && !checked_.result.swing.output.values.empty());
     tellDrive();
     followWave();
+}
+
+// Without a gain plot the wave has its place, and the harmonics lie under it.
+void CurvesPage::arrange()
+{
+    const bool hasGain = checked_.isSmallSignal();
+    auto* grid = static_cast<QGridLayout*>(layout());
+    if (hasGain == gain_->isVisibleTo(this) && !isFirst_)
+        return;
+    isFirst_ = false;
+    gain_->setVisible(hasGain);
+    grid->removeWidget(wave_);
+    grid->removeWidget(harmonics_);
+    grid->addWidget(wave_, hasGain ? 1 : 0, 0, 1, hasGain ? 1 : 2);
+    grid->addWidget(harmonics_, 1, hasGain ? 1 : 0, 1, hasGain ? 1 : 2);
+    grid->setRowStretch(0, hasGain ? gainHeight : waveHeight);
+    grid->setRowStretch(1, hasGain ? waveHeight : gainHeight);
 }
 
 void CurvesPage::followWave()

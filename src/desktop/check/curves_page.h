@@ -34,6 +34,7 @@ public:
     static double driveOf(int value);
 
 private:
+    void arrange();
     void tellDrive();
 
     const Checked& checked_;
@@ -43,6 +44,7 @@ private:
     QLabel* name_;
     QSlider* slider_;
     QLabel* amount_;
+    bool isFirst_ = true;
 };
 
 } // namespace velmor::desktop

@@ -3,15 +3,22 @@
 
 #include <utility>
 
+#include <QApplication>
+#include <QFontMetricsF>
 #include <QPlainTextEdit>
+#include <QSet>
+#include <QTimer>
 
 #include "designs/circuits.h"
 #include "desktop/canvas/finished.h"
 #include "desktop/check/check_window.h"
+#include "desktop/check/report_columns.h"
 #include "desktop/drawing/texts.h"
 #include "desktop/windows/main_window.h"
 #include "desktop/windows/sheet_view.h"
 #include "desktop/windows/window_keeper.h"
+#include "host/failure.h"
+#include "sheets/design_sheet.h"
 #include "sheets/tools.h"
 
 namespace velmor::desktop {
@@ -26,6 +33,33 @@ std::optional<check::Design> designOf(const host::Window& sheet)
     if (table == nullptr || !check::isAwake(sheet, *table))
         return std::nullopt;
     return check::designOf(sheet, *table);
+}
+
+/// What the sheet's report says as of now; nothing where its numbers fail.
+std::string reportText(const host::Window& sheet)
+{
+    try {
+        return static_cast<const sheets::DesignSheet&>(sheet).reportText();
+    } catch (const host::ProgramFailure&) {
+        return {};
+    }
+}
+
+constexpr double leastLikeness = 0.5;
+
+/// The share of the report's lines that a text has too.
+double likenessOf(const QString& report, const QString& text)
+{
+    int all = 0;
+    int found = 0;
+    const QStringList lines = QString(report).remove(QLatin1Char('\r')).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList others = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QSet<QString> there(others.begin(), others.end());
+    for (const QString& line : lines) {
+        ++all;
+        found += there.contains(line) ? 1 : 0;
+    }
+    return all == 0 ? 0 : static_cast<double>(found) / all;
 }
 
 } // namespace design_checks_detail
@@ -67,6 +101,7 @@ CheckWindow* DesignChecks::make(host::Window& sheet)
                 return chosen ? shown(*chosen) : QString();
             },
         .toReport = [this, &sheet](const QString& text) { return toReport(sheet, text); },
+        .closed = [this] { handBack(); },
     };
     const std::string simulator = desk_.engine->settings().value("Check", "Simulator").value_or("");
     auto* window = new CheckWindow(desk_, simulator, std::move(deeds), keeper_.mainWindow());
@@ -108,41 +143,96 @@ void DesignChecks::gone(const host::Window& sheet)
         return;
     CheckWindow* window = std::exchange(found->second.window, nullptr);
     entries_.erase(found);
+    const bool wasInFront = window->isActiveWindow();
     window->hide();
     window->deleteLater();
+    if (wasInFront)
+        handBack();
 }
 
-// The report that is open; otherwise the sheet's own tool opens one, with what it writes.
+/// The keyboard goes back to where the check was asked for, once the window is gone; not every window manager sees to it.
+void DesignChecks::handBack()
+{
+    if (keeper_.mainWindow() == nullptr || desk_.closing)
+        return;
+    QTimer::singleShot(0, keeper_.mainWindow(), [main = keeper_.mainWindow()] {
+        if (QApplication::activeWindow() == nullptr)
+            main->activateWindow();
+    });
+}
+
+// The report of this sheet if one is open; otherwise the sheet's own tool opens one, with what it writes.
 bool DesignChecks::toReport(host::Window& sheet, const QString& text)
 {
     if (!desk_.idle())
         return false;
-    QPlainTextEdit* report = openReport();
+    QPlainTextEdit* report = reportOf(sheet);
     if (report == nullptr) {
-        desk_.engine->userActivate(sheet);
-        desk_.engine->userClick(sheet, reportTool(sheet.spec()));
+        writeReport(sheet);
         keeper_.bringUpToDate();
-        report = openReport();
+        report = reportOf(sheet);
     }
     if (report == nullptr)
         return false;
     // As if it were pasted at the end: the editor hears of it, and can undo it.
     QTextCursor end(report->document());
     end.movePosition(QTextCursor::End);
-    end.insertText(QStringLiteral("\n") + QString(text).remove(QLatin1Char('\r')));
+    const QFontMetricsF letters(report->font());
+    const auto widthOf = [&letters](const QString& cell) { return letters.horizontalAdvance(cell); };
+    end.insertText(QStringLiteral("\n") +
+                   inColumns(QString(text).remove(QLatin1Char('\r')), widthOf, report->tabStopDistance()));
     report->setTextCursor(end);
     report->ensureCursorVisible();
     return true;
 }
 
-QPlainTextEdit* DesignChecks::openReport() const
+std::string_view DesignChecks::editorName() const
 {
-    const host::Window* editor =
-        desk_.engine->host().find(desk_.english() ? sheets::reportEditor.en : sheets::reportEditor.es);
-    WindowFrame* frame = editor == nullptr || !editor->shown() ? nullptr : keeper_.frameOf(*editor);
-    if (frame == nullptr || frame->view() == nullptr)
-        return nullptr;
-    return qobject_cast<QPlainTextEdit*>(frame->view()->canvas().widgetOf(editor->named(sheets::textOfReport)));
+    return desk_.english() ? sheets::reportEditor.en : sheets::reportEditor.es;
+}
+
+// Where the editor is taken, by a guide or by the report of another sheet, a second one opens.
+void DesignChecks::writeReport(host::Window& sheet)
+{
+    host::Engine& engine = *desk_.engine;
+    const std::string_view name = editorName();
+    engine.userActivate(sheet);
+    if (engine.host().find(name) == nullptr)
+        return engine.userClick(sheet, reportTool(sheet.spec()));
+    engine.userRun([&engine, &sheet, name] {
+        host::Window* editor = engine.host().NewInstance(name);
+        if (editor == nullptr)
+            return;
+        // It looks for no guide, and the next editor finds the guide's name as it was.
+        const std::string guide = std::exchange(engine.values().ArchivoGuia, {});
+        engine.host().Show(*editor);
+        engine.values().ArchivoGuia = guide;
+        engine.host().SetWindowState(*editor, 0);
+        editor->setText(editor->named(sheets::textOfReport), design_checks_detail::reportText(sheet));
+    });
+}
+
+/// The editor that holds the report of the sheet, whatever the student has changed in it since.
+QPlainTextEdit* DesignChecks::reportOf(const host::Window& sheet) const
+{
+    const QString written = shown(reportText(sheet));
+    QPlainTextEdit* best = nullptr;
+    double most = leastLikeness;
+    for (const host::Window* editor : desk_.engine->windows()) {
+        if (!host::sameName(editor->name(), editorName()) || !editor->shown())
+            continue;
+        WindowFrame* frame = keeper_.frameOf(*editor);
+        if (frame == nullptr || frame->view() == nullptr)
+            continue;
+        auto* text = qobject_cast<QPlainTextEdit*>(
+            frame->view()->canvas().widgetOf(editor->named(sheets::textOfReport)));
+        const double likeness = text == nullptr ? 0 : likenessOf(written, text->toPlainText());
+        if (likeness >= most) {
+            most = likeness;
+            best = text;
+        }
+    }
+    return best;
 }
 
 } // namespace velmor::desktop

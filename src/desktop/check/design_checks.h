@@ -42,9 +42,12 @@ private:
         unsigned stirrings = 0;
     };
 
+    void handBack();
     CheckWindow* make(host::Window& sheet);
     bool toReport(host::Window& sheet, const QString& text);
-    QPlainTextEdit* openReport() const;
+    std::string_view editorName() const;
+    void writeReport(host::Window& sheet);
+    QPlainTextEdit* reportOf(const host::Window& sheet) const;
 
     Desk& desk_;
     WindowKeeper& keeper_;

@@ -82,18 +82,16 @@ void GainPlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look
     paper.paintCurve(points, inks.accent, curveWidth);
     const double level = levelAt(checked().design.fo);
     paper.paintDot(checked().design.fo, level, inks.accent);
-    paper.paintNote(paper.at(checked().design.fo, std::max(level, lowestLevel + 2)) + QPointF(0, 5.2 * look.letters),
-                    QStringLiteral("fo = %1: %2").arg(hertz(checked().design.fo), check_words::amount(level, "dB")),
-                    inks.ink);
+    std::vector<PlotKey> keys{
+        {inks.accent, PlotKey::Sign::dot,
+         QStringLiteral("fo = %1: %2").arg(hertz(checked().design.fo), check_words::amount(level, "dB"))}};
     const check::Row* corner = check::rowOf(checked().result, check::Quantity::fL);
     if (corner != nullptr && corner->simulated) {
         paper.paintDot(*corner->simulated, cornerLevel, inks.ink);
-        paper.paintNote(paper.at(*corner->simulated, cornerLevel) + QPointF(0, 6.6 * look.letters),
-                        QStringLiteral("fL = %1").arg(hertz(*corner->simulated)), inks.ink);
+        keys.push_back({inks.ink, PlotKey::Sign::dot, QStringLiteral("fL = %1: −3 dB").arg(hertz(*corner->simulated))});
     }
-    painter.setPen(inks.quiet);
-    painter.drawText(paper.field().adjusted(0, 0, -6, -4), Qt::AlignRight | Qt::AlignBottom,
-                     in(check_words::noUpper, look.english));
+    keys.push_back({inks.quiet, PlotKey::Sign::none, in(check_words::noUpper, look.english)});
+    paper.paintKeys(keys);
     if (place)
         paper.paintReading(x.valueAt(*place), reading(*place));
 }

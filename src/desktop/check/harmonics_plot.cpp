@@ -14,10 +14,13 @@ using check_words::in;
 
 namespace harmonics_plot_detail {
 
+constexpr double leastScale = 1; ///< %, so that a clean wave looks clean
+
 /// Short enough to stand over a bar; the sentence has the whole figure.
 QString overBar(double percent)
 {
-    return percent < 0.05 ? QStringLiteral("0") : QString::number(percent, 'f', percent >= 9.95 ? 0 : 1);
+    const int digits = percent >= 9.95 ? 0 : percent >= 0.095 ? 1 : 2;
+    return percent < 0.005 ? QStringLiteral("0") : QString::number(percent, 'f', digits);
 }
 
 } // namespace harmonics_plot_detail
@@ -47,7 +50,7 @@ double HarmonicsPlot::share(std::size_t harmonic) const
 void HarmonicsPlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look, std::optional<double>) const
 {
     const bool shows = hasData() && isOpen();
-    double most = 5;
+    double most = leastScale;
     for (std::size_t i = 2; shows && i < check::harmonicCount; ++i)
         most = std::max(most, 1.2 * share(i));
     PlotAxis x{.from = 1.4, .to = 5.6};

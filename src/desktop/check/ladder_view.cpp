@@ -17,9 +17,9 @@ namespace ladder_view_detail {
 constexpr int gap = 10;   ///< between the columns
 constexpr int around = 7; ///< above and below the texts of a step
 constexpr int barHeight = 4;
-constexpr int lettersOfChange = 9;
-constexpr int lettersOfValue = 10;
+constexpr int leastLetters = 8;
 constexpr double corner = 4.0;
+constexpr double leastRemainder = 0.005; ///< dB; less is the rounding of the simulator
 
 } // namespace ladder_view_detail
 
@@ -53,14 +53,14 @@ void LadderView::show(const check::Row* row, bool english)
                           .end = true});
         for (std::size_t i = 0; i < ladder.rungs.size(); ++i)
             steps_.push_back({.change = check_words::minus(shown(check::stepText(*row, i))),
-                              .reason = check_words::in(ladder.rungs[i].reason, english),
+                              .reason = check_words::prose(shown(check::sentence(english ? ladder.rungs[i].reason.en : ladder.rungs[i].reason.es))),
                               .value = check_words::amount(ladder.rungs[i].value, unit),
                               .share = most > 0 ? ladder.stepOf(i) / most : 0,
                               .strongest = &ladder.rungs[i] == ladder.highest()});
+        const bool isWhole = ladder.remainder() < leastRemainder;
         const QString rest = check_words::amount(ladder.remainder(), "dB");
-        steps_.push_back({.reason = QStringLiteral("%1  (%2)")
-                                        .arg(check_words::in(check_words::simulator, english),
-                                             check_words::in(check_words::remainder, english).arg(rest)),
+        steps_.push_back({.reason = isWhole ? check_words::in(check_words::explained, english)
+                                            : check_words::in(check_words::remainder, english).arg(rest),
                           .value = check_words::amount(ladder.measured, unit),
                           .end = true});
     }
@@ -80,14 +80,26 @@ QString LadderView::spoken() const
     return text;
 }
 
+// In the strongest letters, so that nothing moves when another step is the strongest.
+int LadderView::widestOf(QString Step::*text) const
+{
+    QFont letters = font();
+    letters.setBold(true);
+    const QFontMetrics metrics(letters);
+    int widest = metrics.averageCharWidth() * leastLetters;
+    for (const Step& step : steps_)
+        widest = std::max(widest, metrics.horizontalAdvance(step.*text) + 2);
+    return widest;
+}
+
 int LadderView::changeWidth() const
 {
-    return fontMetrics().averageCharWidth() * lettersOfChange;
+    return widestOf(&Step::change);
 }
 
 int LadderView::valueWidth() const
 {
-    return fontMetrics().averageCharWidth() * lettersOfValue;
+    return widestOf(&Step::value);
 }
 
 QFont LadderView::fontOf(const Step& step) const

@@ -39,6 +39,7 @@ private:
         bool strongest = false;
         bool end = false;
     };
+    int widestOf(QString Step::*text) const;
     int changeWidth() const;
     int valueWidth() const;
     int heightOf(const Step& step, int width) const;

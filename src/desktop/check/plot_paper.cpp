@@ -170,10 +170,19 @@ void PlotPaper::paintLevel(double y, const QString& name, const QColor& ink, Edg
     const double height = at(x_.from, y).y();
     painter_.setPen(QPen(ink, 1.2, Qt::DashLine));
     painter_.drawLine(QPointF(field_.left(), height), QPointF(field_.right(), height));
-    painter_.setPen(ink);
     const double lines = 1.3 * look_.letters;
-    const QRectF room(field_.left() + 4, above ? height - lines - 1 : height + 1, field_.width() - 8, lines);
-    painter_.drawText(room, (edge == Edge::left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter, name);
+    const bool fitsAbove = height - lines - 1 >= field_.top();
+    const QRectF room(field_.left() + 4, above && fitsAbove ? height - lines - 1 : height + 1, field_.width() - 8, lines);
+    // What stands behind the last comma is said by the ink too: it goes first where room is scarce.
+    const QFontMetricsF letters(interfaceFont(look_.letters));
+    const bool fits = letters.horizontalAdvance(name) <= room.width() || !name.contains(QLatin1Char(','));
+    const QString text = fits ? name : name.section(QLatin1Char(','), 0, -2);
+    const auto how = (edge == Edge::left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
+    QColor ground = look_.inks->field;
+    ground.setAlphaF(0.8F);
+    painter_.fillRect(painter_.boundingRect(room, how, text).adjusted(-2, 0, 2, 0), ground);
+    painter_.setPen(ink);
+    painter_.drawText(room, how, text);
 }
 
 void PlotPaper::paintPlace(double x, const QColor& ink) const
@@ -192,30 +201,42 @@ void PlotPaper::paintDot(double x, double y, const QColor& ink) const
     painter_.drawEllipse(at(x, y), 4.0, 4.0);
 }
 
-void PlotPaper::paintNote(QPointF beside, const QString& text, const QColor& ink) const
+void PlotPaper::paintKeys(std::span<const PlotKey> keys) const
 {
     const QFontMetricsF letters(interfaceFont(look_.letters));
-    QRectF box(beside + QPointF(7, -letters.height() / 2), QSizeF(letters.horizontalAdvance(text), letters.height()));
-    if (box.right() > field_.right() - 3)
-        box.moveRight(beside.x() - 7);
-    box.moveTop(std::clamp(box.top(), field_.top() + 2, field_.bottom() - box.height() - 2));
+    const double gap = look_.letters / 2;
+    const double line = 1.35 * look_.letters;
+    double widest = 0;
+    for (const PlotKey& key : keys)
+        widest = std::max(widest, letters.horizontalAdvance(key.text));
+    const double sign = 1.9 * look_.letters;
+    QRectF box(0, 0, std::min(widest + sign + gap, field_.width() - 2), line * static_cast<double>(keys.size()) + gap);
+    box.moveBottomRight(field_.bottomRight() - QPointF(gap / 2, gap / 2));
     QColor ground = look_.inks->field;
     ground.setAlphaF(0.8F);
-    painter_.fillRect(box.adjusted(-2, 0, 2, 0), ground);
-    painter_.setPen(ink);
-    painter_.drawText(box, Qt::AlignLeft | Qt::AlignVCenter, text);
+    painter_.fillRect(box, ground);
+    double middle = box.top() + gap / 2 + line / 2;
+    for (const PlotKey& key : keys) {
+        paintKeySign(key, QPointF(box.left() + sign / 2, middle));
+        painter_.setPen(key.sign == PlotKey::Sign::none ? key.ink : look_.inks->ink);
+        const QRectF room(box.left() + sign, middle - line / 2, box.right() - box.left() - sign, line);
+        painter_.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+                          letters.elidedText(key.text, Qt::ElideRight, room.width()));
+        middle += line;
+    }
 }
 
-void PlotPaper::paintLegend(const QString& text) const
+void PlotPaper::paintKeySign(const PlotKey& key, QPointF centre) const
 {
-    const double gap = look_.letters / 2;
-    const QRectF room = field_.adjusted(gap, gap / 2, -gap, -gap / 2);
-    const int how = Qt::AlignRight | Qt::AlignBottom | Qt::TextWordWrap;
-    QColor ground = look_.inks->field;
-    ground.setAlphaF(0.8F);
-    painter_.fillRect(painter_.boundingRect(room, how, text), ground);
-    painter_.setPen(look_.inks->ink);
-    painter_.drawText(room, how, text);
+    const double reach = 0.6 * look_.letters;
+    painter_.setBrush(key.ink);
+    if (key.sign == PlotKey::Sign::line) {
+        painter_.setPen(QPen(key.ink, 2.2, Qt::SolidLine, Qt::RoundCap));
+        painter_.drawLine(centre - QPointF(reach, 0), centre + QPointF(reach, 0));
+    } else if (key.sign == PlotKey::Sign::dot) {
+        painter_.setPen(Qt::NoPen);
+        painter_.drawEllipse(centre, 4.0, 4.0);
+    }
 }
 
 void PlotPaper::paintReading(double x, const QString& text) const

@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include <QColor>
 #include <QFont>
 #include <QPointF>
 #include <QRectF>
@@ -50,6 +51,14 @@ QString hertz(double frequency);
 /// "25 mV", "1.5 V".
 QString volts(double voltage);
 
+/// A line of the legend.
+struct PlotKey {
+    enum class Sign { none, dot, line };
+    QColor ink{};
+    Sign sign = Sign::line;
+    QString text{};
+};
+
 class PlotPaper {
 public:
     PlotPaper(QPainter& painter, const QRectF& room, PlotAxis x, PlotAxis y, const PlotLook& look);
@@ -65,10 +74,8 @@ public:
     /// A dashed line down.
     void paintPlace(double x, const QColor& ink) const;
     void paintDot(double x, double y, const QColor& ink) const;
-    /// A line of text, inside the field, beside a point.
-    void paintNote(QPointF beside, const QString& text, const QColor& ink) const;
-    /// Lines at the foot of the field, wrapped where it is narrow.
-    void paintLegend(const QString& text) const;
+    /// What the inks mean, at the foot of the field.
+    void paintKeys(std::span<const PlotKey> keys) const;
     /// The place that is being read, and what is read there.
     void paintReading(double x, const QString& text) const;
     /// Instead of a curve.
@@ -80,6 +87,7 @@ public:
 private:
     void paintTicksAcross() const;
     void paintTicksDown() const;
+    void paintKeySign(const PlotKey& key, QPointF centre) const;
 
     QPainter& painter_;
     QRectF room_;

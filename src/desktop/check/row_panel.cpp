@@ -25,13 +25,6 @@ QLabel* plainLabel(const char* name)
     return label;
 }
 
-QString capitalised(QString text)
-{
-    if (!text.isEmpty())
-        text[0] = text[0].toUpper();
-    return text;
-}
-
 std::size_t indexOf(check::Guess guess)
 {
     return static_cast<std::size_t>(guess);
@@ -129,7 +122,7 @@ void RowPanel::follow(std::optional<check::Quantity> inHand)
     if (row == nullptr)
         return;
     const check::QuantityText& words = check::textOf(row->quantity);
-    heading_->setText(QStringLiteral("%1 · %2").arg(shown(words.name), in(words.meaning, checked_.english)));
+    heading_->setText(QStringLiteral("%1 · %2").arg(shown(words.name), check_words::minus(in(words.meaning, checked_.english))));
     if (ready)
         open ? tellOf(*row) : askFor(*row);
 }
@@ -148,7 +141,7 @@ void RowPanel::askFor(const check::Row& row)
 
 void RowPanel::tellOf(const check::Row& row)
 {
-    verdict_->setText(capitalised(check_words::minus(in(row.verdict, checked_.english))));
+    verdict_->setText(check_words::prose(shown(check::sentence(row.verdict.in(checked_.english)))));
     outcome_->setText(outcomeOf(row));
 }
 

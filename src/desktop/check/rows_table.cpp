@@ -2,7 +2,6 @@
 #include "desktop/check/rows_table.h"
 
 #include <algorithm>
-#include <array>
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
@@ -22,11 +21,10 @@ enum Column { quantityColumn, askedColumn, courseColumn, simulatorColumn, verdic
 constexpr double rowShare = 1.9; ///< height of a row, by that of its letters
 constexpr int padding = 8;
 constexpr int barWidth = 4;
+constexpr int fewestLetters = 8;
 constexpr double symbolLetters = 3.9; ///< width of the symbols, in heights of the letters
+constexpr double leastName = 3.0;     ///< of room in heights of the letters; less shows nothing but dots
 constexpr double quietGround = 0.55;  ///< ink of rows from before
-
-// Widths of the columns behind the first, by the average letter.
-constexpr std::array<int, columnCount> lettersOf{0, 10, 10, 12, 17};
 
 } // namespace rows_table_detail
 
@@ -69,8 +67,12 @@ public:
     {
         if (orientation != Qt::Horizontal)
             return {};
-        if (role == Qt::DisplayRole)
-            return check_words::in(check_words::columns[section], checked_.english);
+        if (role == Qt::DisplayRole) {
+            // The header keeps no distance of its own from the next column.
+            const QString name = check_words::in(check_words::columns[section], checked_.english);
+            const bool isAmount = section != quantityColumn && section != verdictColumn;
+            return isAmount ? name + QString(2, QChar(QChar::Nbsp)) : QString(1, QChar(QChar::Nbsp)) + name;
+        }
         if (role == Qt::TextAlignmentRole)
             return data(index(0, section), role);
         return {};
@@ -93,7 +95,7 @@ private:
         const bool english = checked_.english;
         switch (column) {
         case quantityColumn:
-            return check_words::in(words.meaning, english);
+            return check_words::minus(check_words::in(words.meaning, english));
         case askedColumn:
             return check_words::amount(row.asked, words.unit);
         case courseColumn:
@@ -107,8 +109,7 @@ private:
         }
         if (checked_.freshness == Freshness::running)
             return check_words::in(check_words::running, english);
-        const auto judgement = static_cast<std::size_t>(row.judgement);
-        return check_words::in(isShown(row) ? check_words::judgements[judgement] : check_words::closedCell, english);
+        return check_words::in(isShown(row) ? check::judgementText(row.judgement) : check_words::closedCell, english);
     }
     // A dash says nothing to the ear, and a symbol alone not enough.
     QString spoken(const check::Row& row, int column) const
@@ -167,9 +168,11 @@ private:
         painter.setPen(inks_->ink);
         drawLabel(painter, label, QPointF(room.left(), room.center().y() + label.capHeight / 2.0));
         room.setLeft(room.left() + qRound(letters * symbolLetters));
+        if (room.width() < letters * leastName)
+            return;
         painter.setPen(inks_->quiet);
         painter.setFont(option.font);
-        const QString text = check_words::in(words.meaning, checked_.english);
+        const QString text = check_words::minus(check_words::in(words.meaning, checked_.english));
         painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
                          option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
     }
@@ -266,14 +269,39 @@ void RowsTable::take(check::Quantity quantity)
 
 void RowsTable::layOutColumns()
 {
-    const int letter = fontMetrics().averageCharWidth();
     int left = viewport()->width();
     for (int column = askedColumn; column < rows_table_detail::columnCount; ++column) {
-        const int width = lettersOf[static_cast<std::size_t>(column)] * letter + 2 * padding;
-        setColumnWidth(column, width);
-        left -= width;
+        setColumnWidth(column, widthOf(column));
+        left -= widthOf(column);
     }
-    setColumnWidth(quantityColumn, std::max(left, 12 * letter));
+    setColumnWidth(quantityColumn, std::max(left, qRound(fontMetrics().height() * symbolLetters) + 2 * padding));
+}
+
+// As wide as the widest that may stand there, so that no bet moves a column.
+int RowsTable::widthOf(int column) const
+{
+    QFont letters = font();
+    letters.setBold(column == simulatorColumn);
+    const QFontMetrics metrics(letters);
+    int widest = fontMetrics().horizontalAdvance(check_words::in(check_words::columns[column], checked_.english));
+    const auto take = [&](const QString& text) { widest = std::max(widest, metrics.horizontalAdvance(text)); };
+    if (column == verdictColumn) {
+        for (int i = 0; i <= static_cast<int>(check::Judgement::missing); ++i)
+            take(check_words::in(check::judgementText(static_cast<check::Judgement>(i)), checked_.english));
+        return widest + metrics.height() + 3 * padding;
+    }
+    for (const check::Row& row : checked_.result.rows) {
+        const check::Measured& value = column == askedColumn    ? row.asked
+                                       : column == courseColumn ? row.course
+                                                                : row.simulated;
+        take(check_words::amount(value, check::textOf(row.quantity).unit));
+    }
+    return std::max(widest, metrics.averageCharWidth() * fewestLetters) + 2 * padding;
+}
+
+int RowsTable::wholeHeight() const
+{
+    return horizontalHeader()->sizeHint().height() + verticalHeader()->defaultSectionSize() * model()->rowCount() + 2;
 }
 
 void RowsTable::resizeEvent(QResizeEvent* event)

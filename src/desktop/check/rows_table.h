@@ -22,6 +22,8 @@ public:
     /// Follows the check; the row in hand stays.
     void follow();
     void setInks(const Inks& inks);
+    /// What it takes to show every row.
+    int wholeHeight() const;
     std::optional<check::Quantity> inHand() const;
     void take(check::Quantity quantity);
 
@@ -34,6 +36,7 @@ protected:
 
 private:
     void layOutColumns();
+    int widthOf(int column) const;
 
     const Checked& checked_;
     RowsModel* rows_;

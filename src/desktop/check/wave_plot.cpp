@@ -2,6 +2,7 @@
 #include "desktop/check/plots.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include <QPainter>
@@ -18,6 +19,7 @@ namespace wave_plot_detail {
 constexpr double cyclesSeen = 2;
 constexpr double strong = 2.2; ///< pixels of the curve that counts
 constexpr double thin = 1.2;
+constexpr double bentDistortion = 10; ///< %
 constexpr double legendRoom = 1.35; ///< below the wave, of what it has above
 
 /// The wave between two of its values; its last cycles end with it.
@@ -133,15 +135,15 @@ void WavePlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look
     if (!hasData() || !isOpen())
         return paper.paintVeil(in(hasData() ? check_words::waveVeil : check_words::noPlot, look.english));
     const check::Swing& swing = checked().swing;
-    paintCeilings(paper, y, look);
     if (!swing.input.values.empty())
         paper.paintCurve(curveOf(swing.input, magnified(), check::mean(swing.output)), look.inks->quiet, thin);
     paper.paintCurve(curveOf(swing.output, 1, 0), look.inks->accent, strong);
-    const QString legend =
-        in(check_words::inputTimes, look.english).arg(check_words::amount(magnified(), "")) + QLatin1Char('\n') +
-        in(check_words::thdAmount, look.english)
-            .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%"));
-    paper.paintLegend(legend);
+    paintCeilings(paper, y, look);
+    const QString times = in(check_words::inputTimes, look.english).arg(check_words::amount(magnified(), ""));
+    const QString output = in(check_words::thdAmount, look.english)
+                               .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%"));
+    paper.paintKeys(std::array{PlotKey{look.inks->quiet, PlotKey::Sign::line, times},
+                               PlotKey{look.inks->accent, PlotKey::Sign::line, output}});
     if (place)
         paper.paintReading(x.valueAt(*place), reading(*place));
 }
@@ -170,8 +172,10 @@ QString WavePlot::sentence() const
     const double rest = check::mean(wave);
     const double up = highest(wave) - rest;
     const double down = rest - lowest(wave);
+    const bool bent = checked().swing.distortion.value_or(0) > bentDistortion;
     const host::BiText& shape = up < 0.9 * down   ? check_words::flatTop
                                 : down < 0.9 * up ? check_words::flatBottom
+                                : bent            ? check_words::bothFlat
                                                   : check_words::roundWave;
     return in(check_words::waveShape, english)
         .arg(volts(highest(wave)), volts(lowest(wave)), check_words::amount(checked().swing.distortion, "%"),

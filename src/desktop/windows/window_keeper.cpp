@@ -546,6 +546,15 @@ void WindowKeeper::nextPane()
     if (panes.empty())
         return;
     QWidget* active = QApplication::activeWindow();
+    // The check of the sheet in hand comes right behind it.
+    QWidget* check = desk_.checkOf ? desk_.checkOf(*panes.front()) : nullptr;
+    const bool onSheet = active == main_ && !stripInHand_;
+    if (check != nullptr && check->isVisible() && onSheet) {
+        wanted_ = check;
+        check->raise();
+        check->activateWindow();
+        return;
+    }
     std::size_t at = 0;
     for (std::size_t i = 1; i < panes.size(); ++i) {
         const bool isStrip = panes[i]->role() == Role::palette;

@@ -2,15 +2,17 @@
 // Pictures of the window of a check, to be judged by eye: each finished design of tests/check, in both languages.
 //     velmor_check_gallery FOLDER [NAME ...]
 //     NAME-bet: before the first bet; NAME-es, NAME-en: all rows open; NAME-loud: at three times the input; NAME-small: on a
-//     small screen; NAME-dark; NAME-curves.svg and .pdf
+//     small screen; NAME-dark; NAME-page1es and so on: the other pages; NAME-curves.svg and .pdf
 #include <clocale>
 #include <cstdio>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QSlider>
+#include <QTabWidget>
 #include <QTableView>
 
+#include "desktop/check/curves_export.h"
 #include "desktop/check/finished_design.h"
 #include "desktop/drawing/quiet_style.h"
 
@@ -43,7 +45,9 @@ public:
             design_.speak(english);
             window_.relabel();
             save(english ? "en" : "es");
+            savePages(english);
         }
+        saveCurves();
         takeLoud();
     }
 
@@ -64,6 +68,30 @@ private:
         save("dark");
         window_.resize(780, 560);
         save("small");
+    }
+
+    void savePages(bool english)
+    {
+        auto* pages = window_.findChild<QTabWidget*>(QStringLiteral("checkPages"));
+        for (int page = 1; page < pages->count(); ++page) {
+            pages->setCurrentIndex(page);
+            save(qPrintable(QStringLiteral("page%1%2").arg(page).arg(QLatin1String(english ? "en" : "es"))));
+        }
+        pages->setCurrentIndex(pages->isTabVisible(0) ? 0 : 1);
+    }
+
+    void saveCurves()
+    {
+        const desktop::GainPlot gain(window_.checked());
+        const desktop::WavePlot wave(window_.checked());
+        const desktop::HarmonicsPlot harmonics(window_.checked());
+        desktop::CurvesPaper paper{.title = window_.windowTitle(), .english = true};
+        for (const desktop::Plot* plot : std::initializer_list<const desktop::Plot*>{&gain, &wave, &harmonics})
+            if (plot->hasData())
+                paper.plots.push_back(plot);
+        const QString path = folder_ + QLatin1Char('/') + QString::fromStdString(name_);
+        desktop::exportCurvesSvg(path + QStringLiteral("-curves.svg"), paper);
+        desktop::exportCurvesPdf(path + QStringLiteral("-curves.pdf"), paper);
     }
 
     void save(const char* what)

@@ -1,25 +1,33 @@
 // SPDX-License-Identifier: MIT
 // The window of a check: what a student sees before the simulator has spoken, while it speaks, and when the design changes.
 #include <clocale>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFontInfo>
+#include <QImage>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QSlider>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "check/deck.h"
+#include "check/power.h"
 #include "check/program_run.h"
 #include "desktop/check/check_words.h"
 #include "desktop/check/curves_page.h"
 #include "desktop/check/finished_design.h"
+#include "desktop/check/plot_paper.h"
+#include "desktop/check/report_columns.h"
 #include "desktop/drawing/quiet_style.h"
 
 namespace velmor::test {
@@ -70,6 +78,23 @@ protected:
                     .toString()
                     .startsWith(QLatin1String(quantity) + ","))
                 table->setCurrentIndex(table->model()->index(row, 3));
+    }
+    /// The share of the columns of a plot's paper that have the curve's ink somewhere.
+    double inkedShare(const char* name)
+    {
+        QWidget& view = part(name);
+        const QImage image = view.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        const double letters = QFontInfo(view.font()).pixelSize() * 0.9;
+        const QRect field = desktop::PlotPaper::fieldIn(view.rect(), letters).toAlignedRect().adjusted(2, 2, -2, -2);
+        const QRgb ink = form2.desk().inks->accent.rgb();
+        int inked = 0;
+        for (int x = field.left(); x <= field.right(); ++x)
+            for (int y = field.top(); y <= field.bottom(); ++y)
+                if (image.pixel(x, y) == ink) {
+                    ++inked;
+                    break;
+                }
+        return static_cast<double>(inked) / field.width();
     }
     QString text(const char* name) { return window_->findChild<QLabel*>(QLatin1String(name))->text(); }
     QWidget& part(const char* name) { return *window_->findChild<QWidget*>(QLatin1String(name)); }
@@ -163,6 +188,23 @@ TEST_F(CheckWindowTest, greysWhatIsFromBeforeAChange)
     EXPECT_TRUE(text("checkState").startsWith(QStringLiteral("It waits:")));
 }
 
+// What is told in words is not yet drawn: the curve's ink must stand in nearly every column of the paper.
+TEST_F(CheckWindowTest, drawsItsCurvesOnceTheirBetsAreOpen)
+{
+    if (!ngspiceIsThere())
+        GTEST_SKIP() << "no ngspice";
+    desktop::CheckWindow& window = open("");
+    ASSERT_TRUE(waitForCheck(window));
+    window.resize(1240, 720);
+    EXPECT_EQ(inkedShare("checkGain"), 0) << "behind its veil";
+    EXPECT_EQ(inkedShare("checkWave"), 0) << "behind its veil";
+    press("checkOpenAll");
+    // The gain comes up from below its paper, which begins a good decade under the corner.
+    EXPECT_GT(inkedShare("checkGain"), 0.85);
+    EXPECT_GT(inkedShare("checkWave"), 0.98);
+    EXPECT_GT(inkedShare("checkHarmonics"), 0.1) << "the second harmonic's bar, 0.03 % high";
+}
+
 TEST_F(CheckWindowTest, bendsTheWaveWithTheSlider)
 {
     if (!ngspiceIsThere())
@@ -177,6 +219,52 @@ TEST_F(CheckWindowTest, bendsTheWaveWithTheSlider)
     EXPECT_DOUBLE_EQ(window.checked().swing.drive, 4.0) << "the last wish";
     EXPECT_GT(window.checked().swing.distortion.value_or(0), before);
     EXPECT_EQ(window.checked().result.swing.drive, 1.0) << "the rows stay those of the course's input";
+}
+
+TEST(CheckOfACurrentSource, hasNoCurvesToShow)
+{
+    FinishedDesign form12("form12");
+    desktop::CheckWindow window(form12.desk(), nowhere, {}, nullptr);
+    auto& pages = *window.findChild<QTabWidget*>(QStringLiteral("checkPages"));
+    EXPECT_EQ(pages.currentIndex(), 0) << "before it knows a design";
+    window.begin(form12.design(), QStringLiteral("Hoja"));
+    EXPECT_FALSE(pages.isTabVisible(0));
+    EXPECT_NE(pages.currentIndex(), 0);
+    EXPECT_TRUE(waitForCheck(window));
+}
+
+TEST(CheckOfAPowerStage, trimsThePresetUntilTheMiddleIsHalfTheSupply)
+{
+    if (!ngspiceIsThere())
+        GTEST_SKIP() << "no ngspice";
+    FinishedDesign form10("form10");
+    const check::Design design = form10.design();
+    check::Ngspice simulator;
+    const check::Design trimmed = check::trimmed(design, simulator);
+    const double typed = check::partOf(design.circuit, "Rb1b")->value;
+    const double turned = check::partOf(trimmed.circuit, "Rb1b")->value;
+    EXPECT_NE(typed, turned);
+    EXPECT_EQ(check::partOf(trimmed.circuit, "Rb1a")->value, check::partOf(design.circuit, "Rb1a")->value);
+    const auto middleOf = [&](const check::Circuit& circuit) {
+        const std::string deck = check::deckOf(circuit, {.response = false, .wave = false, .drift = false});
+        const check::Simulation run = simulator.run(deck);
+        const check::Plot* point = check::plotOf(run.plots, "Operating Point");
+        return point == nullptr ? -1 : check::pointOf(*point, "v(x)").value_or(-1);
+    };
+    const double half = check::partOf(design.circuit, "Es")->value / 2;
+    EXPECT_NEAR(middleOf(trimmed.circuit), half, 0.01 * half);
+    EXPECT_GT(std::abs(middleOf(design.circuit) - half), 0.01 * half) << "there was something to turn";
+}
+
+// A stop every eight letters; a cell of eight fills its stop, and the next one would touch it.
+TEST(ReportColumnsTest, beginEveryColumnAtAStopOfItsOwn)
+{
+    const auto widthOf = [](const QString& text) { return static_cast<double>(text.size()); };
+    EXPECT_EQ(desktop::inColumns(QStringLiteral("a\tb\nlonger word\tc\nexact by\td"), widthOf, 8),
+              QStringLiteral("a\t\tb\nlonger word\tc\nexact by\td"));
+    EXPECT_EQ(desktop::inColumns(QStringLiteral("1\t\tx\n2\t+3 %\ty\n\nother\tz"), widthOf, 8),
+              QStringLiteral("1\t\tx\n2\t+3 %\ty\n\nother\tz"))
+        << "an empty cell keeps its column; a line without tabs ends the table";
 }
 
 TEST(CurvesPageTest, givesTheSliderTheCoursesInputAndBothEnds)
@@ -196,6 +284,7 @@ TEST_F(CheckWindowTest, givesTheWholeTableToTheReport)
     ASSERT_TRUE(waitForCheck(window));
     press("checkReport");
     EXPECT_TRUE(report.startsWith(QStringLiteral("Quantity\tAsked\tCourse\tSimulator\tVerdict\r\n")));
+    EXPECT_TRUE(report.contains(QStringLiteral("Zin: differs, because the course mixes kilohms with ohms")));
     EXPECT_TRUE(report.contains(QStringLiteral("10.7 K")));
     EXPECT_NE(cell("Vg", 3), QStringLiteral("?")) << "who takes the table away opens all rows";
 }

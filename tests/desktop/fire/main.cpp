@@ -38,9 +38,9 @@ int play(int games, int events, std::uint64_t seed)
         const std::uint64_t own = seed + static_cast<std::uint64_t>(i);
         WindowGame game(own, i % 2 == 1, watchdog);
         game.play(events);
-        std::printf("game %llu (%s): %d events, %d answers, %d ends, %zu faults\n",
+        std::printf("game %llu (%s): %d events, %d answers, %d in checks, %d ends, %zu faults\n",
                     static_cast<unsigned long long>(own), i % 2 == 1 ? "rude" : "polite", events, game.answers(),
-                    game.ends(), game.faults().size());
+                    game.checks(), game.ends(), game.faults().size());
         for (const std::string& fault : game.faults())
             std::printf("  %s\n", fault.c_str());
         std::fflush(stdout);

@@ -20,6 +20,8 @@
 #include <QWindow>
 
 #include "desktop/canvas/canvas.h"
+#include "desktop/check/check_window.h"
+#include "designs/circuits.h"
 #include "desktop/drawing/texts.h"
 #include "desktop/windows/offer_line.h"
 #include "desktop/windows/search_line.h"
@@ -145,6 +147,7 @@ const WindowGame::Move& WindowGame::chosen()
         {1,  false, "the window sized",   &WindowGame::sizeMain},
         {2,  false, "a wheel",            &WindowGame::wheel},
         {1,  false, "the quiet line",     &WindowGame::pressOffer},
+        {6,  false, "a check",            &WindowGame::playCheck},
     };
     // clang-format on
     int all = 0;
@@ -180,7 +183,7 @@ std::string WindowGame::keyboardFault()
     const QWidget* offer = on_->main().findChild<QWidget*>(QStringLiteral("offer"));
     if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr ||
         on_->main().isMinimized() || (offer != nullptr && now != nullptr && offer->isAncestorOf(now)) ||
-        (now != nullptr && now->inherits("QMenuBar")))
+        (now != nullptr && now->inherits("QMenuBar")) || openCheck() != nullptr)
         return {};
     desktop::SheetView* view = on_->screen.keeper().activeView();
     if (view == nullptr)
@@ -220,6 +223,60 @@ std::string WindowGame::frameFault()
            ", the active child is " + std::string(child->name()) + ", the current window " +
            std::string(current == nullptr ? "none" : current->name()) + ", active " +
            (active == nullptr ? "nothing" : active->objectName().toStdString());
+}
+
+/// The window of a check that is in front; null when none is.
+desktop::CheckWindow* WindowGame::openCheck()
+{
+    auto* check = dynamic_cast<desktop::CheckWindow*>(QApplication::activeWindow());
+    return check != nullptr && check->isVisible() ? check : nullptr;
+}
+
+// Opened by its key, played with a little, closed; the sheet may go on meanwhile, or go.
+void WindowGame::playCheck()
+{
+    desktop::CheckWindow* check = openCheck();
+    if (check == nullptr) {
+        finishCurrentSource();
+        return Bench::keys(QStringLiteral("Ctrl+T"));
+    }
+    ++checks_;
+    constexpr Qt::Key keys[] = {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_Down, Qt::Key_Tab, Qt::Key_F5, Qt::Key_F6, Qt::Key_Escape};
+    constexpr const char* buttons[] = {"checkOpenAll", "checkReport", "checkCopy", "checkAgain"};
+    if (chance_.in(70))
+        return Bench::key(chance_.one(keys));
+    auto* button = check->findChild<QPushButton*>(QLatin1String(chance_.one(buttons)));
+    if (button->isVisible() && button->isEnabled())
+        button->click();
+}
+
+// The shortest design there is, so that a game has something to check.
+void WindowGame::finishCurrentSource()
+{
+    static constexpr std::pair<const char*, const char*> chain[] = {
+        {"Text1", "2"}, {"Text2", "4"}, {"Text3", ""}, {"Text9", ""}, {"Text4", "2.2"}, {"Text5", ""}, {"Text6", "3.9"}, {"Text7", "4.7"}};
+    host::Engine& engine = on_->engine;
+    host::Window* sheet = engine.activeChild();
+    if (sheet != nullptr && designs::circuitTableOf(sheet->name()) != nullptr &&
+        designs::circuitTableOf(sheet->name())->passed(*sheet))
+        return;
+    if (!engine.idle() || engine.windows().size() >= window_game_detail::mostWindows)
+        return;
+    engine.userRun([&] {
+        sheet = engine.host().NewInstance("Form12");
+        if (sheet != nullptr)
+            engine.host().Show(*sheet);
+    });
+    for (const auto& [name, text] : chain) {
+        if (sheet == nullptr || !engine.isLoaded(sheet) || engine.ended())
+            return;
+        const host::Handle field = sheet->named(name);
+        engine.userFocus(*sheet, field);
+        if (*text != '\0')
+            engine.userText(*sheet, field, text);
+        if (engine.isLoaded(sheet))
+            engine.userKey(*sheet, 13);
+    }
 }
 
 void WindowGame::typeNumber()

@@ -15,6 +15,10 @@
 
 class QDialog;
 
+namespace velmor::desktop {
+class CheckWindow;
+}
+
 namespace velmor::test {
 
 class WindowGame {
@@ -27,6 +31,7 @@ public:
     const std::vector<std::string>& faults() const { return faults_; }
     int ends() const { return ends_; }
     int answers() const { return answers_; }
+    int checks() const { return checks_; }
 
     struct Move {
         int weight;
@@ -67,6 +72,9 @@ private:
     void sizeMain();
     void wheel();
     void pressOffer();
+    void playCheck();
+    void finishCurrentSource();
+    static desktop::CheckWindow* openCheck();
 
     void answerSoon();
     void answer();
@@ -90,6 +98,7 @@ private:
     int patience_ = 0;
     int ends_ = 0;
     int answers_ = 0;
+    int checks_ = 0; ///< deeds in the window of a check
 };
 
 } // namespace velmor::test
