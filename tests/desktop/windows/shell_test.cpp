@@ -7,6 +7,7 @@
 #include <QMdiArea>
 #include <QPainter>
 #include <QPushButton>
+#include <QStyleOption>
 #include <QTest>
 #include <QTimer>
 
@@ -41,6 +42,30 @@ struct ShellTest : ::testing::Test {
     QAbstractButton& closeOf(QWidget& widget) { return *widget.findChild<QAbstractButton*>("close"); }
     Bench on;
 };
+
+// buttons
+
+TEST_F(ShellTest, aButtonLeavesItsCaptionAir)
+{
+    const QPushButton button(QStringLiteral("Reemplazar todo"));
+    const QFontMetrics letters = button.fontMetrics();
+    EXPECT_GE(button.sizeHint().width(), letters.horizontalAdvance(button.text()) + letters.height());
+}
+
+TEST_F(ShellTest, theButtonsOfAMaximisedChildGrowWithTheLetters)
+{
+    QStyleOptionComplex buttons;
+    buttons.subControls = QStyle::SC_MdiMinButton | QStyle::SC_MdiNormalButton | QStyle::SC_MdiCloseButton;
+    const auto sizeAt = [&](int pixels) {
+        QFont font;
+        font.setPixelSize(pixels);
+        buttons.fontMetrics = QFontMetrics(font);
+        return QApplication::style()->sizeFromContents(QStyle::CT_MdiControls, &buttons, QSize());
+    };
+    EXPECT_GE(sizeAt(40).height(), 40);
+    EXPECT_NEAR(sizeAt(40).width(), 3 * sizeAt(40).height(), 3);
+    EXPECT_LT(sizeAt(12).height(), sizeAt(40).height());
+}
 
 // boxes
 
