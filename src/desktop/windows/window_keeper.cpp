@@ -496,6 +496,13 @@ Stage WindowKeeper::stage() const
     return stage;
 }
 
+QRect WindowKeeper::spokenOf() const
+{
+    const SheetView* view = activeView();
+    const bool writes = view != nullptr && view->model() != nullptr && view->model()->role() == Role::editor;
+    return view == nullptr || writes ? QRect() : view->spokenOf();
+}
+
 std::vector<QWidget*> WindowKeeper::windowsInSight() const
 {
     std::vector<QWidget*> seen;
