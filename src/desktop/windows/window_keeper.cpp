@@ -239,6 +239,8 @@ void WindowKeeper::followRaised()
         if (frame == nullptr)
             continue;
         frame->bringToFront();
+        if (window->isChild())
+            stripInHand_ = false;
         if (window->spec().reading)
             quiet_ = &frame->widget();
         if (window->role() == Role::palette || window->spec().reading)
