@@ -208,7 +208,7 @@ void QuietStyle::polish(QPalette& palette)
     }
 }
 
-// The toolkit's own tips are yellow on every desktop.
+// The toolkit's own tips are yellow and small on every desktop.
 void QuietStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
@@ -219,6 +219,7 @@ void QuietStyle::polish(QWidget* widget)
     palette.setColor(QPalette::ToolTipBase, inks.hint);
     palette.setColor(QPalette::ToolTipText, inks.ink);
     widget->setPalette(palette);
+    widget->setFont(QApplication::font());
 }
 
 void QuietStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -263,14 +264,14 @@ QSize QuietStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     return wanted;
 }
 
-// A title grows with its letters.
+// A title grows with its letters, and the sign in it.
 int QuietStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-    if (metric != PM_TitleBarHeight)
+    if (metric != PM_TitleBarHeight && metric != PM_SmallIconSize)
         return usual;
-    return std::max(usual,
-                    static_cast<int>(QFontMetrics(QApplication::font()).height() * quiet_style_detail::titleShare));
+    const double share = metric == PM_TitleBarHeight ? quiet_style_detail::titleShare : 1.0;
+    return std::max(usual, static_cast<int>(QFontMetrics(QApplication::font()).height() * share));
 }
 
 // Captions say what the buttons of the toolkit's dialogs do, as everywhere in the program.

@@ -10,9 +10,11 @@
 #include <QStyleOption>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/drawing/box_sign.h"
+#include "desktop/drawing/palette_of_inks.h"
 #include "desktop/windows/palette_strip.h"
 #include "desktop/windows/placing.h"
 #include "desktop/windows/quiet_box.h"
@@ -65,6 +67,21 @@ TEST_F(ShellTest, theButtonsOfAMaximisedChildGrowWithTheLetters)
     EXPECT_GE(sizeAt(40).height(), 40);
     EXPECT_NEAR(sizeAt(40).width(), 3 * sizeAt(40).height(), 3);
     EXPECT_LT(sizeAt(12).height(), sizeAt(40).height());
+}
+
+TEST_F(ShellTest, aTipHasTheLettersAndTheGroundOfTheProgram)
+{
+    QToolTip::showText(on.main().mapToGlobal(QPoint(50, 50)), QStringLiteral("<qt>Abrir la guía</qt>"), &on.main());
+    const QWidget* tip = nullptr;
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        if (window->inherits("QTipLabel"))
+            tip = window;
+    ASSERT_NE(tip, nullptr);
+    const desktop::Inks& inks = desktop::inksFor(QApplication::palette());
+    EXPECT_EQ(tip->palette().color(QPalette::ToolTipBase), inks.hint);
+    EXPECT_GE(desktop::contrast(inks.hint, tip->palette().color(QPalette::ToolTipText)), 4.5);
+    EXPECT_EQ(tip->font().pointSizeF(), QApplication::font().pointSizeF());
+    QToolTip::hideText();
 }
 
 // boxes
