@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Measures a long report in the text editor of the desktop: opened, searched to its last word, printed to a PDF. Each is done
-// with a short and with a ten times longer one, so that growth beyond the length shows.
+// with a short and with a ten times longer one, so that growth beyond the length shows. And a text as long in one single line:
+// opened, letters written at its start, undone, the next hit of a search.
 #include <chrono>
 #include <clocale>
 #include <cstdio>
@@ -8,6 +9,7 @@
 #include <string>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDir>
 #include <QFile>
 #include <QPdfWriter>
@@ -19,6 +21,9 @@
 #include "desktop/drawing/quiet_style.h"
 #include "desktop/printing.h"
 #include "desktop/settings_file.h"
+#include "desktop/windows/sheet_view.h"
+#include "desktop/windows/window_frame.h"
+#include "desktop/windows/window_keeper.h"
 #include "editors/editor.h"
 #include "editors/find_dialogs.h"
 #include "editors/print_layout.h"
@@ -38,6 +43,15 @@ struct Times {
     double open = 0.0;
     double search = 0.0;
     double print = 0.0;
+};
+
+struct LineTimes {
+    double open = 0.0;
+    double letters = 0.0; ///< five of them
+    double undo = 0.0;
+    double hit = 0.0;
+    double paste = 0.0;   ///< of the whole text over itself
+    double unpaste = 0.0; ///< the same undone
 };
 
 struct Bench {
@@ -112,6 +126,14 @@ double timeOfPrinting(Bench& bench, host::Window& editor)
     });
 }
 
+void leave(Bench& bench, host::Window& editor)
+{
+    // The editor asks whether it may go.
+    QTimer::singleShot(100, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
+    bench.engine.userRun([&] { bench.engine.host().Unload(editor); });
+    bringUpToDate();
+}
+
 /// Empty, or what did not work.
 std::string measure(Bench& bench, std::size_t size, Times& times)
 {
@@ -125,10 +147,51 @@ std::string measure(Bench& bench, std::size_t size, Times& times)
     if (times.search < 0.0)
         return "its last word was not found";
     times.print = timeOfPrinting(bench, *editor);
-    // The editor asks whether it may go.
-    QTimer::singleShot(100, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
-    bench.engine.userRun([&] { bench.engine.host().Unload(*editor); });
-    bringUpToDate();
+    leave(bench, *editor);
+    return {};
+}
+
+void writeLine(const QString& path, std::size_t size)
+{
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    for (std::size_t written = 0; written < size; written += 8)
+        file.write("palabra ");
+}
+
+std::string measureLine(Bench& bench, LineTimes& times)
+{
+    writeLine(bench.folder + QStringLiteral("/Line.Lab"), longReport);
+    bench.engine.values().ArchivoGuia = "Line.Lab";
+    host::Window* editor = nullptr;
+    times.open = millisecondsOf([&] { editor = &shown(bench, "frmEdito1"); });
+    desktop::SheetView* view = bench.screen.keeper().frameOf(*editor)->view();
+    QWidget* text = view->canvas().widgetOf(editors::txtEdit);
+    const std::size_t whole = editor->store(editors::txtEdit).length();
+    times.letters = millisecondsOf([&] { QTest::keyClicks(text, QStringLiteral("abcde")); });
+    if (editor->store(editors::txtEdit).length() != whole + 5)
+        return "the letters were not written";
+    times.undo = millisecondsOf([&] { QTest::keyClick(text, Qt::Key_Z, Qt::ControlModifier); });
+    if (editor->store(editors::txtEdit).length() != whole)
+        return "the letters were not undone";
+    QTest::keyClick(text, Qt::Key_F, Qt::ControlModifier);
+    auto* wanted = view->findChild<QWidget*>(QStringLiteral("searchWanted"));
+    if (wanted == nullptr)
+        return "there is no search line";
+    times.hit = millisecondsOf([&] {
+        QTest::keyClicks(wanted, QStringLiteral("palabra"));
+        QTest::keyClick(wanted, Qt::Key_Return);
+    });
+    if (editor->store(editors::txtEdit).selectionLength() != std::string("palabra").size())
+        return "no hit came into hand";
+    QTest::keyClick(wanted, Qt::Key_Escape);
+    QGuiApplication::clipboard()->setText(QString::fromStdString(editor->store(editors::txtEdit).all()));
+    QTest::keyClick(text, Qt::Key_A, Qt::ControlModifier);
+    times.paste = millisecondsOf([&] { QTest::keyClick(text, Qt::Key_V, Qt::ControlModifier); });
+    times.unpaste = millisecondsOf([&] { QTest::keyClick(text, Qt::Key_Z, Qt::ControlModifier); });
+    if (editor->store(editors::txtEdit).length() != whole)
+        return "what was pasted was not undone";
+    leave(bench, *editor);
     return {};
 }
 
@@ -137,14 +200,20 @@ bool measureBoth(Bench& bench)
     Times small;
     Times large;
     std::string fault = measure(bench, shortReport, small);
+    LineTimes line;
     if (fault.empty())
         fault = measure(bench, longReport, large);
+    if (fault.empty())
+        fault = measureLine(bench, line);
     if (!fault.empty()) {
         std::fprintf(stderr, "bench_report: %s\n", fault.c_str());
         return false;
     }
     constexpr double longer = static_cast<double>(longReport) / shortReport;
     std::printf("report.open.ms\t%.3f\nreport.open.growth\t%.3f\n", large.open, large.open / small.open / longer);
+    std::printf("line.open.ms\t%.3f\nline.letters.ms\t%.3f\n", line.open, line.letters);
+    std::printf("line.undo.ms\t%.3f\nline.hit.ms\t%.3f\n", line.undo, line.hit);
+    std::printf("line.paste.ms\t%.3f\nline.unpaste.ms\t%.3f\n", line.paste, line.unpaste);
     std::printf("report.search.ms\t%.3f\n", large.search);
     std::printf("report.print.ms\t%.3f\nreport.print.growth\t%.3f\n", large.print, large.print / small.print / longer);
     return true;

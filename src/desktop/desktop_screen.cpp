@@ -77,7 +77,7 @@ auto DesktopScreen::ask(Ask question)
     busyPointer(false);
     texts_.speak(desk_.english());
     QPointer<QWidget> parent(keeper_->dialogParent());
-    const Veils calm(keeper_->windowsInSight(), keeper_->stage().inHand, *desk_.inks);
+    const Veils calm(keeper_->windowsInSight(), keeper_->spokenOf(), *desk_.inks);
     auto answer = question(parent.data());
     keeper_->dialogClosed(parent);
     busyPointer(wasBusy);

@@ -175,7 +175,11 @@ bool Keyboard::pressed(const QKeyEvent& event)
             return true;
     }
     const QKeyCombination keys = keysOf(event);
-    if (runSearch(keys) || runShortcut(keys) || runCommon(keys))
+    if (runSearch(keys) || runShortcut(keys))
+        return true;
+    if (model->role() == host::Role::palette && walk_.pressed(*model, canvas_.desk(), event.key()))
+        return true;
+    if (runCommon(keys))
         return true;
     const Handle held = model->focus();
     if (held == noControl)

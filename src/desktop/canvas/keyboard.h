@@ -10,6 +10,7 @@
 #include <QKeySequence>
 #include <QString>
 
+#include "desktop/canvas/palette_walk.h"
 #include "host/bitext.h"
 #include "host/engine.h"
 #include "host/state_change.h"
@@ -68,6 +69,7 @@ private:
     QString filtered(const QString& text);
 
     Canvas& canvas_;
+    PaletteWalk walk_;
 };
 
 /// The key code of a character: its code in Windows-1252, 63 when it has none.

@@ -116,11 +116,21 @@ private:
 
 } // namespace long_lines_detail
 
+// In one pass: replacing the pairs one after the other would move the rest of a long text each time.
 QString withLineFeeds(QString text)
 {
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    for (const QChar other : {QChar(u'\r'), QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
-        text.replace(other, u'\n');
+    const auto isBreak = [](QChar unit) {
+        return unit == u'\r' || unit == QChar(QChar::ParagraphSeparator) || unit == QChar(QChar::LineSeparator);
+    };
+    const auto first = std::find_if(text.cbegin(), text.cend(), isBreak) - text.cbegin();
+    if (first == text.size())
+        return text;
+    QChar* const end = text.data() + text.size();
+    QChar* put = text.data() + first;
+    for (const QChar* from = put; from != end; ++from)
+        if (*from != u'\r' || from + 1 == end || from[1] != u'\n')
+            *put++ = isBreak(*from) ? QChar(u'\n') : *from;
+    text.truncate(put - text.constData());
     return text;
 }
 

@@ -26,11 +26,19 @@ namespace quiet_style_detail {
 
 constexpr double menuShare = 1.55; ///< height of a line of a menu, by that of its letters
 constexpr double titleShare = 1.6; ///< height of a title, by that of its letters
+constexpr double frameShare =
+    1.3;                         ///< side of a maximised child's buttons, by the height of the letters of the menu bar
+constexpr double airShare = 0.6; ///< beside the caption of a button, by the height of its letters
+constexpr int countedMark = 20;  ///< logical pixels that the toolkit counts for the mark of a menu's line
 
 struct ButtonRow {
     QStyle::SubControl part;
     QStyle::SubControl glyph; ///< what is drawn: minimise, maximise, restore or close
 };
+
+constexpr ButtonRow frameButtons[] = {{QStyle::SC_MdiMinButton, QStyle::SC_TitleBarMinButton},
+                                      {QStyle::SC_MdiNormalButton, QStyle::SC_TitleBarNormalButton},
+                                      {QStyle::SC_MdiCloseButton, QStyle::SC_TitleBarCloseButton}};
 
 bool offered(const QStyleOptionTitleBar& bar, QStyle::SubControl part)
 {
@@ -184,6 +192,10 @@ void QuietStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
             drawTitleBar(*bar, *painter, widget);
             return;
         }
+    if (control == CC_MdiControls) {
+        drawFrameButtons(*option, *painter, widget);
+        return;
+    }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
@@ -195,6 +207,20 @@ void QuietStyle::polish(QPalette& palette)
         palette.setColor(group, QPalette::Highlight, inks.accent);
         palette.setColor(group, QPalette::HighlightedText, inks.onAccent);
     }
+}
+
+// The toolkit's own tips are yellow and small on every desktop.
+void QuietStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (!widget->inherits("QTipLabel"))
+        return;
+    const Inks& inks = inksFor(QApplication::palette());
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::ToolTipBase, inks.hint);
+    palette.setColor(QPalette::ToolTipText, inks.ink);
+    widget->setPalette(palette);
+    widget->setFont(QApplication::font());
 }
 
 void QuietStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -211,42 +237,67 @@ void QuietStyle::drawControl(ControlElement element, const QStyleOption* option,
     QProxyStyle::drawControl(CE_PushButtonLabel, &caption, painter, widget);
 }
 
-// Menus leave their lines the same air whatever the size of their letters.
+// Menus leave their lines the same air whatever the size of their letters, and buttons their captions.
 QSize QuietStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                    const QWidget* widget) const
 {
+    using namespace quiet_style_detail;
     QSize wanted = QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (option == nullptr)
+        return wanted;
+    const int letters = option->fontMetrics.height();
     const auto* item = type == CT_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
-    if (item != nullptr && item->menuItemType != QStyleOptionMenuItem::Separator)
-        wanted.setHeight(
-            std::max(wanted.height(), static_cast<int>(item->fontMetrics.height() * quiet_style_detail::menuShare)));
+    if (item != nullptr && item->menuItemType != QStyleOptionMenuItem::Separator) {
+        wanted.setHeight(std::max(wanted.height(), static_cast<int>(letters * menuShare)));
+        // The mark's column is as wide as the line is high.
+        wanted.rwidth() += std::max(0, wanted.height() - countedMark);
+    }
+    if (const auto* button = type == CT_PushButton ? qstyleoption_cast<const QStyleOptionButton*>(option) : nullptr) {
+        const int caption = button->fontMetrics.size(Qt::TextShowMnemonic, button->text).width();
+        wanted.setWidth(std::max(wanted.width(), caption + 2 * static_cast<int>(letters * airShare)));
+    }
+    if (const auto* frame = type == CT_MdiControls ? qstyleoption_cast<const QStyleOptionComplex*>(option) : nullptr) {
+        const auto shown = [frame](const ButtonRow& row) { return (frame->subControls & row.part) != 0; };
+        const auto count = std::count_if(std::begin(frameButtons), std::end(frameButtons), shown);
+        const int side = std::max(wanted.height(), static_cast<int>(letters * frameShare));
+        wanted = QSize(static_cast<int>(count) * (side + 1), side);
+    }
     return wanted;
 }
 
-// A title grows with its letters.
+// A title grows with its letters, and the sign in it.
 int QuietStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-    if (metric != PM_TitleBarHeight)
+    if (metric != PM_TitleBarHeight && metric != PM_SmallIconSize)
         return usual;
-    return std::max(usual,
-                    static_cast<int>(QFontMetrics(QApplication::font()).height() * quiet_style_detail::titleShare));
+    const double share = metric == PM_TitleBarHeight ? quiet_style_detail::titleShare : 1.0;
+    return std::max(usual, static_cast<int>(QFontMetrics(QApplication::font()).height() * share));
+}
+
+// Captions say what the buttons of the toolkit's dialogs do, as everywhere in the program.
+int QuietStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* more) const
+{
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
 }
 
 void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const
 {
-    if (element != PE_FrameWindow) {
+    if (element != PE_FrameWindow && element != PE_PanelTipLabel) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
     }
-    const Inks& inks = inksFor(option->palette);
-    const QColor& color = option->state & State_Active ? inks.edge : inks.rule;
+    const Inks& inks = inksFor(QApplication::palette());
     const QRect box = option->rect;
+    if (element == PE_PanelTipLabel)
+        painter->fillRect(box, inks.hint);
+    const bool strong = element == PE_PanelTipLabel || (option->state & State_Active);
     for (const QRect& side :
          {QRect(box.topLeft(), QSize(box.width(), 1)), QRect(box.bottomLeft(), QSize(box.width(), 1)),
           QRect(box.topLeft(), QSize(1, box.height())), QRect(box.topRight(), QSize(1, box.height()))})
-        painter->fillRect(side, color);
+        painter->fillRect(side, strong ? inks.edge : inks.rule);
 }
 
 // Every child window asks for the signs of its own menu anew, the menu bar for one before it is shown.
@@ -283,6 +334,23 @@ void QuietStyle::drawScrollBar(const QStyleOptionSlider& bar, QPainter& painter,
         painter.fillRect(slider.adjusted(3, 3, -3, -3), held ? inks.accent : under ? inks.quiet : inks.edge);
 }
 
+// As in the title that a maximised child has not.
+void QuietStyle::drawFrameButtons(const QStyleOptionComplex& buttons, QPainter& painter, const QWidget* widget) const
+{
+    const Inks& inks = inksFor(buttons.palette);
+    painter.save();
+    for (const auto& [part, glyph] : quiet_style_detail::frameButtons) {
+        if ((buttons.subControls & part) == 0)
+            continue;
+        const QRect box = subControlRect(CC_MdiControls, &buttons, part, widget);
+        if ((buttons.activeSubControls & part) != 0)
+            painter.fillRect(box, (buttons.state & State_Sunken) != 0 ? inks.edge : inks.buttonHover);
+        painter.setPen(QPen(inks.ink, std::max(1, box.height() / 22)));
+        quiet_style_detail::drawGlyph(painter, glyph, box);
+    }
+    painter.restore();
+}
+
 void QuietStyle::drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter, const QWidget* widget) const
 {
     using namespace quiet_style_detail;
@@ -307,7 +375,7 @@ void QuietStyle::drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter
         const bool under = (bar.activeSubControls & part) != 0 && (bar.state & State_MouseOver);
         if (under)
             painter.fillRect(box, inks.buttonHover);
-        painter.setPen(QPen(active ? inks.ink : inks.quiet, 1.0));
+        painter.setPen(QPen(active ? inks.ink : inks.quiet, std::max(1, box.height() / 22)));
         drawGlyph(painter, part, box);
     }
     painter.restore();

@@ -18,12 +18,15 @@ public:
     QuietStyle();
     /// What is marked is marked in the one accent colour, also in menus.
     void polish(QPalette& palette) override;
+    void polish(QWidget* widget) override;
     using QProxyStyle::polish;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -34,6 +37,7 @@ public:
 
 private:
     void drawScrollBar(const QStyleOptionSlider& bar, QPainter& painter, const QWidget* widget) const;
+    void drawFrameButtons(const QStyleOptionComplex& buttons, QPainter& painter, const QWidget* widget) const;
     void drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter, const QWidget* widget) const;
 
     mutable std::map<StandardPixmap, QIcon> signs_;

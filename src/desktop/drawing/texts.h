@@ -30,7 +30,12 @@ inline QString shownTitle(std::string_view text)
 /// A tool tip wraps only as rich text, so the plain text is escaped and said to be rich.
 inline QString shownTip(const QString& text)
 {
-    return QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>")));
+    constexpr qsizetype shortLine = 48; // the toolkit would break it into three
+    QStringList lines = text.toHtmlEscaped().split(QLatin1Char('\n'));
+    for (QString& line : lines)
+        if (line.size() <= shortLine)
+            line.replace(QLatin1Char(' '), QStringLiteral("&nbsp;"));
+    return QStringLiteral("<qt>%1</qt>").arg(lines.join(QStringLiteral("<br>")));
 }
 
 } // namespace velmor::desktop

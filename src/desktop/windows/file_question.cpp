@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontMetrics>
+#include <QSplitter>
 
 #include "desktop/drawing/texts.h"
 
@@ -17,6 +18,7 @@ namespace file_question_detail {
 
 constexpr int lettersAcross = 115; ///< room for names, sizes and dates
 constexpr int linesDown = 32;
+constexpr int placesAcross = 22; ///< letters of the names of places, at the side
 constexpr int overwritePrompt = 0x2;
 
 // On a file system that tells capitals apart, "*.CEC" must also find "bass.cec".
@@ -93,6 +95,10 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& aske
     const QFontMetrics letters = dialog.fontMetrics();
     dialog.resize(letters.averageCharWidth() * file_question_detail::lettersAcross,
                   letters.height() * file_question_detail::linesDown);
+    if (auto* parts = dialog.findChild<QSplitter*>(QStringLiteral("splitter"))) {
+        const int places = letters.averageCharWidth() * file_question_detail::placesAcross;
+        parts->setSizes({places, dialog.width() - places});
+    }
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return held(dialog.selectedFiles().first());

@@ -136,8 +136,10 @@ void MenuBar::rebuild()
     for (Merged& merged : merged_)
         merged.menu.release()->deleteLater(); // one of them may be what the person has just chosen from
     merged_.clear();
-    for (const Handle top : own_.tops())
+    for (const Handle top : own_.tops()) {
         bar.addAction(own_.actionOf(top));
+        names_[top].insert(menuName(own_.captionOf(top)));
+    }
     if (child_ == nullptr) {
         giveLetters(bar.actions());
         return;
@@ -147,7 +149,7 @@ void MenuBar::rebuild()
         QAction* action = child_->actionOf(top);
         const auto same = std::find_if(own_.tops().begin(), own_.tops().end(), [&](Handle own) {
             return own_.menuOf(own) != nullptr && action->isVisible() && own_.actionOf(own)->isVisible() &&
-                   menuName(own_.captionOf(own)) == menuName(child_->captionOf(top));
+                   names_[own].contains(menuName(child_->captionOf(top)));
         });
         if (same != own_.tops().end()) {
             addMerged(*same, top);

@@ -3,11 +3,13 @@
 // of one name become one, the editor's items first; no letter is given twice. One menu ends with the list of open children.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <vector>
 
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 
 #include "desktop/canvas/desk.h"
 #include "desktop/windows/menus.h"
@@ -48,6 +50,8 @@ private:
     QPointer<Menus> child_;
     bool hasChild_ = false;
     QStringList told_;
+    /// Those that its menus have borne: an editor keeps its language when the program changes its own.
+    std::map<host::Handle, QSet<QString>> names_;
     std::vector<Merged> merged_;
     std::vector<QAction*> numbered_; ///< the first nine children by key
     std::vector<QAction*> listed_;

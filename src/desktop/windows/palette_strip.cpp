@@ -22,6 +22,7 @@ constexpr int margin = 3;         ///< logical pixels around the pictures
 constexpr int dots = 5;           ///< of the grip, in two rows
 constexpr double dotShare = 0.34; ///< from dot to dot, by the width of the grip
 constexpr double radiusShare = 0.075;
+constexpr double gripShare = 0.3;    ///< width of the grip, by the height of the pictures
 constexpr double largestShare = 0.9; ///< of the panel, while it floats
 
 } // namespace palette_strip_detail
@@ -77,7 +78,9 @@ void PaletteStrip::followWindow()
 
 int PaletteStrip::gripWidth() const
 {
-    return std::max(18, fontMetrics().height());
+    using namespace palette_strip_detail;
+    const int forPictures = static_cast<int>(view_->wantedSize().height() * share * gripShare);
+    return std::max({18, fontMetrics().height(), forPictures});
 }
 
 QSize PaletteStrip::contentSize() const

@@ -237,7 +237,10 @@ void SearchLine::go(Way way)
         show();
     if (later_.isActive() || hits_.empty() || length_ != wanted_->text().size())
         look();
-    lookToTheEnd();
+    const auto [from, to] = selected();
+    lookBehind(way == Way::forward ? to : from);
+    if (way == Way::backward && (hits_.empty() || hits_.front() >= from))
+        lookToTheEnd();
     step(way);
 }
 
@@ -282,6 +285,13 @@ void SearchLine::lookOn()
         markHits();
         tell();
     }
+}
+
+// As far as a step forward must know; the rest is counted between the next keys.
+void SearchLine::lookBehind(int unit)
+{
+    while (onward_.isActive() && (hits_.empty() || hits_.back() < unit))
+        lookOn();
 }
 
 void SearchLine::lookToTheEnd()
@@ -340,9 +350,11 @@ void SearchLine::tell()
     using namespace search_line_detail;
     if (!text_ || isHidden())
         return;
-    QString words;
+    QString words; // none while hits are still counted
     const int inHand = hits_.empty() ? -1 : hitInHand();
-    if (!wanted_->text().isEmpty() && hits_.empty())
+    if (onward_.isActive())
+        words.clear();
+    else if (!wanted_->text().isEmpty() && hits_.empty())
         words = inLanguage(nowhere, english_);
     else if (inHand >= 0)
         words = inLanguage(wrapped_ ? around : hitOf, english_).arg(inHand + 1).arg(hits_.size());
@@ -376,14 +388,16 @@ void SearchLine::step(Way way)
 // The hit in hand gives way, and the next one comes into hand; without one in hand the next is looked for first.
 void SearchLine::replace()
 {
-    if (!text_ || hits_.empty())
+    if (later_.isActive())
+        look();
+    if (!text_)
         return;
-    lookToTheEnd();
-    if (hitInHand() >= 0) {
+    lookBehind(selected().second);
+    if (!hits_.empty() && hitInHand() >= 0) {
         search_line_detail::replaceWith(*text_, text_->textCursor(), instead_->text());
         look();
-        lookToTheEnd();
     }
+    lookBehind(selected().second);
     step(Way::forward);
 }
 

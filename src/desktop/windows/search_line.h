@@ -47,6 +47,7 @@ private:
     void lookLater();
     void look();
     void lookOn();
+    void lookBehind(int unit);
     void lookToTheEnd();
     void markHits();
     void tell();

@@ -29,11 +29,29 @@ namespace sheet_view_detail {
 
 /// Below this scale an 8 point text falls under 9 logical pixels: the sheet scrolls instead.
 constexpr double smallestScale = 0.85;
+/// A sheet goes a shade below it where that spares it a scroll bar: to 8.7 pixels.
+constexpr double nearlySmallest = 0.82;
 constexpr double smallestOfPictures = 0.4;
 constexpr int toolMargin = 120; ///< twips
 constexpr int scrollMargin = 40;
 constexpr int forwardFor = 6000;   ///< milliseconds
 constexpr double stripShare = 0.4; ///< of the height at most, for prompts that stay in view
+
+double wholeScale(QSize room, const host::Place& design)
+{
+    return twipsPerUnit * std::min(static_cast<double>(room.width()) / std::max(1, design.width),
+                                   static_cast<double>(room.height()) / std::max(1, design.height));
+}
+
+// Whole where it can be read whole, else as wide as there is room beside a bar, else no smaller than is read with ease.
+double readableScale(QSize room, const host::Place& design, int bar)
+{
+    const double whole = wholeScale(room, design);
+    if (whole >= nearlySmallest)
+        return whole;
+    const double wide = twipsPerUnit * (room.width() - bar) / std::max(1, design.width);
+    return wide >= nearlySmallest ? std::min(wide, smallestScale) : smallestScale;
+}
 
 } // namespace sheet_view_detail
 
@@ -259,12 +277,11 @@ void SheetView::layOutPrompts()
 {
     const host::Place& table = model()->spec().place;
     const QSize room(width(), height() - (bar_ == nullptr || bar_->isHidden() ? 0 : bar_->sizeHint().height()));
-    const double scale = sheet_view_detail::smallestScale;
-    const double fitting = std::min(room.width() * twipsPerUnit / std::max(1, table.width),
-                                    room.height() * twipsPerUnit / std::max(1, table.height));
+    const double scale = sheet_view_detail::readableScale(room, table, barExtent());
     reach_ = strip_->reach();
+    const bool scrolls = sheet_view_detail::wholeScale(room, table) < scale;
     const bool leavesRoom = reach_ * scale / twipsPerUnit <= room.height() * sheet_view_detail::stripShare;
-    const bool shown = fitting < scale && reach_ > 0 && leavesRoom;
+    const bool shown = scrolls && reach_ > 0 && leavesRoom;
     const int cut = shown ? reach_ : 0;
     if (shown)
         strip_->takeHeight(reach_, scale);
@@ -287,21 +304,26 @@ void SheetView::layOutCanvas()
         canvas_->layOut(desk_.scale, room);
         return;
     }
-    const bool pictures = model()->role() == Role::palette;
-    const double scale = std::max(canvas_->scaleFor(room),
-                                  pictures ? sheet_view_detail::smallestOfPictures : sheet_view_detail::smallestScale);
     const host::Place& design = canvas_->design();
+    const double scale = model()->role() == Role::palette
+                             ? std::max(canvas_->scaleFor(room), sheet_view_detail::smallestOfPictures)
+                             : sheet_view_detail::readableScale(room, design, barExtent());
     const QSize needed(static_cast<int>(design.width * scale / twipsPerUnit),
                        static_cast<int>(design.height * scale / twipsPerUnit));
     canvas_->layOut(scale, needed.expandedTo(roomBesideBars(needed)));
     bringIntoView();
 }
 
+int SheetView::barExtent() const
+{
+    return style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area_);
+}
+
 // One scroll bar takes room and must not bring the other along for that alone.
 QSize SheetView::roomBesideBars(QSize needed) const
 {
     const QSize room = area_->maximumViewportSize();
-    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area_);
+    const int bar = barExtent();
     const bool across = needed.width() > room.width();
     const bool down = needed.height() > room.height() - (across ? bar : 0);
     return {room.width() - (down ? bar : 0),

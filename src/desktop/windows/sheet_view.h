@@ -63,6 +63,7 @@ private:
     void layOutPrompts();
     void search(Canvas::Search deed);
     void bringIntoView();
+    int barExtent() const;
     QSize roomBesideBars(QSize needed) const;
     void showCaret();
     bool isScrolled() const;

@@ -246,6 +246,8 @@ void WindowKeeper::followRaised()
         if (frame == nullptr)
             continue;
         frame->bringToFront();
+        if (window->isChild())
+            stripInHand_ = false;
         if (window->spec().reading)
             quiet_ = &frame->widget();
         if (window->role() == Role::palette || window->spec().reading)
@@ -501,6 +503,13 @@ Stage WindowKeeper::stage() const
         stage.beside = byHand_ == &view->canvas();
     }
     return stage;
+}
+
+QRect WindowKeeper::spokenOf() const
+{
+    const SheetView* view = activeView();
+    const bool writes = view != nullptr && view->model() != nullptr && view->model()->role() == Role::editor;
+    return view == nullptr || writes ? QRect() : view->spokenOf();
 }
 
 std::vector<QWidget*> WindowKeeper::windowsInSight() const

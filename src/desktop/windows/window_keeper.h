@@ -41,6 +41,8 @@ public:
     MainWindow* mainWindow() const { return main_.data(); }
     /// The view that has or would have the keyboard; null without one.
     SheetView* activeView() const;
+    /// The field that a question speaks of, which stays clear while all else is calm; empty in a text.
+    QRect spokenOf() const;
     /// How and where a box of the moment appears.
     Stage stage() const;
     /// All windows of the program that are seen on the screen.

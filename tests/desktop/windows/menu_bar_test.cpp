@@ -74,6 +74,19 @@ struct MenuBarTest : ::testing::Test {
     Bench on;
 };
 
+// The Spanish editor keeps its language when the program changes its own.
+TEST_F(MenuBarTest, menusOfOneNameAreOneAlsoInTwoLanguages)
+{
+    on.show("frmEdito2");
+    const qsizetype menus = namesOf(bar()).size();
+    on.engine.userMenu(on.engine.mainWindow(), main_window::mnuIng);
+    Bench::settle();
+    EXPECT_EQ(namesOf(bar()).size(), menus) << namesOf(bar()).join(u' ').toStdString();
+    EXPECT_FALSE(namesOf(bar()).contains("archivo"));
+    EXPECT_TRUE(namesOf(opened("archive")).contains("imprimir"));
+    expectLettersOnce(bar());
+}
+
 TEST_F(MenuBarTest, anEditorsMenusStandInTheBarAndMenusOfOneNameAreOne)
 {
     const QStringList before = namesOf(bar());

@@ -3,6 +3,7 @@
 // in front. And the conversion of temperatures gives the keyboard back when it is done.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
@@ -129,6 +130,20 @@ TEST_P(ReadingTest, escapeInItClosesItAndTheKeyboardIsInTheSheet)
     EXPECT_FALSE(isOpen());
     EXPECT_TRUE(sheetHasKeyboard());
     EXPECT_EQ(sheet->text(first()), "10");
+}
+
+// On a slow machine it is closed before it has heard that the press gave it the keyboard.
+TEST_P(ReadingTest, closedByHandLeavesTheKeyboardToTheSheetWhoeverHasIt)
+{
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    Bench::settle();
+    ASSERT_EQ(QApplication::activeWindow(), &other);
+    frame().findChild<QAbstractButton*>(QStringLiteral("close"))->click();
+    Bench::settle();
+    EXPECT_FALSE(isOpen());
+    EXPECT_TRUE(sheetHasKeyboard());
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, ReadingTest, ::testing::ValuesIn(readingWindows),

@@ -7,11 +7,14 @@
 #include <QMdiArea>
 #include <QPainter>
 #include <QPushButton>
+#include <QStyleOption>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/drawing/box_sign.h"
+#include "desktop/drawing/palette_of_inks.h"
 #include "desktop/windows/palette_strip.h"
 #include "desktop/windows/placing.h"
 #include "desktop/windows/quiet_box.h"
@@ -41,6 +44,45 @@ struct ShellTest : ::testing::Test {
     QAbstractButton& closeOf(QWidget& widget) { return *widget.findChild<QAbstractButton*>("close"); }
     Bench on;
 };
+
+// buttons
+
+TEST_F(ShellTest, aButtonLeavesItsCaptionAir)
+{
+    const QPushButton button(QStringLiteral("Reemplazar todo"));
+    const QFontMetrics letters = button.fontMetrics();
+    EXPECT_GE(button.sizeHint().width(), letters.horizontalAdvance(button.text()) + letters.height());
+}
+
+TEST_F(ShellTest, theButtonsOfAMaximisedChildGrowWithTheLetters)
+{
+    QStyleOptionComplex buttons;
+    buttons.subControls = QStyle::SC_MdiMinButton | QStyle::SC_MdiNormalButton | QStyle::SC_MdiCloseButton;
+    const auto sizeAt = [&](int pixels) {
+        QFont font;
+        font.setPixelSize(pixels);
+        buttons.fontMetrics = QFontMetrics(font);
+        return QApplication::style()->sizeFromContents(QStyle::CT_MdiControls, &buttons, QSize());
+    };
+    EXPECT_GE(sizeAt(40).height(), 40);
+    EXPECT_NEAR(sizeAt(40).width(), 3 * sizeAt(40).height(), 3);
+    EXPECT_LT(sizeAt(12).height(), sizeAt(40).height());
+}
+
+TEST_F(ShellTest, aTipHasTheLettersAndTheGroundOfTheProgram)
+{
+    QToolTip::showText(on.main().mapToGlobal(QPoint(50, 50)), QStringLiteral("<qt>Abrir la guía</qt>"), &on.main());
+    const QWidget* tip = nullptr;
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        if (window->inherits("QTipLabel"))
+            tip = window;
+    ASSERT_NE(tip, nullptr);
+    const desktop::Inks& inks = desktop::inksFor(QApplication::palette());
+    EXPECT_EQ(tip->palette().color(QPalette::ToolTipBase), inks.hint);
+    EXPECT_GE(desktop::contrast(inks.hint, tip->palette().color(QPalette::ToolTipText)), 4.5);
+    EXPECT_EQ(tip->font().pointSizeF(), QApplication::font().pointSizeF());
+    QToolTip::hideText();
+}
 
 // boxes
 

@@ -49,6 +49,28 @@ protected:
     Bench on;
 };
 
+TEST_F(TalkTest, theArrowsGoFromDesignToDesignAndEnterOpensOneThatThenHasTheKeyboard)
+{
+    on.main().resize(1366, 740);
+    on.main().activateWindow();
+    Bench::settle();
+    Bench::key(Qt::Key_F6);
+    ASSERT_EQ(on.engine.current(), &palette());
+    Bench::key(Qt::Key_Right);
+    ASSERT_NE(welcome(), nullptr) << "the first design explains itself";
+    Bench::key(Qt::Key_Right);
+    Bench::key(Qt::Key_Right);
+    Bench::key(Qt::Key_Left);
+    Bench::key(Qt::Key_Right);
+    Bench::key(Qt::Key_Return);
+    host::Window* opened = on.engine.activeChild();
+    ASSERT_NE(opened, nullptr);
+    EXPECT_EQ(opened->name(), "Form4") << "the third button's";
+    EXPECT_EQ(on.engine.current(), opened);
+    Bench::type("7");
+    EXPECT_EQ(opened->text(opened->focus()), "7");
+}
+
 TEST_F(TalkTest, aButtonUnderThePointerBringsItsPageOverTheSheet)
 {
     EXPECT_EQ(welcome(), nullptr);

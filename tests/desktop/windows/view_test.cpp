@@ -179,7 +179,7 @@ TEST_F(ViewTest, titlesAreShownToTheLetter)
 TEST_F(ViewTest, toolTipsEscapeMarkupAndNameTheKey)
 {
     EXPECT_EQ(on.viewOf(on.sheet()).canvas().tipOf(Image1), "<b>Imagen</b> & más  (Ctrl+B)");
-    EXPECT_EQ(on.field(Text2).toolTip(), "<qt>Resistor de base</qt>");
+    EXPECT_EQ(on.field(Text2).toolTip(), "<qt>Resistor&nbsp;de&nbsp;base</qt>");
 }
 
 TEST_F(ViewTest, fieldsAndPicturesCarryNamesInTheLanguageOfTheMoment)
