@@ -16,7 +16,6 @@
 
 #include "desktop/drawing/lettering.h"
 #include "desktop/drawing/palette_of_inks.h"
-#include "desktop/drawing/plates.h"
 #include "desktop/drawing/program_icon.h"
 #include "desktop/drawing/quiet_buttons.h"
 
