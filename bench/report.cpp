@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Measures a long report in the text editor of the desktop: opened, searched to its last word, printed to a PDF. Each is done
 // with a short and with a ten times longer one, so that growth beyond the length shows. And a text as long in one single line:
-// opened, letters written at its start, undone, the next hit of a search.
+// opened, letters written at its start, undone, the next hit of a search, pasted.
 #include <chrono>
 #include <clocale>
 #include <cstdio>

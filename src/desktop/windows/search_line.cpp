@@ -237,6 +237,8 @@ void SearchLine::go(Way way)
         show();
     if (later_.isActive() || hits_.empty() || length_ != wanted_->text().size())
         look();
+    if (!text_)
+        return;
     const auto [from, to] = selected();
     lookBehind(way == Way::forward ? to : from);
     if (way == Way::backward && (hits_.empty() || hits_.front() >= from))

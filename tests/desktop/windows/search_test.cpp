@@ -303,4 +303,21 @@ TEST_F(SearchTest, aLongTextIsSearchedInStretchesAndReplacedInOneStep)
     EXPECT_TRUE(editor->wholeText(editors::txtEdit) == std::string(count, 'a') + "\nfin");
 }
 
+TEST_F(SearchTest, aStepForwardWaitsForNoMoreThanItsHit)
+{
+    constexpr std::size_t count = 1200000;
+    write(std::string(count, 'a'));
+    Bench::keys("Ctrl+F");
+    part<QLineEdit>("searchWanted").setText("a");
+    line()->go(desktop::SearchLine::Way::forward);
+    EXPECT_EQ(selected(), "a");
+    EXPECT_LT(line()->hits().size(), count);
+    EXPECT_EQ(told(), "") << "no number that is not yet known";
+    Bench::settle();
+    EXPECT_EQ(line()->hits().size(), count);
+    EXPECT_EQ(told(), "1 de 1200000");
+    line()->go(desktop::SearchLine::Way::backward);
+    EXPECT_EQ(told(), "1200000 de 1200000, dando la vuelta");
+}
+
 } // namespace velmor::test::search_test

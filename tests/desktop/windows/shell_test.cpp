@@ -86,6 +86,23 @@ TEST_F(ShellTest, aTipHasTheLettersAndTheGroundOfTheProgram)
 
 // boxes
 
+TEST_F(ShellTest, aQuestionInATextLeavesNoHoleInTheCalm)
+{
+    host::Window& editor = on.show("Editor");
+    const QPoint caret = on.viewOf(editor).inHand().center();
+    whenAsked([&](desktop::QuietBox& box) {
+        auto* veil = on.main().findChild<QWidget*>("veil");
+        ASSERT_NE(veil, nullptr);
+        QImage calm(veil->size(), QImage::Format_ARGB32_Premultiplied);
+        calm.fill(Qt::transparent);
+        veil->render(&calm, QPoint(), QRegion(), QWidget::RenderFlags());
+        EXPECT_GT(calm.pixelColor(veil->mapFromGlobal(caret)).alpha(), 0);
+        box.reject();
+    });
+    on.screen.messageBox({"Elija otro", "Criterio", 36});
+    on.settle();
+}
+
 TEST_F(ShellTest, aBoxIsADialogInTheProgramsOwnFrameAndTheWindowsBehindAreCalm)
 {
     QStringList behind;
