@@ -160,7 +160,7 @@ TEST_F(EmitterTest, pointingAtAGreyedFieldShowsWhatItIsAndWhyItWaits)
     QCoreApplication::sendEvent(&canvas, &help);
     const QString told = QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText().replace(QChar::Nbsp, u' ');
     EXPECT_TRUE(told.contains(QString::fromUtf8("después de ΔQIc"))) << told.toStdString();
-    EXPECT_EQ(told, canvas.tipOf(form2::Text3));
+    EXPECT_TRUE(told.startsWith(canvas.tipOf(form2::Text3))) << told.toStdString();
     QToolTip::hideText();
 }
 
