@@ -155,6 +155,9 @@ Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
 {
     const std::string amount = amountText(row.simulated.value_or(0), textOf(row.quantity).unit);
     const bool isPower = design.table->stage == StageKind::other;
+    for (const Expected& expected : design.rows)
+        if (expected.quantity == row.quantity && !expected.reason.en.empty())
+            return {std::string(expected.reason.es), std::string(expected.reason.en)};
     switch (row.quantity) {
     case Quantity::dBfo:
         return {"una décima en reactancia no es una décima en ganancia: la suya da " + amount + " a fo.",

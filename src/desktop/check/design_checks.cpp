@@ -143,11 +143,9 @@ void DesignChecks::gone(const host::Window& sheet)
         return;
     CheckWindow* window = std::exchange(found->second.window, nullptr);
     entries_.erase(found);
-    const bool wasInFront = window->isActiveWindow();
     window->hide();
     window->deleteLater();
-    if (wasInFront)
-        handBack();
+    handBack();
 }
 
 /// The keyboard goes back to where the check was asked for, once the window is gone; not every window manager sees to it.
