@@ -77,7 +77,7 @@ struct QuantityRow {
     host::Handle asked = host::noControl; ///< the field in which it is asked for
     double askedScale = 1;                ///< from the field's unit to that of the quantity
     Figure course{.scale = 0};            ///< in the unit of the quantity; a scale of 0: the course has none
-    host::BiText reason{};                ///< why the simulator parts from it here; empty: for the reason that most have
+    host::BiText reason{}; ///< why the simulator parts from it here; empty: for the reason that most have
 };
 
 struct SheetTable {

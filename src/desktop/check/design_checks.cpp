@@ -222,8 +222,8 @@ QPlainTextEdit* DesignChecks::reportOf(const host::Window& sheet) const
         WindowFrame* frame = keeper_.frameOf(*editor);
         if (frame == nullptr || frame->view() == nullptr)
             continue;
-        auto* text = qobject_cast<QPlainTextEdit*>(
-            frame->view()->canvas().widgetOf(editor->named(sheets::textOfReport)));
+        auto* text =
+            qobject_cast<QPlainTextEdit*>(frame->view()->canvas().widgetOf(editor->named(sheets::textOfReport)));
         const double likeness = text == nullptr ? 0 : likenessOf(written, text->toPlainText());
         if (likeness >= most) {
             most = likeness;
