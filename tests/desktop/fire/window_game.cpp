@@ -103,8 +103,21 @@ void WindowGame::step(int number)
     ++time_;
     (this->*move.deed)();
     Bench::settle();
+    handOver();
     watchdog_.end();
     check(event);
+}
+
+// What every window manager does and the screen without a screen does not: when a window goes that had the keyboard, a
+// menu for one, another gets it.
+void WindowGame::handOver()
+{
+    const QWidget* active = QApplication::activeWindow();
+    if (!on_ || on_->engine.ended() || (active != nullptr && active->isVisible()) ||
+        QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr)
+        return;
+    on_->main().activateWindow();
+    Bench::settle();
 }
 
 // The table is a function's, so that the deeds may be private.

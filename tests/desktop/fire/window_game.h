@@ -44,6 +44,7 @@ private:
     void begin();
     void step(int number);
     const Move& chosen();
+    void handOver();
     void check(const std::string& event);
     std::string faultNow();
     std::string frameFault();
