@@ -47,7 +47,11 @@ bool isSmallSignal(const Design& design)
 Ladder ladderOf(const Design& design, const Stage& stage, const Row& row)
 {
     const SheetTable& table = *design.table;
-    if (!isSmallSignal(design) || !row.course || !row.simulated)
+    if (!row.course || !row.simulated)
+        return {};
+    if (row.quantity == Quantity::QIc && !table.driverRungs.empty())
+        return climb(*row.course, stage, driverCurrentOf, {}, table.driverRungs, *row.simulated);
+    if (!isSmallSignal(design))
         return {};
     if (row.quantity == Quantity::Vg)
         return climb(*row.course, stage, gainOf, table.gainCounted, table.gainRungs, *row.simulated);
@@ -151,7 +155,12 @@ void explain(Check& check, const Design& design)
     takeCurrent(stage.trueQIc, Quantity::QIc);
     takeCurrent(stage.secondTrue, Quantity::QIc3);
     takeCurrent(stage.followerTrue, Quantity::QIc5);
+    takeCurrent(stage.outputQIc, rowOf(check, Quantity::QIc2) == nullptr ? Quantity::QIc3 : Quantity::QIc2);
     const Row* Vce = rowOf(check, Quantity::Vce);
+    if (Vce != nullptr) {
+        stage.designedVce = Vce->course.value_or(0);
+        stage.trueVce = Vce->simulated.value_or(0);
+    }
     check.ceilings = ceilingsOf(stage, Vce == nullptr ? std::nullopt : Vce->simulated);
     for (Row& row : check.rows) {
         row.ladder = ladderOf(design, stage, row);
@@ -182,7 +191,7 @@ Design designOf(const host::Window& sheet, const SheetTable& table)
     design.stage = stageOf(sheet, table, design.circuit);
     driveThroughGenerator(design.circuit, design.stage);
     for (const QuantityRow& row : table.quantities)
-        design.rows.push_back({row.quantity, askedIn(sheet, row), courseOf(sheet, row)});
+        design.rows.push_back({row.quantity, askedIn(sheet, row), courseOf(sheet, row), row.reason});
     return design;
 }
 

@@ -34,8 +34,9 @@ struct Words {
 /// A row before the simulator has spoken.
 struct Expected {
     Quantity quantity = Quantity::QIc;
-    Measured asked{};  ///< what stood in the field when the student left it
-    Measured course{}; ///< in the unit of the quantity
+    Measured asked{};      ///< what stood in the field when the student left it
+    Measured course{};     ///< in the unit of the quantity
+    host::BiText reason{}; ///< why the simulator parts from it on this sheet, where that is its own
 };
 
 /// A finished design, taken off its sheet. Values only, but for the table, which lives as long as the program.

@@ -10,13 +10,13 @@ namespace velmor::check {
 
 /// What is to be worked out, and for which input.
 struct Orders {
-    bool bias = true;             ///< operating point
-    bool response = true;         ///< gain against frequency, 0.01 Hz to 1 MHz
-    bool wave = true;             ///< output wave at 1 kHz
-    bool drift = true;            ///< operating points at two temperatures, if the circuit has any
-    double drive = 1;             ///< times the input that the course worked out
-    double settling = 0.02;       ///< s before the wave is looked at
-    int cycles = 10;              ///< of the wave
+    bool bias = true;       ///< operating point
+    bool response = true;   ///< gain against frequency, 0.01 Hz to 1 MHz
+    bool wave = true;       ///< output wave at 1 kHz
+    bool drift = true;      ///< operating points at two temperatures, if the circuit has any
+    double drive = 1;       ///< times the input that the course worked out
+    double settling = 0.02; ///< s before the wave is looked at
+    int cycles = 10;        ///< of the wave
     int stepsPerCycle = 200;
     const Part* turned = nullptr; ///< a resistor that is turned from one value to another, ohm
     double turnFrom = 0;

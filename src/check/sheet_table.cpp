@@ -37,14 +37,24 @@ Part transistorFrom(const host::Window& window, const TransistorRow& row)
             .beta = valueOf(window, row.Beta)};
 }
 
-/// Resistors of one name count together: a resistor in two halves is the sum.
-double ohmsOf(const Circuit& circuit, std::string_view name)
+/// Parts of one name count together: a resistor in two halves is the sum.
+double valueOf(const Circuit& circuit, std::string_view name)
 {
     double sum = 0;
     for (const Part& part : circuit.parts)
         if (part.name == name || part.name == std::string(name) + "a" || part.name == std::string(name) + "b")
             sum += part.value;
     return sum;
+}
+
+/// What the current of the last transistor is divided by on its way to the collector of the first: its own Beta, and one more
+/// than that of each between.
+double outputBetaOf(const host::Window& window, const SheetTable& table)
+{
+    double product = 1;
+    for (std::size_t i = 1; i < table.transistors.size(); ++i)
+        product *= valueOf(window, table.transistors[i].Beta) + (i + 1 < table.transistors.size() ? 1 : 0);
+    return product;
 }
 
 } // namespace sheet_table_detail
@@ -109,17 +119,19 @@ Stage stageOf(const host::Window& window, const SheetTable& table, const Circuit
             .Beta = table.transistors.empty() ? 0 : valueOf(window, table.transistors.front().Beta),
             .designedQIc = QIc,
             .trueQIc = QIc,
-            .RL = ohmsOf(circuit, "RL"),
-            .RLw = ohmsOf(circuit, "RLw"),
-            .Res = ohmsOf(circuit, "Res"),
-            .otherRLw = ohmsOf(circuit, "RLwe"),
+            .RL = valueOf(circuit, "RL"),
+            .RLw = valueOf(circuit, "RLw"),
+            .Res = valueOf(circuit, "Res"),
+            .otherRLw = valueOf(circuit, "RLwe"),
             .secondDesigned = currentOf(2),
             .secondTrue = currentOf(2),
             .followerTrue = currentOf(4),
-            .secondRL = ohmsOf(circuit, "RL2"),
-            .followerRes = ohmsOf(circuit, "Res1"),
-            .Rb1 = ohmsOf(circuit, "Rb1"),
-            .Rb2 = ohmsOf(circuit, "Rb2"),
+            .secondRL = valueOf(circuit, "RL2"),
+            .followerRes = valueOf(circuit, "Res1"),
+            .Rb1 = valueOf(circuit, "Rb1"),
+            .Rb2 = valueOf(circuit, "Rb2"),
+            .supply = valueOf(circuit, "Es"),
+            .outputBeta = outputBetaOf(window, table),
             .middleGrounded = table.grounded != host::noControl && window.visible(table.grounded)};
 }
 

@@ -77,6 +77,7 @@ struct QuantityRow {
     host::Handle asked = host::noControl; ///< the field in which it is asked for
     double askedScale = 1;                ///< from the field's unit to that of the quantity
     Figure course{.scale = 0};            ///< in the unit of the quantity; a scale of 0: the course has none
+    host::BiText reason{}; ///< why the simulator parts from it here; empty: for the reason that most have
 };
 
 struct SheetTable {
@@ -93,6 +94,7 @@ struct SheetTable {
     std::span<const RungRow> gainRungs{};
     Truths inputCounted{};
     std::span<const RungRow> inputRungs{};
+    std::span<const RungRow> driverRungs{}; ///< of QIc, where Q1 drives a class A output
     std::span<const host::BiText> assumed{};
     bool (*passed)(const host::Window&) = nullptr;
     host::Handle grounded = host::noControl; ///< visible while the middle of Rb1 is grounded for the signal

@@ -178,6 +178,14 @@ double gainOf(const Stage& stage, Truths truths)
     return 0;
 }
 
+double driverCurrentOf(const Stage& stage, Truths truths)
+{
+    constexpr double milliamperes = 1000;
+    const double Vce = truths.has(Truth::middle) ? stage.trueVce : stage.designedVce;
+    const double base = truths.has(Truth::nextBase) ? stage.outputQIc / stage.outputBeta : 0;
+    return milliamperes * ((stage.supply - Vce) / stage.RL - base);
+}
+
 double inputOf(const Stage& stage, Truths truths)
 {
     switch (stage.kind) {

@@ -38,6 +38,8 @@ enum class Truth : std::uint8_t {
     pairFactor,      ///< 2 for 2.5
     tail,            ///< the emitters' common resistor is no perfect source
     secondLoad,      ///< what the second stage and its follower really load
+    middle,          ///< where the output really rests, for the half of the supply
+    nextBase,        ///< the base of the output takes its current in front of the driver's collector
 };
 
 /// Which simplifications have been taken away.
@@ -82,6 +84,12 @@ struct Stage {
     double followerRes = 0;
     double Rb1 = 0;
     double Rb2 = 0;
+    // the driver of a class A power stage
+    double supply = 0;           ///< V
+    double designedVce = 0;      ///< V
+    double trueVce = 0;          ///< V
+    double outputQIc = 0;        ///< A, of the output transistor
+    double outputBeta = 0;       ///< of all transistors between the driver and the output
     bool middleGrounded = false; ///< Rb1 in two halves, their middle taken to ground for the signal
 };
 
@@ -90,6 +98,9 @@ double beside(double one, double other);
 
 /// Vg from the input (behind the generator's resistance) to the output, without its sign.
 double gainOf(const Stage& stage, Truths truths);
+
+/// QIc of the driver = (Es - Vce) / RL less the base current of the output, mA.
+double driverCurrentOf(const Stage& stage, Truths truths);
 
 /// Zin, ohm.
 double inputOf(const Stage& stage, Truths truths);

@@ -60,8 +60,7 @@ std::string ladderLines(const Row& row, bool english)
     add(row.ladder.start, "", std::string(pick(course, english)));
     for (std::size_t i = 0; i < row.ladder.rungs.size(); ++i)
         add(row.ladder.rungs[i].value, stepText(row, i), sentence(pick(row.ladder.rungs[i].reason, english)));
-    add(row.ladder.measured, "",
-        std::string(pick(measured, english)) + amountText(row.ladder.remainder(), "dB") + '.');
+    add(row.ladder.measured, "", std::string(pick(measured, english)) + amountText(row.ladder.remainder(), "dB") + '.');
     return lines;
 }
 

@@ -14,10 +14,11 @@ namespace verdict_detail {
 constexpr double tenth = 0.1;
 constexpr double oneDecibel = 1.0;
 constexpr double bentDistortion = 10.0; // %; what counts as clean power has less
-constexpr double lightLoad = 0.9; ///< of Eg must arrive for a load to be called light
+constexpr double lightLoad = 0.9;       ///< of Eg must arrive for a load to be called light
 
-constexpr host::BiText judgements[]{{"coincide", "agrees"},         {"difiere", "differs"}, {"no se alcanza", "not reached"},
-                                    {"sin explicar", "unexplained"}, {"medido", "measured"}, {"sin simular", "not simulated"}};
+constexpr host::BiText judgements[]{{"coincide", "agrees"},           {"difiere", "differs"},
+                                    {"no se alcanza", "not reached"}, {"sin explicar", "unexplained"},
+                                    {"medido", "measured"},           {"sin simular", "not simulated"}};
 
 std::string fixedText(double value, int digits)
 {
@@ -155,6 +156,9 @@ Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
 {
     const std::string amount = amountText(row.simulated.value_or(0), textOf(row.quantity).unit);
     const bool isPower = design.table->stage == StageKind::other;
+    for (const Expected& expected : design.rows)
+        if (expected.quantity == row.quantity && !expected.reason.en.empty())
+            return {std::string(expected.reason.es), std::string(expected.reason.en)};
     switch (row.quantity) {
     case Quantity::dBfo:
         return {"una décima en reactancia no es una décima en ganancia: la suya da " + amount + " a fo.",
@@ -178,9 +182,10 @@ Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
     if (isPower)
         return {"el curso cuenta 0.6 V por juntura, y en el simulador cada juntura sigue a su corriente.",
                 "the course counts 0.6 V a junction, and in the simulator each junction follows its current."};
-    return {"el curso cuenta una tensión de juntura fija; en el simulador sigue a la corriente, y la base toma la suya.",
-            "the course counts a fixed junction voltage; in the simulator it follows the current, and the base takes its "
-            "own."};
+    return {
+        "el curso cuenta una tensión de juntura fija; en el simulador sigue a la corriente, y la base toma la suya.",
+        "the course counts a fixed junction voltage; in the simulator it follows the current, and the base takes its "
+        "own."};
 }
 
 /// What the ladder says: its highest rung, and where that leads.

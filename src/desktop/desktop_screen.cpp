@@ -51,7 +51,9 @@ void DesktopScreen::attach(host::Engine& engine)
     desk_.inks = &inksFor(QGuiApplication::palette());
     keeper_ = std::make_unique<WindowKeeper>(desk_);
     desk_.canCheck = DesignChecks::isFor;
-    desk_.checkOf = [this](const host::Window& sheet) -> QWidget* { return checks_ ? checks_->windowOf(sheet) : nullptr; };
+    desk_.checkOf = [this](const host::Window& sheet) -> QWidget* {
+        return checks_ ? checks_->windowOf(sheet) : nullptr;
+    };
     desk_.check = [this](host::Window& sheet) { check(sheet); };
 }
 

@@ -35,8 +35,9 @@ class CommaLocale {
 public:
     CommaLocale()
     {
-        const std::string make =
-            "mkdir -p '" + folder_ + "' && test -e '" + folder_ + "/es_AR.UTF-8' || localedef -i es_AR -f UTF-8 '" + folder_ + "/es_AR.UTF-8' > /dev/null 2>&1";
+        const std::string make = "mkdir -p '" + folder_ + "' && test -e '" + folder_ +
+                                 "/es_AR.UTF-8' || localedef -i es_AR -f UTF-8 '" + folder_ +
+                                 "/es_AR.UTF-8' > /dev/null 2>&1";
         static_cast<void>(std::system(make.c_str()));
         ::setenv("LOCPATH", folder_.c_str(), 1);
         ::setenv("LC_ALL", "es_AR.UTF-8", 1);

@@ -35,8 +35,8 @@ constexpr auto oneTransistor = std::to_array<check::TransistorRow>({
 });
 
 constexpr auto inputRungs = std::to_array<check::RungRow>({
-    {Truth::asMeant,      {"el curso contó con la Rb1 y la ganancia que él propuso; aquí van las que quedaron, con Rb1 a masa en su mitad si hay Cdp.",
-                           "the course counted with the Rb1 and the gain that it proposed; here are those in use, the middle of Rb1 grounded if there is a Cdp."}},
+    {Truth::asMeant,      {"el curso contó con la Rb1 y la ganancia que propuso; aquí van las que quedaron (con Cdp, Rb1 en mitades).",
+                           "the course counted with the Rb1 and gain that it proposed; here are those in use (with Cdp, Rb1 in halves)."}},
     {Truth::thermal,      thermalInput},
     {Truth::current,      currentInput},
     {Truth::feedbackLoad, loadInput},

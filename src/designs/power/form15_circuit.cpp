@@ -53,6 +53,7 @@ const check::SheetTable checkedCircuit{
     .transistors = form15_circuit::transistors,
     .quantities = form15_circuit::quantities,
     .Ein = {.scale = power::effective, .held = check::heldBy<Form15, &Quantities::EgPP>},
+    .driverRungs = power::driverRungs,
     .assumed = form15_circuit::assumed,
     .passed = check::hasPassed<Form15>};
 

@@ -52,7 +52,9 @@ constexpr check::TransistorRow transistors[] = {
 constexpr check::QuantityRow quantities[] = {
     {Quantity::QIc,  host::noControl, 1,    {.scale = kilo, .held = heldBy<Form20, &Quantities::QIc1>}},
     {Quantity::QIc3, Text3,           kilo, {Text3, kilo}},
-    {Quantity::Vce,  host::noControl, 1,    {.held = heldBy<Form20, &Quantities::EQ1>}},
+    {Quantity::Vce,  host::noControl, 1,    {.held = heldBy<Form20, &Quantities::EQ1>},
+     {"entre Q1 y la salida hay dos junturas y el curso cuenta una; además, la salida descansa más arriba que Es / 2.",
+      "there are two junctions between Q1 and the output, and the course counts one; the output also rests higher than Es / 2."}},
     {Quantity::Eopp, host::noControl, 1,    {.held = heldBy<Form20, &Quantities::Eopp>}},
     {.quantity = Quantity::THD},
     {Quantity::Pout,   Text1,         1,    {Text1}},
@@ -71,6 +73,7 @@ const check::SheetTable checkedCircuit{
     .transistors = form20_circuit::transistors,
     .quantities = form20_circuit::quantities,
     .Ein = {.scale = power::effective, .held = check::heldBy<Form20, &form15::Quantities::EgPP>},
+    .driverRungs = power::driverRungs,
     .assumed = form20_circuit::assumed,
     .passed = check::hasPassed<Form20>};
 

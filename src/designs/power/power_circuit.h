@@ -2,6 +2,8 @@
 // What the circuits of the power sheets share when a design is checked.
 #pragma once
 
+#include <array>
+
 #include "check/sheet_table.h"
 
 namespace velmor::power {
@@ -16,6 +18,12 @@ inline constexpr host::BiText plainTransistors{"Transistores sin efecto Early ni
                                                "Transistors without Early effect or capacitances, Vj 0.6 V"};
 inline constexpr host::BiText presetTurned{"Preset ajustado hasta que el medio queda en Es / 2",
                                            "Preset turned until the middle stands at Es / 2"};
+inline constexpr auto driverRungs = std::to_array<check::RungRow>({
+    {check::Truth::middle,   {"el curso pone la salida justo en Es / 2; donde de verdad descansa, a RL le queda otra tensión.",
+                              "the course puts the output exactly at Es / 2; where it really rests, RL is left with another voltage."}},
+    {check::Truth::nextBase, {"el curso deja afuera la base de la salida, que toma su corriente de RL antes que Q1.",
+                              "the course leaves out the base of the output, which takes its current from RL before Q1."}},
+});
 // clang-format on
 
 } // namespace velmor::power

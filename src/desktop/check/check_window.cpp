@@ -259,9 +259,8 @@ void CheckWindow::followPages()
     const bool english = checked_.english;
     // What has no signal has no curves.
     const auto& parts = checked_.design.circuit.parts;
-    const bool isDriven = std::any_of(parts.begin(), parts.end(), [](const check::Part& part) {
-        return part.kind == check::PartKind::generator;
-    });
+    const bool isDriven = std::any_of(parts.begin(), parts.end(),
+                                      [](const check::Part& part) { return part.kind == check::PartKind::generator; });
     const bool hasCurves = isDriven || checked_.design.table == nullptr;
     if (const int page = pages_->indexOf(curves_); pages_->isTabVisible(page) != hasCurves)
         pages_->setTabVisible(page, hasCurves);
@@ -269,7 +268,7 @@ void CheckWindow::followPages()
     QStringList lines{in(check_words::assumedHead, english)};
     if (checked_.design.table != nullptr)
         for (const host::BiText& text : checked_.design.table->assumed)
-            lines.append(QStringLiteral("\n• ") + in(text, english));
+            lines.append(QStringLiteral("\n• ") + check_words::prose(in(text, english)));
     assumed_->setPlainText(lines.join(QLatin1Char('\n')));
     if (netlist_->toPlainText() != shown(checked_.result.netlist).trimmed())
         netlist_->setPlainText(shown(checked_.result.netlist).trimmed());
@@ -336,7 +335,9 @@ void CheckWindow::relabel()
     const bool english = desk().english();
     checked_.english = english;
     speakInFrame();
-    const QString caption = in(check_words::title, english).arg(sheetTitle_);
+    // A sheet may have no title of its own.
+    const QString whole = in(check_words::title, english).arg(sheetTitle_);
+    const QString caption = sheetTitle_.isEmpty() ? whole.section(QLatin1Char(':'), 0, 0) : whole;
     title().setTitle(caption);
     setWindowTitle(shownTitle(held(caption)));
     again_->setText(in(check_words::again, english));

@@ -123,7 +123,8 @@ inline std::string_view symbolOf(check::Quantity quantity)
 inline QString minus(QString text)
 {
     for (qsizetype i = 0; i + 1 < text.size(); ++i)
-        if (text[i] == QLatin1Char('-') && text[i + 1].isDigit() && (i == 0 || text[i - 1] == QLatin1Char(' ') || text[i - 1] == QLatin1Char('(')))
+        if (text[i] == QLatin1Char('-') && text[i + 1].isDigit() &&
+            (i == 0 || text[i - 1] == QLatin1Char(' ') || text[i - 1] == QLatin1Char('(')))
             text[i] = QChar(0x2212);
     return text;
 }

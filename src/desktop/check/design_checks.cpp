@@ -143,11 +143,9 @@ void DesignChecks::gone(const host::Window& sheet)
         return;
     CheckWindow* window = std::exchange(found->second.window, nullptr);
     entries_.erase(found);
-    const bool wasInFront = window->isActiveWindow();
     window->hide();
     window->deleteLater();
-    if (wasInFront)
-        handBack();
+    handBack();
 }
 
 /// The keyboard goes back to where the check was asked for, once the window is gone; not every window manager sees to it.
@@ -224,8 +222,8 @@ QPlainTextEdit* DesignChecks::reportOf(const host::Window& sheet) const
         WindowFrame* frame = keeper_.frameOf(*editor);
         if (frame == nullptr || frame->view() == nullptr)
             continue;
-        auto* text = qobject_cast<QPlainTextEdit*>(
-            frame->view()->canvas().widgetOf(editor->named(sheets::textOfReport)));
+        auto* text =
+            qobject_cast<QPlainTextEdit*>(frame->view()->canvas().widgetOf(editor->named(sheets::textOfReport)));
         const double likeness = text == nullptr ? 0 : likenessOf(written, text->toPlainText());
         if (likeness >= most) {
             most = likeness;

@@ -53,7 +53,8 @@ void LadderView::show(const check::Row* row, bool english)
                           .end = true});
         for (std::size_t i = 0; i < ladder.rungs.size(); ++i)
             steps_.push_back({.change = check_words::minus(shown(check::stepText(*row, i))),
-                              .reason = check_words::prose(shown(check::sentence(english ? ladder.rungs[i].reason.en : ladder.rungs[i].reason.es))),
+                              .reason = check_words::prose(shown(
+                                  check::sentence(english ? ladder.rungs[i].reason.en : ladder.rungs[i].reason.es))),
                               .value = check_words::amount(ladder.rungs[i].value, unit),
                               .share = most > 0 ? ladder.stepOf(i) / most : 0,
                               .strongest = &ladder.rungs[i] == ladder.highest()});

@@ -172,7 +172,8 @@ void PlotPaper::paintLevel(double y, const QString& name, const QColor& ink, Edg
     painter_.drawLine(QPointF(field_.left(), height), QPointF(field_.right(), height));
     const double lines = 1.3 * look_.letters;
     const bool fitsAbove = height - lines - 1 >= field_.top();
-    const QRectF room(field_.left() + 4, above && fitsAbove ? height - lines - 1 : height + 1, field_.width() - 8, lines);
+    const QRectF room(field_.left() + 4, above && fitsAbove ? height - lines - 1 : height + 1, field_.width() - 8,
+                      lines);
     // What stands behind the last comma is said by the ink too: it goes first where room is scarce.
     const QFontMetricsF letters(interfaceFont(look_.letters));
     const bool fits = letters.horizontalAdvance(name) <= room.width() || !name.contains(QLatin1Char(','));

@@ -20,7 +20,7 @@ constexpr double cyclesSeen = 2;
 constexpr double strong = 2.2; ///< pixels of the curve that counts
 constexpr double thin = 1.2;
 constexpr double bentDistortion = 10; ///< %
-constexpr double legendRoom = 1.35; ///< below the wave, of what it has above
+constexpr double legendRoom = 1.35;   ///< below the wave, of what it has above
 
 /// The wave between two of its values; its last cycles end with it.
 double valueAt(const check::Wave& wave, double seconds)
@@ -140,8 +140,9 @@ void WavePlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look
     paper.paintCurve(curveOf(swing.output, 1, 0), look.inks->accent, strong);
     paintCeilings(paper, y, look);
     const QString times = in(check_words::inputTimes, look.english).arg(check_words::amount(magnified(), ""));
-    const QString output = in(check_words::thdAmount, look.english)
-                               .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%"));
+    const QString output =
+        in(check_words::thdAmount, look.english)
+            .arg(check_words::amount(swing.peakToPeak, ""), check_words::amount(swing.distortion, "%"));
     paper.paintKeys(std::array{PlotKey{look.inks->quiet, PlotKey::Sign::line, times},
                                PlotKey{look.inks->accent, PlotKey::Sign::line, output}});
     if (place)

@@ -19,9 +19,9 @@
 #include <QWheelEvent>
 #include <QWindow>
 
+#include "designs/circuits.h"
 #include "desktop/canvas/canvas.h"
 #include "desktop/check/check_window.h"
-#include "designs/circuits.h"
 #include "desktop/drawing/texts.h"
 #include "desktop/windows/offer_line.h"
 #include "desktop/windows/search_line.h"
@@ -241,7 +241,8 @@ void WindowGame::playCheck()
         return Bench::keys(QStringLiteral("Ctrl+T"));
     }
     ++checks_;
-    constexpr Qt::Key keys[] = {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_Down, Qt::Key_Tab, Qt::Key_F5, Qt::Key_F6, Qt::Key_Escape};
+    constexpr Qt::Key keys[] = {Qt::Key_1,   Qt::Key_2,  Qt::Key_3,  Qt::Key_Down,
+                                Qt::Key_Tab, Qt::Key_F5, Qt::Key_F6, Qt::Key_Escape};
     constexpr const char* buttons[] = {"checkOpenAll", "checkReport", "checkCopy", "checkAgain"};
     if (chance_.in(70))
         return Bench::key(chance_.one(keys));
@@ -253,8 +254,9 @@ void WindowGame::playCheck()
 // The shortest design there is, so that a game has something to check.
 void WindowGame::finishCurrentSource()
 {
-    static constexpr std::pair<const char*, const char*> chain[] = {
-        {"Text1", "2"}, {"Text2", "4"}, {"Text3", ""}, {"Text9", ""}, {"Text4", "2.2"}, {"Text5", ""}, {"Text6", "3.9"}, {"Text7", "4.7"}};
+    static constexpr std::pair<const char*, const char*> chain[] = {{"Text1", "2"},   {"Text2", "4"},   {"Text3", ""},
+                                                                    {"Text9", ""},    {"Text4", "2.2"}, {"Text5", ""},
+                                                                    {"Text6", "3.9"}, {"Text7", "4.7"}};
     host::Engine& engine = on_->engine;
     host::Window* sheet = engine.activeChild();
     if (sheet != nullptr && designs::circuitTableOf(sheet->name()) != nullptr &&
