@@ -25,6 +25,7 @@ tool = subprocess.run(["clang-tidy", "--version"], stdout=subprocess.PIPE, check
 
 
 INCLUDED = re.compile(r'^#include "(.*)"$', re.MULTILINE)
+MARKER = re.compile(rb'^# \d+ ".*$', re.MULTILINE)
 PLACE = re.compile(r"^(\S+\.cxx):(\d+):", re.MULTILINE)
 
 
@@ -76,8 +77,8 @@ class Unit:
         """Comments and macros count: clang-tidy reads them too."""
         text = subprocess.run(self.command() + ["-E", "-CC", "-dD"], cwd=self.entry["directory"], stdout=subprocess.PIPE,
                               check=True).stdout
-        # Wherever the checkout lies.
-        return hashlib.sha256(b"".join([tool, *self.settings(), text.replace(bytes(root), b"")])).hexdigest()
+        # Wherever the checkout lies: what is read counts, not the names of the files.
+        return hashlib.sha256(b"".join([tool, *self.settings(), MARKER.sub(b"", text)])).hexdigest()
 
     def place(self, found):
         """The line of its own file that a line of the joined text is."""

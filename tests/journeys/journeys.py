@@ -140,7 +140,7 @@ class Pair(Journey):
         velmor.key("alt+shift+F1")
         velmor.focused("ΔQIc")
 
-    def design(self):
+    def design(self, language):
         velmor = self.program
         for field in ("T", "ΔVbe", "QIc", "RLw", "S", "Vg", "fo", "Eopp", "Ein", "β", "Ec(max)", "Ic(max)", "Vj", "-Ebias"):
             velmor.key("Return")
@@ -152,6 +152,7 @@ class Pair(Journey):
         velmor.key("Return")
         velmor.focused("RL")
         velmor.wait_value("RL", "16")  # 16 x 8 / (16 - 8)
+        velmor.picture("form3-half-" + language)
         velmor.key("Return")
         velmor.focused("+Es")
         velmor.type("24")
@@ -179,10 +180,11 @@ class Pair(Journey):
     def test_a_sinusoid_is_dragged_the_pair_designed_the_meter_read_and_the_report_made(self):
         velmor = self.program
         self.open("")
+        velmor.picture("form3-start-es")
         self.drag_and_measure("^generador", "^senoide A", "^entrada 1", "^Out 1", r"Out 1 = 10 V")
         velmor.press(velmor.field("ΔQIc"))
         velmor.focused("ΔQIc")
-        self.design()
+        self.design("es")
         self.read_the_meter("^multímetro")
         velmor.picture("form3-finished-es")
         velmor.press(velmor.see("^Elaborar el informe", "push button"))
@@ -191,10 +193,11 @@ class Pair(Journey):
     def test_the_same_in_english(self):
         velmor = self.program
         self.open("ctrl+shift+i")
+        velmor.picture("form3-start-en")
         self.drag_and_measure("^generator", "^sinusoid A", "^input 1", "^Out 1", r"Out 1 = 10 V")
         velmor.press(velmor.field("ΔQIc"))
         velmor.focused("ΔQIc")
-        self.design()
+        self.design("en")
         self.read_the_meter("^multimeter")
         velmor.picture("form3-finished-en")
         velmor.press(velmor.see("^Write the report", "push button"))

@@ -200,7 +200,9 @@ void checkRun(const fs::path& folder, const Run& run, long killed, Outcome& outc
         kept[file.path.filename().string()] = sealOf(file.state);
     if (fs::exists(place.droppedFolder()))
         outcome.fault += "a kept file was damaged\n";
-    for (const auto& [file, told] : run.windows) {
+    for (const auto& window : run.windows) {
+        const std::string& file = window.first;
+        const auto& told = window.second;
         // After an arithmetic end the last is there; after a kill, what is old enough or anything later.
         const auto old = std::find_if(told.rbegin(), told.rend(),
                                       [&](const Told& one) { return run.failed || one.time <= killed - keepingTakes; });

@@ -22,7 +22,10 @@ public:
     }
     /// A number from 0 to `count` - 1; 0 for an empty choice.
     std::size_t below(std::size_t count) { return count == 0 ? 0 : static_cast<std::size_t>(next() % count); }
-    int between(int low, int high) { return low + static_cast<int>(below(static_cast<std::size_t>(high - low + 1))); }
+    int between(int low, int high)
+    {
+        return low + static_cast<int>(below(static_cast<std::size_t>(high) - static_cast<std::size_t>(low) + 1));
+    }
     /// True `percent` times in a hundred.
     bool in(unsigned percent) { return next() % 100 < percent; }
     template <class Range>

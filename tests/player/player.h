@@ -132,6 +132,7 @@ private:
     void roamStep();
     void playSlot(host::Window& window);
     void playSlot(host::Window& window, host::Handle control, host::Event event);
+    void playKey(host::Window& window, host::Handle control);
     void oddStep(host::Window& window);
     void editStep(host::Window& window, host::Handle editor);
     void selectSomething(host::Window& window);
@@ -148,6 +149,7 @@ private:
     host::Window* modalWindow() const;
 
     void carryOut(const Deed& deed);
+    void carryOutDrag(const Deed& deed);
     void carryOutWindow(const Deed& deed);
     void leadStep(host::Direction direction);
     void runOperation(host::Window& window, int operation, const std::string& path);

@@ -87,13 +87,9 @@ void Player::carryOut(const Deed& deed)
         engine.userChoose(*deed.window, deed.control, deed.detail);
         return;
     case Act::drag:
-        engine.userDrag(*deed.window, deed.control, deed.target);
-        return;
     case Act::dragEnter:
-        engine.userDragEnter(*deed.window, deed.control, deed.target);
-        return;
     case Act::dragLeave:
-        engine.userDragLeave(*deed.window, deed.control, deed.target);
+        carryOutDrag(deed);
         return;
     case Act::timer:
         engine.userTimer(*deed.window, deed.control);
@@ -104,6 +100,16 @@ void Player::carryOut(const Deed& deed)
     default:
         carryOutWindow(deed);
     }
+}
+
+void Player::carryOutDrag(const Deed& deed)
+{
+    if (deed.act == Act::drag)
+        engine_->userDrag(*deed.window, deed.control, deed.target);
+    else if (deed.act == Act::dragEnter)
+        engine_->userDragEnter(*deed.window, deed.control, deed.target);
+    else
+        engine_->userDragLeave(*deed.window, deed.control, deed.target);
 }
 
 void Player::carryOutWindow(const Deed& deed)

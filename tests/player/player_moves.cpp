@@ -202,16 +202,7 @@ void Player::playSlot(Window& window, Handle control, Event event)
     case Event::hover:
         return perform({.act = Act::hover, .window = &window, .control = control});
     case Event::key:
-        perform({.act = Act::focus, .window = &window, .control = control});
-        if (engine_->isLoaded(&window))
-            perform({.act = Act::key,
-                     .window = &window,
-                     .control = control,
-                     .detail = chance_.in(50)   ? 13
-                               : chance_.in(50) ? 27
-                                                : '1',
-                     .text = "1"});
-        return;
+        return playKey(window, control);
     case Event::menuOpen:
         return perform({.act = Act::menuOpens, .window = &window, .control = control});
     case Event::timer:
@@ -235,6 +226,19 @@ void Player::playSlot(Window& window, Handle control, Event event)
     default:
         oddStep(window);
     }
+}
+
+void Player::playKey(Window& window, Handle control)
+{
+    perform({.act = Act::focus, .window = &window, .control = control});
+    if (engine_->isLoaded(&window))
+        perform({.act = Act::key,
+                 .window = &window,
+                 .control = control,
+                 .detail = chance_.in(50)   ? 13
+                           : chance_.in(50) ? 27
+                                            : '1',
+                 .text = "1"});
 }
 
 // Cut and copy wait for a selection.

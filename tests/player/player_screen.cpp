@@ -50,7 +50,7 @@ Playground::Playground() : path_(screen_detail::newFolder())
     put(path_ / "circuit.RPC", circuit);
     put(path_ / "short.RPC", "10\r\n20 V\r\n");
     put(path_ / "feeds.RPC", "1\n2\n3\n4\n5\n6\n7\n8\n");
-    put(path_ / "binary.RPC", std::string("\0\x01\xFF\r\n\x80\x81\xFE\0\r\n", 12));
+    put(path_ / "binary.RPC", std::string("\0\x01\xFF\r\n\x80\x81\xFE\0\r\n", 11));
     put(path_ / "empty.RPC", "");
     put(path_ / "long.RPC", std::string(70'000, '7'));
     put(path_ / "huge.RPC", "1\r\n");

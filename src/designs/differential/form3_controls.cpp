@@ -150,7 +150,7 @@ constexpr auto controls = std::to_array<ControlRow>({
     result(Label29, "Label29", in(252, 78, 88, 62)),
     result(Label30, "Label30", in(344, 78, 88, 62)),
     result(Label31, "Label31", in(486, 28, 184, 24)),
-    result(Label32, "Label32", in(242, 198, 97, 24)),
+    result(Label32, "Label32", in(250, 198, 89, 24)),
     result(Label33, "Label33", in(114, 298, 58, 44)),
     result(Label35, "Label35", in(342, 198, 97, 24)),
     result(Label38, "Label38", in(62, 216, 130, 20)),

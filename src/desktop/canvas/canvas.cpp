@@ -223,7 +223,8 @@ void Canvas::paintEvent(QPaintEvent* event)
     } else if (!painted) {
         paintWhole(painter);
     }
-    checkTile_->paint(painter, event->region());
+    if (!most)
+        checkTile_->paint(painter, event->region());
     if (offering_)
         paintGlow(painter);
 }
@@ -265,6 +266,7 @@ void Canvas::paintWhole(QPainter& painter)
 {
     inOrderOfPainting(*model_, [&](Handle control) { paintOne(painter, control, QRegion()); });
     paintPaleFields(painter, rect());
+    checkTile_->paint(painter, rect());
 }
 
 // What a first picture shows: the sheet itself, with the hem that plates and shadows at its sides reach into.
@@ -291,7 +293,8 @@ bool Canvas::liesInPicture() const
 // True when it was painted: from a picture, or with one made by the way.
 bool Canvas::paintAsFirstSeen(QPainter& painter)
 {
-    const bool asNew = view_.hovered == noControl && view_.pressed == noControl && view_.forward == noControl;
+    const bool asNew =
+        view_.hovered == noControl && view_.pressed == noControl && view_.forward == noControl && checkTile_->rests();
     if (model_->role() != host::Role::sheet || !asNew)
         return false;
     std::vector<bool> widgets(widgets_.size());

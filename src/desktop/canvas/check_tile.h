@@ -31,6 +31,8 @@ public:
     /// Place, name and colours of its button for the reader of the screen.
     void label();
     void paint(QPainter& painter, const QRegion& clip) const;
+    /// Looks as on every other sheet like this one: no pointer is on it.
+    bool rests() const { return !hovered_ && !pressed_; }
     void hover(QPoint point);
     void leave();
     /// Checks the design, or says why not.

@@ -98,4 +98,21 @@ void writeBlock(QPainter& painter, const QRectF& room, const QRectF& box, int fl
         painter.drawText(room, flags | Qt::TextDontClip, text);
 }
 
+void writeInMiddle(QPainter& painter, const QRect& room, const QString& text)
+{
+    if (!lettering::isPlainScreen(painter)) {
+        painter.drawText(room, Qt::AlignCenter | Qt::TextSingleLine,
+                         painter.fontMetrics().elidedText(text, Qt::ElideRight, room.width()));
+        return;
+    }
+    const QStaticText* letters = &lettering::known({text, painter.font(), -1.0, 0}).text;
+    if (letters->size().width() > room.width())
+        letters = &lettering::known(
+                       {painter.fontMetrics().elidedText(text, Qt::ElideRight, room.width()), painter.font(), -1.0, 0})
+                       .text;
+    const QPointF spare((room.width() - letters->size().width()) / 2.0,
+                        (room.height() - letters->size().height()) / 2.0);
+    painter.drawStaticText((room.topLeft() + spare).toPoint(), *letters);
+}
+
 } // namespace velmor::desktop

@@ -19,4 +19,7 @@ void writeLine(QPainter& painter, QPointF baseline, const QString& text, const Q
 void writeBlock(QPainter& painter, const QRectF& room, const QRectF& box, int flags, const QString& text,
                 const QFont& font);
 
+/// Writes one line in the painter's pen and typeface into the middle of `room`, shortened where it is too long for it.
+void writeInMiddle(QPainter& painter, const QRect& room, const QString& text);
+
 } // namespace velmor::desktop

@@ -14,6 +14,7 @@
 #include <QStyleOptionTitleBar>
 #include <QWidget>
 
+#include "desktop/drawing/lettering.h"
 #include "desktop/drawing/palette_of_inks.h"
 #include "desktop/drawing/plates.h"
 #include "desktop/drawing/program_icon.h"
@@ -240,7 +241,12 @@ void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         return;
     }
     const Inks& inks = inksFor(option->palette);
-    fillFrame(*painter, option->rect, 1.0, option->state & State_Active ? inks.edge : inks.rule);
+    const QColor& color = option->state & State_Active ? inks.edge : inks.rule;
+    const QRect box = option->rect;
+    for (const QRect& side :
+         {QRect(box.topLeft(), QSize(box.width(), 1)), QRect(box.bottomLeft(), QSize(box.width(), 1)),
+          QRect(box.topLeft(), QSize(1, box.height())), QRect(box.topRight(), QSize(1, box.height()))})
+        painter->fillRect(side, color);
 }
 
 // Every child window asks for the signs of its own menu anew, the menu bar for one before it is shown.
@@ -292,8 +298,7 @@ void QuietStyle::drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter
     }
     painter.setPen(active ? inks.ink : inks.quiet);
     const QRect label = subControlRect(CC_TitleBar, &bar, SC_TitleBarLabel, widget);
-    painter.drawText(label, Qt::AlignVCenter | Qt::AlignHCenter | Qt::TextSingleLine,
-                     bar.fontMetrics.elidedText(titleOf(bar, widget), Qt::ElideRight, label.width()));
+    writeInMiddle(painter, label, titleOf(bar, widget));
     for (const SubControl part :
          {SC_TitleBarMinButton, SC_TitleBarMaxButton, SC_TitleBarNormalButton, SC_TitleBarCloseButton}) {
         if (!offered(bar, part))

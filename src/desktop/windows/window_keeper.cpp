@@ -105,16 +105,23 @@ void WindowKeeper::addChild(ChildFrame& child)
     connect(&child, &QMdiSubWindow::aboutToActivate, this, [this, &child] { holdFrames(child, false); });
 }
 
-// When a child becomes active, the frames change of that child and of the one that was active; the rest stay as they are.
+// When a child becomes active, of the others only the frame changes of the one that was active; the area raises that one on its
+// way down, and would have all of it painted anew.
 void WindowKeeper::holdFrames(const QMdiSubWindow& next, bool hold)
 {
     if (!main_)
         return;
     const QMdiArea& area = main_->area();
-    for (QMdiSubWindow* child : area.subWindowList()) {
-        const bool stays = child != &next && child != area.currentSubWindow() && child != area.activeSubWindow();
-        child->setAttribute(Qt::WA_UpdatesDisabled, hold && stays);
-    }
+    if (hold)
+        formerlyActive_ = area.currentSubWindow();
+    for (QMdiSubWindow* child : area.subWindowList())
+        child->setAttribute(Qt::WA_UpdatesDisabled, hold && child != &next);
+    if (hold || !formerlyActive_ || formerlyActive_ == &next)
+        return;
+    QRegion frame(formerlyActive_->rect());
+    if (const QWidget* inside = formerlyActive_->widget())
+        frame -= inside->geometry();
+    formerlyActive_->update(frame);
 }
 
 WindowFrame* WindowKeeper::frameOf(const host::Window& window) const

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include <QAccessible>
+#include <QMdiSubWindow>
 #include <QObject>
 #include <QPointer>
 
@@ -85,8 +86,9 @@ private:
     std::unordered_map<const host::Window*, WindowFrame*> frames_;
     std::vector<host::Window*> raised_;
     QPointer<PaletteStrip> strip_;
-    bool stripInHand_ = false;   ///< the strip has the keyboard, which the person gave it by key
-    QPointer<QWidget> byHand_;   ///< the view in which a key or a press is being answered
+    bool stripInHand_ = false;               ///< the strip has the keyboard, which the person gave it by key
+    QPointer<QMdiSubWindow> formerlyActive_; ///< while another child becomes active
+    QPointer<QWidget> byHand_;               ///< the view in which a key or a press is being answered
     QPointer<QWidget> awaited_;  ///< asked to become active; other activations on the way to it do not count
     QPointer<QWidget> wanted_;   ///< the person asked for it by key
     QPointer<QWidget> answered_; ///< a dialog of its own has closed, and it waits for the keyboard
