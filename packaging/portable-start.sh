@@ -44,7 +44,11 @@ FONTCONFIG_FILE=$lib/fonts/fonts.conf
 # Most desktops of Wayland have an X server too, where windows stand beside what they speak of.
 if [ -z "${QT_QPA_PLATFORM:-}" ]; then
     QT_QPA_PLATFORM=xcb
-    [ -n "${DISPLAY:-}" ] || [ -z "${WAYLAND_DISPLAY:-}" ] || QT_QPA_PLATFORM=wayland
+    if [ -z "${DISPLAY:-}" ] && [ -n "${WAYLAND_DISPLAY:-}" ]; then
+        QT_QPA_PLATFORM=wayland
+        # The toolkit's own frames want the machine's graphics drivers, which may not suit the libraries here.
+        export QT_WAYLAND_DISABLE_WINDOWDECORATION=1
+    fi
 fi
 export VELMOR_PORTABLE FONTCONFIG_FILE QT_QPA_PLATFORM
 if [ -z "$own" ]; then

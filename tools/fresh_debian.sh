@@ -4,7 +4,7 @@
 #
 #   tools/fresh_debian.sh [test|run]               from a fresh clone; both without an argument
 #   tools/fresh_debian.sh package FILE.deb         installs it, opens circuits with it, removes it, and looks for traces
-#   tools/fresh_debian.sh portable FILE.tar.xz     starts it as somebody without rights, unpacked where nobody may write
+#   tools/fresh_debian.sh portable FILE.tar.xz     starts it as somebody without rights, unpacked where nobody may write, and prints
 #
 # The packages come from where this machine's own come from, through the same proxy. SUITE=... chooses another Debian that is to
 # be had there, FOLDER=/var/tmp/velmor-fresh where all of it goes. Pictures of what was shown are left in FOLDER.

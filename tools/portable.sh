@@ -20,7 +20,7 @@ plugins=$(qtpaths6 --query QT_INSTALL_PLUGINS)
 translations=$(qtpaths6 --query QT_INSTALL_TRANSLATIONS)
 # What Qt loads by name: the screen, dead keys, input methods, printers, pictures.
 wanted_plugins=(platforms/libqxcb.so platforms/libqwayland-generic.so wayland-shell-integration/libxdg-shell.so
-    wayland-decoration-client/libbradient.so platforminputcontexts/libcomposeplatforminputcontextplugin.so
+    platforminputcontexts/libcomposeplatforminputcontextplugin.so
     platforminputcontexts/libibusplatforminputcontextplugin.so printsupport/libcupsprintersupport.so imageformats/libqsvg.so
     imageformats/libqjpeg.so iconengines/libqsvgicon.so)
 wanted_fonts=(DejaVuSans.ttf DejaVuSans-Bold.ttf DejaVuSansMono.ttf DejaVuSansMono-Bold.ttf texgyretermes-regular.otf
