@@ -157,8 +157,10 @@ TEST_F(EmitterTest, pointingAtAGreyedFieldShowsWhatItIsAndWhyItWaits)
     const QPoint at = canvas.boxInPixels(form2::Text3).center();
     QHelpEvent help(QEvent::ToolTip, at, canvas.mapToGlobal(at));
     QCoreApplication::sendEvent(&canvas, &help);
-    EXPECT_TRUE(QToolTip::text().contains(QString::fromUtf8("después de ΔQIc"))) << QToolTip::text().toStdString();
-    EXPECT_TRUE(QToolTip::text().contains(canvas.tipOf(form2::Text3)));
+    // Short lines have blanks that do not break.
+    const QString told = QToolTip::text().replace(QStringLiteral("&nbsp;"), QStringLiteral(" "));
+    EXPECT_TRUE(told.contains(QString::fromUtf8("después de ΔQIc"))) << told.toStdString();
+    EXPECT_TRUE(told.contains(canvas.tipOf(form2::Text3)));
     QToolTip::hideText();
 }
 
