@@ -107,7 +107,7 @@ void CheckWindow::connectParts()
     panel_->guessed = [this](check::Guess guess) { bet(guess); };
     panel_->allOpened = [this] { openAll(); };
     curves_->driven = [this](double drive) {
-        service_.swing(check::trimmedBy(checked_.result, checked_.design), drive);
+        service_.swing(check::simulatedBy(checked_.result, checked_.design), drive);
     };
     connect(again_, &QPushButton::clicked, this, [this] { deeds_.again(); });
     connect(report_, &QPushButton::clicked, this, [this] {
