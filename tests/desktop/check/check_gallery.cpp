@@ -12,6 +12,7 @@
 #include <QTabWidget>
 #include <QTableView>
 
+#include "desktop/check/check_words.h"
 #include "desktop/check/curves_export.h"
 #include "desktop/check/finished_design.h"
 #include "desktop/drawing/quiet_style.h"
@@ -104,7 +105,9 @@ private:
         const desktop::GainPlot gain(window_.checked());
         const desktop::WavePlot wave(window_.checked());
         const desktop::HarmonicsPlot harmonics(window_.checked());
-        desktop::CurvesPaper paper{.title = window_.windowTitle(), .english = true};
+        const std::string run = check::presetWords(window_.checked().result.preset).en;
+        desktop::CurvesPaper paper{
+            .title = window_.windowTitle(), .note = desktop::check_words::prose(desktop::shown(run)), .english = true};
         for (const desktop::Plot* plot : std::initializer_list<const desktop::Plot*>{&gain, &wave, &harmonics})
             if (plot->hasData())
                 paper.plots.push_back(plot);

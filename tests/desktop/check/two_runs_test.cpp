@@ -158,7 +158,9 @@ TEST_F(TwoRunsTest, areNamedInEveryFileThatIsSaved)
     ASSERT_TRUE(waitForCheck(window));
     const QTemporaryDir folder;
     file = folder.filePath(QStringLiteral("saved"));
-    for (QAction* way : part<QPushButton>("checkSave").menu()->actions()) {
+    const QList<QAction*> ways = part<QPushButton>("checkSave").menu()->actions();
+    EXPECT_EQ(ways.size(), 4) << "table, curves twice, netlist";
+    for (QAction* way : ways) {
         way->trigger();
         std::ifstream saved(file.toStdString());
         const std::string text{std::istreambuf_iterator<char>(saved), {}};
