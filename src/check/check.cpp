@@ -118,12 +118,35 @@ CheckEnd endOf(const Simulation& simulation)
     return CheckEnd::failed;
 }
 
+Preset presetOf(const Design& design, Run run)
+{
+    const Part* preset = partOf(design.circuit, design.table->preset);
+    const Part* supply = partOf(design.circuit, "Es");
+    if (preset == nullptr || supply == nullptr)
+        return {};
+    return {
+        .name = preset->name, .run = run, .typed = preset->value, .simulated = preset->value, .supply = supply->value};
+}
+
+/// The design with its preset where the run wants it; its netlist says so.
+Design setUp(Preset& preset, const Design& design, Simulator& simulator)
+{
+    if (!preset.isThere())
+        return design;
+    Design result = preset.run == Run::trimmed ? trimmed(design, simulator) : design;
+    preset.simulated = partOf(result.circuit, preset.name)->value;
+    result.circuit.assumed.push_back(presetWords(preset).en);
+    return result;
+}
+
 void readPlots(Check& check, const Design& design, const std::vector<Plot>& plots, Simulator& simulator)
 {
     check.response = readResponse(design, plots);
     check.swing = readSwing(design, plots, 1);
     for (Row& row : check.rows)
         row.simulated = readingOf(design, plots, check.swing, row.quantity);
+    if (const Plot* point = plotOf(plots, "Operating Point"); point != nullptr && check.preset.isThere())
+        check.preset.middle = pointOf(*point, "v(" + std::string(design.table->middle) + ")");
     if (rowOf(check, Quantity::Pout) != nullptr)
         measurePower(check, design, simulator, plots);
     const bool isWhole =
@@ -164,7 +187,7 @@ void explain(Check& check, const Design& design)
     check.ceilings = ceilingsOf(stage, Vce == nullptr ? std::nullopt : Vce->simulated);
     for (Row& row : check.rows) {
         row.ladder = ladderOf(design, stage, row);
-        judge(row, design, check.ceilings, check.swing.distortion);
+        judge(row, design, check);
     }
 }
 
@@ -195,16 +218,17 @@ Design designOf(const host::Window& sheet, const SheetTable& table)
     return design;
 }
 
-Check checkDesign(const Design& design, Simulator& simulator)
+Check checkDesign(const Design& design, Simulator& simulator, Run run)
 {
     Check check;
     for (const Expected& row : design.rows)
         check.rows.push_back({.quantity = row.quantity, .asked = row.asked, .course = row.course});
+    check.preset = presetOf(design, run);
     check.circuit = design.circuit;
     check.netlist = deckOf(design.circuit, {});
     const std::string impossible = impossiblePart(design.circuit);
     if (impossible.empty()) {
-        simulate(check, trimmed(design, simulator), simulator);
+        simulate(check, setUp(check.preset, design, simulator), simulator);
     } else {
         check.end = CheckEnd::impossible;
     }
@@ -215,7 +239,7 @@ Check checkDesign(const Design& design, Simulator& simulator)
     return check;
 }
 
-Design trimmedBy(const Check& check, Design design)
+Design simulatedBy(const Check& check, Design design)
 {
     design.circuit = check.circuit;
     return design;

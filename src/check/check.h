@@ -5,7 +5,7 @@
 // For a window:
 //   const Design design = designOf(sheet, table);          // in the program's thread, when `isAwake`
 //   const Check check = checkDesign(design, simulator);    // anywhere; up to five seconds where the simulator hangs
-//   const Swing swing = swingOf(trimmedBy(check, design), simulator, drive); // the slider: 0.1 to 4 times Ein
+//   const Swing swing = swingOf(simulatedBy(check, design), simulator, drive); // the slider: 0.1 to 4 times Ein
 //   Bet, textTable and csvTable (bet.h, table_text.h) do the rest.
 #pragma once
 
@@ -17,19 +17,12 @@
 #include "check/circuit.h"
 #include "check/ladder.h"
 #include "check/measures.h"
+#include "check/preset.h"
 #include "check/quantity.h"
 #include "check/sheet_table.h"
 #include "check/simulator.h"
 
 namespace velmor::check {
-
-/// A text that was put together, in both languages.
-struct Words {
-    std::string es{};
-    std::string en{};
-
-    const std::string& in(bool english) const { return english ? en : es; }
-};
 
 /// A row before the simulator has spoken.
 struct Expected {
@@ -112,15 +105,16 @@ struct Check {
     Response response{};     ///< gain over frequency, 0.01 Hz to `midBand`
     Swing swing{};
     Ceilings ceilings{};
-    Circuit circuit{}; ///< as it was simulated: presets are trimmed
+    Preset preset{};
+    Circuit circuit{}; ///< as it was simulated, with the preset where the run has left it
     std::string netlist{};
     std::string details{}; ///< what the simulator said
 };
 
-Check checkDesign(const Design& design, Simulator& simulator);
+Check checkDesign(const Design& design, Simulator& simulator, Run run = Run::trimmed);
 
 /// The design with the circuit that the check has simulated.
-Design trimmedBy(const Check& check, Design design);
+Design simulatedBy(const Check& check, Design design);
 
 /// Drive is kept between 0.1 and 10.
 Swing swingOf(const Design& design, Simulator& simulator, double drive);

@@ -167,7 +167,10 @@ PowerPoint cleanPoint(const Design& design, Simulator& simulator, const PowerPoi
             return refined(design, simulator, afterNext, next);
         point = afterNext;
     }
-    return isClean(point) ? point : PowerPoint{};
+    if (isClean(point))
+        return point;
+    // So faint a wave that is still bent: nothing comes out clean.
+    return {.drive = point.drive, .power = 0, .distortion = point.distortion, .supplied = point.supplied};
 }
 
 void measurePower(Check& check, const Design& design, Simulator& simulator, const std::vector<Plot>& plots)

@@ -25,7 +25,8 @@ PowerPoint powerPointOf(const Design& design, const std::vector<Plot>& plots, do
 /// place for it.
 Design trimmed(const Design& design, Simulator& simulator);
 
-/// The highest drive at which the wave is clean, from the point at drive 1 on; without power where there is none.
+/// The highest drive at which the wave is clean, from the point at drive 1 on; of no power where none down to a thirtieth is,
+/// and without one where the simulator fails.
 PowerPoint cleanPoint(const Design& design, Simulator& simulator, const PowerPoint& atCourse);
 
 /// Fills in what only further runs can tell: Pout and the heat it costs, Pclean, efficiency, and Vg at half the swing.

@@ -85,7 +85,10 @@ using namespace table_text_detail;
 
 std::string textTable(const Check& check, const Design& design, bool english)
 {
-    std::string text = std::string(pick(heading, english)) + std::string(lineEnd);
+    std::string text;
+    if (check.preset.isThere())
+        text += presetWords(check.preset).in(english) + std::string(lineEnd);
+    text += std::string(pick(heading, english)) + std::string(lineEnd);
     for (const Row& row : check.rows)
         text += rowLine(row, english);
     text += lineEnd;
@@ -104,7 +107,10 @@ std::string textTable(const Check& check, const Design& design, bool english)
 
 std::string csvTable(const Check& check, bool english)
 {
-    std::string text = std::string(pick(csvHeading, english)) + std::string(lineEnd);
+    const std::string preset =
+        check.preset.isThere() ? ',' + csvField(presetWords(check.preset).in(english)) : std::string();
+    std::string text = std::string(pick(csvHeading, english)) + (preset.empty() ? "" : ",preset");
+    text += lineEnd;
     for (const Row& row : check.rows) {
         const Measured rest = row.ladder.rungs.empty() ? Measured() : Measured(row.ladder.remainder());
         const QuantityText& words = textOf(row.quantity);
@@ -117,6 +123,7 @@ std::string csvTable(const Check& check, bool english)
                                 csvField(row.verdict.in(english))};
         for (std::size_t i = 0; i < fields.size(); ++i)
             text += (i == 0 ? "" : ",") + fields[i];
+        text += preset;
         text += lineEnd;
     }
     return text;

@@ -93,13 +93,55 @@ Judgement judgementOf(const Row& row, const Ceilings& ceilings)
 
 // Reasons begin small, as they go on behind "because"; who puts one at the beginning of a line raises its first letter.
 
-/// Why the power does not come out: the current that the outputs can get, or the driver that bends first.
-Words powerReason(const Row& row, const Design& design)
+/// Whether the wave, with so much current at its peak, meets the supply before the outputs lack current: the preset is not
+/// turned, and the middle rests too near to one end.
+bool meetsSupply(const Preset& preset, double peak, double ohms, double mostPeak)
+{
+    const Measured room = roomOfMiddle(preset);
+    if (preset.run != Run::yourValues || !room)
+        return false;
+    return *room < peak * ohms && (mostPeak <= 0 || *room < mostPeak * ohms);
+}
+
+/// The middle that a preset has left beside half the supply.
+Words middleWords(const Preset& preset)
+{
+    const std::string middle = amountText(preset.middle.value_or(0), "V");
+    const std::string half = amountText(preset.supply / 2, "V");
+    return {"con el preset como está, el medio descansa en " + middle + " y no en Es / 2, " + half + ": ",
+            "with the preset as it is, the middle rests at " + middle + " and not at Es / 2, " + half + ": "};
+}
+
+Words roomReason(const Preset& preset)
+{
+    const Words middle = middleWords(preset);
+    const std::string room = amountText(roomOfMiddle(preset).value_or(0), "V");
+    return {middle.es + "hasta un extremo de la fuente quedan " + room + ".",
+            middle.en + "to one end of the supply " + room + " are left."};
+}
+
+/// Whether the middle accounts for at least half of what the current lacks.
+bool isCurrentOfMiddle(const Row& row, const Preset& preset)
+{
+    if (preset.run != Run::yourValues || row.quantity != Quantity::QIc || !row.course || *row.course == 0)
+        return false;
+    const double lack = lackOfMiddle(preset);
+    const double difference = row.simulated.value_or(0) / *row.course - 1;
+    return lack * difference > 0 && std::abs(lack) >= std::abs(difference) / 2;
+}
+
+/// Why the power does not come out: the rest of the output, the current that the outputs can get, or the driver that bends first.
+Words powerReason(const Row& row, const Design& design, const Preset& preset)
 {
     const Part* load = partOf(design.circuit, "RLw");
     const double wanted = row.asked.value_or(row.course.value_or(0));
     const double ohms = load == nullptr ? 1 : load->value;
     const double peak = row.quantity == Quantity::Eopp ? wanted / 2 / ohms : std::sqrt(2 * wanted / ohms);
+    if (meetsSupply(preset, peak, ohms, design.mostPeak))
+        return roomReason(preset);
+    if (row.quantity == Quantity::Pclean && row.simulated == 0.0)
+        return {"hasta la onda más débil sale doblada: en el cruce por cero las salidas no conducen.",
+                "even the faintest wave comes out bent: at the crossover the outputs do not conduct."};
     const std::string needed = amountText(peak, "A");
     if (design.mostPeak > 0 && design.mostPeak < peak) {
         const std::string most = amountText(design.mostPeak, "A");
@@ -152,7 +194,7 @@ Words swingReason(const Row& row, const Ceilings& ceilings)
 }
 
 /// The reason that a row without a ladder may have.
-Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
+Words reasonOf(const Row& row, const Design& design, const Check& check)
 {
     const std::string amount = amountText(row.simulated.value_or(0), textOf(row.quantity).unit);
     const bool isPower = design.table->stage == StageKind::other;
@@ -169,15 +211,19 @@ Words reasonOf(const Row& row, const Design& design, const Ceilings& ceilings)
     case Quantity::Vg:
         return powerGainReason(row, design);
     case Quantity::Eopp:
-        return isPower ? powerReason(row, design) : swingReason(row, ceilings);
+        return isPower ? powerReason(row, design, check.preset) : swingReason(row, check.ceilings);
     case Quantity::Pout:
     case Quantity::Pclean:
-        return powerReason(row, design);
+        return powerReason(row, design, check.preset);
     case Quantity::drift:
         return {"la tensión sobre Res es poca para tanto corrimiento de Vbe.",
                 "the voltage across Res is too small for so much drift of Vbe."};
     default:
         break;
+    }
+    if (isCurrentOfMiddle(row, check.preset)) {
+        const Words middle = middleWords(check.preset);
+        return {middle.es + "a RL le queda otra tensión.", middle.en + "RL is left with another voltage."};
     }
     if (isPower)
         return {"el curso cuenta 0.6 V por juntura, y en el simulador cada juntura sigue a su corriente.",
@@ -199,9 +245,9 @@ Words reasonOfLadder(const Row& row)
             std::string(rung.reason.en) + " That makes " + there + "; the simulator measures " + amount + "."};
 }
 
-Words because(const Row& row, const Design& design, const Ceilings& ceilings)
+Words because(const Row& row, const Design& design, const Check& check)
 {
-    return row.ladder.rungs.empty() ? reasonOf(row, design, ceilings) : reasonOfLadder(row);
+    return row.ladder.rungs.empty() ? reasonOf(row, design, check) : reasonOfLadder(row);
 }
 
 /// How the generator feels about its load.
@@ -236,18 +282,18 @@ Words agreement(const Row& row, const Measured& distortion)
             "agrees, but with a bent wave: " + amount + " distortion."};
 }
 
-Words verdictOf(const Row& row, const Design& design, const Ceilings& ceilings, const Measured& distortion)
+Words verdictOf(const Row& row, const Design& design, const Check& check)
 {
     const QuantityText& text = textOf(row.quantity);
     switch (row.judgement) {
     case Judgement::agrees:
-        return agreement(row, distortion);
+        return agreement(row, check.swing.distortion);
     case Judgement::differs: {
-        const Words reason = because(row, design, ceilings);
+        const Words reason = because(row, design, check);
         return {"difiere, porque " + reason.es, "differs, because " + reason.en};
     }
     case Judgement::notReached: {
-        const Words reason = because(row, design, ceilings);
+        const Words reason = because(row, design, check);
         const std::string wanted = amountText(*referenceOf(row), text.unit);
         return {"no se alcanzan " + wanted + ": " + reason.es, wanted + " not reached: " + reason.en};
     }
@@ -304,10 +350,10 @@ std::string sentence(std::string_view reason)
     return text;
 }
 
-void judge(Row& row, const Design& design, const Ceilings& ceilings, const Measured& distortion)
+void judge(Row& row, const Design& design, const Check& check)
 {
-    row.judgement = verdict_detail::judgementOf(row, ceilings);
-    row.verdict = verdict_detail::verdictOf(row, design, ceilings, distortion);
+    row.judgement = verdict_detail::judgementOf(row, check.ceilings);
+    row.verdict = verdict_detail::verdictOf(row, design, check);
 }
 
 } // namespace velmor::check

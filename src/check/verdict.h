@@ -19,7 +19,7 @@ const host::BiText& judgementText(Judgement judgement);
 /// A reason where it begins a line: its first letter raised.
 std::string sentence(std::string_view reason);
 
-/// Judges the row and says so in it. The distortion is that of the wave at the course's input, %.
-void judge(Row& row, const Design& design, const Ceilings& ceilings, const Measured& distortion);
+/// Judges a row of the check and says so in it.
+void judge(Row& row, const Design& design, const Check& check);
 
 } // namespace velmor::check

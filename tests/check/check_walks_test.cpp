@@ -196,4 +196,50 @@ TEST(Form10, namesTheCurrentThatItsOutputsLack)
     EXPECT_NE(row.verdict.en.find("Ibias x Beta"), std::string::npos) << row.verdict.en;
 }
 
+/// A run with the preset as it was set, beside what tests/figures/checks.py gives with that many ohms.
+void expectYourValues(const char* name, double middle, std::initializer_list<std::pair<Quantity, double>> figures)
+{
+    const Design design = playedDesign(name);
+    ASSERT_NE(design.table, nullptr);
+    Ngspice simulator;
+    const Check check = checkDesign(design, simulator, Run::yourValues);
+    EXPECT_EQ(check.end, CheckEnd::done);
+    EXPECT_NEAR(check.preset.middle.value_or(0), middle, 0.01 * middle);
+    for (const auto& [quantity, figure] : figures)
+        EXPECT_NEAR(rowOf(check, quantity)->simulated.value_or(-1), figure, 0.03 * figure + 0.001)
+            << textOf(quantity).name;
+}
+
+TEST(Form10, canBeCheckedWithItsPresetAsItWasSet)
+{
+    if (!hasNgspice())
+        GTEST_SKIP() << "ngspice is not installed";
+    // form10(6200): the crossover leaves no clean wave; 0.6 microwatt come out clean, at less than a thousandth of the input.
+    expectYourValues("form10", 12.5695,
+                     {{Quantity::QIc, 6.0374},
+                      {Quantity::Pout, 1.4392},
+                      {Quantity::THD, 47.714},
+                      {Quantity::Eopp, 9.3271},
+                      {Quantity::heat, 2.9000},
+                      {Quantity::Vg, 46.133},
+                      {Quantity::Pclean, 0},
+                      {Quantity::efficiency, 0}});
+}
+
+TEST(Form11, canBeCheckedWithItsPresetAsItWasSet)
+{
+    if (!hasNgspice())
+        GTEST_SKIP() << "ngspice is not installed";
+    // form11(46800)
+    expectYourValues("form11", 25.910,
+                     {{Quantity::QIc, 1.7133},
+                      {Quantity::Pout, 12.216},
+                      {Quantity::THD, 40.848},
+                      {Quantity::Eopp, 25.415},
+                      {Quantity::heat, 6.8717},
+                      {Quantity::Vg, 16.249},
+                      {Quantity::Pclean, 1.8220},
+                      {Quantity::efficiency, 23.529}});
+}
+
 } // namespace velmor::check::test

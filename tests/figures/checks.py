@@ -304,15 +304,18 @@ def form12():
     return {"QIc": 1000 * current, "Vce": c - e}
 
 
-def power(lines, drive, load, supply, transistors, trimmed=False, half=False):
-    """Rows of a power stage; `trimmed` turns the preset named RP until node x stands at half the supply."""
-    if trimmed:
-        low, high = 1e3, 200e3
-        for _ in range(40):
-            preset = math.sqrt(low * high)
-            x = Bench(lines + [f"RP m b {preset}"]).bias("v(x)")[0]
-            low, high = (preset, high) if x < supply / 2 else (low, preset)
-        lines = lines + [f"RP m b {preset}"]
+def turned(lines, supply):
+    """The preset RP, ohm, with which node x stands at half the supply."""
+    low, high = 1e3, 200e3
+    for _ in range(40):
+        preset = math.sqrt(low * high)
+        x = Bench(lines + [f"RP m b {preset}"]).bias("v(x)")[0]
+        low, high = (preset, high) if x < supply / 2 else (low, preset)
+    return preset
+
+
+def power(lines, drive, load, supply, transistors, half=False):
+    """Rows of a power stage."""
     bench = Bench(lines)
     found = bench.bias(*[f"@{q}[ic]" for _, q in transistors])
     result = {name: 1000 * value for (name, _), value in zip(transistors, found)}
@@ -401,7 +404,8 @@ def class_b(es, rs, cin, rla, rlb, rb1a, rb2, bases, outputs):
 
 
 @sheet("form10")
-def form10():
+def form10(preset=None):
+    """With the preset trimmed, or left at so many ohms."""
     bias = 12 / 1800
     junction = 0.025 / bias
     zin = beside(100 * junction, 1000, 6200)
@@ -410,11 +414,13 @@ def form10():
     lines = class_b(24, 5100, 1 / (LOWEST * zin), 1300, 500, 12000, 1000, ["RD a k 100", "Q1 k b 0 m1"],
                     ["Q2 cc a p m2", "R2 p x 0.47", "Q3 0 k q m3", "R3 x q 0.47"])
     lines += [model("m1", 100, bias), model("m2", 50, bias), model("m3", 50, bias, kind="PNP")]
-    return power(lines, drive, 8, 24, (("QIc", "q1"),), trimmed=True, half=True)
+    lines.append(f"RP m b {preset or turned(lines, 24)}")
+    return power(lines, drive, 8, 24, (("QIc", "q1"),), half=True)
 
 
 @sheet("form11")
-def form11():
+def form11(preset=None):
+    """With the preset trimmed, or left at so many ohms."""
     bias = 18 / 5200
     junction = 0.025 / bias
     gain = beside(3900, 400 * 8) / (junction + 100)
@@ -424,7 +430,8 @@ def form11():
                     ["Q2 cc a p m2", "R2 p x 470", "Q4 cc p r m2", "R4 r x 0.47", "Q3 0 k q m3", "R3 x q 470", "Q5 0 q s m3",
                      "R5 x s 0.47"])
     lines += [model("m1", 100, bias), model("m2", 20, bias), model("m3", 20, bias, kind="PNP")]
-    return power(lines, drive, 8, 36, (("QIc", "q1"),), trimmed=True, half=True)
+    lines.append(f"RP m b {preset or turned(lines, 36)}")
+    return power(lines, drive, 8, 36, (("QIc", "q1"),), half=True)
 
 
 # How far the program may be from a figure, as a fraction of it.

@@ -58,7 +58,7 @@ constexpr check::QuantityRow quantities[] = {
     {.quantity = Quantity::efficiency},
     {.quantity = Quantity::heat},
 };
-constexpr host::BiText assumed[] = {{"Betas 100 y 50", "Betas 100 and 50"}, power::presetTurned, power::plainTransistors};
+constexpr host::BiText assumed[] = {{"Betas 100 y 50", "Betas 100 and 50"}, power::plainTransistors};
 // clang-format on
 
 } // namespace form10_circuit

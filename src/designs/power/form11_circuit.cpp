@@ -70,7 +70,7 @@ constexpr check::QuantityRow quantities[] = {
 };
 constexpr host::BiText assumed[] = {
     {"Q8: una fuente de 2.35 V; Betas 100 y 20 x 20", "Q8: a source of 2.35 V; Betas 100 and 20 x 20"},
-    power::presetTurned, power::plainTransistors};
+    power::plainTransistors};
 // clang-format on
 
 } // namespace form11_circuit

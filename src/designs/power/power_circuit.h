@@ -16,8 +16,6 @@ inline constexpr check::Figure Vj{.scale = 0.6};
 // clang-format off
 inline constexpr host::BiText plainTransistors{"Transistores sin efecto Early ni capacidades, Vj 0.6 V",
                                                "Transistors without Early effect or capacitances, Vj 0.6 V"};
-inline constexpr host::BiText presetTurned{"Preset ajustado hasta que el medio queda en Es / 2",
-                                           "Preset turned until the middle stands at Es / 2"};
 inline constexpr auto driverRungs = std::to_array<check::RungRow>({
     {check::Truth::middle,   {"el curso pone la salida justo en Es / 2; donde de verdad descansa, a RL le queda otra tensión.",
                               "the course puts the output exactly at Es / 2; where it really rests, RL is left with another voltage."}},

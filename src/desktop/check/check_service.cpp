@@ -57,12 +57,12 @@ void CheckService::start(bool isCheck, Work work)
         });
 }
 
-void CheckService::begin(const check::Design& design)
+void CheckService::begin(const check::Design& design, check::Run run)
 {
     stop();
     shownCheck_ = started_ + 1;
-    start(true, [this, design](check::Simulator& simulator, unsigned number) {
-        check::Check result = unlessItFails([&] { return check::checkDesign(design, simulator); });
+    start(true, [this, design, run](check::Simulator& simulator, unsigned number) {
+        check::Check result = unlessItFails([&] { return check::checkDesign(design, simulator, run); });
         return [this, number, result = std::move(result)] {
             if (number == shownCheck_ && checked)
                 checked(result);

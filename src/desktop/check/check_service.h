@@ -23,7 +23,7 @@ public:
     /// What still runs is ended.
     ~CheckService() override;
 
-    void begin(const check::Design& design);
+    void begin(const check::Design& design, check::Run run = check::Run::trimmed);
     /// The wave at another drive.
     void swing(const check::Design& design, double drive);
     void stop();

@@ -22,6 +22,7 @@
 #include "desktop/check/curves_page.h"
 #include "desktop/check/row_panel.h"
 #include "desktop/check/rows_table.h"
+#include "desktop/check/run_switch.h"
 #include "desktop/windows/title_line.h"
 
 namespace velmor::desktop {
@@ -107,7 +108,7 @@ void CheckWindow::connectParts()
     panel_->guessed = [this](check::Guess guess) { bet(guess); };
     panel_->allOpened = [this] { openAll(); };
     curves_->driven = [this](double drive) {
-        service_.swing(check::trimmedBy(checked_.result, checked_.design), drive);
+        service_.swing(check::simulatedBy(checked_.result, checked_.design), drive);
     };
     connect(again_, &QPushButton::clicked, this, [this] { deeds_.again(); });
     connect(report_, &QPushButton::clicked, this, [this] {
@@ -122,6 +123,8 @@ void CheckWindow::connectParts()
         connect(new QShortcut(keys, this), &QShortcut::activated, this, deed);
     };
     onKey(Qt::Key_F5, [this] { deeds_.again(); });
+    runs_->chosen = [this](check::Run run) { choose(run); };
+    onKey(Qt::Key_F7, [this] { runs_->turn(); });
     onKey(Qt::Key_F6, [this] { desk().nextPane(); });
     onKey(Qt::CTRL | Qt::Key_T, [this] { deeds_.again(); });
     for (const auto& [key, guess] : {std::pair{Qt::Key_1, check::Guess::lower},
@@ -137,15 +140,30 @@ void CheckWindow::begin(const check::Design& design, const QString& sheetTitle)
 {
     sheetTitle_ = sheetTitle;
     checked_.design = design;
-    checked_.result = expectedOf(design);
     checked_.bet = {};
+    simulate();
+    relabel();
+    giveRowsTheirRoom();
+}
+
+void CheckWindow::simulate()
+{
+    checked_.result = expectedOf(checked_.design);
     checked_.swing = {};
     checked_.freshness = Freshness::running;
     curves_->resetDrive();
     tell(QString());
-    service_.begin(design);
-    relabel();
-    giveRowsTheirRoom();
+    service_.begin(checked_.design, checked_.run);
+}
+
+// It is the same design: what was bet on it stays bet.
+void CheckWindow::choose(check::Run run)
+{
+    if (run == checked_.run)
+        return;
+    checked_.run = run;
+    simulate();
+    follow();
 }
 
 // The table has what its rows need, the row in hand the rest; who has moved the handle, has moved it.
@@ -207,6 +225,9 @@ void CheckWindow::follow()
     state_->setText(state());
     const bool old = checked_.freshness == Freshness::changed;
     again_->setVisible(old);
+    runs_->setVisible(checked_.hasPreset());
+    runs_->setEnabled(checked_.freshness == Freshness::running || checked_.freshness == Freshness::fresh);
+    runs_->follow(checked_.run, checked_.english);
     QPalette colors = state_->palette();
     const bool stands = old || checked_.freshness == Freshness::asleep;
     colors.setColor(QPalette::Window, stands ? desk().inks->hint : desk().inks->voice);
@@ -269,6 +290,9 @@ void CheckWindow::followPages()
     if (checked_.design.table != nullptr)
         for (const host::BiText& text : checked_.design.table->assumed)
             lines.append(QStringLiteral("\n• ") + check_words::prose(in(text, english)));
+    if (checked_.result.preset.isThere())
+        lines.append(QStringLiteral("\n• ") +
+                     check_words::prose(in(check::presetWords(checked_.result.preset), english)));
     assumed_->setPlainText(lines.join(QLatin1Char('\n')));
     if (netlist_->toPlainText() != shown(checked_.result.netlist).trimmed())
         netlist_->setPlainText(shown(checked_.result.netlist).trimmed());
@@ -303,7 +327,9 @@ std::string CheckWindow::table(bool csv)
 
 CurvesPaper CheckWindow::paper() const
 {
-    CurvesPaper paper{.title = windowTitle(), .english = checked_.english};
+    CurvesPaper paper{.title = windowTitle(),
+                      .note = check_words::prose(in(check::presetWords(checked_.result.preset), checked_.english)),
+                      .english = checked_.english};
     for (const PlotView* view : curves_->views())
         if (view->plot().hasData())
             paper.plots.push_back(&view->plot());

@@ -23,6 +23,7 @@ namespace velmor::desktop {
 class CurvesPage;
 class RowPanel;
 class RowsTable;
+class RunSwitch;
 
 /// What a window of a check asks for.
 struct CheckDeeds {
@@ -62,6 +63,8 @@ private:
     QPlainTextEdit* makeText(const char* name);
     void connectParts();
     void giveRowsTheirRoom();
+    void simulate();
+    void choose(check::Run run);
     void take(const check::Check& result);
     void follow();
     void followRow();
@@ -83,6 +86,7 @@ private:
     bool handMoved_ = false; ///< the handle between the rows and the row in hand
     QLabel* state_ = nullptr;
     QPushButton* again_ = nullptr;
+    RunSwitch* runs_ = nullptr;
     RowsTable* rows_ = nullptr;
     RowPanel* panel_ = nullptr;
     QTabWidget* pages_ = nullptr;

@@ -14,6 +14,7 @@
 #include "desktop/check/curves_page.h"
 #include "desktop/check/row_panel.h"
 #include "desktop/check/rows_table.h"
+#include "desktop/check/run_switch.h"
 
 namespace velmor::desktop {
 
@@ -66,10 +67,12 @@ QWidget* CheckWindow::makeTop()
     state_->setWordWrap(true);
     again_ = new QPushButton;
     again_->setObjectName(QStringLiteral("checkAgain"));
+    runs_ = new RunSwitch;
     auto* line = new QHBoxLayout(top);
     line->setContentsMargins(margin + 2, margin / 2, margin, margin / 2);
     line->addWidget(state_, 1);
     line->addWidget(again_);
+    line->addWidget(runs_);
     return top;
 }
 

@@ -40,6 +40,13 @@ inline constexpr BiText invitation {"¿Qué medirá el simulador? Elija una fila
                                     "What will the simulator measure? Choose a row and bet; then it opens."};
 inline constexpr BiText score      {"Apuestas acertadas: %1 de %2.", "Bets won: %1 of %2."};
 inline constexpr BiText tally      {"De %1 comparadas, coinciden %2.", "Of %1 compared, %2 agree."};
+// the two runs of a stage with a preset
+inline constexpr BiText runsName   {"Valores que se simulan", "Values that are simulated"};
+inline constexpr BiText runs[]     {{"Sus &valores", "Your &values"}, {"Presets a&justados", "Presets tri&mmed"}};
+inline constexpr BiText runTips[]  {{"Simula el preset como usted lo dejó; F7 cambia",
+                                     "Simulates the preset as you set it; F7 changes"},
+                                    {"Gira el preset hasta que el medio quede en Es / 2 y después simula; F7 cambia",
+                                     "Turns the preset until the middle stands at Es / 2, then simulates; F7 changes"}};
 // the row in hand
 inline constexpr BiText question   {"El curso calcula %1. El simulador medirá...",
                                     "The course works out %1. The simulator will measure..."};

@@ -19,6 +19,7 @@ struct Checked {
     check::Check result{};
     check::Bet bet{};
     check::Swing swing{}; ///< at the drive of the slider
+    check::Run run = check::Run::trimmed;
     Freshness freshness = Freshness::running;
     bool english = false;
 
@@ -29,6 +30,8 @@ struct Checked {
         const check::Row* row = check::rowOf(result, quantity);
         return row == nullptr || isOpen(*row);
     }
+    /// Whether there are two runs to choose from.
+    bool hasPreset() const { return design.table != nullptr && !design.table->preset.empty(); }
     bool isSmallSignal() const { return design.table != nullptr && design.table->stage != check::StageKind::other; }
 };
 

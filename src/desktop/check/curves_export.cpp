@@ -15,13 +15,19 @@ namespace curves_export_detail {
 // The page in points of its own.
 constexpr double width = 640;
 constexpr double headHeight = 36;
+constexpr double noteHeight = 20;
 constexpr double plotHeight = 270;
 constexpr double letters = 12;
 constexpr int pixelsPerInch = 96;
 
+double headOf(const CurvesPaper& paper)
+{
+    return headHeight + (paper.note.isEmpty() ? 0 : noteHeight);
+}
+
 QSizeF sizeOf(const CurvesPaper& paper)
 {
-    return {width, headHeight + plotHeight * static_cast<double>(paper.plots.size())};
+    return {width, headOf(paper) + plotHeight * static_cast<double>(paper.plots.size())};
 }
 
 void paintPage(QPainter& painter, const CurvesPaper& paper)
@@ -30,7 +36,11 @@ void paintPage(QPainter& painter, const CurvesPaper& paper)
     painter.setFont(interfaceFont(letters * 1.3, true));
     painter.setPen(look.inks->ink);
     painter.drawText(QRectF(0, 0, width, headHeight), Qt::AlignCenter, paper.title);
-    double top = headHeight;
+    if (!paper.note.isEmpty()) {
+        painter.setFont(interfaceFont(letters));
+        painter.drawText(QRectF(0, headHeight, width, noteHeight), Qt::AlignHCenter | Qt::AlignTop, paper.note);
+    }
+    double top = headOf(paper);
     for (const Plot* plot : paper.plots) {
         plot->paint(painter, QRectF(0, top, width, plotHeight), look, std::nullopt);
         top += plotHeight;

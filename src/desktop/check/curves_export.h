@@ -12,6 +12,7 @@ namespace velmor::desktop {
 
 struct CurvesPaper {
     QString title{};
+    QString note{};                   ///< a line below the title; may be empty
     std::vector<const Plot*> plots{}; ///< one below the other
     bool english = false;
 };

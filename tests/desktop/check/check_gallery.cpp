@@ -2,7 +2,7 @@
 // Pictures of the window of a check, to be judged by eye: each finished design of tests/check, in both languages.
 //     velmor_check_gallery FOLDER [NAME ...]
 //     NAME-bet: before the first bet; NAME-es, NAME-en: all rows open; NAME-loud: at three times the input; NAME-small: on a
-//     small screen; NAME-dark; NAME-page1es and so on: the other pages; NAME-curves.svg and .pdf
+//     small screen; NAME-yours-es, NAME-yours-en: with the preset as it was set; NAME-dark; NAME-page1es and so on: the other pages; NAME-curves.svg and .pdf
 #include <clocale>
 #include <cstdio>
 
@@ -12,6 +12,7 @@
 #include <QTabWidget>
 #include <QTableView>
 
+#include "desktop/check/check_words.h"
 #include "desktop/check/curves_export.h"
 #include "desktop/check/finished_design.h"
 #include "desktop/drawing/quiet_style.h"
@@ -48,6 +49,7 @@ public:
             savePages(english);
         }
         saveCurves();
+        takeYours();
         takeLoud();
     }
 
@@ -55,6 +57,24 @@ private:
     desktop::CheckDeeds deeds()
     {
         return {.again = [] {}, .fileFor = {}, .toReport = [](const QString&) { return true; }, .closed = {}};
+    }
+
+    /// The run with the student's own values, where there are two.
+    void takeYours()
+    {
+        auto* yours = window_.findChild<QAbstractButton*>(QStringLiteral("checkYourValues"));
+        if (!yours->isVisible())
+            return;
+        yours->click();
+        waitForCheck(window_);
+        choose("Pclean");
+        for (const bool english : {false, true}) {
+            design_.speak(english);
+            window_.relabel();
+            save(english ? "yours-en" : "yours-es");
+        }
+        window_.findChild<QAbstractButton*>(QStringLiteral("checkTrimmed"))->click();
+        waitForCheck(window_);
     }
 
     void takeLoud()
@@ -85,7 +105,9 @@ private:
         const desktop::GainPlot gain(window_.checked());
         const desktop::WavePlot wave(window_.checked());
         const desktop::HarmonicsPlot harmonics(window_.checked());
-        desktop::CurvesPaper paper{.title = window_.windowTitle(), .english = true};
+        const std::string run = check::presetWords(window_.checked().result.preset).en;
+        desktop::CurvesPaper paper{
+            .title = window_.windowTitle(), .note = desktop::check_words::prose(desktop::shown(run)), .english = true};
         for (const desktop::Plot* plot : std::initializer_list<const desktop::Plot*>{&gain, &wave, &harmonics})
             if (plot->hasData())
                 paper.plots.push_back(plot);
