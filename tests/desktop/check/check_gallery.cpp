@@ -2,7 +2,8 @@
 // Pictures of the window of a check, to be judged by eye: each finished design of tests/check, in both languages.
 //     velmor_check_gallery FOLDER [NAME ...]
 //     NAME-bet: before the first bet; NAME-es, NAME-en: all rows open; NAME-loud: at three times the input; NAME-small: on a
-//     small screen; NAME-yours-es, NAME-yours-en: with the preset as it was set; NAME-dark; NAME-page1es and so on: the other pages; NAME-curves.svg and .pdf
+//     small screen; NAME-yours-es, NAME-yours-en: with the preset as it was set; NAME-dark; NAME-page1es and so on: the other
+//     pages; NAME-curves.svg and .pdf
 #include <clocale>
 #include <cstdio>
 
