@@ -6,7 +6,7 @@
 #include <string>
 
 #include "check/circuit.h"
-#include "check/quantity.h"
+#include "check/measures.h"
 #include "host/bitext.h"
 
 namespace velmor::check {
