@@ -242,4 +242,18 @@ TEST(Form11, canBeCheckedWithItsPresetAsItWasSet)
                       {Quantity::efficiency, 23.529}});
 }
 
+TEST(Form3, swingsNoFurtherHoweverLoudItsInput)
+{
+    if (!hasNgspice())
+        GTEST_SKIP() << "ngspice is not installed";
+    const Design design = playedDesign("form3");
+    ASSERT_NE(design.table, nullptr);
+    Ngspice ngspice;
+    const Swing loud = swingOf(design, ngspice, 6);
+    // The two carry 0.97 mA together: into RL beside RLw, 8 K, that is 7.74 V, and a little more until the capacitors have settled.
+    ASSERT_TRUE(loud.peakToPeak.has_value());
+    EXPECT_LE(*loud.peakToPeak, 7.9 * 1.01);
+    EXPECT_GT(*loud.peakToPeak, 7.0) << "it swings";
+}
+
 } // namespace velmor::check::test
