@@ -63,6 +63,7 @@ class Screen:
     """An X server with a window manager."""
 
     def __init__(self, size):
+        self.size = size
         read, write = os.pipe()
         self.server = subprocess.Popen(
             # No key repeats itself because a busy machine lets go of it late.
@@ -379,8 +380,11 @@ class Program:
         until(lambda: not missing(), "an editor with all of " + " / ".join(texts))
 
     def picture(self, name):
-        """The screen as it is, for people to look at, where VELMOR_PICTURES names a folder."""
+        """The screen as it is, for people to look at, where VELMOR_PICTURES names a folder. A screen of another size than the
+        usual one gives its pictures a name of their own."""
         folder = os.environ.get("VELMOR_PICTURES")
+        if self.screen.size != Journey.size:
+            name += "-" + self.screen.size
         if folder:
             self.screen.ask("import", "-silent", "-window", "root", "%s/%s.png" % (folder, name))
 
