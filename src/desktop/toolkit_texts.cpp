@@ -12,18 +12,26 @@ namespace velmor::desktop {
 namespace toolkit_texts_detail {
 
 // clang-format off
-constexpr host::BiText gaps[] = {
-    {"Páginas",                          "Pages"},
-    {"Páginas:",                         "Page Set:"},
-    {"No",                               "Off"},
-    {"Encuadernado por el lado largo",   "Long side binding"},
-    {"Encuadernado por el lado corto",   "Short side binding"},
-    {"Impares",                          "Odd Pages"},
-    {"Pares",                            "Even Pages"},
-    {"Todas",                            "All Pages"},
-    {"Página actual",                    "Current Page"},
+struct GapRow {
+    std::string_view context;
+    host::BiText text;
 };
 constexpr std::string_view printDialog = "QPrintSettingsOutput";
+constexpr std::string_view keys = "QShortcut"; ///< menus name the keys as tips and pages do, before and after the first dialog
+constexpr GapRow gaps[] = {
+    {printDialog, {"Páginas",                        "Pages"}},
+    {printDialog, {"Páginas:",                       "Page Set:"}},
+    {printDialog, {"No",                             "Off"}},
+    {printDialog, {"Encuadernado por el lado largo", "Long side binding"}},
+    {printDialog, {"Encuadernado por el lado corto", "Short side binding"}},
+    {printDialog, {"Impares",                        "Odd Pages"}},
+    {printDialog, {"Pares",                          "Even Pages"}},
+    {printDialog, {"Todas",                          "All Pages"}},
+    {printDialog, {"Página actual",                  "Current Page"}},
+    {keys,        {"Ctrl",                           "Ctrl"}},
+    {keys,        {"Shift",                          "Shift"}},
+    {keys,        {"Alt",                            "Alt"}},
+};
 // clang-format on
 
 } // namespace toolkit_texts_detail
@@ -31,11 +39,11 @@ constexpr std::string_view printDialog = "QPrintSettingsOutput";
 QString GapsInSpanish::translate(const char* context, const char* source, const char*, int) const
 {
     using namespace toolkit_texts_detail;
-    if (context == nullptr || source == nullptr || context != printDialog)
+    if (context == nullptr || source == nullptr)
         return {};
-    for (const host::BiText& text : gaps)
-        if (text.en == source)
-            return shown(text.es);
+    for (const GapRow& row : gaps)
+        if (row.context == context && row.text.en == source)
+            return shown(row.text.es);
     return {};
 }
 

@@ -34,6 +34,8 @@ struct Desk {
     std::function<void(host::Window&)> turnTo;
     /// A key typed in a window that is only read goes to the sheet behind it; false when there is none.
     std::function<bool(const QKeyEvent&)> typeBehind;
+    /// The menu of that window's frame opens: the keyboard's way to what the buttons in its title do.
+    std::function<void(const host::Window&)> showFrameMenu;
     /// The pointer, or a key in its place, has come over a control of that window; noControl is its background.
     std::function<void(const host::Window&, host::Handle)> hovered;
 

@@ -55,6 +55,7 @@ constexpr CommonKeyRow commonKeyRows[] = {
     {"Ctrl+Shift+Z", CommonKey::redo,       {"rehace lo tecleado, o un paso",              "types it again, or a step forward"}},
     {"Ctrl+Y",       CommonKey::redo,       {"rehace lo tecleado, o un paso",              "types it again, or a step forward"}},
     {sheets::checkKey, CommonKey::check,    {"comprueba el diseño terminado",                "checks the finished design"}},
+    {"Alt+-",        CommonKey::frame,      {"agranda, achica o cierra la hoja: su menú",    "enlarges, shrinks or closes the sheet: its menu"}},
     {"Esc",          CommonKey::close,      {"cierra una ventana de ayuda o herramienta",    "closes a window of help or a tool"}},
 };
 // clang-format on
@@ -270,6 +271,11 @@ bool Keyboard::run(CommonKey deed)
         return undoTyping(host::Direction::back) || step(host::Direction::back);
     case CommonKey::redo:
         return undoTyping(host::Direction::forth) || step(host::Direction::forth);
+    case CommonKey::frame:
+        if (!model.isChild() || !canvas_.desk().showFrameMenu)
+            return false;
+        canvas_.desk().showFrameMenu(model);
+        return true;
     case CommonKey::check:
         if (!canvas_.checkTile().isThere())
             return false;

@@ -25,7 +25,19 @@ class Canvas;
 class FieldEdit;
 
 /// What a key does in every window, beside the rows of the window's own table.
-enum class CommonKey : std::uint8_t { next, previous, rightPress, hover, nextPane, close, stepBack, undo, redo, check };
+enum class CommonKey : std::uint8_t {
+    next,
+    previous,
+    rightPress,
+    hover,
+    nextPane,
+    close,
+    stepBack,
+    undo,
+    redo,
+    check,
+    frame
+};
 struct CommonKeyRow {
     std::string_view keys;
     CommonKey deed;

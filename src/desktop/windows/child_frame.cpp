@@ -19,6 +19,21 @@ namespace child_frame_detail {
 
 constexpr QSize smallestFrame(240, 120);
 
+// clang-format off
+/// The toolkit's own menu of a frame, in its order. What has no caption here is left out: edges and title are for the pointer,
+/// and no sheet stands above the others for good.
+constexpr host::BiText frameItems[] = {
+    {"&Restaurar", "&Restore"},
+    {},
+    {},
+    {"Mi&nimizar", "Mi&nimise"},
+    {"Ma&ximizar", "Ma&ximise"},
+    {},
+    {},
+    {"&Cerrar",    "&Close"},
+};
+// clang-format on
+
 /// The box moved, and where it must be made smaller, so that it lies inside the area.
 QRect keptInside(QRect box, QSize area)
 {
@@ -41,6 +56,26 @@ ChildFrame::ChildFrame(Desk& desk, host::Window& model) : desk_(desk), view_(new
     for (QAction* action : systemMenu()->actions())
         if (action->shortcut() == QKeySequence(QKeySequence::Close))
             action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4));
+    connect(systemMenu(), &QMenu::aboutToShow, this, [this] { nameFrameMenu(); });
+}
+
+// The toolkit names it once, in the language of that moment.
+void ChildFrame::nameFrameMenu()
+{
+    using namespace child_frame_detail;
+    const QList<QAction*> actions = systemMenu()->actions();
+    for (qsizetype i = 0; i < std::min<qsizetype>(actions.size(), std::ssize(frameItems)); ++i) {
+        const std::string_view caption = frameItems[i].in(desk_.engine->values().LanguageIsEnglish);
+        actions[i]->setText(shown(caption));
+        actions[i]->setIconVisibleInMenu(false);
+        if (caption.empty())
+            actions[i]->setVisible(false);
+    }
+}
+
+void ChildFrame::showFrameMenu()
+{
+    showSystemMenu();
 }
 
 host::Window* ChildFrame::model() const

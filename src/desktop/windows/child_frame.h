@@ -26,6 +26,8 @@ public:
 
     /// The frame's own least size while it is open; an icon has the size of all icons.
     QSize minimumSizeHint() const override;
+    /// What the buttons in the title do, by name and letter.
+    void showFrameMenu();
 
 protected:
     bool event(QEvent* event) override;
@@ -36,6 +38,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void nameFrameMenu();
     void followPlace();
     void followState();
     void tellPlace();

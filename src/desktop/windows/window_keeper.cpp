@@ -35,6 +35,10 @@ WindowKeeper::WindowKeeper(Desk& desk) : desk_(desk)
     desk_.touched = [this](QWidget* view) { touched(view); };
     desk_.turnTo = [this](host::Window& window) { turnTo(window); };
     desk_.typeBehind = [this](const QKeyEvent& event) { return typeBehind(event); };
+    desk_.showFrameMenu = [this](const host::Window& window) {
+        if (auto* child = dynamic_cast<ChildFrame*>(frameOf(window)))
+            child->showFrameMenu();
+    };
     desk_.hovered = [this](const host::Window& window, host::Handle control) {
         if (main_)
             main_->hovered(window, control);

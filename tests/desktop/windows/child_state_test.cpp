@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // States of child windows in real frames: what comes back when a sheet is minimised, and how large the next one is.
+#include <QApplication>
 #include <QMdiArea>
+#include <QMenu>
 
 #include <gtest/gtest.h>
 
@@ -76,6 +78,31 @@ TEST_F(ChildStateTest, aNewSheetIsShownMaximisedBesideAMaximisedOneAndNormalOthe
     Bench::settle();
     EXPECT_EQ(third.windowState(), 0);
     EXPECT_EQ(frame(third).geometry(), on.screen.desk().pixelsOf(third.place()));
+}
+
+TEST_F(ChildStateTest, theMenuOfTheFrameOpensByKeyInTheLanguageOfTheMomentAndMaximisesTheSheet)
+{
+    const auto captions = [this] {
+        Bench::keys("Alt+-");
+        Bench::settle();
+        const auto* menu = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
+        QStringList said;
+        if (menu != nullptr)
+            for (const QAction* action : menu->actions())
+                if (action->isVisible() && !action->isSeparator())
+                    said.append(action->text());
+        return said;
+    };
+    EXPECT_EQ(captions(), (QStringList{"&Restaurar", "Mi&nimizar", "Ma&ximizar", "&Cerrar"}));
+    Bench::key(Qt::Key_X);
+    Bench::settle();
+    EXPECT_EQ(sheet().windowState(), 2);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    choose(main_window::mnuIng);
+    EXPECT_EQ(captions(), (QStringList{"&Restore", "Mi&nimise", "Ma&ximise", "&Close"}));
+    Bench::key(Qt::Key_R);
+    Bench::settle();
+    EXPECT_EQ(sheet().windowState(), 0);
 }
 
 } // namespace velmor::test::child_state_test

@@ -268,6 +268,17 @@ TEST(ToolkitTextsTest, theySpeakTheLanguageOfTheMomentAndGoWithTheProgram)
     EXPECT_EQ(toolkitsSave(), QStringLiteral("Save"));
 }
 
+TEST(ToolkitTextsTest, menusNameTheKeysAsTipsDoInBothLanguages)
+{
+    const QKeySequence keys(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    Bench on;
+    on.open();
+    EXPECT_EQ(keys.toString(QKeySequence::NativeText), QStringLiteral("Ctrl+Shift+S"));
+    on.screen.settleIn();
+    ASSERT_EQ(toolkitsSave(), QStringLiteral("Guardar"));
+    EXPECT_EQ(keys.toString(QKeySequence::NativeText), QStringLiteral("Ctrl+Shift+S"));
+}
+
 TEST_F(QuestionTest, aProgramThatMustEndSaysSoPlainly)
 {
     on.answerByKey(Qt::Key_Return);
