@@ -4,11 +4,13 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QToolTip>
 #include <QtMath>
 
@@ -410,7 +412,24 @@ void Canvas::tellAbout(Handle control, QPoint at)
     if (parts.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(at, shownTip(parts.join(QLatin1Char('\n'))), this, boxInPixels(control));
+        QToolTip::showText(tipPlace(control, at, static_cast<int>(parts.size())),
+                           shownTip(parts.join(QLatin1Char('\n'))), this, boxInPixels(control));
+}
+
+// Below a button or a field, whose caption or text is read on while the tip stands, or above it at the end of the screen; of a
+// large thing where the pointer is.
+QPoint Canvas::tipPlace(Handle control, QPoint at, int lines) const
+{
+    constexpr int belowThePointer = 16; ///< logical pixels that the toolkit adds
+    constexpr int gap = 2;
+    constexpr int largest = 6; ///< height of what a tip stands beside, in lines
+    const QFontMetrics letters(QApplication::font());
+    const QRect box(mapToGlobal(boxInPixels(control).topLeft()), boxInPixels(control).size());
+    if (box.height() > largest * letters.height())
+        return at;
+    const int height = lines * letters.lineSpacing() + letters.height();
+    const bool fits = box.bottom() + gap + height < screen()->geometry().bottom();
+    return {at.x(), (fits ? box.bottom() + gap : box.top() - gap - height) - belowThePointer};
 }
 
 bool Canvas::eventFilter(QObject* object, QEvent* event)

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QAccessible>
+#include <QApplication>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -32,7 +33,7 @@ constexpr double smallestText = 9.0; ///< logical pixels
 constexpr double pageMargin = 0.8;   ///< around a long text, in heights of its letters
 constexpr double rowHeight = 1.6;    ///< of a list, in heights of its letters
 constexpr int blanksOfATab = 8;
-constexpr double readablePoints = 11.5; ///< of a report
+constexpr double readablePoints = 11.5; ///< of a report, at least
 
 QColor colorOr(std::int32_t own, const QColor& usual)
 {
@@ -86,14 +87,15 @@ bool isUntouched(const host::Font& font)
 }
 
 // The student's own choice of typeface, in true points. A report in which none was made is shown in the letters of the sheets;
-// on paper it has those that are given.
+// and as large as those of the menus; on paper it has those that are given.
 void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen, bool report)
 {
     const bool readable = report && isUntouched(chosen);
     QFont font = readable ? interfaceFont(12.0) : QFont(shown(chosen.name));
     if (!readable)
         font.setStyleHint(QFont::Monospace);
-    font.setPointSizeF(readable ? readablePoints : std::max(1.0, chosen.size));
+    font.setPointSizeF(readable ? std::max(readablePoints, QApplication::font().pointSizeF())
+                                : std::max(1.0, chosen.size));
     font.setBold(chosen.bold);
     font.setItalic(chosen.italic);
     font.setUnderline(chosen.underline);
@@ -227,9 +229,7 @@ void Canvas::refreshWidget(Handle control, bool shown)
         retone(control);
     } else if (auto* page = qobject_cast<QPlainTextEdit*>(widget)) {
         const QString text = desktop::shown(state.text);
-        if (model_->row(control).kind == Kind::editor)
-            dressEditor(control, *page);
-        else if (page->toPlainText() != text)
+        if (model_->row(control).kind != Kind::editor && page->toPlainText() != text)
             page->setPlainText(text);
         colorText(*page, colorOr(state.backColor, desk_.inks->field), colorOr(state.foreColor, desk_.inks->fieldInk));
     } else if (auto* list = qobject_cast<QListWidget*>(widget)) {
@@ -369,6 +369,8 @@ void Canvas::place(Handle control, QWidget& widget)
         setTextSize(widget, model_->control(control).fontSize, view_.pixelsPerUnit());
         if (auto* page = qobject_cast<QPlainTextEdit*>(&widget))
             setPageMargin(*page);
+    } else if (auto* edit = qobject_cast<QPlainTextEdit*>(&widget)) {
+        dressEditor(control, *edit);
     }
 }
 
