@@ -3,7 +3,6 @@
 #include <utility>
 
 #include <QAccessible>
-#include <QApplication>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -33,7 +32,7 @@ constexpr double smallestText = 9.0; ///< logical pixels
 constexpr double pageMargin = 0.8;   ///< around a long text, in heights of its letters
 constexpr double rowHeight = 1.6;    ///< of a list, in heights of its letters
 constexpr int blanksOfATab = 8;
-constexpr double readablePoints = 11.5; ///< of a report, at least
+constexpr double readablePoints = 11.5; ///< of a report
 
 QColor colorOr(std::int32_t own, const QColor& usual)
 {
@@ -87,15 +86,14 @@ bool isUntouched(const host::Font& font)
 }
 
 // The student's own choice of typeface, in true points. A report in which none was made is shown in the letters of the sheets;
-// and as large as those of the menus; on paper it has those that are given.
-void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen, bool report)
+// on paper it has those that are given. On a large screen both are larger, as the sheets are.
+void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen, bool report, double scale)
 {
     const bool readable = report && isUntouched(chosen);
     QFont font = readable ? interfaceFont(12.0) : QFont(shown(chosen.name));
     if (!readable)
         font.setStyleHint(QFont::Monospace);
-    font.setPointSizeF(readable ? std::max(readablePoints, QApplication::font().pointSizeF())
-                                : std::max(1.0, chosen.size));
+    font.setPointSizeF((readable ? readablePoints : std::max(1.0, chosen.size)) * scale);
     font.setBold(chosen.bold);
     font.setItalic(chosen.italic);
     font.setUnderline(chosen.underline);
@@ -318,7 +316,7 @@ void Canvas::dressEditor(Handle editor, QPlainTextEdit& edit)
 {
     const bool report = isReport(*edit.document());
     const QFont before = edit.font();
-    canvas_widgets_detail::setEditorFont(edit, model_->font(editor), report);
+    canvas_widgets_detail::setEditorFont(edit, model_->font(editor), report, desk_.textScale);
     auto* dress = edit.document()->findChild<ReportDress*>();
     if (dress == nullptr && report)
         new ReportDress(*edit.document(), desk_.inks->accent);
