@@ -2,14 +2,16 @@
 # How a folder becomes a target. A folder without sources yet gives a target without code, or no program at all,
 # so that the line of who may use whom stands from the first day.
 
-# velmor_library(NAME SOURCES file... LINK target... PRIVATE target...)
-# LINK names what its headers may include, and so whoever uses it; PRIVATE what its sources alone may.
+# velmor_library(NAME [QUICK] SOURCES file... LINK target... PRIVATE target...)
+# LINK names what its headers may include, and so whoever uses it; PRIVATE what its sources alone may. QUICK: what every key
+# goes through, built for speed where the whole is built for size.
 function(velmor_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 LIB "" "" "SOURCES;LINK;PRIVATE")
+    cmake_parse_arguments(PARSE_ARGV 1 LIB "QUICK" "" "SOURCES;LINK;PRIVATE")
     if(LIB_SOURCES)
         add_library(${name} STATIC ${LIB_SOURCES})
         target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
         target_link_libraries(${name} PUBLIC ${LIB_LINK} PRIVATE ${LIB_PRIVATE} velmor_warnings)
+        target_compile_options(${name} PRIVATE $<$<AND:$<BOOL:${LIB_QUICK}>,$<CONFIG:Release>>:-O2>)
     else()
         add_library(${name} INTERFACE)
         target_include_directories(${name} INTERFACE ${PROJECT_SOURCE_DIR}/src)

@@ -19,7 +19,8 @@ constexpr int stretch = 1 << 14; ///< units that are counted at a time
 
 bool hasSurrogates(const QString& text)
 {
-    return std::any_of(text.begin(), text.end(), [](QChar unit) { return unit.isSurrogate(); });
+    const char16_t* const units = QStringView(text).utf16();
+    return std::any_of(units, units + text.size(), [](char16_t unit) { return (unit & 0xF800U) == 0xD800U; });
 }
 
 std::size_t charactersIn(const QString& text)

@@ -116,21 +116,22 @@ private:
 
 } // namespace long_lines_detail
 
-// In one pass: replacing the pairs one after the other would move the rest of a long text each time.
+// In one pass over the bare units: replacing the pairs one after the other would move the rest of a long text each time, and
+// a call for each letter is felt in ten million of them.
 QString withLineFeeds(QString text)
 {
-    const auto isBreak = [](QChar unit) {
-        return unit == u'\r' || unit == QChar(QChar::ParagraphSeparator) || unit == QChar(QChar::LineSeparator);
-    };
-    const auto first = std::find_if(text.cbegin(), text.cend(), isBreak) - text.cbegin();
-    if (first == text.size())
-        return text;
-    QChar* const end = text.data() + text.size();
-    QChar* put = text.data() + first;
-    for (const QChar* from = put; from != end; ++from)
-        if (*from != u'\r' || from + 1 == end || from[1] != u'\n')
-            *put++ = isBreak(*from) ? QChar(u'\n') : *from;
-    text.truncate(put - text.constData());
+    QChar* const written = text.data();
+    const char16_t* const units = QStringView(text).utf16();
+    const qsizetype size = text.size();
+    qsizetype put = 0;
+    for (qsizetype i = 0; i < size; ++i) {
+        const char16_t unit = units[i];
+        if (unit == u'\r' && i + 1 < size && units[i + 1] == u'\n')
+            continue;
+        const bool isBreak = unit == u'\r' || unit == QChar::ParagraphSeparator || unit == QChar::LineSeparator;
+        written[put++] = isBreak ? u'\n' : unit;
+    }
+    text.truncate(put);
     return text;
 }
 
@@ -193,7 +194,7 @@ QString LongLines::text(int from, int to) const
         }
         stretch = whole += QStringView(stretch).mid(taken);
     }
-    return withLineFeeds(stretch);
+    return withLineFeeds(std::move(stretch));
 }
 
 bool LongLines::isBeforeJoint(int position) const

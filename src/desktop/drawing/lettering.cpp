@@ -83,7 +83,8 @@ void writeLine(QPainter& painter, QPointF baseline, const QString& text, const Q
         painter.drawText(baseline, text);
         return;
     }
-    const lettering::Letters& letters = lettering::known({text, font, -1.0, 0});
+    const lettering::Key key{text, font, -1.0, 0};
+    const lettering::Letters& letters = lettering::known(key);
     painter.drawStaticText(baseline - QPointF(0.0, letters.ascent), letters.text);
 }
 

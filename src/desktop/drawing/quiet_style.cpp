@@ -247,7 +247,8 @@ void QuietStyle::polish(QWidget* widget)
     QProxyStyle::polish(widget);
     if (!widget->inherits("QTipLabel"))
         return;
-    const Inks& inks = inksFor(QApplication::palette());
+    const QPalette desktop = QApplication::palette();
+    const Inks& inks = inksFor(desktop);
     QPalette palette = widget->palette();
     palette.setColor(QPalette::ToolTipBase, inks.hint);
     palette.setColor(QPalette::ToolTipText, inks.ink);
@@ -323,7 +324,8 @@ void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
     }
-    const Inks& inks = inksFor(QApplication::palette());
+    const QPalette desktop = QApplication::palette();
+    const Inks& inks = inksFor(desktop);
     const QRect box = option->rect;
     if (element == PE_PanelTipLabel)
         painter->fillRect(box, inks.hint);

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include <QString>
+#include <QStringList>
 
 namespace velmor::desktop {
 

@@ -390,7 +390,8 @@ bool WindowKeeper::eventFilter(QObject* object, QEvent* event)
 // The desktop has turned light or dark.
 void WindowKeeper::followDesktop()
 {
-    const Inks& inks = inksFor(QApplication::palette());
+    const QPalette desktop = QApplication::palette();
+    const Inks& inks = inksFor(desktop);
     if (desk_.closing || desk_.inks == &inks)
         return;
     desk_.inks = &inks;

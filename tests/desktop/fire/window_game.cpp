@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
@@ -428,13 +429,19 @@ void WindowGame::switchLanguage()
             on_->engine.userMenu(main, item);
 }
 
+std::vector<desktop::ChildFrame*> WindowGame::frames()
+{
+    std::vector<desktop::ChildFrame*> found;
+    for (QMdiSubWindow* child : on_->main().findChildren<QMdiSubWindow*>())
+        if (auto* frame = dynamic_cast<desktop::ChildFrame*>(child); frame != nullptr && frame->model() != nullptr)
+            found.push_back(frame);
+    return found;
+}
+
 desktop::ChildFrame* WindowGame::someFrame()
 {
-    const auto frames = on_->main().findChildren<desktop::ChildFrame*>();
-    std::vector<desktop::ChildFrame*> open;
-    for (desktop::ChildFrame* frame : frames)
-        if (frame->model() != nullptr && frame->isVisible())
-            open.push_back(frame);
+    std::vector<desktop::ChildFrame*> open = frames();
+    std::erase_if(open, [](const desktop::ChildFrame* frame) { return !frame->isVisible(); });
     return open.empty() ? nullptr : chance_.one(open);
 }
 
@@ -473,8 +480,8 @@ void WindowGame::sizeFrame()
 
 void WindowGame::shakeIcons()
 {
-    for (desktop::ChildFrame* frame : on_->main().findChildren<desktop::ChildFrame*>())
-        if (frame->model() != nullptr && frame->isMinimized())
+    for (desktop::ChildFrame* frame : frames())
+        if (frame->isMinimized())
             frame->setGeometry(chance_.between(-200, 1500), chance_.between(-200, 900), chance_.between(1, 600),
                                chance_.between(1, 400));
 }

@@ -80,6 +80,7 @@ private:
     void answer();
     void answerDialog(QDialog& dialog);
     host::Window* someWindow();
+    std::vector<desktop::ChildFrame*> frames();
     desktop::ChildFrame* someFrame();
     host::Handle someControl(host::Window& window);
     void press(host::Window& window, Qt::MouseButton button);

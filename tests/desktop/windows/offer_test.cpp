@@ -44,7 +44,7 @@ struct Program {
         keeping.look();
         Bench::settle();
     }
-    OfferLine* line() { return on.main().findChild<OfferLine*>("offer"); }
+    OfferLine* line() { return dynamic_cast<OfferLine*>(on.main().findChild<QWidget*>("offer")); }
     bool shown() { return line() != nullptr && line()->isVisible(); }
     QString text() { return line()->findChild<QLabel*>()->text(); }
     void press(const QString& caption)

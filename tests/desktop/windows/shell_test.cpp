@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The shell around the sheets: boxes of the program's own line, tools in a frame of their own, the palette as a strip.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QImage>
+#include <QLabel>
 #include <QMdiArea>
 #include <QPainter>
 #include <QPushButton>
@@ -41,6 +44,13 @@ struct ShellTest : ::testing::Test {
         });
         watch->start(1);
     }
+    const desktop::BoxText& textOf(const desktop::QuietBox& box)
+    {
+        const auto labels = box.findChildren<QLabel*>();
+        return dynamic_cast<const desktop::BoxText&>(**std::find_if(labels.begin(), labels.end(), [](QLabel* label) {
+            return dynamic_cast<desktop::BoxText*>(label) != nullptr;
+        }));
+    }
     QAbstractButton& closeOf(QWidget& widget) { return *widget.findChild<QAbstractButton*>("close"); }
     Bench on;
 };
@@ -77,7 +87,8 @@ TEST_F(ShellTest, aTipHasTheLettersAndTheGroundOfTheProgram)
         if (window->inherits("QTipLabel"))
             tip = window;
     ASSERT_NE(tip, nullptr);
-    const desktop::Inks& inks = desktop::inksFor(QApplication::palette());
+    const QPalette around = QApplication::palette();
+    const desktop::Inks& inks = desktop::inksFor(around);
     EXPECT_EQ(tip->palette().color(QPalette::ToolTipBase), inks.hint);
     EXPECT_GE(desktop::contrast(inks.hint, tip->palette().color(QPalette::ToolTipText)), 4.5);
     EXPECT_EQ(tip->font().pointSizeF(), QApplication::font().pointSizeF());
@@ -192,7 +203,7 @@ TEST_F(ShellTest, longTextsAreBrokenToAReadableMeasureAndLongWordsToo)
               "Un valor mayor pide más fuente, y un valor menor deja poca tensión al transistor.",
           std::string(300, 'x')}) {
         whenAsked([&](desktop::QuietBox& box) {
-            auto& label = *box.findChild<desktop::BoxText*>();
+            const desktop::BoxText& label = textOf(box);
             EXPECT_EQ(label.text().toStdString(), text) << "the text itself is untouched";
             EXPECT_LE(label.width(), 70 * label.fontMetrics().averageCharWidth());
             EXPECT_GE(label.height(), 2 * label.fontMetrics().lineSpacing());
