@@ -49,6 +49,7 @@ void DesktopScreen::attach(host::Engine& engine)
 {
     desk_.engine = &engine;
     desk_.inks = &inksFor(QGuiApplication::palette());
+    desk_.placesWindows = !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
     keeper_ = std::make_unique<WindowKeeper>(desk_);
     desk_.canCheck = DesignChecks::isFor;
     desk_.checkOf = [this](const host::Window& sheet) -> QWidget* {

@@ -4,11 +4,13 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QToolTip>
 #include <QtMath>
 
@@ -407,10 +409,29 @@ void Canvas::tellAbout(Handle control, QPoint at)
     if (control != noControl)
         parts = {tipOf(control), whyItWaits(*model_, control, view_.languageIsEnglish == host::trueValue)};
     parts.removeAll(QString());
-    if (parts.isEmpty())
+    const QString text = parts.join(QLatin1Char('\n'));
+    if (text.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(at, shownTip(parts.join(QLatin1Char('\n'))), this, boxInPixels(control));
+        QToolTip::showText(tipPlace(control, at, text), shownTip(text), this, boxInPixels(control));
+}
+
+// Below a button or a field, whose caption or text is read on while the tip stands, or above it at the end of the screen; of a
+// large thing where the pointer is. The toolkit would throw a tip that is too wide to the other side of the pointer.
+QPoint Canvas::tipPlace(Handle control, QPoint at, const QString& text) const
+{
+    constexpr int beside = 2; ///< logical pixels that the toolkit adds
+    constexpr int below = 16;
+    constexpr int largest = 6; ///< height of what a tip stands beside, in lines
+    const QFontMetrics letters(QApplication::font());
+    const QRect box(mapToGlobal(boxInPixels(control).topLeft()), boxInPixels(control).size());
+    if (box.height() > largest * letters.height())
+        return at;
+    const QSize tip = letters.size(0, text) + QSize(letters.height(), letters.height());
+    const QRect room = screen()->geometry();
+    const int left = std::max(room.left(), std::min(at.x(), room.right() - tip.width() - 2 * beside));
+    const bool fits = box.bottom() + beside + tip.height() < room.bottom();
+    return {left, (fits ? box.bottom() + beside : box.top() - beside - tip.height()) - below};
 }
 
 bool Canvas::eventFilter(QObject* object, QEvent* event)

@@ -107,6 +107,7 @@ private:
     void paintPaleFields(QPainter& painter, const QRegion& clip);
     void paintGlow(QPainter& painter);
     void tellAbout(host::Handle control, QPoint at);
+    QPoint tipPlace(host::Handle control, QPoint at, const QString& text) const;
     void paintWhole(QPainter& painter);
     bool paintAsFirstSeen(QPainter& painter);
     void paintGround(QPainter& painter, const QRect& box) const;

@@ -86,14 +86,14 @@ bool isUntouched(const host::Font& font)
 }
 
 // The student's own choice of typeface, in true points. A report in which none was made is shown in the letters of the sheets;
-// on paper it has those that are given.
-void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen, bool report)
+// on paper it has those that are given. On a large screen both are larger, as the sheets are.
+void setEditorFont(QPlainTextEdit& editor, const host::Font& chosen, bool report, double scale)
 {
     const bool readable = report && isUntouched(chosen);
     QFont font = readable ? interfaceFont(12.0) : QFont(shown(chosen.name));
     if (!readable)
         font.setStyleHint(QFont::Monospace);
-    font.setPointSizeF(readable ? readablePoints : std::max(1.0, chosen.size));
+    font.setPointSizeF((readable ? readablePoints : std::max(1.0, chosen.size)) * scale);
     font.setBold(chosen.bold);
     font.setItalic(chosen.italic);
     font.setUnderline(chosen.underline);
@@ -227,9 +227,7 @@ void Canvas::refreshWidget(Handle control, bool shown)
         retone(control);
     } else if (auto* page = qobject_cast<QPlainTextEdit*>(widget)) {
         const QString text = desktop::shown(state.text);
-        if (model_->row(control).kind == Kind::editor)
-            dressEditor(control, *page);
-        else if (page->toPlainText() != text)
+        if (model_->row(control).kind != Kind::editor && page->toPlainText() != text)
             page->setPlainText(text);
         colorText(*page, colorOr(state.backColor, desk_.inks->field), colorOr(state.foreColor, desk_.inks->fieldInk));
     } else if (auto* list = qobject_cast<QListWidget*>(widget)) {
@@ -318,7 +316,7 @@ void Canvas::dressEditor(Handle editor, QPlainTextEdit& edit)
 {
     const bool report = isReport(*edit.document());
     const QFont before = edit.font();
-    canvas_widgets_detail::setEditorFont(edit, model_->font(editor), report);
+    canvas_widgets_detail::setEditorFont(edit, model_->font(editor), report, desk_.textScale);
     auto* dress = edit.document()->findChild<ReportDress*>();
     if (dress == nullptr && report)
         new ReportDress(*edit.document(), desk_.inks->accent);
@@ -369,6 +367,8 @@ void Canvas::place(Handle control, QWidget& widget)
         setTextSize(widget, model_->control(control).fontSize, view_.pixelsPerUnit());
         if (auto* page = qobject_cast<QPlainTextEdit*>(&widget))
             setPageMargin(*page);
+    } else if (auto* edit = qobject_cast<QPlainTextEdit*>(&widget)) {
+        dressEditor(control, *edit);
     }
 }
 

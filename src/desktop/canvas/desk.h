@@ -22,9 +22,11 @@ namespace velmor::desktop {
 struct Desk {
     host::Engine* engine = nullptr;
     const Inks* inks = &lightInks();
-    double scale = 1.0; ///< logical pixels of 15 twips of a window's place, by the size of the main window
+    double textScale = 1.0; ///< of letters that no sheet holds, by the size of the main window
+    double scale = 1.0;     ///< logical pixels of 15 twips of a window's place, by the size of the main window
     std::unique_ptr<FirstPictures> firstPictures = std::make_unique<FirstPictures>();
     bool muted = false;                    ///< pasted characters that the key filter refuses make no sound
+    bool placesWindows = true;             ///< false where the desktop alone says where windows stand
     bool closing = false;                  ///< the program has ended; views take no more events
     std::function<QRegion()> taken;        ///< what a new window should not lie on: tools and the field in hand
     std::function<QRect()> inHand;         ///< the field in hand, on the screen; empty without one

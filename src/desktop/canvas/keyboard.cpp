@@ -146,6 +146,15 @@ QKeyCombination keysOf(const QKeyEvent& event)
     return QKeyCombination(event.modifiers() & ~Qt::KeypadModifier, static_cast<Qt::Key>(event.key()));
 }
 
+bool isBetweenWindows(const QKeyEvent& event)
+{
+    using namespace keyboard_detail;
+    return std::any_of(std::begin(commonKeyRows), std::end(commonKeyRows), [&](const CommonKeyRow& row) {
+        return (row.deed == CommonKey::nextPane || row.deed == CommonKey::frame) &&
+               combinationOf(row.keys) == keysOf(event);
+    });
+}
+
 bool Keyboard::wants(const QKeyEvent& event) const
 {
     const host::Window* model = canvas_.model();

@@ -48,6 +48,8 @@ std::span<const CommonKeyRow> commonKeys();
 /// The row of a window's shortcut table for these keys; noRow when there is none.
 std::size_t shortcutRow(const host::WindowSpec& spec, QKeyCombination keys);
 inline constexpr std::size_t noRow = static_cast<std::size_t>(-1);
+/// To the next pane, or to the menu of the frame.
+bool isBetweenWindows(const QKeyEvent& event);
 /// The keys of an event, whether or not they lie on the number pad.
 QKeyCombination keysOf(const QKeyEvent& event);
 

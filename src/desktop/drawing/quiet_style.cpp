@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <utility>
 
 #include <QApplication>
@@ -14,6 +15,7 @@
 #include <QStyleOptionTitleBar>
 #include <QWidget>
 
+#include "desktop/drawing/box_sign.h"
 #include "desktop/drawing/lettering.h"
 #include "desktop/drawing/palette_of_inks.h"
 #include "desktop/drawing/program_icon.h"
@@ -174,6 +176,37 @@ private:
     QIcon sign_;
 };
 
+/// The sign of a box that the toolkit asks by itself, as a file dialog does before it replaces a file.
+std::optional<host::BoxIcon> boxSignOf(QStyle::StandardPixmap sign)
+{
+    switch (sign) {
+    case QStyle::SP_MessageBoxCritical:
+        return host::BoxIcon::stop;
+    case QStyle::SP_MessageBoxWarning:
+        return host::BoxIcon::warning;
+    case QStyle::SP_MessageBoxQuestion:
+        return host::BoxIcon::question;
+    case QStyle::SP_MessageBoxInformation:
+        return host::BoxIcon::information;
+    default:
+        return std::nullopt;
+    }
+}
+
+QIcon iconOf(host::BoxIcon sign)
+{
+    constexpr int sides[] = {32, 64, 128};
+    QIcon icon;
+    for (const int side : sides) {
+        QPixmap picture(side, side);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paintBoxSign(painter, picture.rect(), sign, inksFor(QApplication::palette()));
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
+
 } // namespace quiet_style_detail
 
 QuietStyle::QuietStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -265,10 +298,12 @@ QSize QuietStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     return wanted;
 }
 
-// A title grows with its letters, and the sign in it.
+// A title grows with its letters, and the sign in it; so does the air around a tip.
 int QuietStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    if (metric == PM_ToolTipLabelFrameWidth)
+        return std::max(usual, QFontMetrics(QApplication::font()).height() / 3);
     if (metric != PM_TitleBarHeight && metric != PM_SmallIconSize)
         return usual;
     const double share = metric == PM_TitleBarHeight ? quiet_style_detail::titleShare : 1.0;
@@ -304,6 +339,8 @@ void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 // Every child window asks for the signs of its own menu anew, the menu bar for one before it is shown.
 QIcon QuietStyle::standardIcon(StandardPixmap sign, const QStyleOption* option, const QWidget* widget) const
 {
+    if (const auto box = quiet_style_detail::boxSignOf(sign))
+        return quiet_style_detail::iconOf(*box);
     if (!quiet_style_detail::mayBeLate(sign))
         return QProxyStyle::standardIcon(sign, option, widget);
     const auto known = signs_.find(sign);

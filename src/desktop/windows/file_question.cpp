@@ -8,7 +8,9 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontMetrics>
+#include <QHeaderView>
 #include <QSplitter>
+#include <QTreeView>
 
 #include "desktop/drawing/texts.h"
 
@@ -99,6 +101,8 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& aske
         const int places = letters.averageCharWidth() * file_question_detail::placesAcross;
         parts->setSizes({places, dialog.width() - places});
     }
+    if (auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView")))
+        files->header()->setStretchLastSection(true); // else the caption of the dates is cut where letters are large
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return held(dialog.selectedFiles().first());

@@ -46,13 +46,18 @@ double scaleFor(QSize inner)
     return std::min(inner.width() / drawnWidth, inner.height() / drawnHeight);
 }
 
-// On a large screen everything is shown larger: menus and questions shall not look lost beside it.
-void proportionTexts(double scale)
+// On a large screen everything is shown larger: menus, questions and long texts shall not look lost beside it.
+double textScaleFor(double scale)
+{
+    return std::clamp(textShare * scale, 1.0, largestTexts);
+}
+
+void proportionTexts(double textScale)
 {
     static const QFont usual = QApplication::font();
     QFont font = usual;
     if (usual.pointSizeF() > 0)
-        font.setPointSizeF(usual.pointSizeF() * std::clamp(textShare * scale, 1.0, largestTexts));
+        font.setPointSizeF(usual.pointSizeF() * textScale);
     if (font != QApplication::font())
         QApplication::setFont(font);
 }
@@ -104,7 +109,8 @@ void MainWindow::foresee()
     const QScreen* on = QGuiApplication::primaryScreen();
     const QRect room = on == nullptr ? QRect(0, 0, 1366, 768) : on->availableGeometry();
     setGeometry(room.adjusted(0, likelyTitleHeight, 0, 0));
-    proportionTexts(scaleFor(room.size()));
+    desk_.textScale = textScaleFor(scaleFor(room.size()));
+    proportionTexts(desk_.textScale);
     const QSize inner(room.width(), room.height() - likelyTitleHeight - likelyMenuHeight);
     middle_->resize(inner);
     area_->setGeometry(QRect(QPoint(), inner));

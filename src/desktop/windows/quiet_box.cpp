@@ -230,18 +230,37 @@ void QuietBox::takeSize()
         QSize(std::min(std::max(wanted.width(), titleWidth), most.width()), std::min(wanted.height(), most.height())));
 }
 
+bool QuietBox::isClear(QPoint corner) const
+{
+    const QRect box(corner, size());
+    return !box.intersects(stage_.inHand) && !box.intersects(stage_.behind);
+}
+
 void QuietBox::settle()
 {
     takeSize();
-    move(stage_.beside ? besideThing(stage_.inHand, size(), stage_.room)
-                       : clearOfThing(stage_.inHand, size(), stage_.room));
+    settleClear(stage_.beside ? besideThing(stage_.inHand, size(), stage_.room)
+                              : clearOfThing(stage_.inHand, size(), stage_.room));
 }
 
 void QuietBox::settleAt(QPoint wished)
 {
     takeSize();
-    const QRect kept(insideScreen(wished, size()), size());
-    move(kept.intersects(stage_.inHand) ? besideThing(stage_.inHand, size(), stage_.room) : kept.topLeft());
+    settleClear(insideScreen(wished, size()));
+}
+
+// A tool that asks speaks of the field behind it as well.
+void QuietBox::settleClear(QPoint wished)
+{
+    const QRect room = stage_.room;
+    for (const QPoint corner :
+         {wished, besideThing(stage_.inHand, size(), room), sidewaysOf(stage_.inHand, size(), room),
+          besideThing(stage_.behind, size(), room), sidewaysOf(stage_.behind, size(), room)})
+        if (isClear(corner)) {
+            move(corner);
+            return;
+        }
+    move(clearOfThing(stage_.inHand, size(), room));
 }
 
 void QuietBox::paintEvent(QPaintEvent*)

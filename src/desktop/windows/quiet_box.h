@@ -27,6 +27,7 @@ struct Stage {
     bool english = false;
     QRect room;          ///< of the window that asks, on the screen
     QRect inHand;        ///< the field in hand, on the screen; empty without one
+    QRect behind;        ///< the field of the sheet behind a tool that asks, on the screen; empty without one
     bool beside = false; ///< the box speaks of that field
 };
 
@@ -74,6 +75,8 @@ private:
     QSize mostSize() const;
     QSize roomForText() const;
     void takeSize();
+    bool isClear(QPoint corner) const;
+    void settleClear(QPoint wished);
     bool scroll(int key);
 
     Stage stage_;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -447,9 +448,17 @@ bool SearchLine::eventFilter(QObject* object, QEvent* event)
         text_->setFocus(Qt::MouseFocusReason);
     else if (inText && event->type() == QEvent::Resize)
         markHits();
-    else if (!inText && event->type() == QEvent::KeyPress) {
-        const auto& key = static_cast<QKeyEvent&>(*event);
-        return pressed(key.key(), key.modifiers());
+    else if (!inText && event->type() == QEvent::ShortcutOverride) {
+        if (isOfText && isOfText(static_cast<QKeyEvent&>(*event)))
+            event->accept();
+    } else if (!inText && event->type() == QEvent::KeyPress) {
+        auto& key = static_cast<QKeyEvent&>(*event);
+        if (pressed(key.key(), key.modifiers()))
+            return true;
+        if (isOfText && isOfText(key) && text_) {
+            text_->setFocus(Qt::ShortcutFocusReason);
+            return QCoreApplication::sendEvent(text_, &key);
+        }
     }
     return QWidget::eventFilter(object, event);
 }

@@ -3,6 +3,7 @@
 // the search goes round in both directions. It knows the text box alone, no window and no engine.
 #pragma once
 
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -12,6 +13,7 @@
 
 #include "desktop/drawing/palette_of_inks.h"
 
+class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -35,6 +37,9 @@ public:
     bool hasKeyboard() const;
     /// Where the hits begin, in units of the text; those found so far while a long one is searched.
     const std::vector<int>& hits() const { return hits_; }
+
+    /// Keys that are meant for the text, whichever of the two has the keyboard: to open, to save, to print.
+    std::function<bool(const QKeyEvent&)> isOfText;
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;

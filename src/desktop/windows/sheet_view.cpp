@@ -13,6 +13,7 @@
 #include "desktop/canvas/check_tile.h"
 #include "desktop/canvas/field_edit.h"
 #include "desktop/canvas/finished.h"
+#include "desktop/canvas/keyboard.h"
 #include "desktop/canvas/pointer.h"
 #include "desktop/windows/menus.h"
 #include "desktop/windows/prompt_strip.h"
@@ -144,6 +145,9 @@ void SheetView::search(Canvas::Search deed)
     if (search_ == nullptr) {
         search_ = new SearchLine(*text, *desk_.inks, desk_.english(), this);
         search_->installEventFilter(this);
+        search_->isOfText = [this](const QKeyEvent& key) {
+            return model() != nullptr && (shortcutRow(model()->spec(), keysOf(key)) != noRow || isBetweenWindows(key));
+        };
         layout()->addWidget(search_);
     }
     switch (deed) {

@@ -9,6 +9,7 @@
 #include <QWindow>
 
 #include "desktop/windows/close_button.h"
+#include "desktop/windows/placing.h"
 
 namespace velmor::desktop {
 
@@ -101,6 +102,12 @@ void TitleLine::mouseMoveEvent(QMouseEvent* event)
     const QPoint way = event->globalPosition().toPoint() - pressed_;
     if (!held_ || way.manhattanLength() < QApplication::startDragDistance())
         return;
+    if (!parentWidget()->isWindow()) { // it lies inside a window, which moves its parts itself
+        pressed_ = event->globalPosition().toPoint();
+        QWidget& frame = *parentWidget();
+        frame.move(insideRoom(frame.pos() + way, frame.size(), frame.parentWidget()->rect()));
+        return;
+    }
     held_ = false;
     if (QWindow* moved = window()->windowHandle())
         moved->startSystemMove();

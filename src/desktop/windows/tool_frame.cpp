@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/windows/tool_frame.h"
 
+#include <utility>
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -8,12 +10,22 @@
 #include <QWindow>
 
 #include "desktop/drawing/plates.h"
+#include "desktop/windows/placing.h"
 #include "desktop/windows/title_line.h"
 
 namespace velmor::desktop {
 
-ToolFrame::ToolFrame(Desk& desk, QWidget* mainWindow)
-    : QWidget(mainWindow, Qt::Dialog | Qt::FramelessWindowHint), desk_(desk), title_(new TitleLine(*desk.inks, this))
+namespace tool_frame_detail {
+
+constexpr QSize smallest(160, 100); ///< of one that lies inside
+
+} // namespace tool_frame_detail
+
+using tool_frame_detail::smallest;
+
+ToolFrame::ToolFrame(Desk& desk, QWidget* parent, Stands where)
+    : QWidget(parent, where == Stands::inside ? Qt::Widget : Qt::Dialog | Qt::FramelessWindowHint), desk_(desk),
+      title_(new TitleLine(*desk.inks, this))
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(frame, frame, frame, frame);
@@ -23,6 +35,10 @@ ToolFrame::ToolFrame(Desk& desk, QWidget* mainWindow)
     setMouseTracking(true);
     title_->speak(desk.english());
     title_->closed = [this] { close(); };
+    if (isInside()) {
+        hide(); // a part of a window is shown with it otherwise
+        parent->installEventFilter(this);
+    }
 }
 
 void ToolFrame::hold(QWidget& inside)
@@ -33,9 +49,41 @@ void ToolFrame::hold(QWidget& inside)
 
 QRect ToolFrame::room() const
 {
+    if (isInside())
+        return {parentWidget()->mapToGlobal(QPoint(0, 0)), parentWidget()->size()};
     const QWidget* beside = parentWidget();
     const QScreen* screen = beside != nullptr ? beside->screen() : this->screen();
     return screen == nullptr ? QRect(0, 0, 1024, 768) : screen->availableGeometry();
+}
+
+QRect ToolFrame::onScreen() const
+{
+    return isInside() ? QRect(parentWidget()->mapToGlobal(pos()), size()) : frameGeometry();
+}
+
+void ToolFrame::moveOnScreen(QPoint corner)
+{
+    move(isInside() ? parentWidget()->mapFromGlobal(corner) : corner);
+}
+
+// What holds it may have become too small for the place where it stands.
+bool ToolFrame::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() == QEvent::Resize && object == parent() && isInside())
+        move(insideRoom(pos(), size(), parentWidget()->rect()));
+    return QWidget::eventFilter(object, event);
+}
+
+void ToolFrame::setInHand(bool inHand)
+{
+    if (std::exchange(inHand_, inHand) != inHand)
+        look();
+}
+
+void ToolFrame::look()
+{
+    title_->setActive(isActive());
+    update();
 }
 
 void ToolFrame::speakInFrame()
@@ -52,17 +100,15 @@ void ToolFrame::recolorFrame()
 void ToolFrame::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange) {
-        title_->setActive(isActiveWindow());
-        update();
-    }
+    if (event->type() == QEvent::ActivationChange)
+        look();
 }
 
 void ToolFrame::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), desk_.inks->desk);
-    fillFrame(painter, rect(), 1.0, isActiveWindow() ? desk_.inks->edge : desk_.inks->rule);
+    fillFrame(painter, rect(), 1.0, isActive() ? desk_.inks->edge : desk_.inks->rule);
 }
 
 Qt::Edges ToolFrame::edgesAt(QPoint place) const
@@ -78,12 +124,29 @@ Qt::Edges ToolFrame::edgesAt(QPoint place) const
 
 void ToolFrame::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton && windowHandle() != nullptr)
-        windowHandle()->startSystemResize(edgesAt(event->position().toPoint()));
+    const Qt::Edges edges = edgesAt(event->position().toPoint());
+    held_ = isInside() && event->button() == Qt::LeftButton ? edges : Qt::Edges();
+    pressed_ = event->globalPosition().toPoint();
+    if (!isInside() && event->button() == Qt::LeftButton && windowHandle() != nullptr)
+        windowHandle()->startSystemResize(edges);
+}
+
+void ToolFrame::drawEdges(QPoint way)
+{
+    QRect box = geometry();
+    box.adjust(held_ & Qt::LeftEdge ? way.x() : 0, held_ & Qt::TopEdge ? way.y() : 0,
+               held_ & Qt::RightEdge ? way.x() : 0, held_ & Qt::BottomEdge ? way.y() : 0);
+    if (box.width() >= smallest.width() && box.height() >= smallest.height())
+        setGeometry(box & parentWidget()->rect());
 }
 
 void ToolFrame::mouseMoveEvent(QMouseEvent* event)
 {
+    if (held_ && (event->buttons() & Qt::LeftButton)) {
+        const QPoint here = event->globalPosition().toPoint();
+        drawEdges(here - std::exchange(pressed_, here));
+        return;
+    }
     const Qt::Edges edges = edgesAt(event->position().toPoint());
     const bool across = edges & (Qt::LeftEdge | Qt::RightEdge);
     const bool down = edges & (Qt::TopEdge | Qt::BottomEdge);

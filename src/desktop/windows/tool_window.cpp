@@ -32,7 +32,15 @@ int areaOf(const QRegion& region)
 } // namespace tool_window_detail
 
 ToolWindow::ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow)
-    : ToolFrame(desk, mainWindow), view_(new SheetView(desk, model))
+    : ToolWindow(desk, model, mainWindow, Stands::beside)
+{}
+
+ToolWindow::ToolWindow(Desk& desk, host::Window& model, QWidget& inside)
+    : ToolWindow(desk, model, &inside, Stands::inside)
+{}
+
+ToolWindow::ToolWindow(Desk& desk, host::Window& model, QWidget* parent, Stands where)
+    : ToolFrame(desk, parent, where), view_(new SheetView(desk, model))
 {
     hold(*view_);
     setObjectName(shown(model.name()));
@@ -108,7 +116,7 @@ void ToolWindow::followSize()
 
 bool ToolWindow::isMovedByHand() const
 {
-    return placed_ && (pos() - wished_).manhattanLength() > tool_window_detail::movedByHand;
+    return placed_ && (onScreen().topLeft() - wished_).manhattanLength() > tool_window_detail::movedByHand;
 }
 
 // Beside the field that it was asked for at; where that would hide another tool or what is to be dragged, wherever it hides least
@@ -153,17 +161,17 @@ bool ToolWindow::isQuiet() const
 
 void ToolWindow::moveTo(QPoint place)
 {
-    if (std::exchange(wished_, place) != place || pos() != place)
-        move(place);
+    if (std::exchange(wished_, place) != place || onScreen().topLeft() != place)
+        moveOnScreen(place);
 }
 
 void ToolWindow::giveWayTo(const QRect& field)
 {
-    if (!isVisible() || !frameGeometry().intersects(field))
+    if (!isVisible() || !onScreen().intersects(field))
         return;
     const QRect all = room();
     const int gap = tool_window_detail::gap;
-    const QSize mine = frameGeometry().size();
+    const QSize mine = onScreen().size();
     const int lefts[] = {all.right() + 1 - mine.width() - gap, all.left() + gap, all.center().x() - mine.width() / 2};
     const int tops[] = {all.bottom() + 1 - mine.height() - gap, all.top() + gap, all.center().y() - mine.height() / 2};
     for (const int top : tops)
@@ -184,7 +192,7 @@ void ToolWindow::bringToFront()
     if (!isVisible())
         return;
     raise();
-    if (!isQuiet())
+    if (!isQuiet() && !isInside())
         activateWindow();
 }
 

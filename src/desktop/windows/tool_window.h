@@ -10,7 +10,9 @@ namespace velmor::desktop {
 
 class ToolWindow final : public ToolFrame, public WindowFrame {
 public:
+    /// Beside the main window, or inside what is given of it.
     ToolWindow(Desk& desk, host::Window& model, QWidget* mainWindow);
+    ToolWindow(Desk& desk, host::Window& model, QWidget& inside);
 
     host::Window* model() const override;
     QWidget& widget() override { return *this; }
@@ -24,6 +26,9 @@ public:
 
     /// Is shown without taking the keyboard from the sheet: it is only read.
     bool isQuiet() const;
+    using ToolFrame::isInside;
+    using ToolFrame::onScreen;
+    using ToolFrame::setInHand;
     /// Moves aside when it lies on `field` (in screen coordinates).
     void giveWayTo(const QRect& field);
 
@@ -31,6 +36,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    ToolWindow(Desk& desk, host::Window& model, QWidget* parent, Stands where);
     void followSize();
     void beginAtField();
     void beginIn(host::Handle field);

@@ -87,7 +87,8 @@ WindowFrame* WindowKeeper::make(host::Window& window)
         main_->setStrip(strip_);
         frame = strip_;
     } else {
-        frame = new ToolWindow(desk_, window, main_);
+        const bool inside = main_ && !desk_.placesWindows && !window.spec().modal;
+        frame = inside ? new ToolWindow(desk_, window, main_->panel()) : new ToolWindow(desk_, window, main_);
     }
     frame->widget().installEventFilter(this);
     frames_[&window] = frame;
@@ -149,7 +150,7 @@ void WindowKeeper::gone(host::Window& window)
     frames_.erase(&window);
     const QScopedValueRollback following(following_, true);
     const bool hadKeyboard =
-        window.role() == Role::tool && (frame->widget().isActiveWindow() || answered_ == &frame->widget());
+        window.role() == Role::tool && (inFront() == &frame->widget() || answered_ == &frame->widget());
     frame->farewell();
     if (hadKeyboard)
         giveKeyboardBack();
@@ -163,7 +164,7 @@ void WindowKeeper::giveKeyboardBack()
         current != nullptr && current->role() == Role::tool && !current->spec().reading ? frameOf(*current) : nullptr;
     QWidget* next = frame == nullptr ? static_cast<QWidget*>(main_) : &frame->widget();
     if (next != nullptr && next->isVisible())
-        next->activateWindow();
+        putInFront(*next);
 }
 
 void WindowKeeper::shutDown()
@@ -250,8 +251,10 @@ void WindowKeeper::followRaised()
         if (frame == nullptr)
             continue;
         frame->bringToFront();
-        if (window->isChild())
+        if (window->isChild()) {
             stripInHand_ = false;
+            takeInHand(nullptr);
+        }
         if (window->spec().reading)
             quiet_ = &frame->widget();
         if (window->role() == Role::palette || window->spec().reading)
@@ -259,6 +262,8 @@ void WindowKeeper::followRaised()
         if (window->isChild() && main_)
             main_->bringToFront();
         QWidget* top = window->isChild() ? static_cast<QWidget*>(main_) : &frame->widget();
+        if (top != nullptr && !top->isWindow())
+            putInFront(*top);
         awaited_ = top != nullptr && !top->isActiveWindow() ? top : nullptr;
     }
 }
@@ -278,7 +283,7 @@ void WindowKeeper::followActive()
 
 SheetView* WindowKeeper::activeView() const
 {
-    QWidget* active = QApplication::activeWindow();
+    QWidget* active = inFront();
     for (const auto& [window, frame] : frames_)
         if (frame->view() != nullptr && &frame->widget() == active)
             return frame->view();
@@ -343,8 +348,8 @@ QRegion WindowKeeper::taken() const
 {
     QRegion region;
     for (const auto& [window, frame] : frames_)
-        if (dynamic_cast<ToolWindow*>(frame) != nullptr && frame->widget().isVisible())
-            region += frame->widget().frameGeometry();
+        if (const auto* tool = dynamic_cast<ToolWindow*>(frame); tool != nullptr && tool->isVisible())
+            region += tool->onScreen();
     if (const SheetView* view = activeView())
         region += view->carried() + view->inHand();
     return region;
@@ -367,6 +372,7 @@ void WindowKeeper::childActivated(QMdiSubWindow* child)
     if (desk_.closing || following_ || frame == nullptr || frame->model() == nullptr || !main_ ||
         !main_->isActiveWindow())
         return;
+    takeInHand(nullptr);
     if (desk_.engine->current() != frame->model())
         desk_.engine->userActivate(*frame->model());
 }
@@ -396,7 +402,7 @@ void WindowKeeper::followDesktop()
 // The person, or the window manager for them, has turned to another window.
 void WindowKeeper::windowActivated()
 {
-    QWidget* active = QApplication::activeWindow();
+    QWidget* active = inFront();
     if (active != nullptr)
         answered_ = nullptr;
     if (desk_.closing || active == nullptr || !desk_.idle() || handedBack(active))
@@ -431,7 +437,7 @@ bool WindowKeeper::handedBack(QWidget* active)
     }
     if (quiet_ && active == quiet_ && wanted_ != active && main_) {
         returning_ = true;
-        main_->activateWindow();
+        putInFront(*main_);
         return true;
     }
     return false;
@@ -451,7 +457,7 @@ bool WindowKeeper::typeBehind(const QKeyEvent& event)
     if (!main_ || child == nullptr || !desk_.idle() || frameOf(*child) == nullptr)
         return false;
     wanted_ = nullptr;
-    main_->activateWindow();
+    putInFront(*main_);
     desk_.engine->userActivate(*child);
     WindowFrame* frame = desk_.engine->isLoaded(child) ? frameOf(*child) : nullptr;
     if (frame == nullptr || desk_.closing)
@@ -471,6 +477,8 @@ void WindowKeeper::touched(QWidget* view)
     byHand_ = view;
     QTimer::singleShot(0, this, [this] { byHand_ = nullptr; });
     auto* canvas = dynamic_cast<Canvas*>(view);
+    if (canvas != nullptr && !desk_.placesWindows)
+        touchedInside(*canvas);
     if (stripInHand_ && strip_ && canvas != &strip_->view()->canvas() && desk_.idle()) {
         stripInHand_ = false;
         if (host::Window* child = desk_.engine->activeChild())
@@ -507,6 +515,10 @@ Stage WindowKeeper::stage() const
         stage.inHand = view->spokenOf();
         stage.beside = byHand_ == &view->canvas();
     }
+    const host::Window* child = desk_.engine->activeChild();
+    if (WindowFrame* behind = child == nullptr ? nullptr : frameOf(*child);
+        behind != nullptr && behind->view() != activeView() && child->role() == Role::sheet)
+        stage.behind = behind->view()->spokenOf();
     return stage;
 }
 
@@ -530,7 +542,7 @@ void WindowKeeper::dialogClosed(QWidget* parent)
 {
     if (parent != nullptr && parent->isVisible() && !desk_.closing) {
         answered_ = parent;
-        parent->activateWindow();
+        putInFront(*parent);
         postFocus();
     }
 }
@@ -559,7 +571,7 @@ void WindowKeeper::nextPane()
     std::stable_partition(panes.begin(), panes.end(), [](const auto* pane) { return pane->role() != Role::palette; });
     if (panes.empty())
         return;
-    QWidget* active = QApplication::activeWindow();
+    QWidget* active = inFront();
     // The check of the sheet in hand comes right behind it.
     QWidget* check = desk_.checkOf ? desk_.checkOf(*panes.front()) : nullptr;
     const bool onSheet = active == main_ && !stripInHand_;
@@ -585,6 +597,8 @@ void WindowKeeper::turnToPane(host::Window& pane)
     stripInHand_ = pane.role() == Role::palette;
     QWidget* top = inside ? static_cast<QWidget*>(main_) : &frameOf(pane)->widget();
     wanted_ = top;
+    if (inside)
+        takeInHand(nullptr);
     if (inside && top->isActiveWindow()) {
         if (desk_.engine->current() != &pane)
             desk_.engine->userActivate(pane);
@@ -592,7 +606,7 @@ void WindowKeeper::turnToPane(host::Window& pane)
         return;
     }
     top->raise();
-    top->activateWindow();
+    putInFront(*top);
 }
 
 } // namespace velmor::desktop

@@ -72,6 +72,10 @@ private:
     void followFocusBehind();
     void makeRoom();
     QRegion taken() const;
+    QWidget* inFront() const;
+    void putInFront(QWidget& top);
+    void takeInHand(QWidget* inside);
+    void touchedInside(const QWidget& canvas);
     void postFocus();
     void focusMoved(QWidget* now);
     void childActivated(QMdiSubWindow* child);
@@ -88,7 +92,8 @@ private:
     std::unordered_map<const host::Window*, WindowFrame*> frames_;
     std::vector<host::Window*> raised_;
     QPointer<PaletteStrip> strip_;
-    bool stripInHand_ = false;               ///< the strip has the keyboard, which the person gave it by key
+    bool stripInHand_ = false; ///< the strip has the keyboard, which the person gave it by key
+    QPointer<QWidget> inside_; ///< the tool inside the main window that has its keyboard; null for the sheets
     QPointer<QMdiSubWindow> formerlyActive_; ///< while another child becomes active
     QPointer<QWidget> byHand_;               ///< the view in which a key or a press is being answered
     QPointer<QWidget> awaited_;  ///< asked to become active; other activations on the way to it do not count

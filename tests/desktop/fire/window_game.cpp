@@ -54,7 +54,7 @@ std::string named(const QWidget& widget)
 } // namespace window_game_detail
 
 WindowGame::WindowGame(std::uint64_t seed, bool rude, Watchdog& watchdog)
-    : chance_(seed), rude_(rude), watchdog_(watchdog), life_(std::make_unique<QObject>())
+    : chance_(seed), rude_(rude), placesWindows_(seed % 4 != 3), watchdog_(watchdog), life_(std::make_unique<QObject>())
 {
     answerSoon();
 }
@@ -72,6 +72,7 @@ void WindowGame::begin()
     keeping_.reset();
     on_.reset();
     on_ = std::make_unique<Bench>(program::catalogue());
+    on_->screen.desk().placesWindows = placesWindows_;
     keeping_ = std::make_unique<desktop::WorkKeeping>(
         on_->engine, on_->screen,
         keeping::Place{.folder = desktop::held(home_.filePath("kept")), .now = [this] { return time_; }});

@@ -87,6 +87,7 @@ private:
 
     player::Chance chance_;
     bool rude_;
+    bool placesWindows_; ///< false in one game of four: tools are parts of the main window
     Watchdog& watchdog_;
     QTemporaryDir home_;
     std::int64_t time_ = 1795000000; ///< of the clock; each event takes a second

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QMdiArea>
+#include <QScrollBar>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/fire/watchdog.h"
@@ -39,17 +40,27 @@ struct AreaTest : ::testing::Test {
     Watchdog watchdog{longest};
 };
 
-TEST_F(AreaTest, comesToRestWithAnIconAsTallAsAFrameAmongTiles)
+// A bar that came would take its room from the tiles, which would move the icon, which would take the bar away again, for ever.
+TEST_F(AreaTest, givesNoRoomToBarsWithAnIconAsTallAsAFrameAmongTiles)
 {
+    const QSize open = area().size();
+    const auto stands = [&](const std::string& after) {
+        rest(after);
+        EXPECT_EQ(area().size(), open) << after;
+        for (const QScrollBar* bar : {on.main().area().horizontalScrollBar(), on.main().area().verticalScrollBar()})
+            EXPECT_FALSE(bar->isVisible()) << after;
+    };
     for (const int height : {60, 200, 400, 700}) {
         frame(0).showMinimized();
         frame(0).resize(300, height);
         arrange(height % 400 == 0 ? 1 : 2);
-        rest("tiles over an icon " + std::to_string(height) + " high");
+        stands("tiles over an icon " + std::to_string(height) + " high");
+        frame(0).setGeometry(area().width() - 100, area().height() - 30, 300, height);
+        stands("an icon that reaches out of the area");
         frame(1).showMaximized();
-        rest("a sheet maximised over them");
+        stands("a sheet maximised over them");
         frame(1).showNormal();
-        rest("and back");
+        stands("and back");
     }
 }
 

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Windows that are only read stand beside the sheet and leave it the keyboard: what is typed goes to the sheet, whichever of them is
 // in front. And the conversion of temperatures gives the keyboard back when it is done.
+#include <string>
+#include <string_view>
+#include <tuple>
+
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -19,9 +23,13 @@ using host::Handle;
 
 constexpr const char* readingWindows[] = {"Form14", "Form21", "Form6", "Form5", "Form19"};
 
-struct ReadingTest : ::testing::TestWithParam<const char*> {
+/// A window beside the main one, or a part of it where the desktop alone says where windows stand.
+enum class Stands { beside, inside };
+
+struct ReadingTest : ::testing::TestWithParam<std::tuple<const char*, Stands>> {
     ReadingTest() : on(program::catalogue())
     {
+        on.screen.desk().placesWindows = std::get<Stands>(GetParam()) == Stands::beside;
         program::start(on.engine);
         on.main().resize(1366, 740);
         Bench::settle();
@@ -33,16 +41,22 @@ struct ReadingTest : ::testing::TestWithParam<const char*> {
     {
         ASSERT_NE(sheet, nullptr);
         ASSERT_EQ(sheet->focus(), first());
-        text = &on.show(GetParam());
+        text = &on.show(name());
         on.engine.onSlot = [this](const host::Window& who, Handle, Event event) {
             activations += &who == sheet && event == Event::activate ? 1 : 0;
         };
     }
+    static std::string_view name() { return std::get<const char*>(GetParam()); }
     Handle first() const { return sheet->named("Text1"); }
     QWidget& frame() { return on.screen.keeper().frameOf(*text)->widget(); }
-    bool isOpen() { return on.engine.defaultInstance(GetParam()) != nullptr; }
+    bool isOpen() { return on.engine.defaultInstance(name()) != nullptr; }
     /// The page of the field in hand goes as soon as somebody turns to the sheet.
-    bool goes() const { return std::string_view(GetParam()) == "Form21"; }
+    bool goes() const { return name() == "Form21"; }
+    bool hasKeyboard()
+    {
+        return frame().isWindow() ? QApplication::activeWindow() == &frame()
+                                  : frame().isAncestorOf(QApplication::focusWidget());
+    }
     bool sheetHasKeyboard()
     {
         return QApplication::activeWindow() == &on.main() && on.widgetOf(*sheet, sheet->focus())->hasFocus();
@@ -57,6 +71,7 @@ struct ReadingTest : ::testing::TestWithParam<const char*> {
 TEST_P(ReadingTest, isShownWithoutTakingTheKeyboard)
 {
     EXPECT_TRUE(frame().isVisible());
+    EXPECT_EQ(frame().window() == &on.main(), std::get<Stands>(GetParam()) == Stands::inside);
     EXPECT_EQ(on.engine.current(), text) << "to the program it is the window in front all the same";
     EXPECT_TRUE(sheetHasKeyboard());
     EXPECT_TRUE(isOpen());
@@ -102,11 +117,11 @@ TEST_P(ReadingTest, handsBackTheKeyboardThatTheWindowManagerGaveIt)
 TEST_P(ReadingTest, f6WalksIntoItAndBack)
 {
     Bench::key(Qt::Key_F6);
-    EXPECT_EQ(QApplication::activeWindow(), &frame());
+    EXPECT_TRUE(hasKeyboard());
     EXPECT_TRUE(isOpen());
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Down, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Up})
         Bench::key(key);
-    EXPECT_EQ(QApplication::activeWindow(), &frame()) << "one reads with these";
+    EXPECT_TRUE(hasKeyboard()) << "one reads with these";
     EXPECT_EQ(sheet->text(first()), "10");
     for (int i = 0; i < 3 && !sheetHasKeyboard(); ++i) // the palette is on the way, in the main window
         Bench::key(Qt::Key_F6);
@@ -116,7 +131,7 @@ TEST_P(ReadingTest, f6WalksIntoItAndBack)
 TEST_P(ReadingTest, whatIsTypedInItGoesToTheSheet)
 {
     Bench::key(Qt::Key_F6);
-    ASSERT_EQ(QApplication::activeWindow(), &frame());
+    ASSERT_TRUE(hasKeyboard());
     Bench::type("52");
     EXPECT_EQ(sheet->text(first()), "52");
     EXPECT_TRUE(sheetHasKeyboard());
@@ -146,12 +161,18 @@ TEST_P(ReadingTest, closedByHandLeavesTheKeyboardToTheSheetWhoeverHasIt)
     EXPECT_TRUE(sheetHasKeyboard());
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, ReadingTest, ::testing::ValuesIn(readingWindows),
-                         [](const auto& window) { return std::string(window.param); });
+INSTANTIATE_TEST_SUITE_P(Windows, ReadingTest,
+                         ::testing::Combine(::testing::ValuesIn(readingWindows),
+                                            ::testing::Values(Stands::beside, Stands::inside)),
+                         [](const auto& window) {
+                             const bool inside = std::get<Stands>(window.param) == Stands::inside;
+                             return std::get<const char*>(window.param) + std::string(inside ? "Inside" : "");
+                         });
 
-struct ConversionTest : ::testing::Test {
+struct ConversionTest : ::testing::TestWithParam<Stands> {
     ConversionTest() : on(program::catalogue())
     {
+        on.screen.desk().placesWindows = GetParam() == Stands::beside;
         program::start(on.engine);
         Bench::settle();
         on.main().activateWindow();
@@ -175,7 +196,7 @@ struct ConversionTest : ::testing::Test {
 };
 
 // 350 K are 77 degrees.
-TEST_F(ConversionTest, theKeyboardIsBackInTheSheetWithTheTemperature)
+TEST_P(ConversionTest, theKeyboardIsBackInTheSheetWithTheTemperature)
 {
     host::Window& sheet = *on.engine.instance("Form2", 0);
     Bench::key(Qt::Key_Return);
@@ -193,7 +214,7 @@ TEST_F(ConversionTest, theKeyboardIsBackInTheSheetWithTheTemperature)
 }
 
 // The page that is read is the window in front then, and does not take the keyboard.
-TEST_F(ConversionTest, theKeyboardIsBackInTheSheetFromTheConversionOverAPage)
+TEST_P(ConversionTest, theKeyboardIsBackInTheSheetFromTheConversionOverAPage)
 {
     on.show("Form21");
     host::Window& conversion = on.show("Form22");
@@ -204,5 +225,24 @@ TEST_F(ConversionTest, theKeyboardIsBackInTheSheetFromTheConversionOverAPage)
     const host::Window& sheet = *on.engine.instance("Form2", 0);
     EXPECT_EQ(sheet.text(sheet.focus()), "7");
 }
+
+// The field that it converts for is read on while the number is written.
+TEST_P(ConversionTest, theQuestionLeavesTheFieldOfTheSheetFree)
+{
+    host::Window& sheet = *on.engine.instance("Form2", 0);
+    Bench::key(Qt::Key_Return);
+    const QWidget& field = *on.widgetOf(sheet, sheet.named("Text3"));
+    const QRect free(field.mapToGlobal(QPoint(0, 0)), field.size());
+    host::Window& conversion = on.show("Form22");
+    QRect question;
+    on.duringBox = [&question] { question = QApplication::activeModalWidget()->geometry(); };
+    on.answerByKey(Qt::Key_Escape);
+    on.click(conversion, conversion.named("Command2"));
+    ASSERT_FALSE(question.isEmpty());
+    EXPECT_FALSE(question.intersects(free));
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, ConversionTest, ::testing::Values(Stands::beside, Stands::inside),
+                         [](const auto& stands) { return stands.param == Stands::inside ? "Inside" : "Beside"; });
 
 } // namespace velmor::test::reading_test

@@ -2,6 +2,7 @@
 // The search line of the editors, and what a report looks like while its text stays as it is.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -318,6 +319,26 @@ TEST_F(SearchTest, aStepForwardWaitsForNoMoreThanItsHit)
     EXPECT_EQ(told(), "1 de 1200000");
     line()->go(desktop::SearchLine::Way::backward);
     EXPECT_EQ(told(), "1200000 de 1200000, dando la vuelta");
+}
+
+TEST_F(SearchTest, commandsOfTheTextReachItFromTheLine)
+{
+    look("uno");
+    ASSERT_TRUE(line()->hasKeyboard());
+    on.answerByKey(Qt::Key_Escape);
+    Bench::keys("Ctrl+O");
+    EXPECT_FALSE(on.boxes.empty()) << "the text has changed, and its own opening asks";
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "the menu of circuits is the sheets'";
+}
+
+TEST_F(SearchTest, onALargeScreenTheTextGrowsWithTheMenus)
+{
+    const double usual = text().font().pointSizeF();
+    on.screen.desk().textScale = 1.5;
+    on.main().resize(on.main().width() - 40, on.main().height());
+    Bench::settle();
+    EXPECT_NEAR(text().font().pointSizeF(), 1.5 * usual, 0.01);
+    EXPECT_NE(editor->font(editors::txtEdit).size, text().font().pointSizeF()) << "what is printed stays";
 }
 
 } // namespace velmor::test::search_test

@@ -95,6 +95,32 @@ TEST_F(ShellTest, aTipHasTheLettersAndTheGroundOfTheProgram)
     QToolTip::hideText();
 }
 
+TEST_F(ShellTest, aTipStandsBelowTheFieldThatItSpeaksOf)
+{
+    desktop::FieldEdit& field = on.field(Text1);
+    const QPoint middle = field.rect().center();
+    QHelpEvent asked(QEvent::ToolTip, middle, field.mapToGlobal(middle));
+    QApplication::sendEvent(&field, &asked);
+    const QWidget* tip = nullptr;
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        if (window->inherits("QTipLabel") && window->isVisible())
+            tip = window;
+    ASSERT_NE(tip, nullptr);
+    EXPECT_GT(tip->y(), onScreen(field).bottom());
+    QToolTip::hideText();
+}
+
+TEST_F(ShellTest, theToolkitsOwnBoxesHaveTheProgramsSigns)
+{
+    QImage drawn(64, 64, QImage::Format_ARGB32_Premultiplied);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    desktop::paintBoxSign(painter, drawn.rect(), host::BoxIcon::question, desktop::inksFor(QApplication::palette()));
+    painter.end();
+    const QIcon sign = QApplication::style()->standardIcon(QStyle::SP_MessageBoxQuestion);
+    EXPECT_EQ(sign.pixmap(64, 64).toImage().convertToFormat(drawn.format()), drawn);
+}
+
 // boxes
 
 TEST_F(ShellTest, aQuestionInATextLeavesNoHoleInTheCalm)
@@ -274,6 +300,78 @@ TEST_F(ToolTest, itStandsBesideTheFieldItWasAskedForAtAndAHandMayMoveIt)
     on.show("Herramienta");
     EXPECT_TRUE(near(Text3));
     EXPECT_FALSE(tool().geometry().intersects(onScreen(on.field(Text3))));
+}
+
+// Where the desktop alone says where windows stand, tools are parts of the main window.
+struct InnerToolTest : ToolTest {
+    void SetUp() override
+    {
+        ToolTest::SetUp();
+        on.screen.desk().placesWindows = false;
+    }
+    QRect panel() { return onScreen(on.main().panel()); }
+    bool toolHasKeyboard() { return tool().isAncestorOf(QApplication::focusWidget()); }
+    void drag(QWidget& from, QPoint at, QPoint way)
+    {
+        QTest::mousePress(&from, Qt::LeftButton, Qt::NoModifier, at);
+        const QPoint start = from.mapToGlobal(at);
+        for (const double part : {0.5, 1.0}) {
+            const QPoint there = start + way * part;
+            QMouseEvent move(QEvent::MouseMove, from.mapFromGlobal(there), there, Qt::NoButton, Qt::LeftButton, {});
+            QApplication::sendEvent(&from, &move);
+        }
+        QTest::mouseRelease(&from, Qt::LeftButton, Qt::NoModifier, from.mapFromGlobal(start + way));
+        on.settle();
+    }
+};
+
+TEST_F(InnerToolTest, itStandsInsideBesideItsFieldAndTakesTheKeyboard)
+{
+    on.show("Herramienta");
+    EXPECT_EQ(tool().window(), &on.main());
+    EXPECT_TRUE(panel().contains(onScreen(tool())));
+    EXPECT_FALSE(onScreen(tool()).intersects(onScreen(on.field(Text1))));
+    EXPECT_TRUE(toolHasKeyboard());
+    EXPECT_EQ(on.engine.current(), tool().model());
+}
+
+TEST_F(InnerToolTest, aPressTurnsToTheSheetAndBackAndSoDoesF6)
+{
+    host::Window& model = on.show("Herramienta");
+    on.click(Text1);
+    EXPECT_TRUE(on.field(Text1).hasFocus());
+    EXPECT_EQ(on.engine.current(), &on.sheet());
+    EXPECT_TRUE(tool().isVisible());
+    on.click(model, ToolText);
+    EXPECT_TRUE(toolHasKeyboard());
+    EXPECT_EQ(on.engine.current(), &model);
+    on.keys("F6");
+    EXPECT_TRUE(on.field(Text1).hasFocus());
+    on.keys("F6");
+    EXPECT_TRUE(toolHasKeyboard());
+    closeOf(tool()).click();
+    on.settle();
+    EXPECT_EQ(on.engine.defaultInstance("Herramienta"), nullptr);
+    EXPECT_TRUE(on.field(Text1).hasFocus());
+    EXPECT_EQ(on.engine.current(), &on.sheet());
+}
+
+TEST_F(InnerToolTest, aHandMovesItByItsTitleAndSizesItByItsEdgesInsideTheWindow)
+{
+    on.show("Herramienta");
+    QWidget& title = *dynamic_cast<QWidget*>(closeOf(tool()).parent());
+    const QPoint before = tool().pos();
+    drag(title, {30, 8}, {40, 30});
+    EXPECT_EQ(tool().pos(), before + QPoint(40, 30));
+    drag(title, {30, 8}, {5000, 5000});
+    EXPECT_TRUE(panel().contains(onScreen(tool())));
+    drag(title, {30, 8}, {-300, -300});
+    const QSize size = tool().size();
+    drag(tool(), {size.width() - 2, size.height() / 2}, {50, 0});
+    EXPECT_EQ(tool().size(), size + QSize(50, 0));
+    on.main().resize(700, 450);
+    on.settle();
+    EXPECT_TRUE(panel().contains(onScreen(tool())));
 }
 
 // the palette
