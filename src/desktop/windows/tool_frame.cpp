@@ -38,6 +38,7 @@ ToolFrame::ToolFrame(Desk& desk, QWidget* parent, Stands where)
     if (isInside()) {
         hide(); // a part of a window is shown with it otherwise
         parent->installEventFilter(this);
+        look();
     }
 }
 
