@@ -81,7 +81,7 @@ done
 mkdir "$tree/Archivos"
 install -m 644 "$root"/guides/*.Lab "$tree/"
 install -m 644 "$root"/guides/*.Lab "$tree/Archivos/"
-for page in installing.md instalar.md teaching-with-velmor.md ensenar-con-velmor.md walks.md; do
+for page in installing.md instalar.md keyboard.md teaching-with-velmor.md ensenar-con-velmor.md walks.md; do
     install -m 644 -D "$root/docs/$page" "$tree/docs/$page"
 done
 

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 """A design that is told once and gone through in Spanish and in English: what the two say stands side by side."""
-from journey import Atspi, has, until
+from journey import Atspi, has, role_of, until
 
 
 def plain(text):
@@ -94,7 +94,7 @@ class BothLanguages:
         title, text = plain(self.say(title)), plain(self.say(text))
 
         def asked():
-            return next((box for box in velmor.windows() if box.get_role_name() == "dialog" and plain(box.get_name()) == title and
+            return next((box for box in velmor.windows() if role_of(box) == "dialog" and plain(box.get_name()) == title and
                          any(plain(node.get_name() or "") == text for node in velmor.all(box))), None)
 
         box = until(asked, "the box %s: %s" % (title, text))
@@ -117,14 +117,14 @@ class BothLanguages:
         velmor.key(key)
         wanted = [self.say(text) for text in texts]
         until(lambda: any(all(text in velmor.text(node) for text in wanted)
-                          for node in velmor.all() if node.get_role_name() == "text"), "a page with " + " / ".join(wanted))
+                          for node in velmor.all() if role_of(node) == "text"), "a page with " + " / ".join(wanted))
 
     def leaf(self, *texts):
         """The leaf of analysis says all of these."""
         velmor = self.program
         wanted = [plain(self.say(text)) for text in texts]
         until(lambda: any(all(text in plain(node.get_name() or "") for text in wanted) and has(node, Atspi.StateType.SHOWING)
-                          for node in velmor.all() if node.get_role_name() == "label"), "a leaf with " + " / ".join(wanted))
+                          for node in velmor.all() if role_of(node) == "label"), "a leaf with " + " / ".join(wanted))
 
     def no_leaf(self, text):
         """The leaf that said so is put away."""

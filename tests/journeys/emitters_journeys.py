@@ -6,7 +6,7 @@ import os
 import tempfile
 import unittest
 
-from journey import Journey, Program, until
+from journey import Journey, Program, role_of, until
 
 
 class BothLanguages:
@@ -74,7 +74,7 @@ class Emitter(Journey):
         velmor = self.program
         velmor.key(key)
         until(lambda: any(all(text in velmor.text(node) for text in texts)
-                          for node in velmor.all() if node.get_role_name() == "text"), "a page with " + " / ".join(texts))
+                          for node in velmor.all() if role_of(node) == "text"), "a page with " + " / ".join(texts))
 
     def report(self, title, *texts):
         velmor = self.program

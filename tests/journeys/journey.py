@@ -59,6 +59,12 @@ def has(node, state):
     return node.get_state_set().contains(state)
 
 
+def role_of(node):
+    """The name of its role; newer buses call a push button a button."""
+    name = node.get_role_name()
+    return "push button" if name == "button" else name
+
+
 class Screen:
     """An X server with a window manager."""
 
@@ -140,9 +146,9 @@ class Program:
 
         def walk(node):
             for child in children(node):
-                if child.get_role_name() == "frame":
+                if role_of(child) == "frame":
                     found.append(child)
-                elif child.get_role_name() in ("filler", "layered pane"):
+                elif role_of(child) in ("filler", "layered pane"):
                     walk(child)
 
         for window in self.windows():
@@ -173,7 +179,7 @@ class Program:
             if root is None:
                 continue
             found = [node for node in self.all(root)
-                     if re.search(pattern, node.get_name() or "") and (role is None or node.get_role_name() == role)]
+                     if re.search(pattern, node.get_name() or "") and (role is None or role_of(node) == role)]
             showing = [node for node in found if has(node, Atspi.StateType.SHOWING)]
             if showing:
                 return showing[0]
@@ -208,7 +214,7 @@ class Program:
             pass
         sheet = self.in_hand()
         self.fields = {node.get_name().split(",")[0]: (node, sheet) for node in reversed(self.all(sheet))
-                       if node.get_role_name() == "text" and has(node, Atspi.StateType.SHOWING)}
+                       if role_of(node) == "text" and has(node, Atspi.StateType.SHOWING)}
         return self.fields[symbol][0] if symbol in self.fields else self.see("^" + re.escape(symbol) + ",", "text")
 
     @staticmethod
@@ -241,7 +247,7 @@ class Program:
         try:
             for node in self.all():
                 states = [name for name in ("ACTIVE", "FOCUSED", "SHOWING") if has(node, getattr(Atspi.StateType, name))]
-                role = node.get_role_name()
+                role = role_of(node)
                 if role in ("frame", "dialog", "alert") or "FOCUSED" in states:
                     text = " with " + repr(self.text(node)[:200]) if role == "text" else ""
                     lines.append("%s %r %s%s" % (role, node.get_name(), " ".join(states), text))
@@ -290,7 +296,7 @@ class Program:
         """Waits for a message box with that text and until it has the keyboard."""
         label = self.see(text, "label")
         until(lambda: any(has(node, Atspi.StateType.FOCUSED) for node in self.all(label.get_parent())
-                          if node.get_role_name() == "push button"), "a button of the box")
+                          if role_of(node) == "push button"), "a button of the box")
         return label
 
     def fill(self, symbol, text, then):
@@ -336,9 +342,9 @@ class Program:
         """Types a name into the dialog of files that opens, and sees the dialog go."""
         def opened():
             for window in self.windows():
-                if window.get_role_name() == "dialog" and has(window, Atspi.StateType.ACTIVE):
+                if role_of(window) == "dialog" and has(window, Atspi.StateType.ACTIVE):
                     for node in self.all(window):
-                        if node.get_role_name() == "text" and has(node, Atspi.StateType.FOCUSED):
+                        if role_of(node) == "text" and has(node, Atspi.StateType.FOCUSED):
                             return window, node
             return None
 

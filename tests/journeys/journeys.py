@@ -8,7 +8,7 @@ import subprocess
 import tempfile
 import unittest
 
-from journey import Atspi, Journey, Program, has, until
+from journey import Atspi, Journey, Program, has, role_of, until
 
 
 class Design(Journey):
@@ -221,7 +221,7 @@ class Text(Journey):
         with open(path, "rb") as file:
             self.assertTrue(file.read().decode("cp1252").startswith("Mi trabajo"))
         velmor.key("ctrl+p")
-        until(lambda: any(node.get_role_name() == "push button" and has(node, Atspi.StateType.FOCUSED)
+        until(lambda: any(role_of(node) == "push button" and has(node, Atspi.StateType.FOCUSED)
                           for node in velmor.all()), "the dialog for printing")
         velmor.key("Return")
         pdf = until(self.printed, "the printed file")
@@ -321,7 +321,7 @@ class KeptWork(Journey):
         until(lambda: not has(again.named("sigue aquí", "label"), Atspi.StateType.SHOWING),
               "the end of the line")
         until(lambda: any(again.text(node) == "5" for node in again.all()
-                          if node.get_role_name() == "text" and (node.get_name() or "").startswith("ΔQIc,")),
+                          if role_of(node) == "text" and (node.get_name() or "").startswith("ΔQIc,")),
               "the work as it stood")
 
 

@@ -5,7 +5,7 @@ by its guide. What is read in the two languages stands side by side, figures are
 import re
 import unittest
 
-from journey import Atspi, Journey, has, until
+from journey import Atspi, Journey, has, role_of, until
 
 
 class Power:
@@ -70,7 +70,7 @@ class Power:
         velmor = self.program
         velmor.key("shift+F1")
         until(lambda: any(all(text in velmor.text(node) for text in texts)
-                          for node in velmor.all() if node.get_role_name() == "text"), "a page with " + " / ".join(texts))
+                          for node in velmor.all() if role_of(node) == "text"), "a page with " + " / ".join(texts))
         self.picture("help-" + texts[0].split()[0])
         velmor.key("shift+F1")
 
@@ -84,7 +84,7 @@ class Power:
         velmor = self.program
         tool = until(lambda: next((window for window in velmor.windows() if re.search(title, window.get_name() or "")), None), title)
         velmor.press(next(node for node in velmor.all(tool)
-                          if node.get_role_name() == "push button" and node.get_name() == self.say("Cerrar", "Close")))
+                          if role_of(node) == "push button" and node.get_name() == self.say("Cerrar", "Close")))
         until(lambda: tool not in velmor.windows() or not has(tool, Atspi.StateType.SHOWING), "the end of " + title)
 
     def report(self, title, *texts):

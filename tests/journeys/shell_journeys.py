@@ -3,7 +3,7 @@
 import unittest
 
 import journeys
-from journey import Atspi, until
+from journey import Atspi, role_of, until
 
 # The cases of the other file are played there, not once more for being known here.
 Journey = journeys.Journey
@@ -23,14 +23,14 @@ class Shell(Journey):
     def dialog(self):
         """The box in front, as assistive technology finds it."""
         return until(lambda: next((window for window in self.program.windows()
-                                   if window.get_role_name() in ("dialog", "alert")
+                                   if role_of(window) in ("dialog", "alert")
                                    and window.get_state_set().contains(Atspi.StateType.SHOWING)), None), "a dialog")
 
     def press_at(self, x, y, *more):
         self.program.tool("mousemove", str(x), str(y), *more)
 
     def main_window(self):
-        return next(window for window in self.program.windows() if window.get_role_name() == "frame")
+        return next(window for window in self.program.windows() if role_of(window) == "frame")
 
     def item(self, name):
         """An item of an open menu, whether it can be marked or not."""
@@ -47,7 +47,7 @@ class Boxes(Shell):
         dialog = self.dialog()
         self.assertTrue(dialog.get_name())
         self.assertEqual(sorted(node.get_name().replace("&", "") for node in self.program.all()
-                                if node.get_role_name() == "push button" and node.get_parent() == dialog), ["No", "Sí"])
+                                if role_of(node) == "push button" and node.get_parent() == dialog), ["No", "Sí"])
         self.assertTrue(apart(velmor.place(dialog), field))
         velmor.key("n")
         velmor.gone("^¿?Desea abandonar")
@@ -123,7 +123,7 @@ class Tools(Shell):
                                   None), "the help page")
         self.assertTrue(apart(velmor.place(page), field))
         velmor.press(next(node for node in velmor.all()
-                          if node.get_name() == "Cerrar" and node.get_role_name() == "push button"
+                          if node.get_name() == "Cerrar" and role_of(node) == "push button"
                           and inside(velmor.place(node), velmor.place(page))))
         velmor.focused("ΔQIc")
 
@@ -139,7 +139,7 @@ class Menus(Shell):
     def test_an_editors_menus_stand_in_the_one_bar_and_their_letters_open_them(self):
         velmor = self.program
         self.editor()
-        self.assertEqual(len([node for node in velmor.all() if node.get_role_name() == "menu bar"
+        self.assertEqual(len([node for node in velmor.all() if role_of(node) == "menu bar"
                               and node.get_state_set().contains(Atspi.StateType.SHOWING)]), 1)
         velmor.key("alt+a")
         velmor.see("^Imprimir", "menu item")

@@ -6,7 +6,7 @@ import unittest
 
 import journeys
 import shell_journeys
-from journey import Atspi, Journey, has, until
+from journey import Atspi, Journey, has, role_of, until
 
 
 class SmallScreen(Journey):
@@ -72,7 +72,7 @@ class SmallScreen(Journey):
         velmor.box("Desea abandonar")
         dialog = self.dialog()
         self.assertTrue(self.on_screen(dialog))
-        buttons = [node for node in velmor.all(dialog) if node.get_role_name() == "push button" and has(node, Atspi.StateType.SHOWING)]
+        buttons = [node for node in velmor.all(dialog) if role_of(node) == "push button" and has(node, Atspi.StateType.SHOWING)]
         self.assertEqual(len([node for node in buttons if re.fullmatch("&?Sí|&?No", node.get_name())]), 2)
         for button in buttons:
             self.assertTrue(shell_journeys.inside(velmor.place(button), velmor.place(dialog)))

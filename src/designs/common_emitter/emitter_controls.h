@@ -162,7 +162,7 @@ inline constexpr auto emitterRows = std::to_array<ControlRow>({
     hidden(marked(result(C::Label24, "Label24", at(800, 222, 96, 18)), obtainedCurrentName)),
     hidden(label(C::Label19, "Label19", at(776, 540, 238, 20), Look::note)),
     hidden(result(C::statu17, "statu17", at(672, 370, 112, 18))),
-    hidden(result(C::statu18, "statu18", at(918, 484, 94, 34))),
+    hidden(result(C::statu18, "statu18", at(880, 550, 132, 18))),
     hidden(result(C::statu19, "statu19", at(640, 188, 112, 18))),
     hidden(label(C::statu21, "statu21", at(636, 110, 40, 16), Look::invisible, "Es")),
     hidden(result(C::statu22, "statu22", at(296, 444, 114, 36))),

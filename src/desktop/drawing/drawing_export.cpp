@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include <QBuffer>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -40,6 +41,18 @@ QSizeF fineSize(const host::Window& window)
 QString titleOf(const host::Window& window)
 {
     return QString::fromStdString(window.caption()).trimmed();
+}
+
+/// Whether the toolkit's generator escapes a title by itself: older ones write it as it is.
+bool titlesAreEscaped()
+{
+    QBuffer written;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&written);
+    generator.setSize({1, 1});
+    generator.setTitle(QStringLiteral("&"));
+    QPainter(&generator).end();
+    return written.data().contains("&amp;");
 }
 
 } // namespace exporting
@@ -92,7 +105,8 @@ bool exportSvg(const QString& path, const host::Window& window, std::int16_t lan
     generator.setResolution(pixelsPerInch);
     generator.setSize((size / finePerUnit).toSize());
     generator.setViewBox(QRectF(QPointF(), size));
-    generator.setTitle(titleOf(window).toHtmlEscaped()); // it writes the title as it is
+    const QString title = titleOf(window);
+    generator.setTitle(titlesAreEscaped() ? title : title.toHtmlEscaped());
     QPainter painter;
     if (!painter.begin(&generator))
         return false;
