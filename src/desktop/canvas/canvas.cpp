@@ -7,10 +7,12 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QStyle>
 #include <QToolTip>
 #include <QtMath>
 
@@ -413,7 +415,7 @@ void Canvas::tellAbout(Handle control, QPoint at)
     if (text.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(tipPlace(control, at, text), shownTip(text), this, boxInPixels(control));
+        QToolTip::showText(tipPlace(control, at, shownTip(text)), shownTip(text), this, boxInPixels(control));
 }
 
 // Below a button or a field, whose caption or text is read on while the tip stands, or above it at the end of the screen; of a
@@ -423,11 +425,14 @@ QPoint Canvas::tipPlace(Handle control, QPoint at, const QString& text) const
     constexpr int beside = 2; ///< logical pixels that the toolkit adds
     constexpr int below = 16;
     constexpr int largest = 6; ///< height of what a tip stands beside, in lines
-    const QFontMetrics letters(QApplication::font());
+    QLabel shownSo(text);      // as the toolkit breaks it
+    shownSo.setFont(QApplication::font());
+    shownSo.setWordWrap(true);
+    shownSo.setMargin(1 + style()->pixelMetric(QStyle::PM_ToolTipLabelFrameWidth));
+    const QSize tip = shownSo.sizeHint();
     const QRect box(mapToGlobal(boxInPixels(control).topLeft()), boxInPixels(control).size());
-    if (box.height() > largest * letters.height())
+    if (box.height() > largest * shownSo.fontMetrics().height())
         return at;
-    const QSize tip = letters.size(0, text) + QSize(letters.height(), letters.height());
     const QRect room = screen()->geometry();
     const int left = std::max(room.left(), std::min(at.x(), room.right() - tip.width() - 2 * beside));
     const bool fits = box.bottom() + beside + tip.height() < room.bottom();

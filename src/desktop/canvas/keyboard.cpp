@@ -55,7 +55,7 @@ constexpr CommonKeyRow commonKeyRows[] = {
     {"Ctrl+Shift+Z", CommonKey::redo,       {"rehace lo tecleado, o un paso",              "types it again, or a step forward"}},
     {"Ctrl+Y",       CommonKey::redo,       {"rehace lo tecleado, o un paso",              "types it again, or a step forward"}},
     {sheets::checkKey, CommonKey::check,    {"comprueba el diseño terminado",                "checks the finished design"}},
-    {"Alt+-",        CommonKey::frame,      {"agranda, achica o cierra la hoja: su menú",    "enlarges, shrinks or closes the sheet: its menu"}},
+    {"Alt+-",        CommonKey::frame,      {"menú del marco: maximizar, cerrar",            "menu of the frame: maximise, close"}},
     {"Esc",          CommonKey::close,      {"cierra una ventana de ayuda o herramienta",    "closes a window of help or a tool"}},
 };
 // clang-format on

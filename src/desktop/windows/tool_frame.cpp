@@ -21,8 +21,6 @@ constexpr QSize smallest(160, 100); ///< of one that lies inside
 
 } // namespace tool_frame_detail
 
-using tool_frame_detail::smallest;
-
 ToolFrame::ToolFrame(Desk& desk, QWidget* parent, Stands where)
     : QWidget(parent, where == Stands::inside ? Qt::Widget : Qt::Dialog | Qt::FramelessWindowHint), desk_(desk),
       title_(new TitleLine(*desk.inks, this))
@@ -38,6 +36,7 @@ ToolFrame::ToolFrame(Desk& desk, QWidget* parent, Stands where)
     if (isInside()) {
         hide(); // a part of a window is shown with it otherwise
         parent->installEventFilter(this);
+        look();
     }
 }
 
@@ -136,7 +135,8 @@ void ToolFrame::drawEdges(QPoint way)
     QRect box = geometry();
     box.adjust(held_ & Qt::LeftEdge ? way.x() : 0, held_ & Qt::TopEdge ? way.y() : 0,
                held_ & Qt::RightEdge ? way.x() : 0, held_ & Qt::BottomEdge ? way.y() : 0);
-    if (box.width() >= smallest.width() && box.height() >= smallest.height())
+    const QSize least = tool_frame_detail::smallest;
+    if (box.width() >= least.width() && box.height() >= least.height())
         setGeometry(box & parentWidget()->rect());
 }
 
