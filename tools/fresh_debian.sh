@@ -98,7 +98,7 @@ windows_shown() {
     cookie=$(find "$tree/tmp" -maxdepth 2 -name cookie 2>/dev/null | head -n 1)
     [[ -n $number && -n $cookie ]] || return 1
     local -a there=(env "DISPLAY=:$number" "XAUTHORITY=$cookie")
-    "${there[@]}" xdotool search --onlyvisible --name 'Velmor' >/dev/null 2>&1 && sleep 1 &&
+    "${there[@]}" xdotool search --onlyvisible --name 'no sabe vivir' >/dev/null 2>&1 && sleep 1 &&
         "${there[@]}" import -silent -window root "$folder/run.png"
 }
 
