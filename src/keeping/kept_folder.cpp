@@ -125,9 +125,9 @@ KeptFolder::KeptFolder(fs::path root, Clock now) : root_(std::move(root)), now_(
 KeptFolder::~KeptFolder()
 {
     if (ownLock_ != nullptr)
-        leaveFolder(own_);
-    for (const auto& [folder, lock] : taken_)
-        leaveFolder(folder);
+        leaveFolder(own_, std::move(ownLock_));
+    for (auto& [folder, lock] : taken_)
+        leaveFolder(folder, std::move(lock));
 }
 
 // Under a name that nobody looks at until it is locked.
@@ -248,12 +248,13 @@ void KeptFolder::takeFolder(const fs::path& folder, std::vector<LeftFile>& found
         any = any || left;
     }
     if (!any)
-        leaveFolder(folder);
+        leaveFolder(folder, std::move(lock));
     else
         taken_.emplace_back(folder, std::move(lock));
 }
 
-void KeptFolder::leaveFolder(const fs::path& folder)
+// On a file server a file that is removed while it is open stays under another name until it is closed, and its folder with it.
+void KeptFolder::leaveFolder(const fs::path& folder, std::unique_ptr<Lock> lock)
 {
     const std::vector<fs::path> entries = entriesOf(folder);
     const bool bare =
@@ -261,6 +262,7 @@ void KeptFolder::leaveFolder(const fs::path& folder)
     if (!bare)
         return;
     remove(folder / lockName);
+    lock.reset();
     std::error_code ignored;
     fs::remove(folder, ignored);
 }

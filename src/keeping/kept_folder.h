@@ -59,7 +59,7 @@ private:
 
     bool makeOwn();
     void takeFolder(const std::filesystem::path& folder, std::vector<LeftFile>& found);
-    void leaveFolder(const std::filesystem::path& folder);
+    void leaveFolder(const std::filesystem::path& folder, std::unique_ptr<Lock> lock);
 
     std::filesystem::path root_;
     Clock now_;

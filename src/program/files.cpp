@@ -84,10 +84,17 @@ std::optional<std::string_view> askWhich(host::SheetHost& host, const std::vecto
     return chosen && *chosen < sheets.size() ? std::optional(sheets[*chosen]) : std::nullopt;
 }
 
-void readCircuit(host::SheetHost& host, std::string_view sheet, const std::string& path)
+/// What cannot be read says so.
+bool canBeRead(host::SheetHost& host, const std::string& path)
 {
-    if (!rules::readWhole(path, rules::largestCircuitFile))
-        return tell(host, cannotBeRead, path);
+    if (rules::readWhole(path, rules::largestCircuitFile))
+        return true;
+    tell(host, cannotBeRead, path);
+    return false;
+}
+
+void showCircuit(host::SheetHost& host, std::string_view sheet, const std::string& path)
+{
     if (auto* mainWindow = dynamic_cast<main_window::MDIForm1*>(&host.mainWindow()))
         mainWindow->openCircuit(sheet, path);
 }
@@ -144,17 +151,22 @@ void openFile(host::Engine& engine, const std::string& path)
         const std::vector<std::string_view> sheets = sheetsOf(engine, path);
         if (sheets.empty())
             return files_detail::readText(host, path);
+        // Nobody is asked whose a file is that cannot be had.
+        if (!files_detail::canBeRead(host, path))
+            return;
         const std::optional<std::string_view> sheet =
             sheets.size() == 1 ? sheets.front() : files_detail::askWhich(host, sheets, path);
         if (sheet)
-            files_detail::readCircuit(host, *sheet, path);
+            files_detail::showCircuit(host, *sheet, path);
     });
 }
 
 void openCircuit(host::Engine& engine, std::string_view sheet, const std::string& path)
 {
-    engine.userRun(
-        [&engine, sheet = std::string(sheet), path] { files_detail::readCircuit(engine.host(), sheet, path); });
+    engine.userRun([&engine, sheet = std::string(sheet), path] {
+        if (files_detail::canBeRead(engine.host(), path))
+            files_detail::showCircuit(engine.host(), sheet, path);
+    });
 }
 
 } // namespace velmor::program

@@ -102,6 +102,15 @@ TEST_F(FilesTest, GivingTheQuestionUpOpensNothing)
     EXPECT_TRUE(desk.screen.boxes.empty());
 }
 
+TEST_F(FilesTest, NobodyIsAskedWhoseAFileIsThatCannotBeRead)
+{
+    program::openFile(desk.engine, (desk.screen.folder / "gone.FVS").string());
+    EXPECT_TRUE(desk.screen.choices.empty());
+    ASSERT_EQ(desk.screen.boxes.size(), 1U);
+    EXPECT_EQ(desk.screen.boxes[0].text, "No se puede leer el archivo \"gone.FVS\".");
+    EXPECT_EQ(desk.engine.activeChild(), nullptr);
+}
+
 TEST_F(FilesTest, AKnownSheetIsNotAskedFor)
 {
     program::openCircuit(desk.engine, "Form18", desk.screen.put("uno.FVS", "1\r\n"));
