@@ -149,10 +149,8 @@ void WindowKeeper::gone(host::Window& window)
         return;
     frames_.erase(&window);
     const QScopedValueRollback following(following_, true);
-    // A sheet leaves it to the main window, or to the tool that is in front now.
-    const QWidget* keeps = window.isChild() ? static_cast<QWidget*>(main_) : &frame->widget();
-    const bool keyed = window.role() == Role::tool || (window.isChild() && !stripInHand_);
-    const bool hadKeyboard = keyed && keeps != nullptr && (inFront() == keeps || answered_ == keeps);
+    const bool hadKeyboard =
+        window.role() == Role::tool && (inFront() == &frame->widget() || answered_ == &frame->widget());
     frame->farewell();
     if (hadKeyboard)
         giveKeyboardBack();

@@ -302,19 +302,6 @@ TEST_F(ToolTest, itStandsBesideTheFieldItWasAskedForAtAndAHandMayMoveIt)
     EXPECT_FALSE(tool().geometry().intersects(onScreen(on.field(Text3))));
 }
 
-TEST_F(ToolTest, aSheetThatGoesLeavesTheKeyboardToTheToolThatIsInFrontThen)
-{
-    host::Window& second = on.newSheet();
-    host::Window& model = on.show("Herramienta");
-    on.main().activateWindow();
-    on.settle();
-    ASSERT_EQ(on.engine.current(), &second);
-    on.screen.keeper().frameOf(second)->widget().close();
-    on.settle();
-    ASSERT_EQ(on.engine.current(), &model);
-    EXPECT_EQ(QApplication::activeWindow(), &tool());
-}
-
 // Where the desktop alone says where windows stand, tools are parts of the main window.
 struct InnerToolTest : ToolTest {
     void SetUp() override
