@@ -195,18 +195,19 @@ TEST_F(QuestionTest, aFileDialogLooksIntoNoFile)
     const int watch = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
     ASSERT_GE(::inotify_add_watch(watch, file.c_str(), IN_OPEN | IN_ACCESS), 0);
     bool listed = false;
+    bool drawn = false;
     whenShown("fileDialog", [&](QDialog& dialog) {
         const auto* list = dialog.findChild<QListView*>("listView");
         const auto names = [list] { return list->model()->rowCount(list->rootIndex()); };
-        // The toolkit lists no pipes.
+        // The toolkit lists no pipes, and looks for icons in a thread of its own.
         listed = QTest::qWaitFor([&] { return names() == 1; });
-        QTest::qWait(50); // the toolkit looks for icons in a thread of its own
-        for (int row = 0; row < names(); ++row)
-            EXPECT_FALSE(list->model()->index(row, 0, list->rootIndex()).data(Qt::DecorationRole).isNull());
+        drawn = QTest::qWaitFor(
+            [&] { return !list->model()->index(0, 0, list->rootIndex()).data(Qt::DecorationRole).isNull(); });
         dialog.reject();
     });
     on.screen.fileDialog({host::DialogKind::open, "Abrir", "Todos(*.*)|*.*", on.folder.path().toStdString(), 0});
     EXPECT_TRUE(listed);
+    EXPECT_TRUE(drawn);
     char events[256];
     EXPECT_LT(::read(watch, events, sizeof events), 0) << "the file was opened";
     ::close(watch);
