@@ -119,7 +119,7 @@ void CheckWindow::connectParts()
         QGuiApplication::clipboard()->setText(shown(table(false)));
         tell(in(check_words::copied, checked_.english));
     });
-    const auto onKey = [this](QKeySequence keys, auto deed) {
+    const auto onKey = [this](const QKeySequence& keys, auto deed) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, deed);
     };
     onKey(Qt::Key_F5, [this] { deeds_.again(); });

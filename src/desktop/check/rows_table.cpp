@@ -79,13 +79,13 @@ public:
     }
     void follow(bool sameRows)
     {
+        Q_EMIT headerDataChanged(Qt::Horizontal, 0, rows_table_detail::columnCount - 1);
         if (!sameRows) {
             beginResetModel();
             endResetModel();
         } else if (!checked_.result.rows.empty()) {
             Q_EMIT dataChanged(index(0, 0), index(rowCount({}) - 1, rows_table_detail::columnCount - 1));
         }
-        Q_EMIT headerDataChanged(Qt::Horizontal, 0, rows_table_detail::columnCount - 1);
     }
 
 private:

@@ -81,8 +81,9 @@ TEST_F(Joins, AGridPointIsOnePixelFromWhateverCornerItIsCounted)
         const desktop::View view = test::viewAt(hundredths / 100.0);
         const QPointF whole = desktop::Sketch(view.pixelsPerUnit(), {}, true).at({620, 310});
         for (int corner = 0; corner <= 600; corner += 10) {
-            const desktop::Sketch part(view.pixelsPerUnit(), cornerAt(corner, corner / 2, view), true);
-            EXPECT_EQ(part.at(QPointF(620 - corner, 310 - corner / 2)), whole) << hundredths << " " << corner;
+            const QPoint counted(corner, corner / 2);
+            const desktop::Sketch part(view.pixelsPerUnit(), cornerAt(counted.x(), counted.y(), view), true);
+            EXPECT_EQ(part.at(QPoint(620, 310) - counted), whole) << hundredths << " " << corner;
         }
     }
 }
@@ -94,8 +95,9 @@ TEST_F(Joins, NorDoesTheSizeOfTheWindowMatter)
         const desktop::View view = test::viewAt(width / 1200.0);
         const QPointF whole = desktop::Sketch(view.pixelsPerUnit(), {}, true).at({510, 370});
         for (const int corner : {10, 90, 230, 330, 470}) {
-            const desktop::Sketch part(view.pixelsPerUnit(), cornerAt(corner, corner / 2, view), true);
-            EXPECT_EQ(part.at(QPointF(510 - corner, 370 - corner / 2)), whole) << width << " " << corner;
+            const QPoint counted(corner, corner / 2);
+            const desktop::Sketch part(view.pixelsPerUnit(), cornerAt(counted.x(), counted.y(), view), true);
+            EXPECT_EQ(part.at(QPoint(510, 370) - counted), whole) << width << " " << corner;
         }
     }
 }

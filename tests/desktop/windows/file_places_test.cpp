@@ -145,7 +145,7 @@ TEST_F(FilePlacesTest, dialogsSpeakTheLanguageOfTheMomentAlsoAfterASwitch)
 {
     save();
     EXPECT_TRUE(words.contains("Guardar")) << words.join('|').toStdString();
-    EXPECT_TRUE(words.filter("Nombre").size() > 0) << words.join('|').toStdString();
+    EXPECT_FALSE(words.filter("Nombre").empty()) << words.join('|').toStdString();
     words.clear();
     on.engine.userRun([this] { on.engine.values().LanguageIsEnglish = host::trueValue; });
     save();

@@ -276,7 +276,7 @@ TEST_F(ViewTest, aToolBesideASmallMainWindowIsReadableAndDoesNotScroll)
     const desktop::SheetView& view = on.viewOf(tool);
     EXPECT_LE(view.canvas().width(), view.width());
     EXPECT_LE(view.canvas().height(), view.height());
-    EXPECT_GE(view.canvas().width(), 3000 / 15 * 0.85);
+    EXPECT_GE(view.canvas().width(), 3000.0 / 15 * 0.85);
 }
 
 TEST_F(ViewTest, aListOfFoldersIsWalkedBeforeItIsEntered)
