@@ -2,6 +2,7 @@
 #include "desktop/drawing/quiet_style.h"
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QIconEngine>
 #include <QPainter>
+#include <QScreen>
 #include <QStyleOptionButton>
 #include <QStyleOptionMenuItem>
 #include <QStyleOptionSlider>
@@ -193,6 +195,16 @@ std::optional<host::BoxIcon> boxSignOf(QStyle::StandardPixmap sign)
     }
 }
 
+/// Not measured: the first measure of letters reads all typefaces, and the menu bar asks before the main window is shown.
+int likelyHeightOfLetters()
+{
+    constexpr double pointsPerInch = 72.0;
+    constexpr double lineShare = 1.164; ///< height of a line of the usual letters, by their size
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const double dots = screen == nullptr ? pointsPerInch : screen->logicalDotsPerInchY();
+    return static_cast<int>(std::ceil(QApplication::font().pointSizeF() * dots / pointsPerInch * lineShare));
+}
+
 QIcon iconOf(host::BoxIcon sign)
 {
     constexpr int sides[] = {32, 64, 128};
@@ -278,21 +290,22 @@ QSize QuietStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     QSize wanted = QProxyStyle::sizeFromContents(type, option, size, widget);
     if (option == nullptr)
         return wanted;
-    const int letters = option->fontMetrics.height();
+    // Asked for late: the first measure of letters reads all typefaces, and the main window is shown before.
+    const auto letters = [option] { return option->fontMetrics.height(); };
     const auto* item = type == CT_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
     if (item != nullptr && item->menuItemType != QStyleOptionMenuItem::Separator) {
-        wanted.setHeight(std::max(wanted.height(), static_cast<int>(letters * menuShare)));
+        wanted.setHeight(std::max(wanted.height(), static_cast<int>(letters() * menuShare)));
         // The mark's column is as wide as the line is high.
         wanted.rwidth() += std::max(0, wanted.height() - countedMark);
     }
     if (const auto* button = type == CT_PushButton ? qstyleoption_cast<const QStyleOptionButton*>(option) : nullptr) {
         const int caption = button->fontMetrics.size(Qt::TextShowMnemonic, button->text).width();
-        wanted.setWidth(std::max(wanted.width(), caption + 2 * static_cast<int>(letters * airShare)));
+        wanted.setWidth(std::max(wanted.width(), caption + 2 * static_cast<int>(letters() * airShare)));
     }
     if (const auto* frame = type == CT_MdiControls ? qstyleoption_cast<const QStyleOptionComplex*>(option) : nullptr) {
         const auto shown = [frame](const ButtonRow& row) { return (frame->subControls & row.part) != 0; };
         const auto count = std::count_if(std::begin(frameButtons), std::end(frameButtons), shown);
-        const int side = std::max(wanted.height(), static_cast<int>(letters * frameShare));
+        const int side = std::max(wanted.height(), static_cast<int>(letters() * frameShare));
         wanted = QSize(static_cast<int>(count) * (side + 1), side);
     }
     return wanted;
@@ -306,8 +319,10 @@ int QuietStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
         return std::max(usual, QFontMetrics(QApplication::font()).height() / 3);
     if (metric != PM_TitleBarHeight && metric != PM_SmallIconSize)
         return usual;
-    const double share = metric == PM_TitleBarHeight ? quiet_style_detail::titleShare : 1.0;
-    return std::max(usual, static_cast<int>(QFontMetrics(QApplication::font()).height() * share));
+    if (metric == PM_SmallIconSize)
+        return std::max(usual, quiet_style_detail::likelyHeightOfLetters());
+    return std::max(usual,
+                    static_cast<int>(QFontMetrics(QApplication::font()).height() * quiet_style_detail::titleShare));
 }
 
 // Captions say what the buttons of the toolkit's dialogs do, as everywhere in the program.
