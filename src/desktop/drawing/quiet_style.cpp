@@ -362,7 +362,10 @@ QIcon QuietStyle::standardIcon(StandardPixmap sign, const QStyleOption* option, 
     if (known != signs_.end())
         return known->second;
     const auto read = [this, sign] {
-        return sign == SP_TitleBarMenuButton ? programIcon() : QProxyStyle::standardIcon(sign, nullptr, nullptr);
+        if (sign != SP_TitleBarMenuButton)
+            return QProxyStyle::standardIcon(sign, nullptr, nullptr);
+        const QIcon drawn = QApplication::windowIcon();
+        return drawn.isNull() ? programIcon() : drawn;
     };
     return signs_.emplace(sign, QIcon(new quiet_style_detail::LateSign(read))).first->second;
 }
