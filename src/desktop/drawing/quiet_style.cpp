@@ -363,10 +363,7 @@ QIcon QuietStyle::standardIcon(StandardPixmap sign, const QStyleOption* option, 
     if (!quiet_style_detail::mayBeLate(sign))
         return signs_.emplace(sign, QProxyStyle::standardIcon(sign, option, widget)).first->second;
     const auto read = [this, sign] {
-        if (sign != SP_TitleBarMenuButton)
-            return QProxyStyle::standardIcon(sign, nullptr, nullptr);
-        const QIcon drawn = QApplication::windowIcon();
-        return drawn.isNull() ? programIcon() : drawn;
+        return sign == SP_TitleBarMenuButton ? programIcon() : QProxyStyle::standardIcon(sign, nullptr, nullptr);
     };
     return signs_.emplace(sign, QIcon(new quiet_style_detail::LateSign(read))).first->second;
 }

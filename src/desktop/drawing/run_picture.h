@@ -29,6 +29,7 @@ private:
 
     QSize size_; ///< in the device's pixels
     double ratio_ = 1.0;
+    std::uint32_t ground_ = 0; ///< the pixel in the corner; most of a drawing is paper
     /// Row by row, heads and what belongs to them: how often the one pixel that follows is repeated, or, with `severalMark`, how
     /// many pixels follow.
     std::vector<std::uint32_t> runs_;
