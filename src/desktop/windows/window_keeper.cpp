@@ -156,9 +156,10 @@ void WindowKeeper::gone(host::Window& window)
         giveKeyboardBack();
 }
 
-// To the tool that is in front now, else to the sheet.
 void WindowKeeper::giveKeyboardBack()
 {
+    if (desk_.closing)
+        return;
     const host::Window* current = desk_.engine->current();
     WindowFrame* frame =
         current != nullptr && current->role() == Role::tool && !current->spec().reading ? frameOf(*current) : nullptr;

@@ -53,6 +53,8 @@ public:
     void dialogClosed(QWidget* parent);
     /// The next window that is open beside the main one gets the keyboard.
     void nextPane();
+    /// The keyboard goes to the tool that is in front, else to the sheets.
+    void giveKeyboardBack();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -85,7 +87,6 @@ private:
     void turnTo(host::Window& window);
     void turnToPane(host::Window& pane);
     bool typeBehind(const QKeyEvent& event);
-    void giveKeyboardBack();
 
     Desk& desk_;
     QPointer<MainWindow> main_;
