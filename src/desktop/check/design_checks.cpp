@@ -158,6 +158,7 @@ void DesignChecks::handBack()
         if (QApplication::activeWindow() == nullptr)
             keeper->giveKeyboardBack();
     });
+    keeper_.seeToKeyboard();
 }
 
 // The report of this sheet if one is open; otherwise the sheet's own tool opens one, with what it writes.

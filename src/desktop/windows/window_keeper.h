@@ -55,6 +55,8 @@ public:
     void nextPane();
     /// The keyboard goes to the tool that is in front, else to the sheets.
     void giveKeyboardBack();
+    /// A window goes: where the keyboard turns up in no other one soon, it is asked for.
+    void seeToKeyboard();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
