@@ -38,6 +38,9 @@ using namespace print_course_detail;
 PrintCourse::PrintCourse(QWidget* parent, const Stage& stage, std::chrono::milliseconds until)
     : parent_(parent), stage_(stage), next_(until)
 {
+    // It speaks of no field: it stands in the middle.
+    stage_.inHand = stage_.behind = QRect();
+    stage_.beside = false;
     time_.start();
 }
 
@@ -68,6 +71,7 @@ void PrintCourse::show()
     bar_ = new QProgressBar;
     bar_->setTextVisible(false);
     bar_->setMinimumWidth(barLetters * text_->fontMetrics().averageCharWidth());
+    bar_->setFixedHeight(text_->fontMetrics().height() / 2);
     box_->add(bar_);
     QPushButton* cancel = box_->addButton(in(cancels, stage_.english));
     QObject::connect(cancel, &QPushButton::clicked, box_.get(), &QDialog::reject);
