@@ -73,7 +73,7 @@ MainWindow::MainWindow(Desk& desk, host::Window& model)
     setMinimumSize(main_window_detail::smallestWindow);
     menuBar()->hide();
     menus_ = new Menus(desk, model, *menuBar());
-    bars_ = new MenuBar(desk, *this, *menus_, model.spec().mainParts.windows);
+    bars_ = new MenuBar(desk, *this, *menus_, model.spec().mainParts);
     area_->setParent(middle_);
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     area_->setFrameShape(QFrame::NoFrame);
