@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSlider>
 #include <QTabWidget>
@@ -122,6 +123,17 @@ TEST_F(CheckWindowTest, showsAskedAndCourseBeforeTheSimulatorHasSpoken)
     EXPECT_EQ(cell("Vg", 3), QStringLiteral("…"));
     EXPECT_TRUE(
         static_cast<QPlainTextEdit&>(part("checkNetlist")).toPlainText().contains(QStringLiteral("Q1 c b e model_Q1")));
+}
+
+// On a large screen the letters are larger: the names of the quantities would be cut.
+TEST_F(CheckWindowTest, isAsLargeAsItsLettersAsk)
+{
+    const QSize room = open(nowhere).screen()->availableGeometry().size();
+    constexpr double scale = 0.7; // the screen of the tests is too small for larger ones
+    form2.desk().textScale = scale;
+    const QSize small = open(nowhere).size();
+    EXPECT_EQ(small.height(), qRound(720 * scale));
+    EXPECT_LT(small.height(), qRound(std::min(720.0, 0.94 * room.height())));
 }
 
 TEST_F(CheckWindowTest, saysInOneSentenceHowToGetASimulator)
