@@ -16,6 +16,7 @@
 
 #include "desktop/drawing/texts.h"
 #include "desktop/page_lines.h"
+#include "desktop/print_course.h"
 #include "desktop/windows/questions.h"
 
 namespace velmor::desktop {
@@ -111,7 +112,7 @@ int printedTwips(const host::Font& font, std::string_view text)
     return qRound(metrics->horizontalAdvance(shown(text).remove(QLatin1Char('\n'))));
 }
 
-QStringList printedLines(const host::PrintJob& job, double pageTwips)
+QStringList printedLines(const host::PrintJob& job, double pageTwips, const PrintProgress& goesOn)
 {
     const printing_detail::Widths widths(twipFont(job.font, job.fontSizeGiven));
     QString text = shown(job.text);
@@ -119,14 +120,17 @@ QStringList printedLines(const host::PrintJob& job, double pageTwips)
     text.replace(QLatin1Char('\n'), QLatin1Char('\r'));
     const WidthOf widthOf = [&widths](const QString& stretch) { return widths.of(stretch); };
     QStringList lines;
-    for (const QString& line : text.split(QLatin1Char('\r')))
+    for (const QString& line : text.split(QLatin1Char('\r'))) {
+        if (goesOn && !goesOn(0, 0))
+            return {};
         lines += brokenLine(printing_detail::withoutTabs(line), pageTwips, widthOf);
+    }
     while (lines.size() > 1 && lines.last().isEmpty())
         lines.removeLast();
     return lines;
 }
 
-bool printOn(QPagedPaintDevice& device, const host::PrintJob& job)
+bool printOn(QPagedPaintDevice& device, const host::PrintJob& job, const PrintProgress& goesOn)
 {
     QPainter painter;
     if (!painter.begin(&device))
@@ -139,23 +143,34 @@ bool printOn(QPagedPaintDevice& device, const host::PrintJob& job)
     const QFontMetricsF metrics(font);
     painter.setFont(font);
     painter.setPen(QColor::fromRgb(static_cast<QRgb>(job.font.color)));
-    double top = 0.0;
-    for (const QString& line : printedLines(job, width)) {
-        if (top + metrics.height() > height && top > 0.0) {
-            if (!device.newPage())
-                return false;
-            top = 0.0;
+    const QStringList lines = printedLines(job, width, goesOn);
+    if (lines.isEmpty())
+        return false;
+    // The last line of a page needs its own height alone.
+    const int perPage = std::max(1, 1 + static_cast<int>((height - metrics.height()) / metrics.lineSpacing()));
+    const int pages = static_cast<int>((lines.size() + perPage - 1) / perPage);
+    for (int page = 0; page < pages; ++page) {
+        if ((goesOn && !goesOn(page + 1, pages)) || (page > 0 && !device.newPage()))
+            return false;
+        double top = metrics.ascent();
+        for (const QString& line : lines.mid(qsizetype{page} * perPage, perPage)) {
+            painter.drawText(QPointF(0.0, top), line);
+            top += metrics.lineSpacing();
         }
-        painter.drawText(QPointF(0.0, top + metrics.ascent()), line);
-        top += metrics.lineSpacing();
     }
     return painter.end();
 }
 
-bool printTo(QPrinter& printer, const host::PrintJob& job)
+bool printTo(QPrinter& printer, const host::PrintJob& job, const PrintProgress& goesOn)
 {
     const QString file = printer.outputFormat() == QPrinter::PdfFormat ? printer.outputFileName() : QString();
-    return printOn(printer, job) && (file.isEmpty() || printing_detail::isWholePdf(file));
+    const auto orGivesUp = [&](int page, int pages) {
+        const bool goes = !goesOn || goesOn(page, pages);
+        if (!goes)
+            printer.abort(); // before the painter ends, which would close the job
+        return goes;
+    };
+    return printOn(printer, job, orGivesUp) && (file.isEmpty() || printing_detail::isWholePdf(file));
 }
 
 QString askAndPrint(QWidget* parent, const host::PrintJob& job, const Stage& stage, const FileProposal& proposal)
@@ -173,8 +188,18 @@ QString askAndPrint(QWidget* parent, const host::PrintJob& job, const Stage& sta
     dialog.setObjectName(QStringLiteral("printDialog"));
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    if (printTo(printer, job))
-        return printer.outputFileName();
+    bool cancelled = false;
+    {
+        PrintCourse course(parent, stage);
+        if (printTo(printer, job, [&course](int page, int pages) { return course.goesOn(page, pages); }))
+            return printer.outputFileName();
+        cancelled = course.isCancelled();
+    }
+    if (cancelled) {
+        if (QFileInfo(printer.outputFileName()).isFile())
+            QFile::remove(printer.outputFileName()); // what there is of it is no print-out
+        return {};
+    }
     const host::BiText& text = printing_detail::failed;
     askMessage(parent, {std::string(stage.english ? text.en : text.es), "Velmor", printing_detail::failedFlags}, stage);
     return {};

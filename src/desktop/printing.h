@@ -2,6 +2,8 @@
 // A text on paper: how wide it runs and how it falls into pages. Texts stay texts, so that a PDF can be searched.
 #pragma once
 
+#include <functional>
+
 #include <QFont>
 #include <QString>
 #include <QStringList>
@@ -17,6 +19,9 @@ namespace velmor::desktop {
 
 struct Stage;
 
+/// Hears which page of how many is on its way, 0 of 0 while the text is broken into lines, and says whether to go on.
+using PrintProgress = std::function<bool(int page, int pages)>;
+
 /// The font of a print-out, its size in points times 20, so that its widths come out in twips.
 QFont twipFont(const host::Font& font, bool sizeGiven = true);
 
@@ -24,15 +29,17 @@ QFont twipFont(const host::Font& font, bool sizeGiven = true);
 int printedTwips(const host::Font& font, std::string_view text);
 
 /// The lines of a job: the caller's carriage returns end a line, and what is wider than the page is broken at blanks.
-QStringList printedLines(const host::PrintJob& job, double pageTwips);
+/// None when it was not to go on.
+QStringList printedLines(const host::PrintJob& job, double pageTwips, const PrintProgress& goesOn = {});
 
-/// Prints on a device whose page is set. False when it cannot be written.
-bool printOn(QPagedPaintDevice& device, const host::PrintJob& job);
+/// Prints on a device whose page is set. False when it cannot be written, or was not to go on.
+bool printOn(QPagedPaintDevice& device, const host::PrintJob& job, const PrintProgress& goesOn = {});
 
 /// Prints on a printer or into its file. False when nothing can be read of it, also of a disk that became full.
-bool printTo(QPrinter& printer, const host::PrintJob& job);
+bool printTo(QPrinter& printer, const host::PrintJob& job, const PrintProgress& goesOn = {});
 
-/// Asks for the printer (or a PDF file) and prints; says so when it cannot be done. Returns the file that was written, if any.
+/// Asks for the printer (or a PDF file) and prints, with a word to the one who waits; says so when it cannot be done. Returns the
+/// file that was written, if any; of a print-out that was cancelled none is left.
 QString askAndPrint(QWidget* parent, const host::PrintJob& job, const Stage& stage, const FileProposal& proposal);
 
 } // namespace velmor::desktop

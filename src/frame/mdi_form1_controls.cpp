@@ -6,6 +6,7 @@
 #include "frame/button_drawings.h"
 #include "frame/mdi_form1.h"
 #include "frame/mdi_form1_layout.h"
+#include "frame/mdi_form1_menus.h"
 #include "frame/page_drawings.h"
 
 namespace velmor::main_window {
@@ -395,7 +396,12 @@ const host::WindowSpec spec{
     .create = create,
     .shownPlace = shownPlaceOf,
     .mainParts =
-        {.bar = Picture14, .welcome = SSPanel1, .windows = mnuVer, .pageStrip = pageStrip, .files = mnuArchivo},
+        {.bar = Picture14,
+         .welcome = SSPanel1,
+         .windows = mnuVer,
+         .pageStrip = pageStrip,
+         .files = mnuArchivo,
+         .menuNames = captionsOf},
 };
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)

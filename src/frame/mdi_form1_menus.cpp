@@ -122,4 +122,11 @@ const DesignItem* designOfSheet(std::string_view sheet)
     return found == designItems.end() ? nullptr : &*found;
 }
 
+host::BiText captionsOf(host::Handle item)
+{
+    const auto* const row = std::find_if(itemCaptions.begin(), itemCaptions.end(),
+                                         [item](const ItemCaption& caption) { return caption.item == item; });
+    return row == itemCaptions.end() ? host::BiText{} : row->caption;
+}
+
 } // namespace velmor::main_window

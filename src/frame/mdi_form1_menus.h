@@ -37,6 +37,9 @@ struct ItemCaption {
 /// Captions of the items that are neither designs nor heads of groups.
 extern const std::array<ItemCaption, 29> itemCaptions;
 
+/// What an item is called in either language; empty for designs and heads of groups.
+host::BiText captionsOf(host::Handle item);
+
 /// An item that needs windows which the program may not have; it is disabled at load when it has none of them.
 struct NeededWindow {
     host::Handle item = host::noControl;

@@ -66,6 +66,8 @@ struct MainParts {
     Handle windows = noControl; ///< menu that ends with the list of open children
     Place pageStrip{};          ///< the part of it that may lie over the children while a button talks
     Handle files = noControl;   ///< menu of files, behind whose items a screen may list the files opened last
+    /// What a menu is called in either language, whatever it shows now; null where they have one name alone.
+    BiText (*menuNames)(Handle menu) = nullptr;
 };
 
 /// Everything that is the same for all instances of a window.

@@ -1,9 +1,11 @@
 # SPDX-License-Identifier: MIT
 """A person at the real program: an X server and a window manager of its own, real keys and clicks, and what the screen
 shows, read as assistive technology reads it. Needs a session bus (see run.sh)."""
+import ctypes
 import os
 import re
 import shutil
+import struct
 import subprocess
 import tempfile
 import time
@@ -86,6 +88,18 @@ class Screen:
         """The manager obeys. One that has only taken the screen does not give the keyboard to windows that appear meanwhile."""
         self.ask("xdotool", "set_num_desktops", "2")
         return b"= 2" in self.ask("xprop", "-root", "_NET_NUMBER_OF_DESKTOPS")
+
+    def tell_of_keyboard(self, name):
+        """The window with that name hears that it is in front, and is not: a window manager comes late to what was asked."""
+        window = int(until(lambda: self.ask("xdotool", "search", "--onlyvisible", "--name", name).split(), name)[0])
+        x11 = ctypes.CDLL("libX11.so.6")
+        x11.XOpenDisplay.restype = ctypes.c_void_p
+        display = ctypes.c_void_p(x11.XOpenDisplay(self.display.encode()))
+        client_message = 33  # of X.h; the fields are those of XClientMessageEvent
+        event = struct.pack("@iLiPLLi5l96x", client_message, 0, 1, display.value, window,
+                            x11.XInternAtom(display, b"_NET_ACTIVE_WINDOW", 0), 32, 1, 0, 0, 0, 0)
+        x11.XSendEvent(display, ctypes.c_ulong(window), 0, ctypes.c_long(0), event)
+        x11.XCloseDisplay(display)
 
     def ask(self, *command):
         return subprocess.run(command, env=self.environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False).stdout

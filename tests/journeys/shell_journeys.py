@@ -128,6 +128,21 @@ class Tools(Shell):
         velmor.focused("ΔQIc")
 
 
+    def test_a_help_page_that_goes_before_it_gets_the_keyboard_leaves_it_to_the_field(self):
+        velmor = self.program
+        velmor.focused("ΔQIc")
+        velmor.key("Menu")
+        page = until(lambda: next((window for window in velmor.windows() if (window.get_name() or "").strip() == "Ayuda"),
+                                  None), "the help page")
+        # A press on a window asks for the keyboard, and the toolkit believes it to be there before it is.
+        self.screen.tell_of_keyboard("^ *Ayuda *$")
+        until(lambda: page.get_state_set().contains(Atspi.StateType.ACTIVE), "a page that believes it")
+        velmor.key("Escape")
+        velmor.focused("ΔQIc")
+        velmor.type("7")
+        velmor.wait_value("ΔQIc", "7")
+
+
 class Menus(Shell):
     def editor(self):
         velmor = self.program

@@ -31,9 +31,9 @@ using check_words::in;
 
 namespace check_window_detail {
 
-constexpr QSize wantedSize{1240, 720};
-constexpr double largestShare = 0.94; ///< of the screen
-constexpr int mostRowsShare = 62;     ///< of a hundred, of the height; the row in hand has the rest
+constexpr QSize wantedSize{1240, 720}; ///< with letters of the usual size
+constexpr double largestShare = 0.94;  ///< of the screen
+constexpr int mostRowsShare = 62;      ///< of a hundred, of the height; the row in hand has the rest
 
 bool sameRows(const check::Design& one, const check::Design& other)
 {
@@ -92,7 +92,7 @@ CheckWindow::CheckWindow(Desk& desk, std::string simulator, CheckDeeds deeds, QW
     recolor();
     relabel();
     const QSize most = room().size() * largestShare;
-    resize(wantedSize.boundedTo(most));
+    resize((wantedSize * desk.textScale).boundedTo(most));
     move(room().center() - rect().center());
 }
 

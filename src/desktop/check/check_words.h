@@ -53,7 +53,7 @@ inline constexpr BiText question   {"El curso calcula %1. El simulador medirá..
 inline constexpr BiText lower      {"&1  menos", "&1  less"};
 inline constexpr BiText same       {"&2  lo mismo", "&2  the same"};
 inline constexpr BiText higher     {"&3  más", "&3  more"};
-inline constexpr BiText openAll    {"Sin apostar: abrir &todo", "No bets: open &all"};
+inline constexpr BiText openAll    {"Sin apostar: abrir &todo", "No bets: &open all"};
 inline constexpr BiText sameMeans  {"Lo mismo: hasta un décimo más o menos; en una ganancia, 1 dB.",
                                     "The same: up to a tenth more or less; of a gain, 1 dB."};
 inline constexpr BiText guesses[]  {{"menos", "less"}, {"lo mismo", "the same"}, {"más", "more"}};
@@ -89,7 +89,7 @@ inline constexpr BiText flatTop    {"La cresta está aplastada.", "The crest is 
 inline constexpr BiText flatBottom {"El valle está aplastado.", "The trough is flattened."};
 inline constexpr BiText bothFlat   {"La cresta y el valle están aplastados.", "The crest and the trough are flattened."};
 inline constexpr BiText roundWave  {"Ambas mitades son casi iguales.", "Both halves are nearly alike."};
-inline constexpr BiText drive      {"En&trada", "&Input"};
+inline constexpr BiText drive      {"&Entrada", "&Input"};
 inline constexpr BiText driveName  {"Entrada, en veces la del curso", "Input, in times that of the course"};
 inline constexpr BiText driveAmount{"%1 × Ein = %2 pico", "%1 × Ein = %2 peak"};
 inline constexpr BiText thdAmount  {"salida: %1 Vpp, distorsión %2", "output: %1 Vpp, distortion %2"};

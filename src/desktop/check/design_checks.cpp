@@ -148,15 +148,17 @@ void DesignChecks::gone(const host::Window& sheet)
     handBack();
 }
 
-/// The keyboard goes back to where the check was asked for, once the window is gone; not every window manager sees to it.
+/// The keyboard goes back to the window that is in front for the engine, once the check is gone; not every window manager sees
+/// to it.
 void DesignChecks::handBack()
 {
     if (keeper_.mainWindow() == nullptr || desk_.closing)
         return;
-    QTimer::singleShot(0, keeper_.mainWindow(), [main = keeper_.mainWindow()] {
+    QTimer::singleShot(0, &keeper_, [keeper = &keeper_] {
         if (QApplication::activeWindow() == nullptr)
-            main->activateWindow();
+            keeper->giveKeyboardBack();
     });
+    keeper_.seeToKeyboard();
 }
 
 // The report of this sheet if one is open; otherwise the sheet's own tool opens one, with what it writes.

@@ -40,6 +40,7 @@ constexpr int likelyMenuHeight = 20;
 constexpr QSize smallestWindow(640, 420);
 constexpr double textShare = 0.8; ///< of the window's growth that menus and boxes take part in
 constexpr double largestTexts = 3.0;
+constexpr int maximised = 2; ///< state of a child
 
 double scaleFor(QSize inner)
 {
@@ -157,7 +158,7 @@ Menus& MainWindow::menus()
 {
     if (menus_ == nullptr) {
         menus_ = new Menus(desk_, *model_, *menuBar());
-        bars_ = new MenuBar(desk_, *this, *menus_, model_->spec().mainParts.windows);
+        bars_ = new MenuBar(desk_, *this, *menus_, model_->spec().mainParts);
     }
     return *menus_;
 }
@@ -198,6 +199,16 @@ void MainWindow::followChild(const host::Window* child, Menus* menus)
     bars_->follow(menus);
     rounds_->follow();
     followTitle(child);
+    followButtons(child);
+}
+
+// The buttons of a maximised child stand in the menu bar; while another one is in front, they would act on what lies behind it.
+void MainWindow::followButtons(const host::Window* child)
+{
+    const bool shown = child != nullptr && child->windowState() == main_window_detail::maximised;
+    for (const Qt::Corner corner : {Qt::TopLeftCorner, Qt::TopRightCorner})
+        if (QWidget* buttons = menuBar()->cornerWidget(corner); buttons != nullptr && buttons->isHidden() == shown)
+            buttons->setVisible(shown);
 }
 
 // A maximised child has no title of its own: the frame bears its name too.
@@ -205,9 +216,8 @@ void MainWindow::followTitle(const host::Window* child)
 {
     if (model_ == nullptr)
         return;
-    constexpr int maximised = 2;
     QString title = shownTitle(model_->caption()).simplified();
-    if (child != nullptr && child->windowState() == maximised)
+    if (child != nullptr && child->windowState() == main_window_detail::maximised)
         title += QStringLiteral(" - [%1]").arg(shownTitle(child->caption()).simplified());
     if (windowTitle() != title)
         setWindowTitle(title);

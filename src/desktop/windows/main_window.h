@@ -64,6 +64,7 @@ protected:
 
 private:
     void followTitle(const host::Window* child);
+    void followButtons(const host::Window* child);
     bool openMenu(host::Handle control);
     void pressBackground(const QMouseEvent& event);
     void layOutPanels();

@@ -85,10 +85,16 @@ void giveLetters(const QList<QAction*>& actions)
     }
 }
 
-MenuBar::MenuBar(Desk& desk, QMainWindow& window, Menus& own, Handle list)
-    : QObject(&window), desk_(desk), window_(window), own_(own), list_(list)
+MenuBar::MenuBar(Desk& desk, QMainWindow& window, Menus& own, const host::MainParts& parts)
+    : QObject(&window), desk_(desk), window_(window), own_(own), list_(parts.windows)
 {
-    QMenu* menu = list == noControl ? nullptr : own.menuOf(list);
+    // An editor may speak the language in which the program has not yet spoken.
+    for (const Handle top : own.tops())
+        if (parts.menuNames != nullptr)
+            for (const std::string_view name : {parts.menuNames(top).es, parts.menuNames(top).en})
+                if (!name.empty())
+                    names_[top].insert(menuName(shown(name)));
+    QMenu* menu = list_ == noControl ? nullptr : own.menuOf(list_);
     if (menu == nullptr)
         return;
     connect(menu, &QMenu::aboutToShow, this, [this, menu] { listChildren(*menu); });

@@ -21,7 +21,7 @@ namespace velmor::desktop {
 class MenuBar final : public QObject {
 public:
     /// `list` is the main window's menu that ends with the open children; noControl for none.
-    MenuBar(Desk& desk, QMainWindow& window, Menus& own, host::Handle list);
+    MenuBar(Desk& desk, QMainWindow& window, Menus& own, const host::MainParts& parts);
     ~MenuBar() override;
 
     /// The bar holds these menus too; null for the main window's alone.

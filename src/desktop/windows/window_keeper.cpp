@@ -24,6 +24,12 @@ namespace velmor::desktop {
 using host::noControl;
 using host::Role;
 
+namespace window_keeper_detail {
+
+constexpr int handOver = 250; ///< milliseconds in which the keyboard has come to another window, if it comes by itself
+
+} // namespace window_keeper_detail
+
 WindowKeeper::WindowKeeper(Desk& desk) : desk_(desk)
 {
     desk_.nextPane = [this] { nextPane(); };
@@ -154,11 +160,26 @@ void WindowKeeper::gone(host::Window& window)
     frame->farewell();
     if (hadKeyboard)
         giveKeyboardBack();
+    if (window.role() == Role::tool)
+        seeToKeyboard();
 }
 
-// To the tool that is in front now, else to the sheet.
+// A press on a window asks for the keyboard, and the toolkit believes it to be there before the window manager has obeyed. When
+// the window goes in between, the keyboard has been elsewhere all the time and nobody tells: the field would be without a caret.
+void WindowKeeper::seeToKeyboard()
+{
+    if (QGuiApplication::applicationState() != Qt::ApplicationActive)
+        return;
+    QTimer::singleShot(window_keeper_detail::handOver, this, [this] {
+        if (QApplication::activeWindow() == nullptr)
+            giveKeyboardBack();
+    });
+}
+
 void WindowKeeper::giveKeyboardBack()
 {
+    if (desk_.closing)
+        return;
     const host::Window* current = desk_.engine->current();
     WindowFrame* frame =
         current != nullptr && current->role() == Role::tool && !current->spec().reading ? frameOf(*current) : nullptr;

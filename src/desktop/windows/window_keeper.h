@@ -53,6 +53,10 @@ public:
     void dialogClosed(QWidget* parent);
     /// The next window that is open beside the main one gets the keyboard.
     void nextPane();
+    /// The keyboard goes to the tool that is in front, else to the sheets.
+    void giveKeyboardBack();
+    /// A window goes: where the keyboard turns up in no other one soon, it is asked for.
+    void seeToKeyboard();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -85,7 +89,6 @@ private:
     void turnTo(host::Window& window);
     void turnToPane(host::Window& pane);
     bool typeBehind(const QKeyEvent& event);
-    void giveKeyboardBack();
 
     Desk& desk_;
     QPointer<MainWindow> main_;

@@ -12,8 +12,11 @@
 #include <QImage>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QScrollArea>
+#include <QSet>
 #include <QSlider>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -122,6 +125,46 @@ TEST_F(CheckWindowTest, showsAskedAndCourseBeforeTheSimulatorHasSpoken)
     EXPECT_EQ(cell("Vg", 3), QStringLiteral("…"));
     EXPECT_TRUE(
         static_cast<QPlainTextEdit&>(part("checkNetlist")).toPlainText().contains(QStringLiteral("Q1 c b e model_Q1")));
+}
+
+// A letter that two have presses neither.
+TEST_F(CheckWindowTest, givesNoLetterTwiceInEitherLanguage)
+{
+    if (!ngspiceIsThere())
+        GTEST_SKIP() << "no ngspice";
+    for (const bool english : {false, true}) {
+        form2.speak(english);
+        desktop::CheckWindow& window = open({});
+        ASSERT_TRUE(waitForCheck(window));
+        choose("QIc");
+        QStringList captions;
+        for (const auto* button : window.findChildren<QAbstractButton*>())
+            captions += button->text();
+        for (const auto* label : window.findChildren<QLabel*>())
+            captions += label->buddy() == nullptr ? QString() : label->text();
+        for (const auto* tabs : window.findChildren<QTabBar*>())
+            for (int i = 0; i < tabs->count(); ++i)
+                captions += tabs->tabText(i);
+        QSet<QString> letters;
+        for (const QString& caption : captions) {
+            const QString letter = QKeySequence::mnemonic(caption).toString();
+            EXPECT_FALSE(letters.contains(letter)) << caption.toStdString();
+            if (!letter.isEmpty())
+                letters.insert(letter);
+        }
+        EXPECT_GT(letters.size(), 10);
+    }
+}
+
+// On a large screen the letters are larger: the names of the quantities would be cut.
+TEST_F(CheckWindowTest, isAsLargeAsItsLettersAsk)
+{
+    const QSize room = open(nowhere).screen()->availableGeometry().size();
+    constexpr double scale = 0.7; // the screen of the tests is too small for larger ones
+    form2.desk().textScale = scale;
+    const QSize small = open(nowhere).size();
+    EXPECT_EQ(small.height(), qRound(720 * scale));
+    EXPECT_LT(small.height(), qRound(std::min(720.0, 0.94 * room.height())));
 }
 
 TEST_F(CheckWindowTest, saysInOneSentenceHowToGetASimulator)

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMdiArea>
 #include <QMenu>
+#include <QMenuBar>
 
 #include <gtest/gtest.h>
 
@@ -78,6 +79,29 @@ TEST_F(ChildStateTest, aNewSheetIsShownMaximisedBesideAMaximisedOneAndNormalOthe
     Bench::settle();
     EXPECT_EQ(third.windowState(), 0);
     EXPECT_EQ(frame(third).geometry(), on.screen.desk().pixelsOf(third.place()));
+}
+
+// They would restore, or close, what lies behind the sheet in hand.
+TEST_F(ChildStateTest, theButtonsOfAMaximisedSheetGoWhileAnotherIsInFront)
+{
+    host::Window& first = sheet();
+    choose(main_window::once);
+    host::Window& second = sheet();
+    const auto buttons = [&] {
+        const QWidget* corner = on.main().menuBar()->cornerWidget(Qt::TopRightCorner);
+        return corner != nullptr && corner->isVisible();
+    };
+    EXPECT_FALSE(buttons());
+    frame(second).showMaximized();
+    Bench::settle();
+    EXPECT_TRUE(buttons());
+    on.engine.userActivate(first);
+    Bench::settle();
+    EXPECT_FALSE(buttons());
+    EXPECT_FALSE(frame(first).isMaximized());
+    on.engine.userActivate(second);
+    Bench::settle();
+    EXPECT_TRUE(buttons());
 }
 
 TEST_F(ChildStateTest, theMenuOfTheFrameOpensByKeyInTheLanguageOfTheMomentAndMaximisesTheSheet)

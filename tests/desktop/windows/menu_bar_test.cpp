@@ -87,6 +87,19 @@ TEST_F(MenuBarTest, menusOfOneNameAreOneAlsoInTwoLanguages)
     expectLettersOnce(bar());
 }
 
+// So it is with an English report that was kept, when the program starts in Spanish.
+TEST_F(MenuBarTest, menusOfOneNameAreOneInALanguageThatTheProgramHasNotSpokenYet)
+{
+    on.engine.values().LanguageIsEnglish = host::trueValue; // for the editor alone: the menus were written before
+    on.show("frmEdito3");
+    const QStringList names = namesOf(bar());
+    for (const char* english : {"archive", "edit", "window", "help"})
+        EXPECT_FALSE(names.contains(english)) << names.join(u' ').toStdString();
+    EXPECT_EQ(names.count("archivo"), 1);
+    EXPECT_TRUE(names.contains("format"));
+    expectLettersOnce(bar());
+}
+
 TEST_F(MenuBarTest, anEditorsMenusStandInTheBarAndMenusOfOneNameAreOne)
 {
     const QStringList before = namesOf(bar());
