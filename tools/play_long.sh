@@ -23,12 +23,21 @@ twins=$root/build/asan-core/bin/velmor-twins
 logs=$root/build/asan-core/games
 mkdir -p "$logs"
 
-# play_real: the games on the real windows. An event that takes too long is named and ends them.
+# What the sanitizer keeps of memory that is gone: 16 MB of it, and five frames of who took it. More costs time and hundreds of
+# megabytes, and a fault comes again with its seed, to be looked at with all there is.
+export ASAN_OPTIONS=malloc_context_size=5:quarantine_size_mb=16${ASAN_OPTIONS:+:$ASAN_OPTIONS}
+
+# Real games are played some at a time, by as many programs as there are processors. An even number: every second is rude.
+real_games=$((events / 10000 + 1))
+real_share=20
+
+# play_real FIRST: a share of the games on the real windows. An event that takes too long is named and ends them.
 play_real() {
-    local log=$logs/real.log
+    local first=$1 games=$((real_games - $1 < real_share ? real_games - $1 : real_share))
+    local log=$logs/real-$first.log
     if LSAN_OPTIONS=suppressions=$root/tests/leaks.supp:print_suppressions=0 VELMOR_PATIENCE=8 \
-        "$root/build/asan/bin/velmor-window-player" $((events / 10000 + 1)) 2500 "$seed" >"$log" 2>&1; then
-        say "real windows: $(tail -n 1 "$log")"
+        "$root/build/asan/bin/velmor-window-player" "$games" 2500 $((seed + first)) >"$log" 2>&1; then
+        say "real windows, $games games from seed $((seed + first)): $(tail -n 1 "$log")"
     else
         say "real windows: FAULT, see $log"
         return 1
@@ -42,11 +51,25 @@ if ((${#windows[@]} == 0)); then
 fi
 [[ " ${windows[*]} " != *" real "* ]] || build asan velmor-window-player
 
+# One word for each game, "real" taken apart.
+words() {
+    local window first
+    for window in "${windows[@]}"; do
+        if [[ $window != real ]]; then
+            printf '%s\n' "$window"
+            continue
+        fi
+        for ((first = 0; first < real_games; first += real_share)); do
+            printf 'real:%s\n' "$first"
+        done
+    done
+}
+
 # play WINDOW: one game; its log tells what was reached. The seed repeats it.
 play() {
     local window=$1
-    if [[ $window == real ]]; then
-        play_real
+    if [[ $window == real:* ]]; then
+        play_real "${window#real:}"
         return
     fi
     local -a only=(--window "$window")
@@ -60,7 +83,7 @@ play() {
 }
 # play_twins WINDOW: copies of a game around a window, each played on for some two hundred events.
 play_twins() {
-    [[ $1 != real ]] || return 0
+    [[ $1 != real:* ]] || return 0
     if "$twins" "$1" $((events / 20000 + 1)) "$seed" >"$logs/$1.twins.log" 2>&1; then
         say "$1, twins: $(head -n 1 "$logs/$1.twins.log")"
     else
@@ -69,9 +92,9 @@ play_twins() {
     fi
 }
 export -f play play_twins play_real say
-export player twins logs events seed root
+export player twins logs events seed root real_games real_share
 
 say "Playing $events events on each of ${#windows[@]} windows, seed $seed; logs in $logs"
 # shellcheck disable=SC2016  # the inner shell expands it
-printf '%s\n' "${windows[@]}" | xargs -P "$(nproc)" -I{} bash -c 'play "$1" && play_twins "$1"' _ {} || stop "Something is wrong."
+words | xargs -P "$(nproc)" -I{} bash -c 'play "$1" && play_twins "$1"' _ {} || stop "Something is wrong."
 say "No fault"

@@ -30,6 +30,8 @@ struct Expected {
     Measured asked{};      ///< what stood in the field when the student left it
     Measured course{};     ///< in the unit of the quantity
     host::BiText reason{}; ///< why the simulator parts from it on this sheet, where that is its own
+
+    friend bool operator==(const Expected&, const Expected&) = default;
 };
 
 /// A finished design, taken off its sheet. Values only, but for the table, which lives as long as the program.
@@ -40,6 +42,8 @@ struct Design {
     double fo = 0;       ///< Hz
     double mostPeak = 0; ///< A, of a class B output: Ibias x Beta; 0 where it is no question
     std::vector<Expected> rows{};
+
+    friend bool operator==(const Design&, const Design&) = default;
 };
 
 /// True while the design of the sheet has come to its end; only then has it values to check.

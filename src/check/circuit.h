@@ -32,12 +32,16 @@ struct Part {
     std::string emitter{};
     double value = 0;
     double beta = 0;
+
+    friend bool operator==(const Part&, const Part&) = default;
 };
 
 /// Two temperatures between which the quiescent current may drift, degrees Celsius.
 struct Temperatures {
     double from = 20;
     double to = 75;
+
+    friend bool operator==(const Temperatures&, const Temperatures&) = default;
 };
 
 struct Circuit {
@@ -50,6 +54,8 @@ struct Circuit {
     std::optional<Temperatures> drift{};
     std::size_t drifting = 1;           ///< the transistor that is looked at then, from 1
     std::vector<std::string> assumed{}; ///< written into the netlist as comments
+
+    friend bool operator==(const Circuit&, const Circuit&) = default;
 };
 
 /// IS of a transistor = QIc / (e^(Vj / VT) - 1), A from A and V: it then carries QIc at Vj.

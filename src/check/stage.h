@@ -91,6 +91,8 @@ struct Stage {
     double outputQIc = 0;        ///< A, of the output transistor
     double outputBeta = 0;       ///< of all transistors between the driver and the output
     bool middleGrounded = false; ///< Rb1 in two halves, their middle taken to ground for the signal
+
+    friend bool operator==(const Stage&, const Stage&) = default;
 };
 
 /// Two resistors side by side, ohm; 0 stands for one that is not there.

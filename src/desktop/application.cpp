@@ -5,20 +5,21 @@
 
 #include <QEvent>
 #include <QMdiSubWindow>
+#include <QStyle>
 #include <QTimer>
 
 #include "desktop/canvas/control_pane.h"
-#include "desktop/drawing/program_icon.h"
 #include "desktop/drawing/quiet_style.h"
 
 namespace velmor::desktop {
 
 namespace application_detail {
 
-// Drawn when the first window is on its way to the screen. The frame of the first sheet has asked for it by then and must be told.
+// Given when the first window is on its way to the screen. The frame of the first sheet has asked for it by then, which has it
+// drawn, and must be told.
 void showIcon()
 {
-    QApplication::setWindowIcon(programIcon());
+    QApplication::setWindowIcon(QApplication::style()->standardIcon(QStyle::SP_TitleBarMenuButton));
     for (QWidget* widget : QApplication::allWidgets())
         if (qobject_cast<QMdiSubWindow*>(widget) != nullptr) {
             QEvent changed(QEvent::WindowIconChange);

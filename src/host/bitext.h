@@ -19,6 +19,7 @@ struct BiText {
     {
         return languageIsEnglish == trueValue ? en : es;
     }
+    friend constexpr bool operator==(const BiText&, const BiText&) = default;
 };
 
 } // namespace velmor::host

@@ -116,7 +116,9 @@ public:
     /// The sheet that is being asked whether it may close, while the program's end asks them all; null otherwise. A screen brings
     /// it to the front; it is not active for that.
     Window* askedAbout() const { return askedAbout_; }
-    std::vector<Window*> windows() const;                      ///< loaded, in order of creation
+    std::vector<Window*> windows() const; ///< loaded, in order of creation
+    /// The same without a copy, for loops in which none comes or goes.
+    std::span<const std::unique_ptr<Window>> held() const { return windows_; }
     Window* instance(std::string_view name, int number) const; ///< number counted from 1; 0 the newest
     Window* defaultInstance(std::string_view name) const;
     bool isLoaded(const Window* window) const;

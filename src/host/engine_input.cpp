@@ -61,7 +61,8 @@ FocusMove Engine::moveFocus(Window& window, Handle target, bool force)
         if (window.gone_ || ended_ || window.focusMoves_ != move)
             return FocusMove::superseded;
     }
-    trace("focus " + std::string(window.name()) + " " + nameOf(old) + " -> " + nameOf(target));
+    if (trace_)
+        trace("focus " + std::string(window.name()) + " " + nameOf(old) + " -> " + nameOf(target));
     window.focus_ = target;
     if (target == noControl)
         return FocusMove::moved;

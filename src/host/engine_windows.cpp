@@ -38,6 +38,7 @@ Window& Engine::mainWindow()
 std::vector<Window*> Engine::windows() const
 {
     std::vector<Window*> result;
+    result.reserve(windows_.size());
     for (const std::unique_ptr<Window>& window : windows_)
         result.push_back(window.get());
     return result;

@@ -2,7 +2,6 @@
 // State of a window's controls: setting it notes the change for whoever shows the window.
 #include "host/window.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "host/engine.h"
@@ -21,13 +20,17 @@ char folded(char letter)
 
 bool sameName(std::string_view one, std::string_view other)
 {
+    if (one.size() != other.size())
+        return false;
     // From behind: what is confused with "Text12" is "Text13".
-    return std::equal(one.rbegin(), one.rend(), other.rbegin(), other.rend(),
-                      [](char a, char b) { return window_detail::folded(a) == window_detail::folded(b); });
+    for (std::size_t at = one.size(); at-- > 0;)
+        if (one[at] != other[at] && window_detail::folded(one[at]) != window_detail::folded(other[at]))
+            return false;
+    return true;
 }
 
 Window::Window(SheetHost& host, const WindowSpec& spec)
-    : host_(host), spec_(spec), caption_(spec.caption), place_(spec.place)
+    : host_(host), spec_(spec), slots_(SlotIndex::of(spec)), caption_(spec.caption), place_(spec.place)
 {
     controls_.reserve(spec.controls.size());
     for (const ControlRow& row : spec.controls) {
@@ -217,12 +220,12 @@ void Window::setPlace(const Place& place)
 
 bool Window::hasSlot(Handle control, Event event) const
 {
-    return SlotIndex::of(spec_).find(control, event) != nullptr;
+    return slots_.find(control, event) != nullptr;
 }
 
 bool Window::runSlot(Handle control, Event event, EventArgs& args)
 {
-    const SlotFunction function = SlotIndex::of(spec_).find(control, event);
+    const SlotFunction function = slots_.find(control, event);
     if (function == nullptr)
         return false;
     ++otherStirrings_;

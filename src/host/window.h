@@ -19,6 +19,7 @@
 namespace velmor::host {
 
 class SheetHost;
+class SlotIndex;
 class StepHistory;
 class Window;
 
@@ -237,6 +238,7 @@ private:
 
     SheetHost& host_;
     const WindowSpec& spec_;
+    const SlotIndex& slots_;
     std::vector<Control> controls_;
     std::map<Handle, std::unique_ptr<TextStore>> stores_;
     std::map<Handle, ListState> lists_;

@@ -191,7 +191,25 @@ TEST(OtherInstanceTest, theSecondSeesTheFirstAndNotAfterItsEnd)
         const desktop::OtherInstance second(folder.filePath("mark"));
         EXPECT_TRUE(second.running());
     }
+    EXPECT_FALSE(QFileInfo::exists(folder.filePath("mark"))) << "nothing is left behind";
     EXPECT_FALSE(desktop::OtherInstance(folder.filePath("mark")).running());
+}
+
+TEST(OtherInstanceTest, theSecondLeavesTheMarkOfTheFirst)
+{
+    const QTemporaryDir folder;
+    const desktop::OtherInstance first(folder.filePath("mark"));
+    EXPECT_TRUE(desktop::OtherInstance(folder.filePath("mark")).running());
+    EXPECT_TRUE(desktop::OtherInstance(folder.filePath("mark")).running())
+        << "the one that has ended was not the holder";
+}
+
+TEST(OtherInstanceTest, whatACrashLeavesDoesNotCountAndWhatCannotBeMadeDoesNoHarm)
+{
+    const QTemporaryDir folder;
+    write(folder.filePath("mark"), "4711\nvelmor\n");
+    EXPECT_FALSE(desktop::OtherInstance(folder.filePath("mark")).running());
+    EXPECT_FALSE(desktop::OtherInstance("/proc/mark").running());
 }
 
 TEST(DocumentStoreTest, positionsCountCharacters)

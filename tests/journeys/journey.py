@@ -348,9 +348,13 @@ class Program:
         self.see("^Archive$" if english else "^Archivo$", "menu item")
 
     def choose(self, *items):
-        """Clicks one menu item after the other."""
+        """Clicks one menu item after the other. Newer toolkits take a pointer for a hand's only when it comes in steps, and close
+        a menu on a click that none led up to."""
         for item in items:
-            self.press(self.see("^" + re.escape(item) + "$", "menu item"))
+            x, y, width, height = self.at_rest(self.see("^" + re.escape(item) + "$", "menu item"))
+            for left in range(8, -1, -1):
+                self.tool("mousemove", str(x + width // 2 - left), str(y + height // 2), "sleep", "0.01")
+            self.tool("click", "1")
 
     def name_file(self, path):
         """Types a name into the dialog of files that opens, and sees the dialog go."""

@@ -162,6 +162,10 @@ constexpr Allowance allowances[] = {
     {"rules/whole_file.cpp", "sys/stat.h",  "and gives it the rights of the old one"},
     {"rules/whole_file.cpp", "unistd.h",    "and waits until the disk has it"},
     {"rules/whole_file.h",   "sys/types.h", "whose system calls a test replaces"},
+    {"desktop/other_instance.cpp", "fcntl.h",    "a running program marks itself"},
+    {"desktop/other_instance.cpp", "sys/file.h", "with a lock that the system drops with it"},
+    {"desktop/other_instance.cpp", "sys/stat.h", "on a file that nobody has taken away meanwhile"},
+    {"desktop/other_instance.cpp", "unistd.h",   "and that goes with the program"},
 };
 // clang-format on
 

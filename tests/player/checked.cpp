@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "player/checked.h"
 
+#include <algorithm>
+#include <memory>
 #include <sstream>
+#include <utility>
 
-#include "check/check.h"
 #include "check/table_text.h"
 #include "designs/circuits.h"
 
@@ -33,13 +35,12 @@ bool isPlain(const std::string& deck)
     return deck.ends_with("\n.end\n");
 }
 
-std::string faultOf(const host::Window& sheet, const check::SheetTable& table)
+std::string faultOf(std::string_view sheet, const check::Design& design)
 {
-    const check::Design design = check::designOf(sheet, table);
     Deaf simulator;
     const check::Check check = check::checkDesign(design, simulator);
     const bool isImpossible = check.end == check::CheckEnd::impossible;
-    const std::string name(sheet.name());
+    const std::string name(sheet);
     if (check.rows.empty() || check.excuse.en.empty())
         return "the check of " + name + " says nothing";
     if (isImpossible != simulator.heard.empty())
@@ -51,14 +52,34 @@ std::string faultOf(const host::Window& sheet, const check::SheetTable& table)
 
 } // namespace checked_detail
 
-std::string checkFault(const host::Engine& engine, int& checked)
+std::string DesignChecks::faultOf(const host::Window& sheet, const check::SheetTable& table)
 {
-    for (const host::Window* window : engine.windows()) {
+    const auto [found, isNew] = seen_.try_emplace(sheet.serial());
+    Seen& seen = found->second;
+    if (!isNew && seen.stirrings == sheet.stirrings())
+        return {};
+    seen.stirrings = sheet.stirrings();
+    check::Design design = check::designOf(sheet, table);
+    if (!isNew && seen.design == design)
+        return {};
+    seen.design = std::move(design);
+    ++worked_;
+    return checked_detail::faultOf(sheet.name(), seen.design);
+}
+
+std::string DesignChecks::faultOf(const host::Engine& engine)
+{
+    std::erase_if(seen_, [&](const auto& seen) {
+        return std::none_of(engine.held().begin(), engine.held().end(),
+                            [&](const auto& window) { return window->serial() == seen.first; });
+    });
+    for (const std::unique_ptr<host::Window>& window : engine.held()) {
+        if (window->role() != host::Role::sheet)
+            continue;
         const check::SheetTable* table = designs::circuitTableOf(window->name());
         if (table == nullptr || !check::isAwake(*window, *table))
             continue;
-        ++checked;
-        if (const std::string fault = checked_detail::faultOf(*window, *table); !fault.empty())
+        if (std::string fault = faultOf(*window, *table); !fault.empty())
             return fault;
     }
     return {};

@@ -3,7 +3,8 @@
 #include "player/consistency.h"
 
 #include <cctype>
-#include <set>
+#include <memory>
+#include <span>
 #include <vector>
 
 #include "sheets/design_sheet.h"
@@ -29,7 +30,8 @@ std::string faultOf(const Window& window)
         return "the focus is on " + std::string(window.row(held).name) + ", which cannot hold it";
     if (window.windowState() < 0 || window.windowState() > 2)
         return "the window is neither normal, minimised nor maximised";
-    const auto* sheet = dynamic_cast<const sheets::DesignSheet*>(&window);
+    const auto* sheet =
+        window.role() == host::Role::sheet ? dynamic_cast<const sheets::DesignSheet*>(&window) : nullptr;
     if (sheet != nullptr && !(sixteenBitBoolean(sheet->OperCancelo()) && sixteenBitBoolean(sheet->modificado())))
         return "a boolean of the sheet is neither -1 nor 0";
     return {};
@@ -65,13 +67,30 @@ bool overlap(const host::Place& one, const host::Place& other)
            one.top < other.top + other.height && other.top < one.top + one.height;
 }
 
-std::vector<host::Handle> visibleFields(const Window& window)
+struct SeenField {
+    host::Handle field = noControl;
+    host::Place place{};
+};
+
+std::vector<SeenField> visibleFields(const Window& window)
 {
-    std::vector<host::Handle> fields;
+    std::vector<SeenField> fields;
     for (const host::ControlRow& row : window.spec().controls)
         if (row.kind == host::Kind::field && !row.overlay && window.visible(row.id))
-            fields.push_back(row.id);
+            fields.push_back({row.id, host::shownPlace(window, row.id)});
     return fields;
+}
+
+/// Another default instance of the same window among those that were opened before it.
+bool hasDefaultTwin(const Window& window, std::span<const std::unique_ptr<Window>> open)
+{
+    for (const std::unique_ptr<Window>& other : open) {
+        if (other.get() == &window)
+            return false;
+        if (other->isDefaultInstance() && other->name() == window.name())
+            return true;
+    }
+    return false;
 }
 
 std::string shortened(const std::string& text)
@@ -90,9 +109,8 @@ std::string engineFault(host::Engine& engine)
         return fault;
     if (std::string fault = faultOfValues(engine.values()); !fault.empty())
         return fault;
-    std::set<std::string_view> defaults;
-    for (const Window* window : engine.windows()) {
-        if (window->isDefaultInstance() && !defaults.insert(window->name()).second)
+    for (const std::unique_ptr<Window>& window : engine.held()) {
+        if (window->isDefaultInstance() && hasDefaultTwin(*window, engine.held()))
             return "two default instances of " + std::string(window->name());
         if (std::string fault = faultOf(*window); !fault.empty())
             return std::string(window->name()) + ": " + fault;
@@ -103,7 +121,7 @@ std::string engineFault(host::Engine& engine)
 std::string textFault(host::Engine& engine)
 {
     using namespace consistency_detail;
-    for (Window* window : engine.windows())
+    for (const std::unique_ptr<Window>& window : engine.held())
         for (const host::Handle control : window->takeChanges()) {
             const std::string& text = window->text(control);
             const char* fault = !isUtf8(text)                        ? "is no UTF-8"
@@ -120,13 +138,13 @@ std::string textFault(host::Engine& engine)
 std::string fieldFault(const host::Engine& engine)
 {
     using namespace consistency_detail;
-    for (const Window* window : engine.windows()) {
-        const std::vector<host::Handle> fields = visibleFields(*window);
+    for (const std::unique_ptr<Window>& window : engine.held()) {
+        const std::vector<SeenField> fields = visibleFields(*window);
         for (std::size_t i = 0; i < fields.size(); ++i)
             for (std::size_t k = i + 1; k < fields.size(); ++k)
-                if (overlap(host::shownPlace(*window, fields[i]), host::shownPlace(*window, fields[k])))
-                    return std::string(window->name()) + ": " + std::string(window->row(fields[i]).name) +
-                           " is seen upon " + std::string(window->row(fields[k]).name);
+                if (overlap(fields[i].place, fields[k].place))
+                    return std::string(window->name()) + ": " + std::string(window->row(fields[i].field).name) +
+                           " is seen upon " + std::string(window->row(fields[k].field).name);
     }
     return {};
 }

@@ -70,6 +70,7 @@ int play(const Options& options)
     const std::vector<std::string> tooFew = player.coverage().shortOf(options.game.onlyWindow);
     for (const std::string& window : tooFew)
         std::cout << window << ": less than nine in ten slots were reached\n";
+    std::cout << player.checks() << " finished designs were checked\n";
     std::cout << player.events() << " events, no fault" << std::endl;
     return tooFew.empty() ? 0 : 1;
 }

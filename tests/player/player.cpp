@@ -6,8 +6,6 @@
 #include <exception>
 #include <utility>
 
-#include "player/checked.h"
-
 namespace velmor::player {
 
 namespace player_detail {
@@ -37,6 +35,7 @@ void Player::makeProgram()
         onProgram(nullptr);
     failureKind_.clear();
     order_ = {};
+    designChecks_.startAgain();
     engine_.reset();
     screen_ = std::make_unique<PlayerScreen>(chance_, *ground_);
     engine_ = std::make_unique<host::Engine>(program_.catalogue, *screen_, settings_);
@@ -138,12 +137,11 @@ void Player::move()
 
 void Player::keepWindowsFew()
 {
-    const std::vector<host::Window*> open = engine_->windows();
-    if (open.size() <= game_.windowCap)
+    if (engine_->held().size() <= game_.windowCap)
         return;
-    std::vector<host::Window*> closable;
-    std::copy_if(open.begin(), open.end(), std::back_inserter(closable), [](const host::Window* window) {
-        return window->role() != host::Role::mainWindow && window->role() != host::Role::palette;
+    std::vector<host::Window*> closable = engine_->windows();
+    std::erase_if(closable, [](const host::Window* window) {
+        return window->role() == host::Role::mainWindow || window->role() == host::Role::palette;
     });
     if (!closable.empty())
         perform({.act = Act::close, .window = chance_.one(closable)});
@@ -178,7 +176,7 @@ void Player::check()
 {
     using player_detail::designsLookedAt;
     using player_detail::fieldsLookedAt;
-    for (const host::Window* window : engine_->windows())
+    for (const std::unique_ptr<host::Window>& window : engine_->held())
         if (window->serial() > newestWindow_) {
             newestWindow_ = window->serial();
             coverage_.leaveOut(*window);
@@ -191,7 +189,7 @@ void Player::check()
     if (fault.empty() && events_ % fieldsLookedAt == 0)
         fault = fieldFault(*engine_);
     if (fault.empty() && !engine_->ended() && events_ % designsLookedAt == 0)
-        fault = checkFault(*engine_, checks_);
+        fault = designChecks_.faultOf(*engine_);
     if (!fault.empty())
         report(fault);
 }

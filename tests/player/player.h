@@ -14,6 +14,7 @@
 #include "console/walk.h"
 #include "host/settings_store.h"
 #include "player/chance.h"
+#include "player/checked.h"
 #include "player/consistency.h"
 #include "player/coverage.h"
 #include "player/player_screen.h"
@@ -93,8 +94,8 @@ public:
     bool play(std::uint64_t events);
     /// What is wrong, with seed, event number and the last events before it.
     const std::string& fault() const { return fault_; }
-    /// Finished designs whose checks were looked at.
-    int checks() const { return checks_; }
+    /// Finished designs whose checks were worked out.
+    int checks() const { return designChecks_.worked(); }
     const Coverage& coverage() const { return coverage_; }
     const Playground& ground() const { return *ground_; }
     /// A second player that goes on with this very game in a program of its own, whose windows were opened from the texts of
@@ -175,7 +176,7 @@ private:
     std::string orderFault_;
     std::string failureKind_;
     std::string fault_;
-    int checks_ = 0;
+    DesignChecks designChecks_;
     std::deque<Remembered> history_;
     std::string log_;
     bool logged_ = false;

@@ -17,19 +17,18 @@ using host::Window;
 
 std::vector<Window*> Player::shownWindows() const
 {
-    std::vector<Window*> shown;
-    for (Window* window : engine_->windows())
-        if (window->shown() || window->role() == host::Role::mainWindow)
-            shown.push_back(window);
+    std::vector<Window*> shown = engine_->windows();
+    std::erase_if(shown,
+                  [](const Window* window) { return !window->shown() && window->role() != host::Role::mainWindow; });
     return shown;
 }
 
 // While a modal window stands, a person reaches no other.
 Window* Player::modalWindow() const
 {
-    for (Window* window : engine_->windows())
+    for (const std::unique_ptr<Window>& window : engine_->held())
         if (window->spec().modal && window->shown())
-            return window;
+            return window.get();
     return nullptr;
 }
 

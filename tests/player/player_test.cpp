@@ -103,6 +103,24 @@ TEST(Player, TheSameSeedPlaysTheSameGame)
     EXPECT_EQ(played[0], played[1]);
 }
 
+// A current source is the shortest design. One that stands there finished is worked out once, however often it is looked at.
+TEST(Player, ADesignThatStandsAsItStoodIsCheckedOnce)
+{
+    Player player(console::wholeProgram(), {.seed = 1, .onlyWindow = "Form12", .straight = true});
+    DesignChecks checks;
+    for (int events = 0; events < 10'000 && checks.worked() == 0; ++events) {
+        ASSERT_TRUE(player.play(1)) << player.fault();
+        ASSERT_EQ(checks.faultOf(player.engine()), "");
+    }
+    ASSERT_EQ(checks.worked(), 1);
+    EXPECT_EQ(checks.faultOf(player.engine()), "");
+    EXPECT_EQ(checks.worked(), 1) << "nothing has stirred";
+    EXPECT_EQ(DesignChecks().faultOf(player.engine()), "");
+    ASSERT_TRUE(player.play(5'000)) << player.fault();
+    EXPECT_EQ(checks.faultOf(player.engine()), "");
+    EXPECT_GT(player.checks(), 1) << "each design of the game is another";
+}
+
 // No state is global: a second program in the same process is not felt by the first.
 TEST(Player, TwoProgramsPlayedInTurnDoNotFeelEachOther)
 {

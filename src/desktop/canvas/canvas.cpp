@@ -240,12 +240,12 @@ void Canvas::paintGround(QPainter& painter, const QRect& box) const
     painter.fillRect(box, onDesk ? view_.inks->desk : view_.inks->paper);
 }
 
-void Canvas::paintPicture(QPainter& painter, const QPixmap& picture) const
+void Canvas::paintPicture(QPainter& painter, const RunPicture& picture) const
 {
     const QRect room = pictured().toRect();
     for (const QRect& beside : QRegion(rect()) - room)
         paintGround(painter, beside);
-    painter.drawPixmap(room.topLeft(), picture);
+    picture.paint(painter, room.topLeft());
 }
 
 // Where what is being dragged may be let go; the place under it more so.
@@ -307,13 +307,13 @@ bool Canvas::paintAsFirstSeen(QPainter& painter)
     const double ratio = devicePixelRatioF();
     const SheetFace face = faceOf(*model_, design_, view_, ratio, std::move(widgets));
     const QRectF room = pictured();
-    if (const QPixmap* picture = desk_.firstPictures->find(face)) {
+    if (const RunPicture* picture = desk_.firstPictures->find(face)) {
         paintPicture(painter, *picture);
         return true;
     }
     if (!desk_.firstPictures->returns(face) || !liesInPicture())
         return false;
-    QPixmap picture((room.size() * ratio).toSize());
+    QImage picture((room.size() * ratio).toSize(), QImage::Format_RGB32);
     picture.setDevicePixelRatio(ratio);
     picture.fill(view_.inks->paper);
     {
@@ -321,8 +321,9 @@ bool Canvas::paintAsFirstSeen(QPainter& painter)
         inside.translate(-room.topLeft());
         paintWhole(inside);
     }
-    paintPicture(painter, picture);
-    desk_.firstPictures->keep(face, picture);
+    RunPicture kept(picture);
+    paintPicture(painter, kept);
+    desk_.firstPictures->keep(face, std::move(kept));
     return true;
 }
 

@@ -111,7 +111,7 @@ private:
     void paintWhole(QPainter& painter);
     bool paintAsFirstSeen(QPainter& painter);
     void paintGround(QPainter& painter, const QRect& box) const;
-    void paintPicture(QPainter& painter, const QPixmap& picture) const;
+    void paintPicture(QPainter& painter, const RunPicture& picture) const;
     QRectF pictured() const;
     bool liesInPicture() const;
     QWidget* makeWidget(host::Handle control);

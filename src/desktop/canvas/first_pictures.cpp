@@ -17,11 +17,6 @@ void leaveWindowOut(std::vector<Kept>& list)
     });
 }
 
-std::size_t bytesOf(const QPixmap& picture)
-{
-    return static_cast<std::size_t>(picture.width()) * static_cast<std::size_t>(picture.height()) * 4;
-}
-
 } // namespace first_pictures_detail
 
 SheetFace faceOf(const host::Window& window, const host::Place& part, const View& view, double pixelRatio,
@@ -51,7 +46,7 @@ std::deque<FirstPictures::Entry>::iterator FirstPictures::entryOf(const SheetFac
     return std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) { return entry.face == face; });
 }
 
-const QPixmap* FirstPictures::find(const SheetFace& face)
+const RunPicture* FirstPictures::find(const SheetFace& face)
 {
     forgetting_.start();
     const auto entry = entryOf(face);
@@ -62,17 +57,17 @@ bool FirstPictures::returns(const SheetFace& face)
 {
     if (entryOf(face) != entries_.end())
         return true;
-    entries_.push_back({face, QPixmap()});
+    entries_.push_back({face, RunPicture()});
     if (entries_.size() > mostFaces)
         entries_.pop_front();
     return false;
 }
 
-void FirstPictures::keep(const SheetFace& face, const QPixmap& picture)
+void FirstPictures::keep(const SheetFace& face, RunPicture picture)
 {
     const auto entry = entryOf(face);
-    if (entry != entries_.end() && bytes() + first_pictures_detail::bytesOf(picture) <= mostBytes)
-        entry->picture = picture;
+    if (entry != entries_.end() && bytes() + picture.bytes() <= mostBytes)
+        entry->picture = std::move(picture);
 }
 
 std::size_t FirstPictures::pictures() const
@@ -85,7 +80,7 @@ std::size_t FirstPictures::bytes() const
 {
     std::size_t sum = 0;
     for (const Entry& entry : entries_)
-        sum += first_pictures_detail::bytesOf(entry.picture);
+        sum += entry.picture.bytes();
     return sum;
 }
 

@@ -8,9 +8,9 @@
 #include <deque>
 #include <vector>
 
-#include <QPixmap>
 #include <QTimer>
 
+#include "desktop/drawing/run_picture.h"
 #include "desktop/drawing/view.h"
 #include "host/window_state.h"
 
@@ -34,23 +34,23 @@ SheetFace faceOf(const host::Window& window, const host::Place& part, const View
 
 class FirstPictures {
 public:
-    static constexpr std::size_t mostBytes = std::size_t{12} << 20;
+    static constexpr std::size_t mostBytes = std::size_t{8} << 20;
     static constexpr std::size_t mostFaces = 12;
     static constexpr int kept = 10'000; ///< milliseconds after the last new sheet
 
     FirstPictures();
 
     /// The picture of a sheet with that face; null when there is none yet.
-    const QPixmap* find(const SheetFace& face);
+    const RunPicture* find(const SheetFace& face);
     /// True when such a face has been asked for before: the next one would be glad of a picture. It is remembered.
     bool returns(const SheetFace& face);
-    void keep(const SheetFace& face, const QPixmap& picture);
+    void keep(const SheetFace& face, RunPicture picture);
     std::size_t pictures() const;
 
 private:
     struct Entry {
         SheetFace face;
-        QPixmap picture;
+        RunPicture picture;
     };
     std::deque<Entry>::iterator entryOf(const SheetFace& face);
     std::size_t bytes() const;

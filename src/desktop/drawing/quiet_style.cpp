@@ -351,16 +351,17 @@ void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         painter->fillRect(side, strong ? inks.edge : inks.rule);
 }
 
-// Every child window asks for the signs of its own menu anew, the menu bar for one before it is shown.
+// Every child window asks for the signs of its own menu anew, the menu bar for one before it is shown; a file dialog asks for
+// its own with each button and each file, and the toolkit would read them from their pictures each time.
 QIcon QuietStyle::standardIcon(StandardPixmap sign, const QStyleOption* option, const QWidget* widget) const
 {
     if (const auto box = quiet_style_detail::boxSignOf(sign))
         return quiet_style_detail::iconOf(*box);
-    if (!quiet_style_detail::mayBeLate(sign))
-        return QProxyStyle::standardIcon(sign, option, widget);
     const auto known = signs_.find(sign);
     if (known != signs_.end())
         return known->second;
+    if (!quiet_style_detail::mayBeLate(sign))
+        return signs_.emplace(sign, QProxyStyle::standardIcon(sign, option, widget)).first->second;
     const auto read = [this, sign] {
         return sign == SP_TitleBarMenuButton ? programIcon() : QProxyStyle::standardIcon(sign, nullptr, nullptr);
     };

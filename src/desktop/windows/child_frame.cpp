@@ -206,11 +206,11 @@ bool ChildFrame::event(QEvent* event)
     return QWidget::event(event); // NOLINT(bugprone-parent-virtual-call): past the area's own frame, on purpose
 }
 
-// A maximised frame would write its name into the main window's title at each change of it, also from behind the active child.
+// Every frame is asked about every event of the main window, of which the toolkit's heeds the title alone: a maximised one would
+// write its name into it at each change, also from behind the active child.
 bool ChildFrame::eventFilter(QObject* object, QEvent* event)
 {
-    const bool frames = event->type() == QEvent::WindowTitleChange && object != view_;
-    return !frames && QMdiSubWindow::eventFilter(object, event);
+    return (object == view_ || object == systemMenu()) && QMdiSubWindow::eventFilter(object, event);
 }
 
 void ChildFrame::moveEvent(QMoveEvent* event)

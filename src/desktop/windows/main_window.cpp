@@ -72,8 +72,6 @@ MainWindow::MainWindow(Desk& desk, host::Window& model)
     setObjectName(shown(model.name()));
     setMinimumSize(main_window_detail::smallestWindow);
     menuBar()->hide();
-    menus_ = new Menus(desk, model, *menuBar());
-    bars_ = new MenuBar(desk, *this, *menus_, model.spec().mainParts);
     area_->setParent(middle_);
     area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     area_->setFrameShape(QFrame::NoFrame);
@@ -134,9 +132,11 @@ void MainWindow::followWindow()
         setWindowState((windowState() & ~compared) | wanted);
     if (isVisible() != model_->shown())
         setVisible(model_->shown());
-    // The machine's fonts are first read for the menu bar: meanwhile the window manager has the window already.
-    if (isVisible() && menuBar()->isHidden())
+    // The menus are many, and the machine's fonts are first read for their bar: the window manager has the window already.
+    if (isVisible() && menuBar()->isHidden()) {
+        menus();
         menuBar()->show();
+    }
 }
 
 void MainWindow::followControls()
@@ -146,11 +146,21 @@ void MainWindow::followControls()
     const std::vector<Handle> changes = model_->takeChanges();
     if (changes.empty())
         return;
-    menus_->apply(changes);
+    if (menus_ != nullptr)
+        menus_->apply(changes);
     welcome_->apply(changes);
     if (bar_ != nullptr)
         bar_->apply(changes);
     layOutPanels();
+}
+
+Menus& MainWindow::menus()
+{
+    if (menus_ == nullptr) {
+        menus_ = new Menus(desk_, *model_, *menuBar());
+        bars_ = new MenuBar(desk_, *this, *menus_, model_->spec().mainParts);
+    }
+    return *menus_;
 }
 
 void MainWindow::setHasChildren(bool hasChildren)
@@ -185,6 +195,7 @@ void MainWindow::layOutStrip(QRect& rest)
 
 void MainWindow::followChild(const host::Window* child, Menus* menus)
 {
+    this->menus();
     bars_->follow(menus);
     rounds_->follow();
     followTitle(child);
@@ -262,7 +273,8 @@ void MainWindow::farewell()
     welcome_->forgetModel();
     if (bar_ != nullptr)
         bar_->forgetModel();
-    menus_->forgetModel();
+    if (menus_ != nullptr)
+        menus_->forgetModel();
     model_ = nullptr;
 }
 
@@ -443,7 +455,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
 // New and open are menus here, one item for each circuit.
 bool MainWindow::openMenu(Handle control)
 {
-    QMenu* menu = control == noControl ? nullptr : menus_->menuOf(control);
+    QMenu* menu = control == noControl ? nullptr : menus().menuOf(control);
     if (menu != nullptr)
         menu->popup(middle_->mapToGlobal(QPoint(0, 0)));
     return menu != nullptr;

@@ -35,7 +35,8 @@ public:
     void farewell() override;
 
     QMdiArea& area() const { return *area_; }
-    Menus& menus() const { return *menus_; }
+    /// Made when they are first asked for: the window is on its way to the screen by then.
+    Menus& menus();
     /// The active child, null for none: its menus stand in the menu bar, and the frame bears the name of a maximised one.
     void followChild(const host::Window* child, Menus* menus);
     /// What holds the panels, the sheets and the palette.
