@@ -395,13 +395,12 @@ const host::WindowSpec spec{
     .shortcuts = controls_table::shortcuts,
     .create = create,
     .shownPlace = shownPlaceOf,
-    .mainParts =
-        {.bar = Picture14,
-         .welcome = SSPanel1,
-         .windows = mnuVer,
-         .pageStrip = pageStrip,
-         .files = mnuArchivo,
-         .menuNames = captionsOf},
+    .mainParts = {.bar = Picture14,
+                  .welcome = SSPanel1,
+                  .windows = mnuVer,
+                  .pageStrip = pageStrip,
+                  .files = mnuArchivo,
+                  .menuNames = captionsOf},
 };
 
 std::unique_ptr<host::Window> create(host::SheetHost& host)
