@@ -4,26 +4,20 @@
 
 #include <QString>
 
+#include "keeping/program_mark.h"
+
 namespace velmor::desktop {
 
-/// Holds the mark of a running program as long as it lives. The system drops the lock with the program: what a crash leaves
-/// behind does not count. Where no file can be made or locked, no other program is found.
+/// Holds the mark of a running program as long as it lives. A mark left by a crash does not count.
 class OtherInstance {
 public:
+    /// The toolkit's own lock of files would write to the disk and wait for it, before there is a window.
     explicit OtherInstance(const QString& markFile = usualMark());
-    ~OtherInstance();
-    OtherInstance(const OtherInstance&) = delete;
-    OtherInstance& operator=(const OtherInstance&) = delete;
-
-    bool running() const { return running_; }
+    bool running() const { return mark_.isHeldElsewhere(); }
     static QString usualMark();
 
 private:
-    bool hold();
-
-    QByteArray path_;
-    int descriptor_ = -1;
-    bool running_ = false;
+    keeping::ProgramMark mark_;
 };
 
 } // namespace velmor::desktop

@@ -157,15 +157,15 @@ constexpr Allowance allowances[] = {
     {"keeping/kept_folder.cpp", "sys/file.h", "by a lock that the system drops with the program, however that ends"},
     {"keeping/kept_folder.cpp", "sys/stat.h", "and that is no lock once its file has lost its name"},
     {"keeping/kept_folder.cpp", "unistd.h",   "folders of several programs differ by the number of the process"},
+    {"keeping/program_mark.cpp", "fcntl.h",    "a running program marks itself"},
+    {"keeping/program_mark.cpp", "sys/file.h", "with a lock that the system drops with it, too"},
+    {"keeping/program_mark.cpp", "sys/stat.h", "on a file that nobody has taken away meanwhile"},
+    {"keeping/program_mark.cpp", "unistd.h",   "and that goes with the program"},
     {"rules/whole_file.cpp", "fcntl.h",     "a save that is whole or not at all opens its file anew and without following links"},
     {"rules/whole_file.cpp", "sys/file.h",  "a file that is being written is locked, so that nobody takes it for a dead program's"},
     {"rules/whole_file.cpp", "sys/stat.h",  "and gives it the rights of the old one"},
     {"rules/whole_file.cpp", "unistd.h",    "and waits until the disk has it"},
     {"rules/whole_file.h",   "sys/types.h", "whose system calls a test replaces"},
-    {"desktop/other_instance.cpp", "fcntl.h",    "a running program marks itself"},
-    {"desktop/other_instance.cpp", "sys/file.h", "with a lock that the system drops with it"},
-    {"desktop/other_instance.cpp", "sys/stat.h", "on a file that nobody has taken away meanwhile"},
-    {"desktop/other_instance.cpp", "unistd.h",   "and that goes with the program"},
 };
 // clang-format on
 
