@@ -2,10 +2,23 @@
 // The operations of the host, each a few lines over the engine.
 #include "host/sheet_host.h"
 
+#include <utility>
+
 #include "host/engine.h"
 #include "host/state_change.h"
 
 namespace velmor::host {
+
+namespace sheet_host_detail {
+
+/// A control by name in a window; no window when it is not open or has none of that name.
+std::pair<Window*, Handle> controlOf(Window* open, std::string_view control)
+{
+    const Handle found = open == nullptr ? noControl : open->named(control);
+    return {found == noControl ? nullptr : open, found};
+}
+
+} // namespace sheet_host_detail
 
 ProgramValues& SheetHost::values()
 {
@@ -185,37 +198,32 @@ bool SheetHost::isLoaded(const Window& window)
 
 void SheetHost::setVisible(std::string_view window, std::string_view control, bool visible)
 {
-    Window* open = find(window);
-    if (open != nullptr && open->named(control) != noControl)
-        open->setVisible(open->named(control), visible);
+    if (const auto [open, found] = sheet_host_detail::controlOf(find(window), control); open != nullptr)
+        open->setVisible(found, visible);
 }
 
 void SheetHost::setEnabled(std::string_view window, std::string_view control, bool enabled)
 {
-    Window* open = find(window);
-    if (open != nullptr && open->named(control) != noControl)
-        open->setEnabled(open->named(control), enabled);
+    if (const auto [open, found] = sheet_host_detail::controlOf(find(window), control); open != nullptr)
+        open->setEnabled(found, enabled);
 }
 
 void SheetHost::setText(std::string_view window, std::string_view control, std::string_view text)
 {
-    Window* open = find(window);
-    if (open != nullptr && open->named(control) != noControl)
-        open->setText(open->named(control), text);
+    if (const auto [open, found] = sheet_host_detail::controlOf(find(window), control); open != nullptr)
+        open->setText(found, text);
 }
 
 bool SheetHost::visible(std::string_view window, std::string_view control)
 {
-    const Window* open = find(window);
-    return open != nullptr && open->named(control) != noControl && open->visible(open->named(control));
+    const auto [open, found] = sheet_host_detail::controlOf(find(window), control);
+    return open != nullptr && open->visible(found);
 }
 
 std::string SheetHost::text(std::string_view window, std::string_view control)
 {
-    Window* open = find(window);
-    if (open == nullptr || open->named(control) == noControl)
-        return {};
-    return open->wholeText(open->named(control));
+    const auto [open, found] = sheet_host_detail::controlOf(find(window), control);
+    return open == nullptr ? std::string{} : open->wholeText(found);
 }
 
 bool SheetHost::checked(std::string_view menuItem)
