@@ -77,6 +77,7 @@ template <class Ask>
 auto DesktopScreen::ask(Ask question)
 {
     const bool wasBusy = busy_;
+    ++desk_.questions;
     busyPointer(false);
     texts_.speak(desk_.english());
     QPointer<QWidget> parent(keeper_->dialogParent());

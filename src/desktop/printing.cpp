@@ -25,6 +25,7 @@ namespace printing_detail {
 
 constexpr double twipsPerPoint = 20.0;
 constexpr double printersOwnSize = 10.0; ///< points, when the job names none
+constexpr double widestLine = 11520.0;   ///< twips
 constexpr double marginMillimetres = 15.0;
 constexpr double sideMillimetres = 10.0;
 constexpr int lettersOfFile = 64; ///< of a path that are seen
@@ -112,18 +113,25 @@ int printedTwips(const host::Font& font, std::string_view text)
     return qRound(metrics->horizontalAdvance(shown(text).remove(QLatin1Char('\n'))));
 }
 
+// The text comes broken for lines of eight inches, at a carriage return alone, which few pages hold: such a line is broken anew to
+// what the page holds, not a second time.
 QStringList printedLines(const host::PrintJob& job, double pageTwips, const PrintProgress& goesOn)
 {
     const printing_detail::Widths widths(twipFont(job.font, job.fontSizeGiven));
     QString text = shown(job.text);
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\r"));
-    text.replace(QLatin1Char('\n'), QLatin1Char('\r'));
+    const bool broken = text.contains(QStringLiteral("\r\n"));
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    if (broken)
+        text.remove(QLatin1Char('\r'));
+    else
+        text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    const double across = broken ? std::min(pageTwips, printing_detail::widestLine) : pageTwips;
     const WidthOf widthOf = [&widths](const QString& stretch) { return widths.of(stretch); };
     QStringList lines;
-    for (const QString& line : text.split(QLatin1Char('\r'))) {
+    for (const QString& line : text.split(QLatin1Char('\n'))) {
         if (goesOn && !goesOn(0, 0))
             return {};
-        lines += brokenLine(printing_detail::withoutTabs(line), pageTwips, widthOf);
+        lines += brokenLine(printing_detail::withoutTabs(line), across, widthOf);
     }
     while (lines.size() > 1 && lines.last().isEmpty())
         lines.removeLast();

@@ -341,6 +341,17 @@ TEST(PrintingTest, theWholeTextIsPrintedAndLongLinesAreBrokenAtBlanks)
     EXPECT_EQ(desktop::printedLines(job, desktop::printedTwips(job.font, "xxxx") + 10.0).join(""), "xxxxxxxxxx");
 }
 
+// An editor breaks its text for eight inches, at a carriage return alone; the page here is narrower.
+TEST(PrintingTest, aLineThatWasBrokenForAWiderPaperIsBrokenOnceForThisOne)
+{
+    const host::PrintJob job{.text = "  uno dos tres \rcuatro\r\nfin\r\n",
+                             .font = {.name = "DejaVu Sans Mono", .size = 10.0}};
+    EXPECT_EQ(desktop::printedLines(job, desktop::printedTwips(job.font, "  uno dos ") + 10.0),
+              (QStringList{"  uno dos ", "  tres ", "  cuatro", "fin"}));
+    EXPECT_EQ(desktop::printedLines(job, desktop::printedTwips(job.font, "  uno dos tres cuatro") + 10.0),
+              (QStringList{"  uno dos tres cuatro", "fin"}));
+}
+
 // The page is 200 mm high without margins; so many lines stand on it, the last with its own height alone.
 TEST(PrintingTest, aPageHoldsEveryLineThatFitsAndNotOneMore)
 {

@@ -92,7 +92,7 @@ constexpr auto controls = std::to_array<ControlRow>({
     later(Label2,  "Label2",  at(262, 152, 104, 18)),
     later(Label3,  "Label3",  at(262, 170, 104, 18)),
     current(Label4, "Label4", at(412, 435, 70, 34)),
-    later(Label5,  "Label5",  at(486, 181, 70, 18)),
+    later(Label5,  "Label5",  at(486, 181, 86, 18)),
     later(Label7,  "Label7",  at(574, 341, 136, 18)),
     later(Label8,  "Label8",  at(574, 181, 68, 18)),
     later(Label9,  "Label9",  at(486, 199, 100, 18)),

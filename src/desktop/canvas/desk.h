@@ -2,6 +2,7 @@
 // What all views of one running program share: the engine behind them, the measure of their places, their colours.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -27,6 +28,7 @@ struct Desk {
     std::unique_ptr<FirstPictures> firstPictures = std::make_unique<FirstPictures>();
     bool muted = false;                    ///< pasted characters that the key filter refuses make no sound
     bool placesWindows = true;             ///< false where the desktop alone says where windows stand
+    std::size_t questions = 0;             ///< how many have been asked, boxes and dialogs
     bool closing = false;                  ///< the program has ended; views take no more events
     std::function<QRegion()> taken;        ///< what a new window should not lie on: tools and the field in hand
     std::function<QRect()> inHand;         ///< the field in hand, on the screen; empty without one

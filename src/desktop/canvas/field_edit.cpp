@@ -76,9 +76,22 @@ void FieldEdit::setPale(bool pale)
     recolor();
 }
 
+// A sheet whitens or greys a field for paper. In the dark white is the ground of every field, and grey that of one at rest.
+QColor FieldEdit::ownGround() const
+{
+    constexpr int white = 250;
+    constexpr int middle = 128;
+    constexpr int colourless = 8;
+    const QColor given = QColor::fromRgb(static_cast<QRgb>(ground_));
+    const bool paper = given.lightness() >= middle && given.saturation() < colourless;
+    if (!paper || !inks_->dark)
+        return given;
+    return given.lightness() >= white ? inks_->field : inks_->fieldOff;
+}
+
 void FieldEdit::recolor()
 {
-    const QColor ground = ground_ < 0 ? inks_->field : QColor::fromRgb(static_cast<QRgb>(ground_));
+    const QColor ground = ground_ < 0 ? inks_->field : ownGround();
     const QColor own = ink_ < 0 ? inks_->fieldInk : QColor::fromRgb(static_cast<QRgb>(ink_));
     const QColor wished = pale_ ? inks_->quiet : own;
     QPalette colors = palette();
@@ -103,9 +116,12 @@ void FieldEdit::paintEvent(QPaintEvent* event)
     fillFrame(painter, rect(), weight, hasFocus() ? inks_->accent : isEnabled() ? inks_->edge : inks_->rule);
 }
 
+// The toolkit forgets the selection while a menu has the keyboard.
 void FieldEdit::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
+    if (selectedWhole_ && !hasSelectedText())
+        selectFromEnd();
     update();
 }
 

@@ -35,6 +35,7 @@ protected:
     bool focusNextPrevChild(bool) override { return false; }
 
 private:
+    QColor ownGround() const;
     void recolor();
     void selectFromEnd();
 

@@ -101,6 +101,37 @@ std::optional<Canvas::Search> searchOf(const host::Window& model, QKeyCombinatio
     return std::nullopt;
 }
 
+/// A field whose value a box has sent back, when Enter or Tab was to leave it, has its whole text selected, as every field that
+/// the program gives the focus: what is typed next is the better value, not the end of the bad one.
+class SentBack {
+public:
+    SentBack(Canvas& canvas, const QKeyEvent& event)
+        : canvas_(&canvas), held_(leaves(event) ? canvas.model()->focus() : noControl),
+          field_(held_ == noControl ? nullptr : dynamic_cast<FieldEdit*>(canvas.widgetOf(held_))),
+          asked_(canvas.desk().questions)
+    {}
+    ~SentBack()
+    {
+        if (canvas_ && field_ && canvas_->model() != nullptr && canvas_->model()->focus() == held_ &&
+            canvas_->desk().questions != asked_)
+            field_->selectWhole();
+    }
+    SentBack(const SentBack&) = delete;
+    SentBack& operator=(const SentBack&) = delete;
+
+private:
+    static bool leaves(const QKeyEvent& event)
+    {
+        const int key = event.key();
+        return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab || key == Qt::Key_Backtab;
+    }
+
+    QPointer<Canvas> canvas_;
+    Handle held_;
+    QPointer<FieldEdit> field_;
+    std::size_t asked_;
+};
+
 bool isUndo(QKeyCombination keys)
 {
     return std::any_of(std::begin(commonKeyRows), std::end(commonKeyRows), [keys](const CommonKeyRow& row) {
@@ -184,6 +215,7 @@ bool Keyboard::pressed(const QKeyEvent& event)
         if (!alive || canvas_.model() == nullptr)
             return true;
     }
+    const keyboard_detail::SentBack sentBack(canvas_, event);
     const QKeyCombination keys = keysOf(event);
     if (runSearch(keys) || runShortcut(keys))
         return true;

@@ -35,20 +35,42 @@ bool isTitle(const QTextBlock& block)
     return block.blockNumber() == 0 && indentOf(block.text()) >= 2 * step;
 }
 
-/// The name of the design stands two steps in, and ends the opening.
-bool endsOpening(const QTextBlock& block)
+bool isDesignName(const QTextBlock& block)
 {
     return block.blockNumber() > 0 && indentOf(block.text()) >= 2 * step && !LongLines::goesOn(block);
 }
 
+/// "Alumno: ", "Fecha: 22/11/26".
+bool isEntry(const QString& line)
+{
+    return indentOf(line) == step && line.contains(QLatin1Char(':'));
+}
+
+bool standsAsHeading(const QTextBlock& block)
+{
+    const QString line = block.text();
+    return indentOf(line) == step && line.size() <= longestHeading && !LongLines::goesOn(block);
+}
+
+/// The name of the design, two steps in, or the first exercise where the title has named the design.
+bool endsOpening(const QTextBlock& block)
+{
+    return isDesignName(block) || (standsAsHeading(block) && !isEntry(block.text()));
+}
+
 ReportLine kindOf(const QTextBlock& block, int before)
 {
-    if (isTitle(block) || (before == opening && endsOpening(block)))
+    if (isTitle(block) || (before == opening && isDesignName(block)))
         return ReportLine::title;
-    const QString line = block.text();
-    const bool heads =
-        before == body && indentOf(line) == step && line.size() <= longestHeading && !LongLines::goesOn(block);
+    const bool heads = standsAsHeading(block) && (before == body || endsOpening(block));
     return heads ? ReportLine::heading : ReportLine::plain;
+}
+
+/// "Colector Común" of "Elaboración de Informe : Colector Común".
+QString named(const QString& line)
+{
+    const QString behind = line.section(QLatin1Char(':'), 1).trimmed();
+    return behind.isEmpty() ? line.trimmed() : behind;
 }
 
 // A report begins with its title; any other document is no report and stays plain.
@@ -89,10 +111,13 @@ QString designOf(const QTextDocument& document)
     using namespace report_dress_detail;
     if (!isTitle(document.firstBlock()))
         return {};
+    bool entries = false;
     QTextBlock block = document.firstBlock().next();
-    for (int line = 1; line < longestOpening && block.isValid(); ++line, block = block.next())
-        if (endsOpening(block))
-            return block.text().trimmed();
+    for (int line = 1; line < longestOpening && block.isValid(); ++line, block = block.next()) {
+        if (entries && endsOpening(block))
+            return named((isDesignName(block) ? block : document.firstBlock()).text());
+        entries = entries || isEntry(block.text());
+    }
     return {};
 }
 

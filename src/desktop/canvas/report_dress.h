@@ -10,8 +10,8 @@ class QTextDocument;
 
 namespace velmor::desktop {
 
-/// What a line of a report is. A report begins with its title and the lines for name and date, up to the name of the design;
-/// after that each line of one indent heads what follows.
+/// What a line of a report is. A report begins with its title and the lines for name and date, up to the name of the design or,
+/// where the title bears that, up to the first exercise; after that each line of one indent heads what follows.
 enum class ReportLine : std::uint8_t { plain, title, heading };
 
 /// True for a text that opens as the report of a design does.

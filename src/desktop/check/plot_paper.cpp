@@ -22,10 +22,18 @@ constexpr double leftMargin = 3.4;
 constexpr double rightMargin = 1.6;
 constexpr double topMargin = 1.9;
 constexpr double bottomMargin = 1.9;
+constexpr double numberAboveFoot = 0.55; ///< middle of the lowest number
 
 QString plain(double value)
 {
     return check_words::minus(QString::number(value, 'g', 4));
+}
+
+/// What stands behind the last comma is said elsewhere too, by the ink or in the table: it goes first where room is scarce.
+QString fitting(const QString& text, const QFontMetricsF& letters, double width)
+{
+    const bool fits = letters.horizontalAdvance(text) <= width || !text.contains(QLatin1Char(','));
+    return fits ? text : text.section(QLatin1Char(','), 0, -2);
 }
 
 } // namespace plot_paper_detail
@@ -117,6 +125,18 @@ void PlotPaper::paintTicksAcross() const
     }
 }
 
+// Beside its line; the lowest stands on the foot of the field, since below it stands the unit of what goes across.
+QRectF PlotPaper::numberBox(const PlotTick& tick) const
+{
+    const double middle = std::min(at(x_.from, tick.place).y(), field_.bottom() - numberAboveFoot * look_.letters);
+    return {room_.left(), middle - look_.letters, field_.left() - room_.left() - 5, 2 * look_.letters};
+}
+
+QRectF PlotPaper::unitBox() const
+{
+    return {room_.left(), field_.bottom() + 2, field_.left() - room_.left() - 1.4 * look_.letters, 1.5 * look_.letters};
+}
+
 void PlotPaper::paintTicksDown() const
 {
     for (const PlotTick& tick : y_.ticks) {
@@ -124,8 +144,7 @@ void PlotPaper::paintTicksDown() const
         painter_.setPen(QPen(look_.inks->rule, 1.0));
         painter_.drawLine(QPointF(field_.left(), y), QPointF(field_.right(), y));
         painter_.setPen(look_.inks->quiet);
-        painter_.drawText(QRectF(room_.left(), y - look_.letters, field_.left() - room_.left() - 5, 2 * look_.letters),
-                          Qt::AlignRight | Qt::AlignVCenter, tick.text);
+        painter_.drawText(numberBox(tick), Qt::AlignRight | Qt::AlignVCenter, tick.text);
     }
 }
 
@@ -139,9 +158,7 @@ void PlotPaper::paintGround(const QString& title) const
     painter_.setBrush(Qt::NoBrush);
     painter_.drawRect(field_);
     painter_.setPen(look_.inks->quiet);
-    const QRectF corner(room_.left(), field_.bottom() + 2, field_.left() - room_.left() - 1.4 * look_.letters,
-                        1.5 * look_.letters);
-    painter_.drawText(corner, Qt::AlignRight | Qt::AlignTop, x_.unit);
+    painter_.drawText(unitBox(), Qt::AlignRight | Qt::AlignTop, x_.unit);
     const QRectF head(room_.left(), room_.top(), room_.width(), topMargin * look_.letters - 3);
     painter_.drawText(QRectF(head.left(), head.top(), field_.left() - room_.left() - 5, head.height()),
                       Qt::AlignRight | Qt::AlignBottom, y_.unit);
@@ -174,10 +191,7 @@ void PlotPaper::paintLevel(double y, const QString& name, const QColor& ink, Edg
     const bool fitsAbove = height - lines - 1 >= field_.top();
     const QRectF room(field_.left() + 4, above && fitsAbove ? height - lines - 1 : height + 1, field_.width() - 8,
                       lines);
-    // What stands behind the last comma is said by the ink too: it goes first where room is scarce.
-    const QFontMetricsF letters(interfaceFont(look_.letters));
-    const bool fits = letters.horizontalAdvance(name) <= room.width() || !name.contains(QLatin1Char(','));
-    const QString text = fits ? name : name.section(QLatin1Char(','), 0, -2);
+    const QString text = fitting(name, QFontMetricsF(interfaceFont(look_.letters)), room.width());
     const auto how = (edge == Edge::left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
     QColor ground = look_.inks->field;
     ground.setAlphaF(0.8F);
@@ -222,7 +236,7 @@ void PlotPaper::paintKeys(std::span<const PlotKey> keys) const
         painter_.setPen(key.sign == PlotKey::Sign::none ? key.ink : look_.inks->ink);
         const QRectF room(box.left() + sign, middle - line / 2, box.right() - box.left() - sign, line);
         painter_.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
-                          letters.elidedText(key.text, Qt::ElideRight, room.width()));
+                          letters.elidedText(fitting(key.text, letters, room.width()), Qt::ElideRight, room.width()));
         middle += line;
     }
 }

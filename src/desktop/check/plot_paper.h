@@ -85,6 +85,8 @@ public:
     static QRectF fieldIn(const QRectF& room, double letters);
 
 private:
+    QRectF numberBox(const PlotTick& tick) const;
+    QRectF unitBox() const;
     void paintTicksAcross() const;
     void paintTicksDown() const;
     void paintKeySign(const PlotKey& key, QPointF centre) const;

@@ -61,7 +61,7 @@ public:
 private:
     bool isOpen() const;
     PlotAxis times() const;
-    PlotAxis heights() const;
+    PlotAxis heights(const QRectF& room, double letters) const;
     double magnified() const;
     void paintCeilings(const PlotPaper& paper, const PlotAxis& y, const PlotLook& look) const;
 };

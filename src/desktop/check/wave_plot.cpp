@@ -21,6 +21,8 @@ constexpr double strong = 2.2; ///< pixels of the curve that counts
 constexpr double thin = 1.2;
 constexpr double bentDistortion = 10; ///< %
 constexpr double legendRoom = 1.35;   ///< below the wave, of what it has above
+constexpr double mostLegendRoom = 3;  ///< the same on a low paper, where the wave must still be seen
+constexpr double namesBelow = 5;      ///< heights of letters below the lower ceiling: its name and the legend
 
 /// The wave between two of its values; its last cycles end with it.
 double valueAt(const check::Wave& wave, double seconds)
@@ -81,8 +83,9 @@ PlotAxis WavePlot::times() const
     return {.from = 0, .to = span, .ticks = evenTicks(0, span, 4), .unit = "ms"};
 }
 
-// The ceilings hold the scale: while the slider moves, the wave grows, not the paper.
-PlotAxis WavePlot::heights() const
+// The ceilings hold the scale: while the slider moves, the wave grows, not the paper. Below the lower one its name and the legend
+// have room, also on a low paper.
+PlotAxis WavePlot::heights(const QRectF& room, double letters) const
 {
     const check::Wave& wave = checked().swing.output;
     const double rest = check::mean(wave);
@@ -93,7 +96,14 @@ PlotAxis WavePlot::heights() const
         reach = std::max({reach, 1.25 * nearer, 1.15 * std::min(farther, 2 * nearer)});
     }
     reach = std::max(reach, 1e-6);
-    const double from = rest - legendRoom * reach;
+    double below = legendRoom;
+    if (const double lower = ceilings.cutOffAbove ? ceilings.saturation : ceilings.cutOff;
+        ceilings.known && lower <= reach) {
+        const double share =
+            std::min(0.9, namesBelow * letters / std::max(1.0, PlotPaper::fieldIn(room, letters).height()));
+        below = std::clamp((share + lower / reach) / (1 - share), legendRoom, mostLegendRoom);
+    }
+    const double from = rest - below * reach;
     return {.from = from, .to = rest + reach, .ticks = evenTicks(from, rest + reach, 6), .unit = "V"};
 }
 
@@ -129,7 +139,7 @@ void WavePlot::paintCeilings(const PlotPaper& paper, const PlotAxis& y, const Pl
 void WavePlot::paint(QPainter& painter, const QRectF& room, const PlotLook& look, std::optional<double> place) const
 {
     const PlotAxis x = times();
-    const PlotAxis y = hasData() && isOpen() ? heights() : PlotAxis{.from = -1, .to = 1};
+    const PlotAxis y = hasData() && isOpen() ? heights(room, look.letters) : PlotAxis{.from = -1, .to = 1};
     const PlotPaper paper(painter, room, x, y, look);
     paper.paintGround(name());
     if (!hasData() || !isOpen())

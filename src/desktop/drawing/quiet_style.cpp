@@ -272,6 +272,14 @@ void QuietStyle::drawControl(ControlElement element, const QStyleOption* option,
                              const QWidget* widget) const
 {
     const auto* button = element == CE_PushButton ? qstyleoption_cast<const QStyleOptionButton*>(option) : nullptr;
+    const auto* item = element == CE_MenuBarItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(option) : nullptr;
+    if (item != nullptr && (item->state & State_Selected) != 0) {
+        // The style beneath marks an item whose menu is open alone: who walks the bar with the arrows would see nothing.
+        QStyleOptionMenuItem marked = *item;
+        marked.state |= State_Sunken;
+        QProxyStyle::drawControl(element, &marked, painter, widget);
+        return;
+    }
     if (button == nullptr) {
         QProxyStyle::drawControl(element, option, painter, widget);
         return;

@@ -31,7 +31,7 @@ inline QString shownTitle(std::string_view text)
 /// A tool tip wraps only as rich text, so the plain text is escaped and said to be rich.
 inline QString shownTip(const QString& text)
 {
-    constexpr qsizetype shortLine = 48; // the toolkit would break it into three
+    constexpr qsizetype shortLine = 64; // the toolkit would break it into three
     QStringList lines = text.toHtmlEscaped().split(QLatin1Char('\n'));
     for (QString& line : lines)
         if (line.size() <= shortLine)

@@ -50,7 +50,7 @@ private:
     QPointer<Menus> child_;
     bool hasChild_ = false;
     QStringList told_;
-    /// Those that its menus have borne: an editor keeps its language when the program changes its own.
+    /// Those that its menus have borne, in either language.
     std::map<host::Handle, QSet<QString>> names_;
     std::vector<Merged> merged_;
     std::vector<QAction*> numbered_; ///< the first nine children by key

@@ -122,6 +122,12 @@ void Menus::apply(const std::vector<Handle>& changes)
             refresh(control);
 }
 
+void Menus::relabel()
+{
+    for (const auto& [item, action] : actions_)
+        refresh(item);
+}
+
 void Menus::opening(Handle menu)
 {
     if (model_ != nullptr && desk_.idle())
@@ -130,7 +136,12 @@ void Menus::opening(Handle menu)
 
 QString Menus::captionOf(Handle item) const
 {
-    return model_ == nullptr ? QString() : shown(model_->text(item)).simplified();
+    if (model_ == nullptr)
+        return {};
+    const std::string& text = model_->text(item);
+    const host::BiText& both = model_->row(item).meaning;
+    const bool given = !both.es.empty() && !both.en.empty() && (text == both.es || text == both.en);
+    return (given ? shown(desk_.english() ? both.en : both.es) : shown(text)).simplified();
 }
 
 std::vector<QAction*> Menus::items() const

@@ -19,12 +19,14 @@ namespace velmor::desktop {
 
 class Menus final : public QObject {
 public:
-    /// Makes the window's menus, as actions of `owner`. Captions follow the language of the moment through the model, nothing
-    /// is translated here.
+    /// Makes the window's menus, as actions of `owner`. Captions follow the language of the moment through the model; those that a
+    /// window has only written when it was made are shown in it.
     Menus(Desk& desk, host::Window& model, QWidget& owner);
 
     static bool hasMenus(const host::WindowSpec& spec);
     void apply(const std::vector<host::Handle>& changes);
+    /// The program speaks another language.
+    void relabel();
     /// What leads the active sheet one step back or forth is grey where there is no such step.
     void followSteps();
     void forgetModel() { model_ = nullptr; }

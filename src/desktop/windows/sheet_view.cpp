@@ -177,6 +177,8 @@ bool SheetView::eventFilter(QObject* object, QEvent* event)
 void SheetView::relabel()
 {
     canvas_->relabel();
+    if (menus_ != nullptr)
+        menus_->relabel();
     if (strip_ != nullptr)
         strip_->update();
     if (search_ != nullptr)

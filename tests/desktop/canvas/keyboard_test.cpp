@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QFile>
 #include <QInputMethodEvent>
+#include <QMenuBar>
 #include <QTest>
 
 #include "desktop/canvas/keyboard.h"
@@ -47,6 +48,44 @@ TEST_F(KeyboardTest, theFirstKeyReplacesTheSelectedText)
     EXPECT_EQ(on.field(Text1).text(), "7");
     on.type("5");
     EXPECT_EQ(on.sheet().text(Text1), "75");
+}
+
+// A box sends the value back: the next number takes its place. A letter is no wish to leave.
+TEST_F(KeyboardTest, aValueThatABoxSendsBackIsReplacedByTheNextNumber)
+{
+    on.sheet().deeds[{Text1, Event::key}] = [this](host::EventArgs& args) {
+        if (args.key == 13 || args.key == '9') {
+            on.answerByKey(Qt::Key_Return);
+            on.engine.host().MsgBox("Suba la fuente", 48, "Velmor");
+        }
+    };
+    on.type("15");
+    Bench::key(Qt::Key_Return);
+    ASSERT_EQ(on.boxes.size(), 1U);
+    on.type("24");
+    EXPECT_EQ(on.sheet().text(Text1), "24");
+    on.type("9");
+    ASSERT_EQ(on.boxes.size(), 2U);
+    on.type("5");
+    EXPECT_EQ(on.sheet().text(Text1), "2495");
+}
+
+TEST_F(KeyboardTest, aMenuThatIsLeftGivesTheFieldItsSelectionBack)
+{
+    const QString whole = on.field(Text1).selectedText();
+    ASSERT_FALSE(whole.isEmpty());
+    const auto visitMenu = [this] {
+        on.main().menuBar()->setFocus(Qt::MenuBarFocusReason);
+        on.settle();
+        on.field(Text1).setFocus(Qt::MenuBarFocusReason);
+    };
+    visitMenu();
+    EXPECT_EQ(on.field(Text1).selectedText(), whole);
+    on.type("5");
+    visitMenu();
+    EXPECT_EQ(on.field(Text1).selectedText(), QString());
+    on.type("4");
+    EXPECT_EQ(on.sheet().text(Text1), "54");
 }
 
 TEST_F(KeyboardTest, theSlotMayReplaceOrSwallowACharacter)

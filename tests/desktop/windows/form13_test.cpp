@@ -75,6 +75,19 @@ TEST_P(Form13Test, everyTextFitsItsPlaceInBothPictures)
     expectTextsFit("circuit again");
 }
 
+TEST_P(Form13Test, theResistorsOfTheSecondPairStandInOneLineBesideTheirSymbols)
+{
+    enter(Text1, QStringLiteral("79"));
+    enter(Text2, QStringLiteral("2000"));
+    enter(Text3);
+    for (const double pixelsWide : {1100.0, 1340.0, 2500.0})
+        for (const host::Handle label : {Label5, Label8}) {
+            ASSERT_EQ(sheet->text(label), "RL2= 8.4286 K"); // 4 x 2.1071 V over 1 mA
+            EXPECT_FALSE(desktop::setCaption(*sheet, label, viewAt(pixelsWide)).text.contains(QLatin1Char('\n')))
+                << label << ", " << pixelsWide;
+        }
+}
+
 TEST_P(Form13Test, theMirrorHasNeitherRb1NorC1)
 {
     design();

@@ -15,6 +15,7 @@
 #include "desktop/canvas/waiting.h"
 #include "desktop/desktop_fixture.h"
 #include "desktop/drawing/schematic_painter.h"
+#include "desktop/drawing/texts.h"
 #include "desktop/windows/menus.h"
 #include "editors/find_dialogs.h"
 #include "program/catalogue.h"
@@ -162,6 +163,13 @@ TEST_F(EmitterTest, pointingAtAGreyedFieldShowsWhatItIsAndWhyItWaits)
     EXPECT_TRUE(told.contains(QString::fromUtf8("después de ΔQIc"))) << told.toStdString();
     EXPECT_TRUE(told.contains(canvas.tipOf(form2::Text3)));
     QToolTip::hideText();
+}
+
+// A tip of several lines would cover the drawing that the palette's button has just opened.
+TEST(TipTest, theNameOfADesignAndItsKeysStandInOneLine)
+{
+    const QString name = QString::fromUtf8("Emisor Común Realimentado por Corriente  (Alt+Shift+F11)");
+    EXPECT_FALSE(desktop::shownTip(name).contains(QLatin1Char(' ')));
 }
 
 TEST_F(EmitterTest, undoAndRedoAreGreyAtOnce)

@@ -74,8 +74,8 @@ struct MenuBarTest : ::testing::Test {
     Bench on;
 };
 
-// The Spanish editor keeps its language when the program changes its own.
-TEST_F(MenuBarTest, menusOfOneNameAreOneAlsoInTwoLanguages)
+// The menus of the Spanish report follow the program when it changes its language, and stand in one bar with its own.
+TEST_F(MenuBarTest, anEditorsMenusSpeakTheLanguageOfTheMoment)
 {
     on.show("frmEdito2");
     const qsizetype menus = namesOf(bar()).size();
@@ -83,8 +83,17 @@ TEST_F(MenuBarTest, menusOfOneNameAreOneAlsoInTwoLanguages)
     Bench::settle();
     EXPECT_EQ(namesOf(bar()).size(), menus) << namesOf(bar()).join(u' ').toStdString();
     EXPECT_FALSE(namesOf(bar()).contains("archivo"));
-    EXPECT_TRUE(namesOf(opened("archive")).contains("imprimir"));
+    EXPECT_TRUE(namesOf(bar()).contains("format"));
+    EXPECT_FALSE(namesOf(bar()).contains("formato"));
+    EXPECT_TRUE(namesOf(opened("archive")).contains("print"));
+    EXPECT_FALSE(namesOf(opened("archive")).contains("imprimir"));
+    EXPECT_EQ(namesOf(opened("window")).count("cascade"), 1);
+    EXPECT_FALSE(namesOf(opened("window")).contains("cascada"));
     expectLettersOnce(bar());
+    on.engine.userMenu(on.engine.mainWindow(), main_window::mnuEsp);
+    Bench::settle();
+    EXPECT_TRUE(namesOf(bar()).contains("formato"));
+    EXPECT_TRUE(namesOf(opened("archivo")).contains("imprimir"));
 }
 
 // So it is with an English report that was kept, when the program starts in Spanish.

@@ -242,6 +242,40 @@ TEST(ReportDressTest, titlesAndHeadingsAreKnownByTheirIndent)
     EXPECT_EQ(document.toPlainText(), QString::fromUtf8(report));
 }
 
+// Some titles bear the name of the design; the statement of the first exercise, two steps in, is none.
+TEST(ReportDressTest, aTitleMayNameTheDesignItself)
+{
+    using desktop::ReportLine;
+    QTextDocument document;
+    document.setDocumentLayout(new QPlainTextDocumentLayout(&document));
+    document.setPlainText(QString::fromUtf8("                Elaboración de Informe : Colector Común\n"
+                                            "        Alumno: \n"
+                                            "        Hora: 22:06\n"
+                                            "\n"
+                                            "        Ejercicio N° 1 \n"
+                                            "                Varíe el valor de Res y observe.\n"
+                                            "        Resultados: \n"));
+    EXPECT_EQ(desktop::designOf(document), QString::fromUtf8("Colector Común"));
+    const desktop::ReportDress dress(document, Qt::blue);
+    const ReportLine wanted[] = {ReportLine::title,   ReportLine::plain, ReportLine::plain,  ReportLine::plain,
+                                 ReportLine::heading, ReportLine::plain, ReportLine::heading};
+    for (int line = 0; line < 7; ++line)
+        EXPECT_EQ(dress.lineAt(line), wanted[line]) << line;
+}
+
+TEST(ReportDressTest, theNameOfADesignIsSaidWithoutWhatLeadsToIt)
+{
+    QTextDocument document;
+    document.setPlainText(
+        "                Report Design\n        Student: \n                Design :   Long Tail pair \n");
+    EXPECT_EQ(desktop::designOf(document), "Long Tail pair");
+    document.setPlainText("                Elaboración de Informe Parcialmente Desacoplado\n        Alumno: \n"
+                          "        Ejercicio N° 1 \n                Realice un ejercicio: \n");
+    EXPECT_EQ(desktop::designOf(document), QString::fromUtf8("Elaboración de Informe Parcialmente Desacoplado"));
+    document.setPlainText("                A poem\n        whose lines\n                stand in\n");
+    EXPECT_EQ(desktop::designOf(document), QString()) << "nobody is asked for a name there";
+}
+
 TEST(ReportDressTest, dressingIsNoChangeOfTheText)
 {
     QTextDocument document;

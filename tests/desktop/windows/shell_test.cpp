@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QMdiArea>
+#include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -62,6 +63,25 @@ TEST_F(ShellTest, aButtonLeavesItsCaptionAir)
     const QPushButton button(QStringLiteral("Reemplazar todo"));
     const QFontMetrics letters = button.fontMetrics();
     EXPECT_GE(button.sizeHint().width(), letters.horizontalAdvance(button.text()) + letters.height());
+}
+
+// Alt alone, and Escape out of a menu, leave the keyboard with the bar: where it is must be seen.
+TEST_F(ShellTest, theItemOfTheMenuBarThatHasTheKeyboardIsMarked)
+{
+    const auto painted = [this](QStyle::State state) {
+        QImage image(120, 30, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        QStyleOptionMenuItem item;
+        item.initFrom(on.main().menuBar());
+        item.rect = image.rect();
+        item.text = QStringLiteral("&Archivo");
+        item.state = state | QStyle::State_Enabled;
+        on.main().menuBar()->style()->drawControl(QStyle::CE_MenuBarItem, &item, &painter, on.main().menuBar());
+        return image;
+    };
+    EXPECT_NE(painted(QStyle::State_Selected), painted(QStyle::State_None));
+    EXPECT_EQ(painted(QStyle::State_Selected), painted(QStyle::State_Selected | QStyle::State_Sunken));
 }
 
 TEST_F(ShellTest, theButtonsOfAMaximisedChildGrowWithTheLetters)

@@ -409,6 +409,29 @@ TEST_F(ViewTest, aToolGivesWayToTheFieldInHand)
     EXPECT_FALSE(window.frameGeometry().intersects(on.viewOf(on.sheet()).inHand()));
 }
 
+// A sheet whitens and greys fields; colours that warn are another thing.
+TEST_F(ViewTest, whatASheetWhitensOrGreysIsNoPaperInTheDark)
+{
+    on.engine.userRun([this] {
+        on.sheet().setBackColor(Text1, 0xFFFFFF);
+        on.sheet().setBackColor(Text2, 0xC0C0C0);
+        on.sheet().setBackColor(Text3, 0xFFFF80);
+    });
+    const auto groundOf = [this](host::Handle field) {
+        return on.field(field).palette().color(QPalette::Active, QPalette::Base);
+    };
+    EXPECT_EQ(groundOf(Text1), QColor(255, 255, 255));
+    EXPECT_EQ(groundOf(Text2), QColor(0xC0, 0xC0, 0xC0));
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 40, 44), QColor(30, 30, 34)));
+    on.settle();
+    EXPECT_EQ(groundOf(Text1), desktop::darkInks().field);
+    EXPECT_EQ(groundOf(Text2), desktop::darkInks().fieldOff);
+    EXPECT_EQ(groundOf(Text3), QColor(0xFF, 0xFF, 0x80));
+    QApplication::setPalette(light);
+    on.settle();
+}
+
 TEST_F(ViewTest, theSheetTurnsDarkWithTheDesktopAndBack)
 {
     const QPalette light = QApplication::palette();
