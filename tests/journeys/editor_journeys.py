@@ -68,6 +68,17 @@ class Report(Journey):
         velmor.see("^Guardar$", "push button")
         velmor.key("Escape")
 
+    def test_the_keys_of_a_sheet_delete_nothing_in_a_report(self):
+        velmor = self.program
+        editor = self.open_report()
+        until(lambda: "Ejercicio" in velmor.text(editor), "the report")
+        written = velmor.text(editor)
+        velmor.key("ctrl+Home", "Down")
+        velmor.key("ctrl+d", "ctrl+k", "ctrl+u")
+        velmor.type("Zq")
+        until(lambda: "Zq" in velmor.text(editor), "what was typed")
+        self.assertEqual(velmor.text(editor).replace("Zq", ""), written)
+
 
 if __name__ == "__main__":
     unittest.main()

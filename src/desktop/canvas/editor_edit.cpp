@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <iterator>
 
 #include <QKeyEvent>
 #include <QMimeData>
@@ -60,6 +61,14 @@ bool splitsWord(const QTextDocument& document, int position)
     return inWord(position - 2) && inWord(position);
 }
 
+/// Some desktops let a text box delete with the keys that on a sheet make a clone and open the calculator: out of habit.
+bool isSlip(const QKeyEvent& event)
+{
+    constexpr Qt::Key keys[] = {Qt::Key_D, Qt::Key_K, Qt::Key_U};
+    return event.modifiers() == Qt::ControlModifier &&
+           std::find(std::begin(keys), std::end(keys), event.key()) != std::end(keys);
+}
+
 } // namespace editor_edit_detail
 
 LongLines* EditorEdit::lines() const
@@ -78,6 +87,8 @@ void EditorEdit::select(int from, int to)
 void EditorEdit::keyPressEvent(QKeyEvent* event)
 {
     using namespace editor_edit_detail;
+    if (isSlip(*event))
+        return;
     if (lines() == nullptr || !lines()->any())
         return QPlainTextEdit::keyPressEvent(event);
     stepOver(*event);

@@ -186,9 +186,14 @@ Answer search(const QString& text, const Manner& manner, QSizeF room, int flags,
     const int largest = std::max(static_cast<int>(smallestLetters), static_cast<int>(std::lround(wanted)));
     const int least = std::max(static_cast<int>(smallestLetters), static_cast<int>(std::lround(wanted * 0.82)));
     const int unwrapped = flags & ~static_cast<int>(Qt::TextWordWrap);
-    for (int pixels = largest; manner.oneLine && pixels >= least; --pixels)
-        if (const QFont font = fontOf(manner, pixels); measure(text, font, room, unwrapped).fits)
-            return measure(text, font, room, flags);
+    for (int pixels = largest; manner.oneLine && pixels >= least; --pixels) {
+        const QFont font = fontOf(manner, pixels);
+        const Answer whole = measure(text, font, room, unwrapped);
+        // Half a pixel too wide may pass, and would be wrapped all the same.
+        if (Answer answer = measure(text, font, room, flags);
+            whole.fits && answer.box.height() < whole.box.height() + font.pixelSize() / 2.0)
+            return answer;
+    }
     for (int pixels = largest; pixels > static_cast<int>(smallestLetters); --pixels)
         if (Answer answer = measure(text, fontOf(manner, pixels), room, flags); answer.fits)
             return answer;
