@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -52,6 +53,12 @@ struct ShellTest : ::testing::Test {
         }));
     }
     QAbstractButton& closeOf(QWidget& widget) { return *widget.findChild<QAbstractButton*>("close"); }
+    void pressAt(QPoint onTheScreen)
+    {
+        QTest::mouseClick(on.main().windowHandle(), Qt::LeftButton, {}, on.main().mapFromGlobal(onTheScreen));
+        on.settle();
+    }
+    QPoint titleOfTheSheet() { return on.main().area().currentSubWindow()->mapToGlobal(QPoint(60, 8)); }
     Bench on;
 };
 
@@ -356,6 +363,18 @@ TEST_F(InnerToolTest, aPressTurnsToTheSheetAndBackAndSoDoesF6)
     EXPECT_EQ(on.engine.current(), &on.sheet());
 }
 
+TEST_F(InnerToolTest, aPressOnTheFrameOfTheSheetTurnsToItAndOneOnTheTitleOfTheToolBack)
+{
+    host::Window& model = on.show("Herramienta");
+    tool().move(0, on.main().panel().height() - tool().height());
+    pressAt(titleOfTheSheet());
+    EXPECT_TRUE(on.field(Text1).hasFocus());
+    EXPECT_EQ(on.engine.current(), &on.sheet());
+    pressAt(tool().mapToGlobal(QPoint(30, 10)));
+    EXPECT_TRUE(toolHasKeyboard());
+    EXPECT_EQ(on.engine.current(), &model);
+}
+
 TEST_F(InnerToolTest, aHandMovesItByItsTitleAndSizesItByItsEdgesInsideTheWindow)
 {
     on.show("Herramienta");
@@ -471,6 +490,14 @@ TEST_F(StripTest, aPressInTheSheetTakesTheKeyboardBackFromIt)
     EXPECT_EQ(on.engine.current(), on.engine.defaultInstance("Paleta"));
     on.click(Text2);
     EXPECT_TRUE(on.field(Text2).hasFocus());
+    EXPECT_EQ(on.engine.current(), &on.sheet());
+}
+
+TEST_F(StripTest, soDoesAPressOnTheFrameOfTheSheet)
+{
+    on.keys("F6");
+    pressAt(titleOfTheSheet());
+    EXPECT_TRUE(on.field(Text1).hasFocus());
     EXPECT_EQ(on.engine.current(), &on.sheet());
 }
 
