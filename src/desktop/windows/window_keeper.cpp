@@ -362,8 +362,11 @@ void WindowKeeper::focusMoved(QWidget* now)
     if (desk_.closing || following_ || now == nullptr)
         return;
     SheetView* view = activeView();
-    if (view != nullptr && (now == view->parentWidget() || now == view || view->isAncestorOf(now)) &&
-        now != view->canvas().focusTarget())
+    if (view == nullptr || now == view->canvas().focusTarget())
+        return;
+    const bool own = now == view->parentWidget() || now == view || view->isAncestorOf(now);
+    // The area hands the keyboard to one of its sheets at changes of its own, whoever has it.
+    if (own || (main_ && main_->area().isAncestorOf(now)))
         postFocus();
 }
 

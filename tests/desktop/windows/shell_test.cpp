@@ -501,4 +501,16 @@ TEST_F(StripTest, soDoesAPressOnTheFrameOfTheSheet)
     EXPECT_EQ(on.engine.current(), &on.sheet());
 }
 
+// The area hands the keyboard to its sheet at changes of its own: when the main window becomes active, when a frame goes.
+TEST_F(StripTest, whatTheAreaGivesToItsSheetComesBackToIt)
+{
+    on.keys("F6");
+    for (QWidget* sheets :
+         {static_cast<QWidget*>(on.main().area().currentSubWindow()), static_cast<QWidget*>(&on.field(Text2))}) {
+        sheets->setFocus();
+        on.settle();
+        EXPECT_TRUE(strip().isAncestorOf(QApplication::focusWidget()));
+    }
+}
+
 } // namespace velmor::test::shell_test
