@@ -9,8 +9,10 @@
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QTimer>
+#include <QWindow>
 
 #include "desktop/windows/child_frame.h"
 #include "desktop/windows/main_window.h"
@@ -360,8 +362,11 @@ void WindowKeeper::focusMoved(QWidget* now)
     if (desk_.closing || following_ || now == nullptr)
         return;
     SheetView* view = activeView();
-    if (view != nullptr && (now == view->parentWidget() || now == view || view->isAncestorOf(now)) &&
-        now != view->canvas().focusTarget())
+    if (view == nullptr || now == view->canvas().focusTarget())
+        return;
+    const bool own = now == view->parentWidget() || now == view || view->isAncestorOf(now);
+    // The area hands the keyboard to one of its sheets at changes of its own, whoever has it.
+    if (own || (main_ && main_->area().isAncestorOf(now)))
         postFocus();
 }
 
@@ -402,6 +407,10 @@ bool WindowKeeper::eventFilter(QObject* object, QEvent* event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange && object == main_.data())
         followDesktop();
+    if (event->type() == QEvent::Show && object == main_.data() && main_->windowHandle() != nullptr)
+        main_->windowHandle()->installEventFilter(this);
+    if (event->type() == QEvent::MouseButtonPress && main_ && object == main_->windowHandle())
+        pressedInside(static_cast<QMouseEvent*>(event)->position().toPoint());
     if (event->type() == QEvent::WindowActivate && !desk_.closing && object->isWidgetType() &&
         static_cast<QWidget*>(object)->isWindow())
         QTimer::singleShot(0, this, [this] { windowActivated(); });

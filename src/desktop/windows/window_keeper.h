@@ -80,6 +80,7 @@ private:
     void putInFront(QWidget& top);
     void takeInHand(QWidget* inside);
     void touchedInside(const QWidget& canvas);
+    void pressedInside(QPoint place);
     void postFocus();
     void focusMoved(QWidget* now);
     void childActivated(QMdiSubWindow* child);

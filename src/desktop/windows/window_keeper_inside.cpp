@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QTimer>
 
+#include "desktop/windows/sheet_view.h"
 #include "desktop/windows/tool_window.h"
 #include "desktop/windows/window_keeper.h"
 
@@ -58,6 +59,20 @@ void WindowKeeper::touchedInside(const QWidget& canvas)
     if (turnedTo != nullptr && desk_.idle() && desk_.engine->current() != turnedTo)
         desk_.engine->userActivate(*turnedTo);
     postFocus();
+}
+
+// A press on a frame, a title or a scroll bar, of which the drawing does not hear, turns to the window it belongs to.
+void WindowKeeper::pressedInside(QPoint place)
+{
+    const QWidget* pressed = main_->childAt(place);
+    if (pressed == nullptr || desk_.closing)
+        return;
+    for (const auto& [window, frame] : frames_) {
+        const auto* tool = dynamic_cast<ToolWindow*>(frame);
+        const bool turnsTo = tool != nullptr ? tool->isInside() : window == desk_.engine->activeChild();
+        if (turnsTo && (pressed == &frame->widget() || frame->widget().isAncestorOf(pressed)))
+            return touched(&frame->view()->canvas());
+    }
 }
 
 } // namespace velmor::desktop

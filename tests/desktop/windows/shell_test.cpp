@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMenuBar>
+#include <QMdiSubWindow>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -53,6 +54,12 @@ struct ShellTest : ::testing::Test {
         }));
     }
     QAbstractButton& closeOf(QWidget& widget) { return *widget.findChild<QAbstractButton*>("close"); }
+    void pressAt(QPoint onTheScreen)
+    {
+        QTest::mouseClick(on.main().windowHandle(), Qt::LeftButton, {}, on.main().mapFromGlobal(onTheScreen));
+        on.settle();
+    }
+    QPoint titleOfTheSheet() { return on.main().area().currentSubWindow()->mapToGlobal(QPoint(60, 8)); }
     Bench on;
 };
 
@@ -376,6 +383,18 @@ TEST_F(InnerToolTest, aPressTurnsToTheSheetAndBackAndSoDoesF6)
     EXPECT_EQ(on.engine.current(), &on.sheet());
 }
 
+TEST_F(InnerToolTest, aPressOnTheFrameOfTheSheetTurnsToItAndOneOnTheTitleOfTheToolBack)
+{
+    host::Window& model = on.show("Herramienta");
+    tool().move(0, on.main().panel().height() - tool().height());
+    pressAt(titleOfTheSheet());
+    EXPECT_TRUE(on.field(Text1).hasFocus());
+    EXPECT_EQ(on.engine.current(), &on.sheet());
+    pressAt(tool().mapToGlobal(QPoint(30, 10)));
+    EXPECT_TRUE(toolHasKeyboard());
+    EXPECT_EQ(on.engine.current(), &model);
+}
+
 TEST_F(InnerToolTest, aHandMovesItByItsTitleAndSizesItByItsEdgesInsideTheWindow)
 {
     on.show("Herramienta");
@@ -492,6 +511,26 @@ TEST_F(StripTest, aPressInTheSheetTakesTheKeyboardBackFromIt)
     on.click(Text2);
     EXPECT_TRUE(on.field(Text2).hasFocus());
     EXPECT_EQ(on.engine.current(), &on.sheet());
+}
+
+TEST_F(StripTest, soDoesAPressOnTheFrameOfTheSheet)
+{
+    on.keys("F6");
+    pressAt(titleOfTheSheet());
+    EXPECT_TRUE(on.field(Text1).hasFocus());
+    EXPECT_EQ(on.engine.current(), &on.sheet());
+}
+
+// The area hands the keyboard to its sheet at changes of its own: when the main window becomes active, when a frame goes.
+TEST_F(StripTest, whatTheAreaGivesToItsSheetComesBackToIt)
+{
+    on.keys("F6");
+    for (QWidget* sheets :
+         {static_cast<QWidget*>(on.main().area().currentSubWindow()), static_cast<QWidget*>(&on.field(Text2))}) {
+        sheets->setFocus();
+        on.settle();
+        EXPECT_TRUE(strip().isAncestorOf(QApplication::focusWidget()));
+    }
 }
 
 } // namespace velmor::test::shell_test
