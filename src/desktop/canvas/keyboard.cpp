@@ -415,7 +415,8 @@ bool Keyboard::fieldKey(FieldEdit& field, const QKeyEvent& event)
     // A letter with Alt is a menu's that no menu has: the line edit would write it past the key slot.
     if (event.modifiers() == Qt::AltModifier && !event.text().isEmpty() && event.text().at(0).isPrint())
         return true;
-    field.handTaken();
+    if (!turnsNothing(event))
+        field.handTaken();
     if (event.key() == Qt::Key_Backspace)
         return !passes(backspaceKey);
     if (event.matches(QKeySequence::Cut))

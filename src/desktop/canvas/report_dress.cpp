@@ -114,8 +114,10 @@ QString designOf(const QTextDocument& document)
     bool entries = false;
     QTextBlock block = document.firstBlock().next();
     for (int line = 1; line < longestOpening && block.isValid(); ++line, block = block.next()) {
-        if (entries && endsOpening(block))
-            return named((isDesignName(block) ? block : document.firstBlock()).text());
+        if (isDesignName(block))
+            return named(block.text());
+        if (endsOpening(block))
+            return entries ? named(document.firstBlock().text()) : QString();
         entries = entries || isEntry(block.text());
     }
     return {};

@@ -20,6 +20,7 @@ constexpr double cyclesSeen = 2;
 constexpr double strong = 2.2; ///< pixels of the curve that counts
 constexpr double thin = 1.2;
 constexpr double bentDistortion = 10; ///< %
+constexpr double muchLost = 0.7;      ///< a gain below it leaves no room for the whole input
 constexpr double legendRoom = 1.35;   ///< below the wave, of what it has above
 constexpr double mostLegendRoom = 3;  ///< the same on a low paper, where the wave must still be seen
 constexpr double namesBelow = 5;      ///< heights of letters below the lower ceiling: its name and the legend
@@ -107,14 +108,14 @@ PlotAxis WavePlot::heights(const QRectF& room, double letters) const
     return {.from = from, .to = rest + reach, .ticks = evenTicks(from, rest + reach, 6), .unit = "V"};
 }
 
-/// The input is drawn so many times larger that it can be told beside the output.
+/// The input is drawn so many times larger, or smaller where much of it is lost on the way, that it can be told beside the output.
 double WavePlot::magnified() const
 {
     const check::Swing& first = checked().result.swing;
     if (first.input.values.empty() || first.output.values.empty() || check::peakToPeak(first.input) <= 0)
         return 1;
     const double gain = check::peakToPeak(first.output) / check::peakToPeak(first.input);
-    return gain < 1 ? 1 : niceBelow(gain);
+    return gain < 1 && gain > muchLost ? 1 : niceBelow(gain);
 }
 
 void WavePlot::paintCeilings(const PlotPaper& paper, const PlotAxis& y, const PlotLook& look) const

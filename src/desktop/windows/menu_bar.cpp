@@ -49,6 +49,15 @@ QString withOtherLetter(const QString& caption, const QSet<QChar>& taken)
     return bare;
 }
 
+/// Letters for the menu and for those that it leads to, as often as they are opened: captions follow the language.
+void giveLettersWhenOpened(QMenu& menu)
+{
+    QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&menu] { giveLetters(menu.actions()); });
+    for (const QAction* action : menu.actions())
+        if (action->menu() != nullptr)
+            giveLettersWhenOpened(*action->menu());
+}
+
 /// An item of the main window that the editor has too.
 bool repeats(const QAction& own, const QList<QAction*>& items)
 {
@@ -67,22 +76,30 @@ QString menuName(const QString& caption)
     return withoutLetter(caption).remove(QLatin1Char('.')).simplified().toLower();
 }
 
+// First come those whose captions have a letter, then those without one, and those whose letter is gone.
 void giveLetters(const QList<QAction*>& actions)
 {
     QSet<QChar> taken;
+    const auto write = [&taken](QAction& action, const QString& caption) {
+        if (const QChar letter = letterOf(caption); !letter.isNull())
+            taken.insert(letter);
+        if (action.text() != caption) {
+            action.setProperty(givenCaption, captionOf(action));
+            action.setText(caption);
+        }
+    };
+    QList<QAction*> others;
     for (QAction* action : actions) {
         if (action->isSeparator() || !action->isVisible())
             continue;
-        QString caption = captionOf(*action);
-        if (taken.contains(letterOf(caption)))
-            caption = withOtherLetter(caption, taken);
-        if (const QChar letter = letterOf(caption); !letter.isNull())
-            taken.insert(letter);
-        if (action->text() != caption) {
-            action->setProperty(givenCaption, captionOf(*action));
-            action->setText(caption);
-        }
+        const QChar letter = letterOf(captionOf(*action));
+        if (letter.isNull() || taken.contains(letter))
+            others.append(action);
+        else
+            write(*action, captionOf(*action));
     }
+    for (QAction* action : others)
+        write(*action, withOtherLetter(captionOf(*action), taken));
 }
 
 MenuBar::MenuBar(Desk& desk, QMainWindow& window, Menus& own, const host::MainParts& parts)
@@ -95,9 +112,13 @@ MenuBar::MenuBar(Desk& desk, QMainWindow& window, Menus& own, const host::MainPa
                 if (!name.empty())
                     names_[top].insert(menuName(shown(name)));
     QMenu* menu = list_ == noControl ? nullptr : own.menuOf(list_);
+    if (menu != nullptr)
+        connect(menu, &QMenu::aboutToShow, this, [this, menu] { listChildren(*menu); });
+    for (const Handle top : own.tops())
+        if (own.menuOf(top) != nullptr)
+            giveLettersWhenOpened(*own.menuOf(top));
     if (menu == nullptr)
         return;
-    connect(menu, &QMenu::aboutToShow, this, [this, menu] { listChildren(*menu); });
     for (std::size_t number = 0; number < numbered; ++number) {
         auto* action = new QAction(this);
         action->setShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + static_cast<int>(number))));

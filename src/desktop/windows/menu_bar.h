@@ -60,7 +60,7 @@ private:
 
 /// The name in a caption: no letter marked, no dots, no capitals.
 QString menuName(const QString& caption);
-/// Marks another letter where one is given twice; earlier ones keep theirs.
+/// Marks a letter where there is none, and another where one is given twice; earlier ones keep theirs.
 void giveLetters(const QList<QAction*>& actions);
 
 } // namespace velmor::desktop

@@ -75,6 +75,7 @@ TEST_F(KeyboardTest, aMenuThatIsLeftGivesTheFieldItsSelectionBack)
     const QString whole = on.field(Text1).selectedText();
     ASSERT_FALSE(whole.isEmpty());
     const auto visitMenu = [this] {
+        on.key(Qt::Key_Shift); // as Alt, which leads there, it says nothing yet
         on.main().menuBar()->setFocus(Qt::MenuBarFocusReason);
         on.settle();
         on.field(Text1).setFocus(Qt::MenuBarFocusReason);

@@ -19,7 +19,8 @@ namespace velmor::test::plots_test {
 
 constexpr double letters = 11;
 
-desktop::Checked checkedWave()
+/// `gain`: of the output, whose peak is 2.46 V, over the input.
+desktop::Checked checkedWave(double gain = 0.985)
 {
     desktop::Checked checked;
     checked.design.fo = 20;
@@ -28,7 +29,7 @@ desktop::Checked checkedWave()
     check::Swing swing{.peakToPeak = 4.92, .distortion = 0.07};
     swing.input = swing.output = {.step = 2e-3 / samples, .cycles = 2};
     for (int i = 0; i < samples; ++i) {
-        swing.input.values.push_back(2.5 * std::sin(4 * M_PI * i / samples));
+        swing.input.values.push_back(2.46 / gain * std::sin(4 * M_PI * i / samples));
         swing.output.values.push_back(-2.46 * std::sin(4 * M_PI * i / samples));
     }
     checked.result.swing = checked.swing = swing;
@@ -91,6 +92,15 @@ TEST(PlotsTest, theLowestLevelStandsClearOfTheUnitBelowIt)
     ASSERT_TRUE(texts.contains(QString::fromUtf8("−18")));
     ASSERT_TRUE(texts.contains("Hz"));
     EXPECT_LE(texts.at(QString::fromUtf8("−18")).bottom() + 2, texts.at("Hz").top());
+}
+
+// A follower behind a generator of high resistance: 0.324 of the input arrives, and 0.2 is the round number below.
+TEST(PlotsTest, anInputThatIsMuchLargerThanTheOutputIsDrawnSmaller)
+{
+    const desktop::Checked lost = checkedWave(0.324);
+    EXPECT_TRUE(textsOf(desktop::WavePlot(lost), {340, 310}, false).contains(QString::fromUtf8("entrada × 0.2")));
+    const desktop::Checked kept = checkedWave();
+    EXPECT_TRUE(textsOf(desktop::WavePlot(kept), {340, 310}, false).contains(QString::fromUtf8("entrada × 1")));
 }
 
 TEST(PlotsTest, theLegendOfTheWaveLeavesTheNamesOfItsCeilingsClear)

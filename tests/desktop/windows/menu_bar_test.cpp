@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The one menu bar, the list of open children and the round of Ctrl+Tab.
+#include <functional>
+
 #include <gtest/gtest.h>
 
 #include <QAction>
@@ -107,6 +109,29 @@ TEST_F(MenuBarTest, menusOfOneNameAreOneInALanguageThatTheProgramHasNotSpokenYet
     EXPECT_EQ(names.count("archivo"), 1);
     EXPECT_TRUE(names.contains("format"));
     expectLettersOnce(bar());
+}
+
+// English captions are given without any; who opens a menu by Alt goes on by letters.
+TEST_F(MenuBarTest, everyItemHasALetterOfItsOwnInBothLanguages)
+{
+    const std::function<void(QMenu&)> expectLetters = [&](QMenu& menu) {
+        Q_EMIT menu.aboutToShow();
+        expectLettersOnce(menu.actions());
+        for (const QAction* action : menu.actions()) {
+            if (!action->isVisible() || action->isSeparator())
+                continue;
+            EXPECT_FALSE(QKeySequence::mnemonic(action->text()).isEmpty()) << action->text().toStdString();
+            if (action->menu() != nullptr)
+                expectLetters(*action->menu());
+        }
+    };
+    for (const host::Handle language : {main_window::mnuIng, main_window::mnuEsp}) {
+        on.engine.userMenu(on.engine.mainWindow(), language);
+        Bench::settle();
+        for (const QAction* action : bar())
+            if (action->isVisible() && action->menu() != nullptr)
+                expectLetters(*action->menu());
+    }
 }
 
 TEST_F(MenuBarTest, anEditorsMenusStandInTheBarAndMenusOfOneNameAreOne)
@@ -231,7 +256,7 @@ TEST(LettersTest, aLetterThatIsTakenGivesWayToAnother)
     desktop::giveLetters({&archive, &help, &none, &again});
     EXPECT_EQ(archive.text(), "&Archivo");
     EXPECT_EQ(help.text(), "A&yuda");
-    EXPECT_EQ(none.text(), "Vista");
+    EXPECT_EQ(none.text(), "&Vista") << "one without a letter is given one";
     EXPECT_EQ(again.text(), "A") << "no letter is left";
     desktop::giveLetters({&help, &archive});
     EXPECT_EQ(help.text(), "&Ayuda") << "the given letter comes back";
