@@ -8,8 +8,8 @@
 #include <QImage>
 #include <QLabel>
 #include <QMdiArea>
-#include <QMenuBar>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
