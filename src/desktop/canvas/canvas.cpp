@@ -88,19 +88,11 @@ double Canvas::scaleFor(QSize room) const
 
 void Canvas::layOut(double scale, QSize size)
 {
-    View wanted = view_;
-    wanted.pixelsPerTwip = scale / twipsPerUnit;
-    const double spare = std::max(0.0, size.width() - design_.width * wanted.pixelsPerTwip) / 2.0;
-    wanted.origin =
-        QPointF(std::floor(spare) - design_.left * wanted.pixelsPerTwip, -design_.top * wanted.pixelsPerTwip);
-    const bool same = laidOut_ && size == this->size() && wanted.pixelsPerTwip == view_.pixelsPerTwip &&
-                      wanted.origin == view_.origin && laidTextScale_ == desk_.textScale;
-    if (same)
-        return; // it is asked for at many changes of the window around, and would have everything painted anew
     laidOut_ = true;
-    laidTextScale_ = desk_.textScale;
     resize(size);
-    view_ = wanted;
+    view_.pixelsPerTwip = scale / twipsPerUnit;
+    const double spare = std::max(0.0, size.width() - design_.width * view_.pixelsPerTwip) / 2.0;
+    view_.origin = QPointF(std::floor(spare) - design_.left * view_.pixelsPerTwip, -design_.top * view_.pixelsPerTwip);
     std::fill(ink_.begin(), ink_.end(), QRectF());
     if (model_ == nullptr)
         return;
@@ -344,16 +336,6 @@ void Canvas::paintPaleFields(QPainter& painter, const QRegion& clip)
             paintPaleField(painter, *model_, row.id, boxInPixels(row.id), view_);
 }
 
-// Where nothing was measured, a drawing still reaches as far as it did, unless a value is written in it, it was borrowed or moved.
-bool Canvas::mayHaveReachedFurther(Handle control) const
-{
-    const std::span<const host::Mark> drawing = model_->drawing(control);
-    const bool writes =
-        std::any_of(drawing.begin(), drawing.end(), [](const host::Mark& mark) { return mark.value != noControl; });
-    return writes || drawing.data() != model_->row(control).drawing.data() ||
-           !(host::shownPlace(*model_, control) == places_[control]);
-}
-
 void Canvas::repaintControl(Handle control)
 {
     if (control == noControl || model_ == nullptr || !hasPlace(model_->row(control).kind))
@@ -361,9 +343,12 @@ void Canvas::repaintControl(Handle control)
     const QRectF before = std::exchange(ink_[control], QRectF());
     if (!isVisible())
         return; // it is painted whole when it is shown
-    if (before.isNull() && mayHaveReachedFurther(control))
+    const host::ControlRow& row = model_->row(control);
+    const bool mayHaveMoved = !row.drawing.empty() || !(model_->placeOf(control) == row.place);
+    if (before.isNull() && mayHaveMoved)
         update();
-    update(before.united(ink(control)).toAlignedRect());
+    else
+        update(before.united(ink(control)).toAlignedRect());
     auto* pane = dynamic_cast<ControlPane*>(widgetOf(control));
     if (pane != nullptr && pane->paints())
         pane->update();

@@ -99,7 +99,6 @@ private:
     bool liesOpen(host::Handle control) const;
     bool paints(host::Handle control) const;
     const QRectF& ink(host::Handle control) const;
-    bool mayHaveReachedFurther(host::Handle control) const;
     void followPlaces();
     void refresh(host::Handle control);
     void retone(host::Handle control);
@@ -140,7 +139,6 @@ private:
     mutable std::vector<QRectF> ink_;
     std::vector<host::Place> places_; ///< where each control was shown last
     bool offering_ = false;
-    double laidTextScale_ = 0.0;
     bool laidOut_ = false; ///< has a size; until then nothing is worth placing
     bool seen_ = false;    ///< has been painted whole
     std::unique_ptr<Pointer> pointer_;

@@ -176,8 +176,6 @@ void Canvas::followPlaces()
         const host::Place now = host::shownPlace(*model_, row.id);
         if (std::exchange(places_[row.id], now) == now)
             continue;
-        if (ink_[row.id].isNull())
-            update(); // where it was is not known
         repaintControl(row.id);
         if (widgets_[row.id] != nullptr && laidOut_)
             place(row.id, *widgets_[row.id]);

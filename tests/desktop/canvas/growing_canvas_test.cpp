@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 // A growing drawing on a canvas: what changes its tone is painted anew, fields step back with their part, and what is pale is
 // not there for the mouse.
-#include <random>
-
 #include <QApplication>
 #include <QPaintEvent>
-#include <QScreen>
 
 #include <gtest/gtest.h>
 
@@ -130,55 +127,6 @@ TEST_F(GrowingCanvas, PaintsThePartAnewWhenTheCircuitGetsOrLosesIt)
     window.show(Switch);
     follow();
     EXPECT_TRUE(painted.region.contains(thePart));
-}
-
-TEST_F(GrowingCanvas, PaintsNothingAnewWhenItIsLaidOutAsItIs)
-{
-    Painted painted(canvas);
-    canvas.layOut(1.0, {300, 160});
-    settle();
-    EXPECT_TRUE(painted.region.isEmpty());
-    canvas.layOut(0.9, {300, 160});
-    settle();
-    EXPECT_TRUE(painted.region.contains(QPoint(290, 150)));
-}
-
-TEST_F(GrowingCanvas, PaintsOnlyThePartWhereItsDrawingReachesAsFarAsBefore)
-{
-    Painted painted(canvas);
-    window.show(Part);
-    follow();
-    EXPECT_TRUE(painted.region.contains(thePart));
-    EXPECT_FALSE(painted.region.contains(QPoint(290, 150)));
-}
-
-TEST_F(GrowingCanvas, ShowsWhatAWholePaintingShowsAfterAnyChanges)
-{
-    std::mt19937 chance(7);
-    const auto one = [&chance](int count) { return static_cast<int>(chance() % static_cast<unsigned>(count)); };
-    const char* const texts[] = {"", "1", "12", "47000000"};
-    for (int i = 0; i < 300; ++i) {
-        const host::Handle control = static_cast<host::Handle>(one(5));
-        switch (one(5)) {
-        case 0:
-            window.setVisible(control, one(2) == 0);
-            break;
-        case 1:
-            window.setText(control, texts[one(4)]);
-            break;
-        case 2:
-            window.setPlaceOf(Part, {600 * one(4), 300 * one(3), 600, 1200});
-            break;
-        case 3:
-            window.setEnabled(control, one(2) == 0);
-            break;
-        default:
-            canvas.layOut(1.0, {300, 160 + one(2) * 10});
-        }
-        follow();
-        const QImage seen = canvas.screen()->grabWindow(canvas.winId()).toImage().convertToFormat(QImage::Format_RGB32);
-        ASSERT_EQ(seen, canvas.grab().toImage().convertToFormat(QImage::Format_RGB32)) << "after change " << i;
-    }
 }
 
 TEST_F(GrowingCanvas, LetsAFieldStepBackWithItsPart)
