@@ -2,6 +2,8 @@
 #include "desktop/windows/menus.h"
 
 #include <algorithm>
+#include <optional>
+#include <string_view>
 
 #include <QAction>
 #include <QMenu>
@@ -9,6 +11,7 @@
 #include <QWidget>
 
 #include "desktop/drawing/texts.h"
+#include "host/engine.h"
 #include "host/state_change.h"
 
 namespace velmor::desktop {
@@ -21,6 +24,20 @@ namespace menus_detail {
 
 constexpr std::string_view undoKey = "Ctrl+Z";
 constexpr std::string_view redoKey = "Ctrl+Y";
+constexpr std::string_view saveKey = "Ctrl+S";
+constexpr std::string_view saveAsKey = "Ctrl+Shift+S";
+constexpr std::string_view closeKey = "Ctrl+W";
+
+/// Whether what the main window does at these keys would do anything now; nothing is said of other keys.
+std::optional<bool> mayDo(const host::Engine& engine, std::string_view keys)
+{
+    if (keys == undoKey || keys == redoKey)
+        return engine.canStep(keys == undoKey ? host::Direction::back : host::Direction::forth);
+    const host::Window* child = engine.activeChild();
+    if (keys == saveKey || keys == saveAsKey)
+        return child != nullptr && child->role() == host::Role::sheet;
+    return keys == closeKey ? std::optional(child != nullptr) : std::nullopt;
+}
 
 } // namespace menus_detail
 
@@ -101,17 +118,16 @@ void Menus::refresh(Handle item)
         action->setChecked(state.checked);
 }
 
-// The model greys the items of undo when their menu opens; the screen does so at once. They are known by their keys.
-void Menus::followSteps()
+// The model greys the items of undo when their menu opens; the screen does so at once, and greys what saves a circuit where
+// none is in hand. They are known by their keys.
+void Menus::followActive()
 {
     if (model_ == nullptr || model_->role() != host::Role::mainWindow)
         return;
     for (const host::ShortcutRow& row : model_->spec().shortcuts) {
         QAction* action = row.control == noControl ? nullptr : actionOf(row.control);
-        if (action == nullptr || (row.keys != menus_detail::undoKey && row.keys != menus_detail::redoKey))
-            continue;
-        const bool back = row.keys == menus_detail::undoKey;
-        action->setEnabled(desk_.engine->canStep(back ? host::Direction::back : host::Direction::forth));
+        if (const auto may = menus_detail::mayDo(*desk_.engine, row.keys); action != nullptr && may)
+            action->setEnabled(*may && model_->enabled(row.control));
     }
 }
 

@@ -27,8 +27,8 @@ public:
     void apply(const std::vector<host::Handle>& changes);
     /// The program speaks another language.
     void relabel();
-    /// What leads the active sheet one step back or forth is grey where there is no such step.
-    void followSteps();
+    /// What leads the active sheet one step back or forth, saves or closes it is grey where it would do nothing.
+    void followActive();
     void forgetModel() { model_ = nullptr; }
     /// The menu of a row that has items; null otherwise.
     QMenu* menuOf(host::Handle menu) const;

@@ -238,7 +238,7 @@ void WindowKeeper::followAll()
     }
     if (main_) {
         main_->setHasChildren(children);
-        main_->menus().followSteps();
+        main_->menus().followActive();
         const host::Window* child = desk_.engine->activeChild();
         WindowFrame* frame = child == nullptr || !child->shown() ? nullptr : frameOf(*child);
         main_->followChild(child, frame == nullptr ? nullptr : frame->view()->menus());

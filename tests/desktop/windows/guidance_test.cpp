@@ -188,6 +188,25 @@ TEST_F(EmitterTest, undoAndRedoAreGreyAtOnce)
     EXPECT_FALSE(enabled("mnuRehacer")) << "an editor has no steps";
 }
 
+// A text has its own items for that: these would do nothing with it.
+TEST_F(EmitterTest, whatSavesACircuitIsGreyWhereNoneIsInHand)
+{
+    on.open();
+    const host::Window& model = on.engine.mainWindow();
+    const auto enabled = [&](const char* item) { return on.main().menus().actionOf(model.named(item))->isEnabled(); };
+    for (const char* item : {"mnuFile(1)", "mnuFile(2)", "mnuFile(3)"})
+        EXPECT_FALSE(enabled(item)) << item;
+    host::Window& circuit = on.show("Form2");
+    for (const char* item : {"mnuFile(1)", "mnuFile(2)", "mnuFile(3)"})
+        EXPECT_TRUE(enabled(item)) << item;
+    on.show("frmEdito1");
+    EXPECT_FALSE(enabled("mnuFile(1)"));
+    EXPECT_FALSE(enabled("mnuFile(2)"));
+    EXPECT_TRUE(enabled("mnuFile(3)"));
+    on.engine.userActivate(circuit);
+    EXPECT_TRUE(enabled("mnuFile(1)"));
+}
+
 struct PairTest : ::testing::Test {
     PairTest() : on(program::catalogue()) {}
     void SetUp() override
