@@ -91,6 +91,8 @@ void Desaco::lostText18()
     if (at(Text18) < at(Text15) / 1000.0) {
         tell(baseResistorTooLow);
         goTo(Text18);
+        // To S as well would be to leave Rb2 once more, which is still too low: boxes without end.
+        return;
     }
     sentBack(Text10, Text10);
 }
