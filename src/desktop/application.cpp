@@ -33,6 +33,8 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
 {
     // The toolkit has taken the locale of the environment: a comma must not get into numbers.
     std::setlocale(LC_NUMERIC, "C");
+    // It would move a part of a window by copying it on the screen, and forgets that others have come to lie over it.
+    qputenv("QT_NO_FAST_MOVE", "1");
     setApplicationName(QStringLiteral("Velmor"));
     setDesktopFileName(QStringLiteral("velmor"));
     setQuitOnLastWindowClosed(false);

@@ -65,11 +65,14 @@ void ToolFrame::moveOnScreen(QPoint corner)
     move(isInside() ? parentWidget()->mapFromGlobal(corner) : corner);
 }
 
-// What holds it may have become too small for the place where it stands.
+// What holds it may have become too small for the place where it stands, or has been turned to or left.
 bool ToolFrame::eventFilter(QObject* object, QEvent* event)
 {
     if (event->type() == QEvent::Resize && object == parent() && isInside())
         move(insideRoom(pos(), size(), parentWidget()->rect()));
+    const bool turned = event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate;
+    if (turned && object == parent() && isInside())
+        look();
     return QWidget::eventFilter(object, event);
 }
 

@@ -46,6 +46,8 @@ private:
     const Move& chosen();
     void handOver();
     void check(const std::string& event);
+    void checkPictures(const std::string& event);
+    void comparePictures(const std::string& event);
     std::string faultNow();
     std::string frameFault();
     std::string keyboardFault();

@@ -20,6 +20,7 @@
 #include "desktop/desktop_fixture.h"
 #include "desktop/drawing/box_sign.h"
 #include "desktop/drawing/palette_of_inks.h"
+#include "desktop/fire/stale_picture.h"
 #include "desktop/windows/palette_strip.h"
 #include "desktop/windows/placing.h"
 #include "desktop/windows/quiet_box.h"
@@ -360,6 +361,22 @@ TEST_F(InnerToolTest, itStandsInsideBesideItsFieldAndTakesTheKeyboard)
     EXPECT_FALSE(onScreen(tool()).intersects(onScreen(on.field(Text1))));
     EXPECT_TRUE(toolHasKeyboard());
     EXPECT_EQ(on.engine.current(), tool().model());
+}
+
+TEST_F(InnerToolTest, itStepsBackWhileAnotherWindowHasTheKeyboard)
+{
+    on.show("Herramienta");
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    Bench::settle();
+    ASSERT_FALSE(on.main().isActiveWindow());
+    EXPECT_EQ(stalePictureOf(on.main()), "");
+    const QImage behind = tool().grab().toImage();
+    on.main().activateWindow();
+    Bench::settle();
+    EXPECT_EQ(stalePictureOf(on.main()), "");
+    EXPECT_NE(tool().grab().toImage(), behind);
 }
 
 TEST_F(InnerToolTest, aPressTurnsToTheSheetAndBackAndSoDoesF6)
