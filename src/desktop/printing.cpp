@@ -127,11 +127,13 @@ QStringList printedLines(const host::PrintJob& job, double pageTwips, const Prin
         text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
     const double across = broken ? std::min(pageTwips, printing_detail::widestLine) : pageTwips;
     const WidthOf widthOf = [&widths](const QString& stretch) { return widths.of(stretch); };
+    const auto breaks = [&goesOn] { return !goesOn || goesOn(0, 0); };
     QStringList lines;
     for (const QString& line : text.split(QLatin1Char('\n'))) {
-        if (goesOn && !goesOn(0, 0))
+        const QStringList parts = brokenLine(printing_detail::withoutTabs(line), across, widthOf, breaks);
+        if (parts.isEmpty())
             return {};
-        lines += brokenLine(printing_detail::withoutTabs(line), across, widthOf);
+        lines += parts;
     }
     while (lines.size() > 1 && lines.last().isEmpty())
         lines.removeLast();

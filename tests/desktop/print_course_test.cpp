@@ -74,6 +74,18 @@ TEST(PrintProgressTest, whatIsNotToGoOnEndsAtOnce)
     }
 }
 
+// One line of ten megabytes is broken in many steps, between which the screen has its turn.
+TEST(PrintProgressTest, oneEndlessLineIsBrokenStepByStepAndCanBeCancelledAmongThem)
+{
+    const host::PrintJob job{.text = std::string(1'000'000, 'x'), .font = {.name = "DejaVu Sans Mono", .size = 10.0}};
+    int calls = 0;
+    EXPECT_FALSE(desktop::printedLines(job, 10'000.0, [&](int, int) { return ++calls > 0; }).isEmpty());
+    EXPECT_GT(calls, 1'000);
+    calls = 0;
+    EXPECT_TRUE(desktop::printedLines(job, 10'000.0, [&](int, int) { return ++calls < 50; }).isEmpty());
+    EXPECT_EQ(calls, 50);
+}
+
 struct PrintCourseTest : ::testing::Test {
     void SetUp() override { on.open(); }
     static QDialog* box() { return qobject_cast<QDialog*>(QApplication::activeModalWidget()); }
