@@ -575,6 +575,7 @@ Stage WindowKeeper::stage() const
         stage.room = asks == main_ ? asks->geometry() : asks->screen()->availableGeometry();
     if (const SheetView* view = activeView()) {
         stage.inHand = view->spokenOf();
+        stage.answers = view->answers();
         stage.beside = byHand_ == &view->canvas();
     }
     const host::Window* child = childInSight();
