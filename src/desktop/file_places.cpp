@@ -46,6 +46,15 @@ std::string ownText(const host::Window& window, std::string_view name)
     return {};
 }
 
+bool ownFlag(const host::Window& window, std::string_view name)
+{
+    for (const host::OwnView& view : host::StateAccess::own(window))
+        for (const host::OwnRow& row : view.rows)
+            if (row.kind == host::OwnKind::flag && row.name == name)
+                return row.number(view.record) != 0.0;
+    return false;
+}
+
 /// The design that a report in this window is about; empty for every other window.
 QString reportedDesign(host::Window& window)
 {
@@ -62,7 +71,8 @@ QString nameOf(host::Window& window)
     const bool sheet = window.role() == host::Role::sheet;
     const QString file = QFileInfo(shown(ownText(window, sheet ? "NombreArchivo" : "file"))).completeBaseName();
     const QString own = sheet ? shown(window.caption()) : reportedDesign(window);
-    return fileNameOf(sheet && !file.isEmpty() ? file : own.isEmpty() ? file : own);
+    const bool chosen = sheet || ownFlag(window, "fileIsChosen");
+    return fileNameOf(chosen && !file.isEmpty() ? file : own.isEmpty() ? file : own);
 }
 
 } // namespace file_places_detail

@@ -17,10 +17,10 @@ public:
         readIndent();
     }
 
-    QStringList run()
+    QStringList run(const std::function<bool()>& goesOn)
     {
         QStringList lines;
-        while (true) {
+        while (!goesOn || goesOn()) {
             const qsizetype end = fitting(length(), width_);
             if (end == length() && fits(end, width_)) {
                 lines.append(first(end));
@@ -31,6 +31,7 @@ public:
             taken_ += cut - carried_.size();
             carried_ = indent_;
         }
+        return {};
     }
 
 private:
@@ -98,9 +99,9 @@ private:
 
 } // namespace page_lines_detail
 
-QStringList brokenLine(const QString& line, double width, const WidthOf& widthOf)
+QStringList brokenLine(const QString& line, double width, const WidthOf& widthOf, const std::function<bool()>& goesOn)
 {
-    return page_lines_detail::Breaker(line, width, widthOf).run();
+    return page_lines_detail::Breaker(line, width, widthOf).run(goesOn);
 }
 
 } // namespace velmor::desktop

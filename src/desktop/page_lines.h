@@ -14,7 +14,8 @@ namespace velmor::desktop {
 using WidthOf = std::function<double(const QString&)>;
 
 /// Breaks what is wider than the page behind the last blank that fits, or in the word when there is none. What is carried
-/// over stands under the line's beginning.
-QStringList brokenLine(const QString& line, double width, const WidthOf& widthOf);
+/// over stands under the line's beginning. Asks before each line of the page whether to go on; none when it was not to.
+QStringList brokenLine(const QString& line, double width, const WidthOf& widthOf,
+                       const std::function<bool()>& goesOn = {});
 
 } // namespace velmor::desktop

@@ -4,13 +4,13 @@
 
 #include <algorithm>
 
+#include <QBuffer>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QLineEdit>
 #include <QPageLayout>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -18,6 +18,7 @@
 #include "desktop/page_lines.h"
 #include "desktop/print_course.h"
 #include "desktop/windows/questions.h"
+#include "rules/whole_file.h"
 
 namespace velmor::desktop {
 
@@ -33,15 +34,6 @@ constexpr int lettersOfFile = 64; ///< of a path that are seen
 constexpr host::BiText failed{"No se ha podido imprimir: el archivo o la impresora no lo permiten.",
                               "It could not be printed: the file or the printer does not allow it."};
 constexpr int failedFlags = 48;
-
-// The toolkit's writer of PDFs does not tell that the disk was full: the end of the file does.
-bool isWholePdf(const QString& name)
-{
-    constexpr qint64 closing = 32;
-    QFile file(name);
-    return QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly) &&
-           file.seek(std::max<qint64>(0, file.size() - closing)) && file.readAll().contains("%%EOF");
-}
 
 // The dialog has one line for a file, and would fill it with a name of its own.
 void propose(QPrintDialog& dialog, const FileProposal& proposal)
@@ -83,6 +75,31 @@ private:
     QFontMetricsF metrics_;
     double letter_ = 0.0;
 };
+
+std::int32_t greyOf(std::int32_t color)
+{
+    return qGray(static_cast<QRgb>(color)) * 0x010101;
+}
+
+// The pages come together in memory and are saved as a circuit is: an old file of that name goes only when the new one is whole.
+bool printToPdf(const QPrinter& printer, const host::PrintJob& job, const PrintProgress& goesOn)
+{
+    QByteArray pages;
+    {
+        QBuffer buffer(&pages);
+        buffer.open(QIODevice::WriteOnly);
+        QPdfWriter writer(&buffer);
+        writer.setPageLayout(printer.pageLayout());
+        writer.setResolution(printer.resolution());
+        writer.setTitle(printer.docName());
+        host::PrintJob inked = job;
+        if (printer.colorMode() == QPrinter::GrayScale)
+            inked.font.color = greyOf(job.font.color);
+        if (!printOn(writer, inked, goesOn))
+            return false;
+    }
+    return rules::writeWhole(held(printer.outputFileName()), {pages.data(), static_cast<std::size_t>(pages.size())});
+}
 
 } // namespace printing_detail
 
@@ -127,11 +144,13 @@ QStringList printedLines(const host::PrintJob& job, double pageTwips, const Prin
         text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
     const double across = broken ? std::min(pageTwips, printing_detail::widestLine) : pageTwips;
     const WidthOf widthOf = [&widths](const QString& stretch) { return widths.of(stretch); };
+    const auto breaks = [&goesOn] { return !goesOn || goesOn(0, 0); };
     QStringList lines;
     for (const QString& line : text.split(QLatin1Char('\n'))) {
-        if (goesOn && !goesOn(0, 0))
+        const QStringList parts = brokenLine(printing_detail::withoutTabs(line), across, widthOf, breaks);
+        if (parts.isEmpty())
             return {};
-        lines += brokenLine(printing_detail::withoutTabs(line), across, widthOf);
+        lines += parts;
     }
     while (lines.size() > 1 && lines.last().isEmpty())
         lines.removeLast();
@@ -171,14 +190,15 @@ bool printOn(QPagedPaintDevice& device, const host::PrintJob& job, const PrintPr
 
 bool printTo(QPrinter& printer, const host::PrintJob& job, const PrintProgress& goesOn)
 {
-    const QString file = printer.outputFormat() == QPrinter::PdfFormat ? printer.outputFileName() : QString();
+    if (printer.outputFormat() == QPrinter::PdfFormat)
+        return printing_detail::printToPdf(printer, job, goesOn);
     const auto orGivesUp = [&](int page, int pages) {
         const bool goes = !goesOn || goesOn(page, pages);
         if (!goes)
             printer.abort(); // before the painter ends, which would close the job
         return goes;
     };
-    return printOn(printer, job, orGivesUp) && (file.isEmpty() || printing_detail::isWholePdf(file));
+    return printOn(printer, job, orGivesUp);
 }
 
 QString askAndPrint(QWidget* parent, const host::PrintJob& job, const Stage& stage, const FileProposal& proposal)
@@ -203,11 +223,8 @@ QString askAndPrint(QWidget* parent, const host::PrintJob& job, const Stage& sta
             return printer.outputFileName();
         cancelled = course.isCancelled();
     }
-    if (cancelled) {
-        if (QFileInfo(printer.outputFileName()).isFile())
-            QFile::remove(printer.outputFileName()); // what there is of it is no print-out
+    if (cancelled)
         return {};
-    }
     const host::BiText& text = printing_detail::failed;
     askMessage(parent, {std::string(stage.english ? text.en : text.es), "Velmor", printing_detail::failedFlags}, stage);
     return {};

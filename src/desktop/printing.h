@@ -35,11 +35,11 @@ QStringList printedLines(const host::PrintJob& job, double pageTwips, const Prin
 /// Prints on a device whose page is set. False when it cannot be written, or was not to go on.
 bool printOn(QPagedPaintDevice& device, const host::PrintJob& job, const PrintProgress& goesOn = {});
 
-/// Prints on a printer or into its file. False when nothing can be read of it, also of a disk that became full.
+/// Prints on a printer or into its file, which is replaced whole or not at all. False when it cannot be done, or was not to go on.
 bool printTo(QPrinter& printer, const host::PrintJob& job, const PrintProgress& goesOn = {});
 
 /// Asks for the printer (or a PDF file) and prints, with a word to the one who waits; says so when it cannot be done. Returns the
-/// file that was written, if any; of a print-out that was cancelled none is left.
+/// file that was written, if any; a print-out that was cancelled leaves the old one as it was.
 QString askAndPrint(QWidget* parent, const host::PrintJob& job, const Stage& stage, const FileProposal& proposal);
 
 } // namespace velmor::desktop

@@ -67,8 +67,7 @@ void WorkKeeping::showOffer()
     line.chosen = [this](OfferLine::Choice choice) {
         switch (choice) {
         case OfferLine::Choice::open:
-            keeper_.openOffered();
-            return;
+            return open();
         case OfferLine::Choice::drop:
             return drop();
         case OfferLine::Choice::later:
@@ -77,6 +76,14 @@ void WorkKeeping::showOffer()
     };
     line.offer({offer.designs, offer.texts, QDateTime::fromSecsSinceEpoch(offer.time)});
     main->showOfferLine(true);
+}
+
+// The line goes first: what is opened is to stand in the room that stays, where it stood.
+void WorkKeeping::open()
+{
+    screen_.keeper().mainWindow()->showOfferLine(false);
+    if (!keeper_.openOffered())
+        screen_.keeper().mainWindow()->showOfferLine(true);
 }
 
 void WorkKeeping::later()

@@ -30,6 +30,7 @@ private:
     void work();
     void showOffer();
     void drop();
+    void open();
     void later();
 
     host::Engine& engine_;

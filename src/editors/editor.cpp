@@ -17,6 +17,7 @@ namespace editor_detail {
 constexpr auto documentTable = host::everyMember<Document>(
     host::own<&Document::name>("NombreDocumento"),
     host::own<&Document::file>("file"),
+    host::own<&Document::fileIsChosen>("fileIsChosen"),
     host::own<&Document::isNew>("DocumentoNuevo"),
     host::own<&Document::changed>("DocumentoCambiado"),
     host::own<&Document::actionCancelled>("AccionCancelada"),
@@ -127,6 +128,7 @@ void Editor::openGuide()
     document_.changed = false;
     document_.name = bareName ? guide : pathOfGuide(host().programFolder(), guide);
     document_.file = fileOfGuide(bareName, guide);
+    document_.fileIsChosen = false;
     if (readDocument(fileOfGuide(editor_.guide != GuidePlace::archivos, guide)))
         setTitle(document_.name + std::string(pick(editor_.guideTitle)));
     setBusy(false);
@@ -156,6 +158,12 @@ bool Editor::writeDocument(const std::string& path)
         return false;
     host().workSaved(*this);
     return true;
+}
+
+void Editor::takeFile(const std::string& path)
+{
+    document_.name = document_.file = path;
+    document_.fileIsChosen = true;
 }
 
 void Editor::changed()
@@ -207,6 +215,7 @@ void Editor::startEmpty()
 {
     putText("");
     setTitle(pick(editor_.newTitle));
+    document_.fileIsChosen = false;
     document_.isNew = true;
     document_.changed = false;
 }
@@ -226,7 +235,7 @@ bool Editor::openFile(const std::string& path)
     document_.actionCancelled = false;
     if (!readDocument(path))
         return false;
-    document_.name = document_.file = path;
+    takeFile(path);
     setCaption(path);
     return true;
 }
@@ -252,7 +261,7 @@ void Editor::runOpen()
     setBusy(false);
     if (!read)
         return;
-    document_.name = document_.file = *path;
+    takeFile(*path);
     setTitle(document_.name + std::string(pick(editor_.documentTitle)));
 }
 
@@ -287,7 +296,7 @@ bool Editor::runSaveAs()
         return false;
     if (!writeDocument(*path))
         return false;
-    document_.name = document_.file = *path;
+    takeFile(*path);
     document_.isNew = false;
     setTitle(document_.name + std::string(pick(editor_.documentTitle)));
     return true;

@@ -80,8 +80,9 @@ struct EditorSpec {
 
 /// What an editor knows of its document, beside the text.
 struct Document {
-    std::string name; ///< `NombreDocumento`
-    std::string file; ///< the file that the name means: whole path, with the capitals that it has on the disk
+    std::string name;          ///< `NombreDocumento`
+    std::string file;          ///< the file that the name means: whole path, with the capitals that it has on the disk
+    bool fileIsChosen = false; ///< a person has named that file; it is not the guide that the editor opened with
     bool isNew = true;
     bool changed = false;
     bool actionCancelled = false;
@@ -136,6 +137,7 @@ private:
     void openGuide();
     bool readDocument(const std::string& path);
     bool writeDocument(const std::string& path);
+    void takeFile(const std::string& path);
     bool runSaveAs();
     void runOpen();
     void putText(std::string_view text);

@@ -77,7 +77,7 @@ constexpr host::ControlRow controls[] = {
     {.id = imgButton11, .name = "imgButton(11)", .kind = Kind::image, .place = buttonPlace(11),
      .meaning = {.es = "Emisor Común Realimentado por tensión", .en = "Common Emmiter (feedback for Voltage)"},
      .look = Look::toolButton, .drawing = button_drawings::voltageFeedback},
-    {.id = lblButton, .name = "lblButton", .kind = Kind::label, .place = {13320, 120, 960, 1080},
+    {.id = lblButton, .name = "lblButton", .kind = Kind::label, .place = buttonPlace(12),
      .meaning = {.es = "Todos los circuitos", .en = "All circuits"},
      .look = Look::toolButton},
 };

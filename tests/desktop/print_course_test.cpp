@@ -5,17 +5,21 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPdfWriter>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
 #include "desktop/desktop_fixture.h"
+#include "desktop/full_disk.h"
 #include "desktop/print_course.h"
 #include "desktop/printing.h"
 
@@ -72,6 +76,18 @@ TEST(PrintProgressTest, whatIsNotToGoOnEndsAtOnce)
         }));
         EXPECT_EQ(calls, 1);
     }
+}
+
+// One line of ten megabytes is broken in many steps, between which the screen has its turn.
+TEST(PrintProgressTest, oneEndlessLineIsBrokenStepByStepAndCanBeCancelledAmongThem)
+{
+    const host::PrintJob job{.text = std::string(1'000'000, 'x'), .font = {.name = "DejaVu Sans Mono", .size = 10.0}};
+    int calls = 0;
+    EXPECT_FALSE(desktop::printedLines(job, 10'000.0, [&](int, int) { return ++calls > 0; }).isEmpty());
+    EXPECT_GT(calls, 1'000);
+    calls = 0;
+    EXPECT_TRUE(desktop::printedLines(job, 10'000.0, [&](int, int) { return ++calls < 50; }).isEmpty());
+    EXPECT_EQ(calls, 50);
 }
 
 struct PrintCourseTest : ::testing::Test {
@@ -139,6 +155,88 @@ TEST_F(PrintCourseTest, cancelledItLeavesNoFileAndGivesTheKeyboardBack)
     EXPECT_EQ(box(), nullptr) << "nothing failed, nothing is said";
     EXPECT_FALSE(QFile::exists(path));
     EXPECT_TRUE(on.field(bench::Text1).hasFocus());
+}
+
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+struct PrintOverTest : PrintCourseTest {
+    void SetUp() override
+    {
+        PrintCourseTest::SetUp();
+        ASSERT_TRUE(QDir(on.folder.path()).mkdir("impresos"));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(old);
+    }
+    /// Everything in the folder, hidden or not.
+    QStringList files() const
+    {
+        return QDir(on.folder.filePath("impresos")).entryList(QDir::Files | QDir::Hidden | QDir::System);
+    }
+    /// Says that the old file may be replaced.
+    void answerOverwriting()
+    {
+        auto* watch = new QTimer(&on.main());
+        QObject::connect(watch, &QTimer::timeout, watch, [watch] {
+            auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (question == nullptr || !question->isVisible())
+                return;
+            watch->deleteLater();
+            question->button(QMessageBox::Yes)->click();
+        });
+        watch->start(1);
+    }
+
+    const QByteArray old = "the report of yesterday";
+    const QString path = on.folder.filePath("impresos/informe.pdf");
+};
+
+TEST_F(PrintOverTest, aPrintOutTakesThePlaceOfTheOldFile)
+{
+    nameFile(path);
+    answerOverwriting();
+    on.screen.print(jobOf(100));
+    EXPECT_GT(pagesIn(path), 1);
+    EXPECT_EQ(files(), QStringList{"informe.pdf"});
+}
+
+TEST_F(PrintOverTest, oneThatIsCancelledLeavesTheOldFileAsItWas)
+{
+    nameFile(path);
+    answerOverwriting();
+    bool seen = false;
+    QStringList meanwhile;
+    whenShown("printCourse", [&](QDialog& dialog) {
+        seen = true;
+        meanwhile = files();
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    on.screen.print(jobOf(200'000));
+    on.settle();
+    EXPECT_TRUE(seen);
+    EXPECT_EQ(meanwhile, QStringList{"informe.pdf"}) << "a program that is killed would leave the other behind";
+    EXPECT_EQ(bytesOf(path), old);
+    EXPECT_EQ(files(), QStringList{"informe.pdf"});
+}
+
+TEST_F(PrintOverTest, oneThatFailsLeavesTheOldFileAsItWas)
+{
+    nameFile(path);
+    answerOverwriting();
+    on.answerByKey(Qt::Key_Return);
+    {
+        const FullDisk full;
+        on.screen.print(jobOf(100));
+    }
+    ASSERT_EQ(on.boxes.size(), 1U);
+    EXPECT_TRUE(on.boxes.front().text.startsWith("No se ha podido imprimir"));
+    EXPECT_EQ(bytesOf(path), old);
+    EXPECT_EQ(files(), QStringList{"informe.pdf"});
 }
 
 } // namespace velmor::test::print_course_test

@@ -18,6 +18,7 @@ namespace velmor::desktop {
 namespace child_frame_detail {
 
 constexpr QSize smallestFrame(240, 120);
+constexpr int minimised = 1; ///< state of a child
 
 // clang-format off
 /// The toolkit's own menu of a frame, in its order. What has no caption here is left out: edges and title are for the pointer,
@@ -194,6 +195,8 @@ void ChildFrame::tellState()
     statePosted_ = false;
     if (model() != nullptr && !desk_.closing && shownState() != model()->windowState())
         desk_.engine->userState(*model(), shownState());
+    if (becameIcon && model() != nullptr && model()->windowState() == child_frame_detail::minimised)
+        becameIcon();
 }
 
 // The toolkit would shorten a title of its own to the frame's width at every question about the frame's parts, for all frames

@@ -3,6 +3,8 @@
 // and buttons is told to the engine, and undone where the engine refuses.
 #pragma once
 
+#include <functional>
+
 #include <QMdiSubWindow>
 
 #include "desktop/canvas/desk.h"
@@ -28,6 +30,8 @@ public:
     QSize minimumSizeHint() const override;
     /// What the buttons in the title do, by name and letter.
     void showFrameMenu();
+    /// Called when the person has made it an icon, and the engine knows.
+    std::function<void()> becameIcon;
 
 protected:
     bool event(QEvent* event) override;

@@ -45,16 +45,28 @@ std::vector<host::Window*> ChildRounds::open() const
     return children;
 }
 
+std::vector<host::Window*> ChildRounds::openByUse() const
+{
+    std::vector<host::Window*> children = open();
+    const auto rank = [this](const host::Window* window) {
+        return std::find(used_.begin(), used_.end(), window) - used_.begin();
+    };
+    std::stable_sort(children.begin(), children.end(), [&](const auto* a, const auto* b) { return rank(a) < rank(b); });
+    return children;
+}
+
+host::Window* ChildRounds::lastUsed() const
+{
+    const std::vector<host::Window*> children = openByUse();
+    return children.empty() ? nullptr : children.front();
+}
+
 void ChildRounds::step(bool back)
 {
     if (!desk_.idle())
         return;
     if (round_.empty()) {
-        round_ = open();
-        const auto rank = [this](const host::Window* window) {
-            return std::find(used_.begin(), used_.end(), window) - used_.begin();
-        };
-        std::stable_sort(round_.begin(), round_.end(), [&](const auto* a, const auto* b) { return rank(a) < rank(b); });
+        round_ = openByUse();
         at_ = 0;
     }
     if (round_.size() < 2)

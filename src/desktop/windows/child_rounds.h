@@ -20,12 +20,15 @@ public:
 
     /// Takes note of which child is in use now.
     void follow();
+    /// The open child that was used last, icons left out; null without one.
+    host::Window* lastUsed() const;
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     std::vector<host::Window*> open() const;
+    std::vector<host::Window*> openByUse() const;
     void step(bool back);
     void end();
 

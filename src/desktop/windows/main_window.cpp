@@ -202,6 +202,11 @@ void MainWindow::followChild(const host::Window* child, Menus* menus)
     followButtons(child);
 }
 
+host::Window* MainWindow::lastChildInSight() const
+{
+    return rounds_->lastUsed();
+}
+
 // The buttons of a maximised child stand in the menu bar; while another one is in front, they would act on what lies behind it.
 void MainWindow::followButtons(const host::Window* child)
 {

@@ -43,6 +43,8 @@ public:
     QWidget& panel() const { return *middle_; }
     /// The palette lies in a strip at the lower edge while it rests.
     void setStrip(PaletteStrip* strip);
+    /// The child that was in hand last and is no icon; null without one.
+    host::Window* lastChildInSight() const;
     /// A child window is shown, so the welcome panel leaves it room.
     void setHasChildren(bool hasChildren);
     /// The pointer is over a control of some window: a button that talks brings the page of its design over the sheets.

@@ -66,14 +66,26 @@ QPoint firstFree(std::initializer_list<Side> sides, const QRect& thing, QSize si
 
 QPoint besideThing(const QRect& thing, QSize size, const QRect& room)
 {
-    using placing::Side;
-    return placing::firstFree({Side::below, Side::above, Side::right, Side::left}, thing, size, room);
+    const std::vector<QPoint> corners = cornersBeside(thing, size, room);
+    return corners.empty() ? clearOfThing(thing, size, room) : corners.front();
 }
 
 QPoint sidewaysOf(const QRect& thing, QSize size, const QRect& room)
 {
     using placing::Side;
     return placing::firstFree({Side::right, Side::left, Side::above, Side::below}, thing, size, room);
+}
+
+std::vector<QPoint> cornersBeside(const QRect& thing, QSize size, const QRect& room)
+{
+    using namespace placing;
+    std::vector<QPoint> corners;
+    for (const Side side : {Side::below, Side::above, Side::right, Side::left}) {
+        const QPoint kept = insideRoom(cornerAt(side, thing, size), size, room);
+        if (!thing.isEmpty() && leavesFree(thing, kept, size))
+            corners.push_back(kept);
+    }
+    return corners;
 }
 
 QPoint clearOfThing(const QRect& thing, QSize size, const QRect& room)

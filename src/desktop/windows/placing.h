@@ -3,6 +3,8 @@
 // given. On desktops where a program cannot place its windows this is a wish that nothing relies on.
 #pragma once
 
+#include <vector>
+
 #include <QPoint>
 #include <QRect>
 #include <QSize>
@@ -15,6 +17,9 @@ QPoint besideThing(const QRect& thing, QSize size, const QRect& room);
 
 /// The same to the right, else to the left, above or below: for what is read while the fields below are filled.
 QPoint sidewaysOf(const QRect& thing, QSize size, const QRect& room);
+
+/// Where beside the thing there is room that leaves it free: below, above, to the right, to the left.
+std::vector<QPoint> cornersBeside(const QRect& thing, QSize size, const QRect& room);
 
 /// In the middle of the room, or as near to it as leaves the thing free.
 QPoint clearOfThing(const QRect& thing, QSize size, const QRect& room);

@@ -249,18 +249,28 @@ void QuietBox::settleAt(QPoint wished)
     settleClear(insideScreen(wished, size()));
 }
 
-// A tool that asks speaks of the field behind it as well.
+/// Square pixels.
+int QuietBox::hiddenAnswers(QPoint corner) const
+{
+    int hidden = 0;
+    for (const QRect& part : stage_.answers& QRect(corner, size()))
+        hidden += part.width() * part.height();
+    return hidden;
+}
+
+// A tool that asks speaks of the field behind it as well. Where there is a choice, the values that the box speaks of stay in sight.
 void QuietBox::settleClear(QPoint wished)
 {
     const QRect room = stage_.room;
-    for (const QPoint corner :
-         {wished, besideThing(stage_.inHand, size(), room), sidewaysOf(stage_.inHand, size(), room),
-          besideThing(stage_.behind, size(), room), sidewaysOf(stage_.behind, size(), room)})
-        if (isClear(corner)) {
-            move(corner);
-            return;
-        }
-    move(clearOfThing(stage_.inHand, size(), room));
+    std::vector<QPoint> corners{wished};
+    for (const QRect& field : {stage_.inHand, stage_.behind})
+        for (const QPoint corner : cornersBeside(field, size(), room))
+            corners.push_back(corner);
+    std::erase_if(corners, [this](QPoint corner) { return !isClear(corner); });
+    const auto best = std::min_element(corners.begin(), corners.end(), [this](QPoint one, QPoint other) {
+        return hiddenAnswers(one) < hiddenAnswers(other);
+    });
+    move(best == corners.end() ? clearOfThing(stage_.inHand, size(), room) : *best);
 }
 
 void QuietBox::paintEvent(QPaintEvent*)

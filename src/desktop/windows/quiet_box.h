@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QRect>
+#include <QRegion>
 
 #include "desktop/drawing/palette_of_inks.h"
 #include "host/screen.h"
@@ -28,6 +29,7 @@ struct Stage {
     QRect room;          ///< of the window that asks, on the screen
     QRect inHand;        ///< the field in hand, on the screen; empty without one
     QRect behind;        ///< the field of the sheet behind a tool that asks, on the screen; empty without one
+    QRegion answers;     ///< the values that came with the box, on the screen: it stands elsewhere where it can
     bool beside = false; ///< the box speaks of that field
 };
 
@@ -76,6 +78,7 @@ private:
     QSize roomForText() const;
     void takeSize();
     bool isClear(QPoint corner) const;
+    int hiddenAnswers(QPoint corner) const;
     void settleClear(QPoint wished);
     bool scroll(int key);
 

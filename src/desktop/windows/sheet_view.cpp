@@ -87,6 +87,9 @@ SheetView::SheetView(Desk& desk, host::Window& model, QWidget* parent)
     setFocusProxy(canvas_);
     canvas_->applyAll();
     model.takeChanges();
+    for (const host::ControlRow& row : model.spec().controls)
+        if (model.role() == Role::sheet && (row.kind == Kind::field || row.look == host::Look::result))
+            values_.emplace(row.id, model.text(row.id));
     followTimers();
 }
 
@@ -110,6 +113,7 @@ void SheetView::bringUpToDate()
     if (changes.empty())
         return;
     canvas_->apply(changes);
+    followAnswers(changes);
     if (strip_ != nullptr && isScrolled() && strip_->shows(changes)) {
         strip_->update();
         if (strip_->reach() != reach_)
@@ -118,6 +122,26 @@ void SheetView::bringUpToDate()
     if (menus_ != nullptr)
         menus_->apply(changes);
     followTimers();
+}
+
+void SheetView::followAnswers(const std::vector<Handle>& changes)
+{
+    answers_.clear();
+    for (const Handle control : changes)
+        if (const auto value = values_.find(control);
+            value != values_.end() && value->second != model()->text(control)) {
+            value->second = model()->text(control);
+            answers_.push_back(control);
+        }
+}
+
+QRegion SheetView::answers() const
+{
+    QRegion region;
+    for (const Handle control : answers_)
+        if (model() != nullptr && control != model()->focus() && isShown(*model(), control))
+            region += boxOf(control);
+    return region;
 }
 
 // When a design has passed, the tile of what comes next stands forward for a while, once.

@@ -4,7 +4,9 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <unordered_map>
+#include <vector>
 
 #include <QScrollArea>
 #include <QWidget>
@@ -48,6 +50,8 @@ public:
     QRegion carried() const;
     /// The same; while a field is being left, that one.
     QRect spokenOf() const;
+    /// On the screen, the values that the last event has changed, but for the field in hand.
+    QRegion answers() const;
     /// Size in logical pixels that shows the window as its table wants it.
     QSize wantedSize() const;
 
@@ -60,6 +64,7 @@ private:
     QRect boxOf(host::Handle control) const;
     void followTimers();
     void followDesign();
+    void followAnswers(const std::vector<host::Handle>& changes);
     void layOutPrompts();
     void search(Canvas::Search deed);
     void bringIntoView();
@@ -81,6 +86,8 @@ private:
     unsigned stirrings_ = 0;
     bool passed_;
     std::unordered_map<host::Handle, QTimer*> timers_;
+    std::unordered_map<host::Handle, std::string> values_; ///< of fields and results, as they were last followed
+    std::vector<host::Handle> answers_;
 };
 
 } // namespace velmor::desktop

@@ -28,6 +28,7 @@ using host::Role;
 
 namespace window_keeper_detail {
 
+constexpr int minimised = 1;  ///< state of a child
 constexpr int handOver = 250; ///< milliseconds in which the keyboard has come to another window, if it comes by itself
 
 } // namespace window_keeper_detail
@@ -106,6 +107,7 @@ WindowFrame* WindowKeeper::make(host::Window& window)
 void WindowKeeper::addChild(ChildFrame& child)
 {
     // The area's own answer comes between the two: it would have the frames of all children painted anew.
+    child.becameIcon = [this] { turnFromIcon(); };
     connect(&child, &QMdiSubWindow::aboutToActivate, this, [this, &child] { holdFrames(child, true); });
     // A new child clears the menu bar of the buttons that it would have there, and would have the bar and all that is seen of
     // the other children painted anew, though nothing of it changed.
@@ -314,9 +316,36 @@ SheetView* WindowKeeper::activeView() const
         return nullptr;
     if (stripInHand_ && strip_ && strip_->isVisible() && strip_->model() != nullptr)
         return strip_->view();
-    const host::Window* child = desk_.engine->activeChild();
+    const host::Window* child = childInSight();
     WindowFrame* frame = child == nullptr ? nullptr : frameOf(*child);
     return frame == nullptr ? nullptr : frame->view();
+}
+
+/// The active child, unless it is an icon: what is typed or asked there would be seen by nobody.
+host::Window* WindowKeeper::childInSight() const
+{
+    host::Window* child = desk_.engine->activeChild();
+    return child == nullptr || child->windowState() == window_keeper_detail::minimised ? nullptr : child;
+}
+
+// The sheet that was in hand before is in hand again, as after the end of the one that has become an icon.
+void WindowKeeper::turnFromIcon()
+{
+    if (!main_ || desk_.closing || !desk_.idle() || childInSight() != nullptr)
+        return;
+    if (host::Window* next = main_->lastChildInSight())
+        desk_.engine->userActivate(*next);
+}
+
+// Where only icons are left the frame has the keyboard, and hands on what it knows nothing of: the main window's keys.
+void WindowKeeper::restOnIcon()
+{
+    const host::Window* child = desk_.engine->activeChild();
+    WindowFrame* frame = child == nullptr || childInSight() != nullptr ? nullptr : frameOf(*child);
+    if (!main_ || inFront() != main_ || stripInHand_ || frame == nullptr)
+        return;
+    if (!frame->widget().hasFocus())
+        frame->widget().setFocus(Qt::OtherFocusReason);
 }
 
 void WindowKeeper::followFocus()
@@ -325,16 +354,19 @@ void WindowKeeper::followFocus()
     const QWidget* now = QApplication::focusWidget();
     // A menu that is walked by keyboard has the focus on loan and gives it back itself. A sheet that gets it comes to the front,
     // where another one may be asked about.
-    if (view == nullptr || desk_.engine->askedAbout() != nullptr || (now != nullptr && now->inherits("QMenuBar")))
+    if (desk_.engine->askedAbout() != nullptr || (now != nullptr && now->inherits("QMenuBar")))
         return;
-    view->followFocus();
+    if (view != nullptr)
+        view->followFocus();
+    else
+        restOnIcon();
 }
 
 // While another window has the keyboard, the main one remembers the field in hand of its active sheet: a field that is disabled
 // meanwhile would leave it none, and Qt would give the keyboard to the first sheet that takes it.
 void WindowKeeper::followFocusBehind()
 {
-    const host::Window* child = desk_.engine->activeChild();
+    const host::Window* child = childInSight();
     WindowFrame* frame = child == nullptr ? nullptr : frameOf(*child);
     if (!main_ || main_->isActiveWindow() || frame == nullptr || frame->view() == nullptr)
         return;
@@ -483,7 +515,7 @@ void WindowKeeper::turnTo(host::Window& window)
 
 bool WindowKeeper::typeBehind(const QKeyEvent& event)
 {
-    host::Window* child = desk_.engine->activeChild();
+    host::Window* child = childInSight();
     if (!main_ || child == nullptr || !desk_.idle() || frameOf(*child) == nullptr)
         return false;
     wanted_ = nullptr;
@@ -543,9 +575,10 @@ Stage WindowKeeper::stage() const
         stage.room = asks == main_ ? asks->geometry() : asks->screen()->availableGeometry();
     if (const SheetView* view = activeView()) {
         stage.inHand = view->spokenOf();
+        stage.answers = view->answers();
         stage.beside = byHand_ == &view->canvas();
     }
-    const host::Window* child = desk_.engine->activeChild();
+    const host::Window* child = childInSight();
     if (WindowFrame* behind = child == nullptr ? nullptr : frameOf(*child);
         behind != nullptr && behind->view() != activeView() && child->role() == Role::sheet)
         stage.behind = behind->view()->spokenOf();

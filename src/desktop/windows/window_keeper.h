@@ -89,6 +89,9 @@ private:
     bool handedBack(QWidget* active);
     void turnTo(host::Window& window);
     void turnToPane(host::Window& pane);
+    void turnFromIcon();
+    host::Window* childInSight() const;
+    void restOnIcon();
     bool typeBehind(const QKeyEvent& event);
 
     Desk& desk_;

@@ -104,6 +104,50 @@ TEST_F(ChildStateTest, theButtonsOfAMaximisedSheetGoWhileAnotherIsInFront)
     EXPECT_TRUE(buttons());
 }
 
+// What a student types goes into a sheet that is seen.
+TEST_F(ChildStateTest, aMinimisedSheetLeavesTheKeyboardToTheNextOne)
+{
+    host::Window& first = sheet();
+    choose(main_window::once);
+    host::Window& second = sheet();
+    choose(main_window::once);
+    host::Window& third = sheet();
+    on.engine.userActivate(second);
+    Bench::settle();
+    frame(second).showMinimized();
+    Bench::settle();
+    EXPECT_EQ(on.engine.activeChild(), &third) << "the one that was in hand before it";
+    EXPECT_EQ(on.main().area().currentSubWindow(), &frame(third));
+    const std::string stood = second.text(second.focus());
+    Bench::type("7");
+    EXPECT_EQ(second.text(second.focus()), stood);
+    EXPECT_EQ(third.text(third.focus()), "7");
+    frame(third).showMinimized();
+    Bench::settle();
+    EXPECT_EQ(on.engine.activeChild(), &first);
+    Bench::type("8");
+    EXPECT_EQ(first.text(first.focus()), "8");
+}
+
+TEST_F(ChildStateTest, whatIsTypedWhereOnlyIconsStandGoesIntoNone)
+{
+    host::Window& only = sheet();
+    const std::string stood = only.text(only.focus());
+    const host::Handle field = only.focus();
+    frame(only).showMinimized();
+    Bench::settle();
+    Bench::type("7");
+    Bench::key(Qt::Key_Return);
+    EXPECT_EQ(only.text(field), stood);
+    EXPECT_EQ(only.focus(), field);
+    Bench::keys("Ctrl+Shift+I"); // the main window's keys work on
+    EXPECT_EQ(on.engine.values().LanguageIsEnglish, host::trueValue);
+    frame(only).showNormal();
+    Bench::settle();
+    Bench::type("7");
+    EXPECT_EQ(only.text(field), "7");
+}
+
 TEST_F(ChildStateTest, theMenuOfTheFrameOpensByKeyInTheLanguageOfTheMomentAndMaximisesTheSheet)
 {
     const auto captions = [this] {

@@ -132,6 +132,21 @@ TEST_F(FilePlacesTest, whatIsPrintedIsProposedUnderTheNameOfItsDesign)
     EXPECT_EQ(QDir(QFileInfo(name).path()).canonicalPath(), documents());
 }
 
+// The guide with which an editor opened gives a report no name; the file that it was saved in does.
+TEST_F(FilePlacesTest, aReportThatWasSavedKeepsItsName)
+{
+    host::Window& editor = showReport();
+    seeDialog(on.folder.filePath("Entrega de Juan.Lab"));
+    on.engine.userMenu(editor, editors::mnuFileSaveAs);
+    ASSERT_TRUE(QFile::exists(on.folder.filePath("Entrega de Juan.Lab")));
+    seeDialog();
+    on.engine.userMenu(editor, editors::mnuImprimir);
+    EXPECT_EQ(QFileInfo(name).fileName(), "Entrega de Juan.pdf");
+    seeDialog();
+    on.engine.userMenu(editor, editors::mnuFileSaveAs);
+    EXPECT_EQ(name, "Entrega de Juan");
+}
+
 TEST_F(FilePlacesTest, whatIsPrintedGoesHomeWhereNeitherDocumentsNorProgramsFolderCanBeWritten)
 {
     host::Window& editor = showReport();

@@ -117,6 +117,36 @@ TEST_F(OfferTest, whatWasLeftIsOfferedAndOpenedAsItStood)
     EXPECT_TRUE(program.on.widgetOf(opened, opened.focus())->hasFocus());
 }
 
+// The line goes with what it offered, and gives its room back.
+TEST_F(OfferTest, aSheetThatWasMovedStandsWhereItStoodWhenItIsOpened)
+{
+    const auto frameOf = [](Program& program, const host::Window& sheet) -> QWidget& {
+        return program.on.screen.keeper().frameOf(sheet)->widget();
+    };
+    const auto placeOf = [&](Program& program, const host::Window& sheet) {
+        const QWidget& frame = frameOf(program, sheet);
+        return QRect(frame.mapTo(&program.on.main(), QPoint()), frame.size());
+    };
+    QRect stood;
+    {
+        Program program(folder, time);
+        host::Window& sheet = program.sheet();
+        frameOf(program, sheet).setGeometry(200, 150, 900, 480);
+        Bench::type("5");
+        Bench::key(Qt::Key_Return);
+        stood = placeOf(program, sheet);
+        program.on.engine.userRun([&] { program.on.engine.host().endProgram(); });
+    }
+    Program program(folder, time + 60);
+    const host::Window& first = program.sheet();
+    const QRect firstStood = placeOf(program, first);
+    program.look();
+    ASSERT_TRUE(program.shown());
+    program.press("Recuperar");
+    EXPECT_EQ(placeOf(program, *program.on.engine.activeChild()), stood);
+    EXPECT_EQ(placeOf(program, first), firstStood);
+}
+
 TEST_F(OfferTest, laterLeavesItForTheNextStart)
 {
     worked();

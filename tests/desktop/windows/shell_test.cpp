@@ -275,6 +275,33 @@ TEST(BoxSignTest, everySignHasAnOutlineOfItsOwn)
     EXPECT_NE(shape(Icon::stop), empty);
 }
 
+// A box that speaks of a current shall not hide it: a value that has just been computed stays in sight as the field in hand does.
+TEST_F(ShellTest, aBoxStandsBesideTheValuesThatCameWithIt)
+{
+    QRect box;
+    on.duringBox = [&box] { box = QApplication::activeModalWidget()->frameGeometry(); };
+    const auto placeOf = [this](host::Handle control) {
+        desktop::Canvas& canvas = on.viewOf(on.sheet()).canvas();
+        const QRect inside = canvas.boxInPixels(control);
+        return QRect(canvas.mapToGlobal(inside.topLeft()), inside.size());
+    };
+    std::string answer;
+    on.sheet().deeds[{Text1, Event::key}] = [&](host::EventArgs& args) {
+        if (args.key != 13)
+            return;
+        if (!answer.empty())
+            on.sheet().setText(Text2, answer);
+        on.answerByKey(Qt::Key_Return);
+        on.engine.host().MsgBox("Corriente distinta", 48, "Velmor");
+    };
+    Bench::key(Qt::Key_Return);
+    ASSERT_TRUE(box.intersects(placeOf(Text2))) << "below the field, where nothing has come";
+    answer = "-9.6 mA";
+    Bench::key(Qt::Key_Return);
+    EXPECT_FALSE(box.intersects(placeOf(Text2)));
+    EXPECT_FALSE(box.intersects(placeOf(Text1)));
+}
+
 TEST(PlacingTest, belowTheThingElseAboveElseBesideItElseWhereverItHidesNothing)
 {
     const QRect room(0, 0, 1000, 600);

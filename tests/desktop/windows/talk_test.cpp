@@ -139,6 +139,16 @@ TEST_F(TalkTest, thePageNeverLiesUnderAPaletteThatAHandHasMoved)
     EXPECT_EQ(welcome()->y(), 0);
 }
 
+TEST_F(TalkTest, theMarkOfAButtonStandsAllAroundIt)
+{
+    for (host::Handle button = palette::imgButton0; button <= palette::lblButton; ++button) {
+        const host::Place mark = palette().placeOf(palette::Shape1_0 + (button - palette::imgButton0));
+        const host::Place inside = palette().placeOf(button);
+        EXPECT_EQ(inside.left - mark.left, mark.left + mark.width - inside.left - inside.width) << button;
+        EXPECT_EQ(inside.top - mark.top, mark.top + mark.height - inside.top - inside.height) << button;
+    }
+}
+
 TEST_F(TalkTest, theGeneralPageStaysBehindTheSheets)
 {
     pointAt(palette(), palette::imgButton4);
