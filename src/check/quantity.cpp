@@ -66,6 +66,26 @@ const QuantityText& textOf(Quantity quantity)
     return quantity_detail::table[static_cast<std::size_t>(quantity)];
 }
 
+std::string_view reportedSignOf(Quantity quantity)
+{
+    switch (quantity) {
+    case Quantity::output:
+        return "Eo/Eg";
+    case Quantity::drift:
+        return "/\\QIc";
+    case Quantity::Pout:
+        return "Po";
+    case Quantity::Pclean:
+        return "P10";
+    case Quantity::efficiency:
+        return "P10/P";
+    case Quantity::heat:
+        return "PQ";
+    default:
+        return textOf(quantity).name;
+    }
+}
+
 std::optional<Quantity> quantityNamed(std::string_view name)
 {
     for (const QuantityText& row : quantity_detail::table)

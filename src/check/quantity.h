@@ -56,6 +56,8 @@ struct QuantityText {
 /// One row each, in the order of the table that the student sees.
 std::span<const QuantityText> quantityTexts();
 const QuantityText& textOf(Quantity quantity);
+/// Its sign in the letters of a report, which writes the drift so.
+std::string_view reportedSignOf(Quantity quantity);
 /// Without regard to capitals; nothing when there is no such quantity.
 std::optional<Quantity> quantityNamed(std::string_view name);
 

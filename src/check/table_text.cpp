@@ -35,9 +35,9 @@ std::string cell(const Measured& value, std::string_view unit)
 std::string rowLine(const Row& row, bool english)
 {
     const QuantityText& text = textOf(row.quantity);
-    return std::string(text.name) + '\t' + cell(row.asked, text.unit) + '\t' + cell(row.course, text.unit) + '\t' +
-           cell(row.simulated, text.unit) + '\t' + std::string(pick(judgementText(row.judgement), english)) +
-           std::string(lineEnd);
+    return std::string(reportedSignOf(row.quantity)) + '\t' + cell(row.asked, text.unit) + '\t' +
+           cell(row.course, text.unit) + '\t' + cell(row.simulated, text.unit) + '\t' +
+           std::string(pick(judgementText(row.judgement), english)) + std::string(lineEnd);
 }
 
 /// What the verdict says beyond the word that stands in the row.
@@ -46,7 +46,7 @@ std::string verdictLine(const Row& row, bool english)
     const std::string& verdict = row.verdict.in(english);
     if (verdict == pick(judgementText(row.judgement), english))
         return {};
-    return std::string(textOf(row.quantity).name) + ": " + verdict + std::string(lineEnd);
+    return std::string(reportedSignOf(row.quantity)) + ": " + verdict + std::string(lineEnd);
 }
 
 std::string ladderLines(const Row& row, bool english)
@@ -56,7 +56,7 @@ std::string ladderLines(const Row& row, bool english)
     const auto add = [&](double value, const std::string& step, const std::string& reason) {
         lines += amountText(value, text.unit) + '\t' + step + '\t' + reason + std::string(lineEnd);
     };
-    lines += std::string(text.name) + std::string(pick(fromCourse, english)) + std::string(lineEnd);
+    lines += std::string(reportedSignOf(row.quantity)) + std::string(pick(fromCourse, english)) + std::string(lineEnd);
     add(row.ladder.start, "", std::string(pick(course, english)));
     for (std::size_t i = 0; i < row.ladder.rungs.size(); ++i)
         add(row.ladder.rungs[i].value, stepText(row, i), sentence(pick(row.ladder.rungs[i].reason, english)));

@@ -45,9 +45,22 @@ void propose(QPrintDialog& dialog, const FileProposal& proposal)
     file->setMinimumWidth(file->fontMetrics().averageCharWidth() * lettersOfFile);
 }
 
-QString withoutTabs(QString line)
+// Tabs that indent a line are eight blanks each; those behind go on to a stop, so that the columns of a table stay columns in a
+// face whose letters are all as wide. A stop holds as many letters as one of the editor, which are narrower.
+QString withoutTabs(const QString& line)
 {
-    return line.replace(QLatin1Char('\t'), QStringLiteral("        "));
+    constexpr qsizetype indent = 8;
+    constexpr qsizetype stop = 9;
+    QString blanks;
+    bool indents = true;
+    for (const QChar letter : line) {
+        indents = indents && letter == QLatin1Char('\t');
+        if (letter != QLatin1Char('\t'))
+            blanks += letter;
+        else
+            blanks += QString(indents ? indent : stop - blanks.size() % stop, QLatin1Char(' '));
+    }
+    return blanks;
 }
 
 /// How wide stretches are. In a face whose letters are all as wide they are counted: shaping each stretch to measure it takes as

@@ -141,6 +141,17 @@ TEST(Check, writesItsTableForReportAndSpreadsheet)
         csv.starts_with("magnitud,unidad,pedido,curso,simulador,resto dB,veredicto\r\nQIc,mA,1,1,1.05,,coincide\r\n"));
 }
 
+// The words by which walks call a quantity are English: no report of either language holds them.
+TEST(Check, writesSignsAndNoEnglishWordsIntoAReport)
+{
+    Check check;
+    check.rows = {{.quantity = Quantity::drift, .asked = 8.0, .course = 8.0, .simulated = 5.85},
+                  {.quantity = Quantity::heat, .simulated = 2.0}};
+    const std::string text = textTable(check, design(), false);
+    EXPECT_NE(text.find("/\\QIc\t8 %\t8 %\t5.85 %\t"), std::string::npos) << text;
+    EXPECT_NE(text.find("PQ\t-\t-\t2 W\t"), std::string::npos) << text;
+}
+
 TEST(Amount, isWrittenForReading)
 {
     EXPECT_EQ(amountText(10704.5, "ohm"), "10.7 K");

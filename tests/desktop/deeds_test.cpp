@@ -341,6 +341,14 @@ TEST(PrintingTest, theWholeTextIsPrintedAndLongLinesAreBrokenAtBlanks)
     EXPECT_EQ(desktop::printedLines(job, desktop::printedTwips(job.font, "xxxx") + 10.0).join(""), "xxxxxxxxxx");
 }
 
+TEST(PrintingTest, theColumnsOfATableStayColumnsOnPaper)
+{
+    const host::PrintJob job{.text = "Magnitud\tPedido\tCurso\r\nQIc\t2 mA\t2.02 mA\r\n\tRes = 620\r\n",
+                             .font = {.name = "DejaVu Sans Mono", .size = 10.0}};
+    EXPECT_EQ(desktop::printedLines(job, 100000.0),
+              (QStringList{"Magnitud Pedido   Curso", "QIc      2 mA     2.02 mA", "        Res = 620"}));
+}
+
 // An editor breaks its text for eight inches, at a carriage return alone; the page here is narrower.
 TEST(PrintingTest, aLineThatWasBrokenForAWiderPaperIsBrokenOnceForThisOne)
 {

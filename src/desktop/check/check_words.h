@@ -126,6 +126,12 @@ inline std::string_view symbolOf(check::Quantity quantity)
     return symbols[static_cast<std::size_t>(quantity)];
 }
 
+/// The same in a line of words.
+inline QString plainSymbolOf(check::Quantity quantity)
+{
+    return shown(symbolOf(quantity)).remove(QLatin1Char('_'));
+}
+
 /// A hyphen before a figure is a minus sign.
 inline QString minus(QString text)
 {

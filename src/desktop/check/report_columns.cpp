@@ -19,6 +19,13 @@ int stopsOf(const QString& cell, const Widths& widthOf, double stop)
     return static_cast<int>(std::floor(widthOf(cell) / stop)) + 1;
 }
 
+/// A cell that ends so near to a stop that the text may be set as reaching it reaches it for certain, by a blank.
+QString sureCell(const QString& cell, const Widths& widthOf, double stop)
+{
+    const QString longer = cell + QLatin1Char(' ');
+    return stopsOf(longer, widthOf, stop) > stopsOf(cell, widthOf, stop) ? longer : cell;
+}
+
 void setTable(QStringList& lines, qsizetype from, qsizetype to, const Widths& widthOf, double stop)
 {
     std::vector<int> stops;
@@ -27,15 +34,16 @@ void setTable(QStringList& lines, qsizetype from, qsizetype to, const Widths& wi
         for (qsizetype column = 0; column + 1 < cells.size(); ++column) {
             const auto place = static_cast<std::size_t>(column);
             stops.resize(std::max(stops.size(), place + 1), 1);
-            stops[place] = std::max(stops[place], stopsOf(cells[column], widthOf, stop));
+            stops[place] = std::max(stops[place], stopsOf(sureCell(cells[column], widthOf, stop), widthOf, stop));
         }
     }
     for (qsizetype i = from; i < to; ++i) {
         const QStringList cells = lines[i].split(QLatin1Char('\t'));
         QString line;
         for (qsizetype column = 0; column + 1 < cells.size(); ++column) {
-            const int filled = stopsOf(cells[column], widthOf, stop) - 1;
-            line += cells[column] + QString(stops[static_cast<std::size_t>(column)] - filled, QLatin1Char('\t'));
+            const QString cell = sureCell(cells[column], widthOf, stop);
+            const int filled = stopsOf(cell, widthOf, stop) - 1;
+            line += cell + QString(stops[static_cast<std::size_t>(column)] - filled, QLatin1Char('\t'));
         }
         lines[i] = line + cells.back();
     }

@@ -122,8 +122,8 @@ void RowPanel::follow(std::optional<check::Quantity> inHand)
     if (row == nullptr)
         return;
     const check::QuantityText& words = check::textOf(row->quantity);
-    heading_->setText(
-        QStringLiteral("%1 · %2").arg(shown(words.name), check_words::minus(in(words.meaning, checked_.english))));
+    heading_->setText(QStringLiteral("%1 · %2").arg(check_words::plainSymbolOf(row->quantity),
+                                                    check_words::minus(in(words.meaning, checked_.english))));
     if (ready)
         open ? tellOf(*row) : askFor(*row);
 }

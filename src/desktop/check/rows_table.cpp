@@ -116,7 +116,7 @@ private:
     {
         const QString plain = text(row, column);
         if (column == quantityColumn)
-            return shown(check::textOf(row.quantity).name) + QStringLiteral(", ") + plain;
+            return check_words::plainSymbolOf(row.quantity) + QStringLiteral(", ") + plain;
         const QString head = check_words::in(check_words::columns[column], checked_.english);
         const bool isEmpty = plain == QStringLiteral("–");
         return head + QStringLiteral(": ") +

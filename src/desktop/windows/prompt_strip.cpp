@@ -91,7 +91,7 @@ void PromptStrip::paintEvent(QPaintEvent*)
         return;
     View view = canvas_.view();
     view.pixelsPerTwip = scale_ / twipsPerUnit;
-    view.origin = QPointF();
+    view.origin = QPointF(canvas_.view().origin.x(), 0.0); // over the columns, where the sheet leaves room at its sides
     view.widest = width() - prompt_strip_detail::margin;
     for (const host::ControlRow& row : canvas_.model()->spec().controls)
         if (isPrompt(row.id) && canvas_.shows(row.id))

@@ -126,8 +126,9 @@ SearchLine::SearchLine(QPlainTextEdit& text, const Inks& inks, bool english, QWi
     connect(away_, &QPushButton::clicked, this, [this] { close(); });
     connect(one_, &QPushButton::clicked, this, [this] { replace(); });
     connect(all_, &QPushButton::clicked, this, [this] { replaceAll(); });
-    for (QLineEdit* edit : {wanted_, instead_})
-        edit->installEventFilter(this);
+    for (QWidget* part : std::initializer_list<QWidget*>{wanted_, instead_, back_, on_, one_, all_, away_})
+        part->installEventFilter(this);
+    text.installEventFilter(this);
     text.viewport()->installEventFilter(this);
     setInks(inks);
     write();
@@ -161,6 +162,12 @@ void SearchLine::layOut()
     rows->setSpacing(6);
     rows->addLayout(looking);
     rows->addWidget(replacing_);
+    // From what is looked for to what is put instead, as a hand writes them, then the buttons.
+    QWidget* before = wanted_;
+    for (QWidget* part : std::initializer_list<QWidget*>{instead_, back_, on_, one_, all_, away_}) {
+        setTabOrder(before, part);
+        before = part;
+    }
 }
 
 void SearchLine::write()
@@ -428,9 +435,12 @@ bool SearchLine::pressed(int key, Qt::KeyboardModifiers modifiers)
 {
     const bool shifted = (modifiers & Qt::ShiftModifier) != 0;
     const bool ctrl = (modifiers & Qt::ControlModifier) != 0;
+    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
     if (key == Qt::Key_Escape)
         close();
-    else if (key == Qt::Key_Return || key == Qt::Key_Enter)
+    else if (auto* button = qobject_cast<QPushButton*>(focusWidget()); button != nullptr && isEnter)
+        button->click();
+    else if (isEnter)
         instead_->hasFocus() ? replace() : go(shifted ? Way::backward : Way::forward);
     else if (key == Qt::Key_F3)
         go(shifted ? Way::backward : Way::forward);
@@ -443,6 +453,13 @@ bool SearchLine::pressed(int key, Qt::KeyboardModifiers modifiers)
 
 bool SearchLine::eventFilter(QObject* object, QEvent* event)
 {
+    if (object == text_.data()) {
+        const bool closes =
+            event->type() == QEvent::KeyPress && isVisible() && static_cast<QKeyEvent&>(*event).key() == Qt::Key_Escape;
+        if (closes)
+            close();
+        return closes;
+    }
     const bool inText = object == viewport_;
     if (inText && event->type() == QEvent::MouseButtonPress && text_ && hasKeyboard())
         text_->setFocus(Qt::MouseFocusReason);

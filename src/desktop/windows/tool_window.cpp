@@ -165,7 +165,8 @@ void ToolWindow::moveTo(QPoint place)
         moveOnScreen(place);
 }
 
-void ToolWindow::giveWayTo(const QRect& field)
+// Where there is a place for it, not over what else is read on either.
+void ToolWindow::giveWayTo(const QRect& field, const QRect& readOn)
 {
     if (!isVisible() || !onScreen().intersects(field))
         return;
@@ -174,11 +175,14 @@ void ToolWindow::giveWayTo(const QRect& field)
     const QSize mine = onScreen().size();
     const int lefts[] = {all.right() + 1 - mine.width() - gap, all.left() + gap, all.center().x() - mine.width() / 2};
     const int tops[] = {all.bottom() + 1 - mine.height() - gap, all.top() + gap, all.center().y() - mine.height() / 2};
-    for (const int top : tops)
-        for (const int left : lefts)
-            if (!QRect(QPoint(left, top), mine).intersects(field)) {
-                moveTo({left, top});
-                return;
+    for (const QRect& also : {readOn, QRect()})
+        for (const int top : tops)
+            for (const int left : lefts) {
+                const QRect there(QPoint(left, top), mine);
+                if (!there.intersects(field) && !there.intersects(also)) {
+                    moveTo({left, top});
+                    return;
+                }
             }
 }
 

@@ -30,7 +30,7 @@ public:
     using ToolFrame::onScreen;
     using ToolFrame::setInHand;
     /// Moves aside when it lies on `field` (in screen coordinates).
-    void giveWayTo(const QRect& field);
+    void giveWayTo(const QRect& field, const QRect& readOn);
 
 protected:
     void closeEvent(QCloseEvent* event) override;

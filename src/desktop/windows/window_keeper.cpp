@@ -417,9 +417,13 @@ void WindowKeeper::makeRoom()
 {
     SheetView* view = activeView();
     const QRect inHand = view == nullptr ? QRect() : view->inHand();
+    const host::Window* sheet = desk_.engine->activeChild();
+    WindowFrame* frameOfSheet = sheet == nullptr ? nullptr : frameOf(*sheet);
+    const SheetView* behind = frameOfSheet == nullptr ? nullptr : frameOfSheet->view();
+    const QRect readOn = behind == nullptr ? QRect() : behind->inHand();
     for (const auto& [window, frame] : frames_)
         if (auto* tool = dynamic_cast<ToolWindow*>(frame); tool != nullptr && tool->view() != view && !inHand.isEmpty())
-            tool->giveWayTo(inHand);
+            tool->giveWayTo(inHand, readOn);
     if (strip_ && strip_->view() != view && !inHand.isEmpty())
         strip_->giveWayTo(inHand);
 }

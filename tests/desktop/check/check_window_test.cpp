@@ -310,6 +310,14 @@ TEST(ReportColumnsTest, beginEveryColumnAtAStopOfItsOwn)
         << "an empty cell keeps its column; a line without tabs ends the table";
 }
 
+// Whether the letters of such a cell end before the stop or at it, rounding says.
+TEST(ReportColumnsTest, leaveNoCellSoNearToAStopThatItMayReachIt)
+{
+    const auto widthOf = [](const QString& text) { return static_cast<double>(text.size()); };
+    EXPECT_EQ(desktop::inColumns(QStringLiteral("seven 7\ta\n2 mA\tb"), widthOf, 8),
+              QStringLiteral("seven 7 \ta\n2 mA\t\tb"));
+}
+
 TEST(CurvesPageTest, givesTheSliderTheCoursesInputAndBothEnds)
 {
     EXPECT_DOUBLE_EQ(desktop::CurvesPage::driveOf(0), 0.1);

@@ -124,6 +124,21 @@ TEST_F(EmitterTest, promptsStayInViewWhereASheetScrolls)
     EXPECT_FALSE(strip()->isVisible());
 }
 
+// A low and wide window scrolls and leaves room at both sides of the sheet.
+TEST_F(EmitterTest, promptsThatStayInViewStandOverTheColumns)
+{
+    open({1366, 460});
+    ASSERT_TRUE(strip()->isVisible());
+    const desktop::Canvas& canvas = on.viewOf(*sheet).canvas();
+    const QImage picture = strip()->grab().toImage();
+    int left = 0;
+    const QRgb paper = picture.pixel(0, picture.height() / 4);
+    while (left < picture.width() && picture.pixel(left, picture.height() / 4) == paper)
+        ++left;
+    ASSERT_GT(canvas.view().origin.x(), 40);
+    EXPECT_NEAR(left, canvas.boxInPixels(form2::SSPanel1).left(), 2);
+}
+
 TEST_F(EmitterTest, aPromptThatIsOpenedToBeReadIsSeenWhole)
 {
     open({760, 500});

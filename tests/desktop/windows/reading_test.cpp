@@ -10,6 +10,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
+#include <QMdiSubWindow>
 #include <QTest>
 #include <QTimer>
 
@@ -244,5 +245,31 @@ TEST_P(ConversionTest, theQuestionLeavesTheFieldOfTheSheetFree)
 
 INSTANTIATE_TEST_SUITE_P(Windows, ConversionTest, ::testing::Values(Stands::beside, Stands::inside),
                          [](const auto& stands) { return stands.param == Stands::inside ? "Inside" : "Beside"; });
+
+// The conversion has a button in hand itself; the page of the field goes out of its way, and not over the temperature.
+TEST(PageTest, thatMakesRoomForTheConversionLeavesTheFieldOfTheSheetFree)
+{
+    Bench on(program::catalogue());
+    program::start(on.engine);
+    Bench::settle();
+    host::Window& sheet = *on.engine.instance("Form2", 0);
+    QWidget* child = &on.viewOf(sheet);
+    while (dynamic_cast<QMdiSubWindow*>(child) == nullptr)
+        child = child->parentWidget();
+    child->setGeometry(100, 250, 1100, 480);
+    Bench::key(Qt::Key_Return);
+    const QWidget& field = *on.widgetOf(sheet, sheet.named("Text3"));
+    const QRect free(field.mapToGlobal(QPoint(0, 0)), field.size());
+    QWidget& page = on.screen.keeper().frameOf(on.show("Form21"))->widget();
+    QWidget& conversion = on.screen.keeper().frameOf(on.show("Form22"))->widget();
+    conversion.move(560, 400);
+    page.move(340, 310);
+    conversion.activateWindow();
+    Bench::settle();
+    Bench::key(Qt::Key_Tab);
+    Bench::settle();
+    EXPECT_FALSE(page.frameGeometry().intersects(free))
+        << page.x() << ' ' << page.y() << " over " << free.x() << ' ' << free.y();
+}
 
 } // namespace velmor::test::reading_test

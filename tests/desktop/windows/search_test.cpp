@@ -192,6 +192,43 @@ TEST_F(SearchTest, replacingChangesTheHitInHandAndThenAll)
     EXPECT_EQ(editor->wholeText(editors::txtEdit), "cien dos UNO\ntres uno") << "all in one step";
 }
 
+// What is typed behind Tab must not get lost on a button.
+TEST_F(SearchTest, tabLeadsFromWhatIsLookedForToWhatIsPutInItsPlace)
+{
+    Bench::keys("Ctrl+H");
+    Bench::type("uno");
+    Bench::key(Qt::Key_Tab);
+    Bench::type("mil");
+    EXPECT_EQ(part<QLineEdit>("searchInstead").text(), "mil");
+    EXPECT_EQ(part<QLineEdit>("searchWanted").text(), "uno");
+    Bench::key(Qt::Key_Tab);
+    EXPECT_TRUE(part<QPushButton>("searchBack").hasFocus());
+}
+
+TEST_F(SearchTest, itsKeysWorkFromItsButtonsToo)
+{
+    text().moveCursor(QTextCursor::Start);
+    look("uno");
+    part<QPushButton>("searchOn").setFocus();
+    Bench::key(Qt::Key_Return);
+    EXPECT_EQ(caret(), 0) << "Enter presses the button in hand";
+    Bench::key(Qt::Key_F3);
+    EXPECT_EQ(caret(), 8);
+    Bench::key(Qt::Key_Escape);
+    EXPECT_FALSE(line()->isVisible());
+    EXPECT_TRUE(text().hasFocus());
+}
+
+TEST_F(SearchTest, escapeClosesItFromTheTextToo)
+{
+    look("uno");
+    text().setFocus();
+    Bench::key(Qt::Key_Escape);
+    EXPECT_FALSE(line()->isVisible());
+    Bench::type("z");
+    EXPECT_NE(editor->wholeText(editors::txtEdit).find('z'), std::string::npos) << "and the text keeps the keyboard";
+}
+
 TEST_F(SearchTest, itFollowsTheLanguage)
 {
     look("uno");
