@@ -63,5 +63,6 @@ int main(int argc, char** argv)
     qInstallMessageHandler(quiet);
     velmor::desktop::Application::setAttribute(Qt::AA_DontUseNativeDialogs);
     const velmor::desktop::Application application(argc, argv);
+    QApplication::setCursorFlashTime(0); // a caret that comes and goes would make two pictures of one window
     return play(games, events, seed);
 }

@@ -24,6 +24,7 @@
 #include "desktop/canvas/canvas.h"
 #include "desktop/check/check_window.h"
 #include "desktop/drawing/texts.h"
+#include "desktop/fire/stale_picture.h"
 #include "desktop/windows/offer_line.h"
 #include "desktop/windows/search_line.h"
 #include "desktop/windows/sheet_view.h"
@@ -35,6 +36,8 @@ namespace velmor::test {
 namespace window_game_detail {
 
 constexpr std::size_t mostWindows = 14;
+constexpr int pictureEvery = 16; ///< events or answers: comparing pictures takes as long as many of them
+constexpr int roundsToRest = 5;
 constexpr int longestPatience = 300; ///< rounds until a dialog that no answer ends is given up
 
 constexpr Qt::Key pressedKeys[] = {
@@ -108,6 +111,8 @@ void WindowGame::step(int number)
     handOver();
     watchdog_.end();
     check(event);
+    if (number % window_game_detail::pictureEvery == window_game_detail::pictureEvery - 1)
+        checkPictures(event);
 }
 
 // What every window manager does and the screen without a screen does not: when a window goes that had the keyboard, a
@@ -170,6 +175,29 @@ void WindowGame::check(const std::string& event)
     const std::string fault = faultNow();
     if (std::exchange(standing_, fault) != fault && !fault.empty())
         faults_.push_back(event + ": " + fault);
+}
+
+void WindowGame::checkPictures(const std::string& event)
+{
+    if (!on_ || on_->engine.ended() || !on_->engine.idle())
+        return;
+    Bench::settle();
+    comparePictures(event);
+}
+
+// What stays stale is said once: all of it is painted anew.
+void WindowGame::comparePictures(const std::string& event)
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible() || window->windowHandle() == nullptr || !window->windowHandle()->isExposed())
+            continue;
+        if (const std::string fault = stalePictureOf(*window); !fault.empty()) {
+            faults_.push_back(event + ": " + fault);
+            window->update();
+            for (QWidget* part : window->findChildren<QWidget*>())
+                part->update();
+        }
+    }
 }
 
 std::string WindowGame::faultNow()
@@ -562,7 +590,14 @@ void WindowGame::answer()
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || !dialog->isVisible())
         return;
+    // A box is looked at when what was queued as it came is done.
+    const bool looks = (answers_ + 1) % window_game_detail::pictureEvery == 0;
+    if (looks && roundsOpen_++ < window_game_detail::roundsToRest)
+        return;
+    roundsOpen_ = 0;
     ++answers_;
+    if (looks)
+        comparePictures("answer " + std::to_string(answers_));
     patience_ = std::exchange(lastDialog_, dialog) == dialog ? patience_ + 1 : 0;
     if (patience_ > window_game_detail::longestPatience)
         dialog->reject();

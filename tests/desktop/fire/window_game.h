@@ -46,6 +46,8 @@ private:
     const Move& chosen();
     void handOver();
     void check(const std::string& event);
+    void checkPictures(const std::string& event);
+    void comparePictures(const std::string& event);
     std::string faultNow();
     std::string frameFault();
     std::string keyboardFault();
@@ -98,6 +100,7 @@ private:
     std::string standing_; ///< the fault that was there after the event before
     const void* lastDialog_ = nullptr;
     int patience_ = 0;
+    int roundsOpen_ = 0; ///< of a box that is yet to be looked at
     int ends_ = 0;
     int answers_ = 0;
     int checks_ = 0; ///< deeds in the window of a check
