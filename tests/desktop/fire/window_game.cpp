@@ -36,7 +36,8 @@ namespace velmor::test {
 namespace window_game_detail {
 
 constexpr std::size_t mostWindows = 14;
-constexpr int pictureEvery = 16;     ///< events or answers: comparing pictures takes as long as many of them
+constexpr int pictureEvery = 16; ///< events or answers: comparing pictures takes as long as many of them
+constexpr int roundsToRest = 5;
 constexpr int longestPatience = 300; ///< rounds until a dialog that no answer ends is given up
 
 constexpr Qt::Key pressedKeys[] = {
@@ -589,13 +590,14 @@ void WindowGame::answer()
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || !dialog->isVisible())
         return;
-    if (++answers_ % window_game_detail::pictureEvery == 0) {
-        const QPointer<QDialog> alive(dialog);
-        QCoreApplication::sendPostedEvents();
+    // A box is looked at when what was queued as it came is done.
+    const bool looks = (answers_ + 1) % window_game_detail::pictureEvery == 0;
+    if (looks && roundsOpen_++ < window_game_detail::roundsToRest)
+        return;
+    roundsOpen_ = 0;
+    ++answers_;
+    if (looks)
         comparePictures("answer " + std::to_string(answers_));
-        if (!alive)
-            return;
-    }
     patience_ = std::exchange(lastDialog_, dialog) == dialog ? patience_ + 1 : 0;
     if (patience_ > window_game_detail::longestPatience)
         dialog->reject();

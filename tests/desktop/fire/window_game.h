@@ -100,6 +100,7 @@ private:
     std::string standing_; ///< the fault that was there after the event before
     const void* lastDialog_ = nullptr;
     int patience_ = 0;
+    int roundsOpen_ = 0; ///< of a box that is yet to be looked at
     int ends_ = 0;
     int answers_ = 0;
     int checks_ = 0; ///< deeds in the window of a check
