@@ -54,7 +54,8 @@ const host::BiText& whyAsleep();
 Design designOf(const host::Window& sheet, const SheetTable& table);
 
 enum class Judgement : std::uint8_t {
-    agrees,      ///< within a tenth or 1 dB; or what was asked is reached
+    agrees,      ///< within a tenth or 1 dB
+    met,         ///< better than what was asked at least or at most
     differs,     ///< and the reason is known
     notReached,  ///< less than was asked
     unexplained, ///< the ladder ends beside the simulator: no verdict

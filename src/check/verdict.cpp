@@ -16,9 +16,10 @@ constexpr double oneDecibel = 1.0;
 constexpr double bentDistortion = 10.0; // %; what counts as clean power has less
 constexpr double lightLoad = 0.9;       ///< of Eg must arrive for a load to be called light
 
-constexpr host::BiText judgements[]{{"coincide", "agrees"},           {"difiere", "differs"},
-                                    {"no se alcanza", "not reached"}, {"sin explicar", "unexplained"},
-                                    {"medido", "measured"},           {"sin simular", "not simulated"}};
+constexpr host::BiText judgements[]{{"coincide", "agrees"},          {"cumple", "met"},
+                                    {"difiere", "differs"},          {"no se alcanza", "not reached"},
+                                    {"sin explicar", "unexplained"}, {"medido", "measured"},
+                                    {"sin simular", "not simulated"}};
 
 std::string fixedText(double value, int digits)
 {
@@ -86,9 +87,10 @@ Judgement judgementOf(const Row& row, const Ceilings& ceilings)
         return Judgement::unexplained;
     if (!reference || measure == Measure::shown)
         return Judgement::shown;
+    const bool isLimit = measure == Measure::atLeast || measure == Measure::atMost;
     if (agrees(measure, *row.simulated, *reference) && !isBent(row, ceilings))
-        return Judgement::agrees;
-    return measure == Measure::atLeast || measure == Measure::atMost ? Judgement::notReached : Judgement::differs;
+        return !isLimit || agrees(Measure::share, *row.simulated, *reference) ? Judgement::agrees : Judgement::met;
+    return isLimit ? Judgement::notReached : Judgement::differs;
 }
 
 // Reasons begin small, as they go on behind "because"; who puts one at the beginning of a line raises its first letter.
@@ -274,12 +276,14 @@ Words measuredWords(const Row& row)
 /// A power or a swing may be reached by a wave that nobody wants to hear.
 Words agreement(const Row& row, const Measured& distortion)
 {
+    const host::BiText& word = judgementText(row.judgement);
+    const Words agrees{std::string(word.es), std::string(word.en)};
     const bool isPower = row.quantity == Quantity::Pout || row.quantity == Quantity::Eopp;
     if (!isPower || !distortion || *distortion <= bentDistortion)
-        return {"coincide", "agrees"};
+        return agrees;
     const std::string amount = amountText(*distortion, "%");
-    return {"coincide, pero con la onda doblada: " + amount + " de distorsión.",
-            "agrees, but with a bent wave: " + amount + " distortion."};
+    return {agrees.es + ", pero con la onda doblada: " + amount + " de distorsión.",
+            agrees.en + ", but with a bent wave: " + amount + " distortion."};
 }
 
 Words verdictOf(const Row& row, const Design& design, const Check& check)
@@ -287,6 +291,7 @@ Words verdictOf(const Row& row, const Design& design, const Check& check)
     const QuantityText& text = textOf(row.quantity);
     switch (row.judgement) {
     case Judgement::agrees:
+    case Judgement::met:
         return agreement(row, check.swing.distortion);
     case Judgement::differs: {
         const Words reason = because(row, design, check);

@@ -51,6 +51,8 @@ QString withoutTabs(const QString& line)
 {
     constexpr qsizetype indent = 8;
     constexpr qsizetype stop = 9;
+    if (!line.contains(QLatin1Char('\t')))
+        return line;
     QString blanks;
     bool indents = true;
     for (const QChar letter : line) {

@@ -85,6 +85,18 @@ TEST(Check, explainsWhatTheTextbookGives)
     EXPECT_LT(rowOf(check, Quantity::Vg)->ladder.remainder(), 0.001);
 }
 
+// 2.9 Hz do not agree with 20 Hz, and who asked for 20 Hz at most has got it; 19 Hz agree.
+TEST(Check, saysWhatIsBetterThanAskedToBeMetAndNotToAgree)
+{
+    Row row{.quantity = Quantity::fL, .asked = 20.0, .course = 20.0, .simulated = 2.9};
+    judge(row, design(), {});
+    EXPECT_EQ(row.verdict.es, "cumple");
+    EXPECT_EQ(judgementText(row.judgement).en, "met");
+    row.simulated = 19.0;
+    judge(row, design(), {});
+    EXPECT_EQ(row.verdict.en, "agrees");
+}
+
 TEST(Check, givesNoVerdictOnWhatItCannotExplain)
 {
     Answering simulator(

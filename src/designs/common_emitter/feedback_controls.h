@@ -200,7 +200,7 @@ inline constexpr auto controls = [] {
         hidden(result(Label22, "Label22", at(640, 188, 206, 18))),
         result(Label23, "Label23", at(672, 334, 160, 18)),
         result(Label24, "Label24", at(918, 484, 94, 34)),
-        hidden(label(Label25, "Label25", at(292, 400, 136, 16), Look::note)),
+        hidden(label(Label25, "Label25", at(292, 400, 190, 16), Look::note)),
         result(Label32, "Label32", at(672, 370, 140, 18)),
         hidden(result(statu18, "statu18", at(720, 212, 186, 18))),
         result(statu32, "statu32", at(306, 284, 118, 18)),

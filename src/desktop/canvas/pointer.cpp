@@ -150,9 +150,12 @@ void Pointer::hover(Handle control)
         desk.hovered(model, control);
 }
 
+// Whoever comes back without a move, from a box that has closed, is no hand until it is known over what.
 void Pointer::left()
 {
     hoverKnown_ = false;
+    if (!dragging_)
+        canvas_.setCursor(Qt::ArrowCursor);
     canvas_.checkTile().leave();
     if (canvas_.model() != nullptr)
         canvas_.setHovered(noControl);

@@ -261,7 +261,7 @@ QString CheckWindow::state() const
         return open(row) && row.judgement < check::Judgement::unexplained;
     });
     const auto agreed = std::count_if(rows.begin(), rows.end(), [&](const check::Row& row) {
-        return open(row) && row.judgement == check::Judgement::agrees;
+        return open(row) && row.judgement <= check::Judgement::met;
     });
     QString text = in(check_words::tally, english).arg(compared).arg(agreed);
     if (checked_.bet.placed() > 0)

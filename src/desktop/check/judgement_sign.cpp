@@ -18,6 +18,7 @@ QPainterPath strokesOf(check::Judgement judgement)
     };
     switch (judgement) {
     case check::Judgement::agrees:
+    case check::Judgement::met:
         path.moveTo(-0.6, 0.05);
         path.lineTo(-0.15, 0.5);
         path.lineTo(0.65, -0.5);
@@ -56,6 +57,7 @@ QColor judgementInk(check::Judgement judgement, const Inks& inks)
 {
     switch (judgement) {
     case check::Judgement::agrees:
+    case check::Judgement::met:
         return inks.accent;
     case check::Judgement::notReached:
     case check::Judgement::unexplained:

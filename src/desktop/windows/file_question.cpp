@@ -3,12 +3,15 @@
 // where the program asks its own.
 #include "desktop/windows/questions.h"
 
+#include <algorithm>
+
 #include <QAbstractFileIconProvider>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontMetrics>
 #include <QHeaderView>
+#include <QLocale>
 #include <QSplitter>
 #include <QTreeView>
 
@@ -101,8 +104,12 @@ std::optional<std::string> askFile(QWidget* parent, const host::FileDialog& aske
         const int places = letters.averageCharWidth() * file_question_detail::placesAcross;
         parts->setSizes({places, dialog.width() - places});
     }
-    if (auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView")))
+    if (auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"))) {
         files->header()->setStretchLastSection(true); // else the caption of the dates is cut where letters are large
+        const int smallFile =
+            letters.horizontalAdvance(QLocale().formattedDataSize(1023)) + letters.averageCharWidth() * 2;
+        files->setColumnWidth(1, std::max(files->columnWidth(1), smallFile)); // the toolkit thinks of large ones alone
+    }
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return held(dialog.selectedFiles().first());

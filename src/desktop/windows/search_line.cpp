@@ -30,6 +30,8 @@ constexpr int stretch = 1 << 19;        ///< units that are searched at a time
 constexpr std::size_t mostMarks = 2000; ///< in view
 constexpr double markInk = 0.25;        ///< how much of the accent lies behind a hit
 constexpr int lettersOfField = 28;
+constexpr int fewestOfField = 7; ///< where a narrow window leaves no room for more
+constexpr int wish = 100;        ///< of a field for room, where the empty end of its row has 1
 
 // clang-format off
 constexpr host::BiText lookFor   {"Buscar en el texto",   "Find in the text"};
@@ -145,17 +147,21 @@ QPushButton* SearchLine::addButton(const char* name)
 
 void SearchLine::layOut()
 {
-    for (QLineEdit* edit : {wanted_, instead_})
-        edit->setMinimumWidth(edit->fontMetrics().averageCharWidth() * search_line_detail::lettersOfField);
+    using namespace search_line_detail;
+    for (QLineEdit* edit : {wanted_, instead_}) {
+        const int letter = edit->fontMetrics().averageCharWidth();
+        edit->setMinimumWidth(letter * fewestOfField);
+        edit->setMaximumWidth(letter * lettersOfField);
+    }
     auto* looking = new QHBoxLayout;
     for (QWidget* part : std::initializer_list<QWidget*>{wanted_, back_, on_, told_})
-        looking->addWidget(part);
+        looking->addWidget(part, part == wanted_ ? wish : 0);
     looking->addStretch(1);
     looking->addWidget(away_);
     auto* putting = new QHBoxLayout(replacing_);
     putting->setContentsMargins(0, 0, 0, 0);
     for (QWidget* part : std::initializer_list<QWidget*>{instead_, one_, all_})
-        putting->addWidget(part);
+        putting->addWidget(part, part == instead_ ? wish : 0);
     putting->addStretch(1);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(10, 6, 10, 6);

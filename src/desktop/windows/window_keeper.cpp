@@ -662,6 +662,8 @@ void WindowKeeper::turnToPane(host::Window& pane)
 {
     const bool inside = pane.isChild() || pane.role() == Role::palette || pane.role() == Role::mainWindow;
     stripInHand_ = pane.role() == Role::palette;
+    if (main_ && pane.isChild())
+        main_->hush(); // the page of a design would lie over what has the keyboard
     QWidget* top = inside ? static_cast<QWidget*>(main_) : &frameOf(pane)->widget();
     wanted_ = top;
     if (inside)

@@ -67,6 +67,21 @@ TEST_F(PointerTest, thePointerIsAHandOverWhatCanBeClickedAndNothingDisabledAnswe
     EXPECT_EQ(canvas.view().hovered, host::noControl);
 }
 
+// A box or a tool comes between, and the pointer stands elsewhere on the sheet when it has gone.
+TEST_F(PointerTest, thePointerIsNoHandAnyMoreWhenItHasLeft)
+{
+    desktop::Canvas& canvas = on.viewOf(on.sheet()).canvas();
+    on.moveTo(Image14);
+    on.moveTo(Image1);
+    ASSERT_EQ(canvas.cursor().shape(), Qt::PointingHandCursor);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&canvas, &leave);
+    EXPECT_EQ(canvas.cursor().shape(), Qt::ArrowCursor);
+    on.moveTo(Image14);
+    on.moveTo(Image1);
+    EXPECT_EQ(canvas.cursor().shape(), Qt::PointingHandCursor);
+}
+
 TEST_F(PointerTest, aButtonLooksPressedWhileTheMouseIsDown)
 {
     const desktop::Canvas& canvas = on.viewOf(on.sheet()).canvas();

@@ -17,6 +17,7 @@
 #include "desktop/drawing/schematic_painter.h"
 #include "desktop/drawing/texts.h"
 #include "desktop/windows/menus.h"
+#include "desktop/written_texts.h"
 #include "editors/find_dialogs.h"
 #include "program/catalogue.h"
 #include "tools/calculator.h"
@@ -150,6 +151,27 @@ TEST_F(EmitterTest, aPromptThatIsOpenedToBeReadIsSeenWhole)
     on.engine.userClick(*sheet, form2::SSPanel1);
     Bench::settle();
     EXPECT_TRUE(strip()->isVisible());
+}
+
+// On a sheet that is as small as sheets get it broke into two lines, over the fields above and below it.
+TEST_F(EmitterTest, whatIsToldOfTheGeneratorLiesOverNoField)
+{
+    open();
+    for (const char* name : {"Form8", "Form18"}) {
+        host::Window& circuit = on.show(name);
+        const host::Handle told = circuit.named("Label25");
+        on.engine.userRun([&] {
+            circuit.setVisible(told, true);
+            circuit.setVisible(circuit.named("Text15"), true);
+            circuit.setText(told, "Zin del Generador (Kohm)");
+        });
+        desktop::View view;
+        for (const double scale : {0.82, 1.0, 2.0}) {
+            view.pixelsPerTwip = scale / desktop::twipsPerUnit;
+            for (const std::string& complaint : textComplaints(circuit, view))
+                EXPECT_EQ(complaint.find("Label25"), std::string::npos) << complaint << ' ' << scale;
+        }
+    }
 }
 
 TEST_F(EmitterTest, aGreyedFieldSaysWhyItWaits)

@@ -12,8 +12,10 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include <fstream>
 #include <sys/inotify.h>
@@ -184,6 +186,32 @@ TEST_F(QuestionTest, aSaveDialogAddsTheEndingOfItsFilter)
         {host::DialogKind::save, "Save Circuit", "Base Común (*.BCC)|*.BCC", on.folder.path().toStdString(), 2638862});
     ASSERT_TRUE(path.has_value());
     EXPECT_EQ(*path, on.folder.filePath("prueba.BCC").toStdString());
+}
+
+TEST_F(QuestionTest, aFileDialogShowsTheSizesOfSmallFilesWhole)
+{
+    std::ofstream(on.folder.filePath("chico.BCC").toStdString()) << std::string(946, 'x');
+    bool listed = false;
+    int wanted = 0;
+    int room = 0;
+    whenShown("fileDialog", [&](QDialog& dialog) {
+        const auto* files = dialog.findChild<QTreeView*>("treeView");
+        const auto size = [files] {
+            const QAbstractItemModel& model = *files->model();
+            for (int row = 0; row < model.rowCount(files->rootIndex()); ++row)
+                if (model.index(row, 0, files->rootIndex()).data().toString() == "chico.BCC")
+                    return model.index(row, 1, files->rootIndex()).data().toString();
+            return QString();
+        };
+        listed = QTest::qWaitFor([&] { return size().contains("946"); });
+        wanted = files->fontMetrics().horizontalAdvance(size()) +
+                 2 * files->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 2;
+        room = files->columnWidth(1);
+        dialog.reject();
+    });
+    on.screen.fileDialog({host::DialogKind::open, "Abrir", "Todos(*.*)|*.*", on.folder.path().toStdString(), 0});
+    EXPECT_TRUE(listed);
+    EXPECT_GE(room, wanted);
 }
 
 // A file without an ending tells its kind by its contents alone; reading a pipe or a sick disk may wait for good.

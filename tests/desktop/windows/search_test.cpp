@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTextBlock>
@@ -122,6 +123,28 @@ TEST_F(SearchTest, theTextMakesRoomForTheRowThatReplacesToo)
         Bench::keys(key);
         Bench::settle();
         EXPECT_LE(belowText(), line()->mapTo(line()->window(), QPoint()).y()) << key;
+    }
+}
+
+// Windows that lie side by side are narrow.
+TEST_F(SearchTest, itsPartsStandSideBySideInANarrowWindow)
+{
+    QWidget* child = &on.viewOf(*editor);
+    while (dynamic_cast<QMdiSubWindow*>(child) == nullptr)
+        child = child->parentWidget();
+    child->setGeometry(0, 0, 400, 500);
+    Bench::keys("Ctrl+H");
+    Bench::type("uno");
+    Bench::settle();
+    std::vector<QRect> places;
+    for (const QWidget* part : line()->findChildren<QWidget*>())
+        if (part->isVisible() && !part->objectName().isEmpty())
+            places.emplace_back(part->mapTo(line(), QPoint()), part->size());
+    ASSERT_EQ(places.size(), 8U);
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        EXPECT_TRUE(line()->rect().contains(places[i])) << i;
+        for (std::size_t k = i + 1; k < places.size(); ++k)
+            EXPECT_FALSE(places[i].intersects(places[k])) << i << ' ' << k;
     }
 }
 

@@ -102,6 +102,21 @@ TEST_F(TalkTest, aKeyInTheSheetSendsThePageAway)
     EXPECT_EQ(welcome(), nullptr);
 }
 
+// It would lie over the field that has the keyboard again.
+TEST_F(TalkTest, thePageGoesWithTheKeyboardThatLeavesThePalette)
+{
+    on.main().activateWindow();
+    Bench::settle();
+    for (const Qt::Key leaving : {Qt::Key_F6, Qt::Key_Escape}) {
+        Bench::key(Qt::Key_F6);
+        Bench::key(Qt::Key_Right);
+        ASSERT_NE(welcome(), nullptr);
+        Bench::key(leaving);
+        EXPECT_EQ(on.engine.current(), &sheet());
+        EXPECT_EQ(welcome(), nullptr) << leaving;
+    }
+}
+
 TEST_F(TalkTest, theKeyOfAButtonTalksAsThePointerDoes)
 {
     on.main().activateWindow();
