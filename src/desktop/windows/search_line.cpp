@@ -101,7 +101,7 @@ void replaceWith(const QPlainTextEdit& text, QTextCursor cursor, const QString& 
 } // namespace search_line_detail
 
 SearchLine::SearchLine(QPlainTextEdit& text, const Inks& inks, bool english, QWidget* parent)
-    : QWidget(parent), text_(&text), viewport_(text.viewport()), inks_(&inks), english_(english),
+    : QWidget(parent), text_(&text), editor_(&text), viewport_(text.viewport()), inks_(&inks), english_(english),
       wanted_(new QLineEdit), instead_(new QLineEdit), told_(new QLabel), replacing_(new QWidget),
       back_(addButton("searchBack")), on_(addButton("searchOn")), away_(addButton("searchAway")),
       one_(addButton("searchReplace")), all_(addButton("searchReplaceAll"))
@@ -459,7 +459,7 @@ bool SearchLine::pressed(int key, Qt::KeyboardModifiers modifiers)
 
 bool SearchLine::eventFilter(QObject* object, QEvent* event)
 {
-    if (object == text_.data()) {
+    if (object == editor_) {
         const bool closes =
             event->type() == QEvent::KeyPress && isVisible() && static_cast<QKeyEvent&>(*event).key() == Qt::Key_Escape;
         if (closes)

@@ -64,7 +64,8 @@ private:
     void replaceAll();
 
     QPointer<QPlainTextEdit> text_;
-    const QObject* viewport_; ///< of the text, by which its events are known: it may be on its way out
+    const QObject* editor_;   ///< the text, by which its events are known: it may be on its way out
+    const QObject* viewport_; ///< its viewport, the same
     const Inks* inks_;
     bool english_;
     bool wrapped_ = false;
