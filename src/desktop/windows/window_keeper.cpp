@@ -289,8 +289,22 @@ void WindowKeeper::followRaised()
         QWidget* top = window->isChild() ? static_cast<QWidget*>(main_) : &frame->widget();
         if (top != nullptr && !top->isWindow())
             putInFront(*top);
-        awaited_ = top != nullptr && !top->isActiveWindow() ? top : nullptr;
+        await(top != nullptr && !top->isActiveWindow() ? top : nullptr);
     }
+}
+
+// A window manager may refuse what was asked of it: then the window that has the keyboard is the one that was turned to.
+void WindowKeeper::await(QWidget* top)
+{
+    awaited_ = top;
+    if (top == nullptr)
+        return;
+    QTimer::singleShot(window_keeper_detail::handOver, this, [this, asked = awaited_] {
+        if (asked == nullptr || awaited_ != asked)
+            return;
+        awaited_ = nullptr;
+        windowActivated();
+    });
 }
 
 // Qt chooses an active child of its own when one goes; the model's is the one that counts. A sheet that is asked about stands in
@@ -355,6 +369,9 @@ void WindowKeeper::followFocus()
     // A menu that is walked by keyboard has the focus on loan and gives it back itself. A sheet that gets it comes to the front,
     // where another one may be asked about.
     if (desk_.engine->askedAbout() != nullptr || (now != nullptr && now->inherits("QMenuBar")))
+        return;
+    // A field that gets the focus would have its own window asked for, after the one that was.
+    if (awaited_ && awaited_->isVisible() && (view == nullptr || view->window() != awaited_))
         return;
     if (view != nullptr)
         view->followFocus();
@@ -473,7 +490,7 @@ void WindowKeeper::windowActivated()
         answered_ = nullptr;
     if (desk_.closing || active == nullptr || !desk_.idle() || handedBack(active))
         return;
-    if (awaited_ && awaited_ != active)
+    if (awaited_ && awaited_ != active && awaited_->isVisible())
         return;
     awaited_ = nullptr;
     if (wanted_ != active) {

@@ -71,6 +71,7 @@ private:
     void followDesktop();
     void followGone();
     void followRaised();
+    void await(QWidget* top);
     void followActive();
     void followFocus();
     void followFocusBehind();

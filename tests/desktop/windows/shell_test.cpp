@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
@@ -355,6 +356,39 @@ TEST_F(ToolTest, itStandsBesideTheFieldItWasAskedForAtAndAHandMayMoveIt)
     on.show("Herramienta");
     EXPECT_TRUE(near(Text3));
     EXPECT_FALSE(tool().geometry().intersects(onScreen(on.field(Text3))));
+}
+
+// The main window's own focus would have the toolkit ask for the main window, which comes last and stays.
+TEST_F(ToolTest, openedFromASheetThatHadNotYetGotTheKeyboardItHasItAndKeepsIt)
+{
+    on.sheet().deeds[{Command1, Event::click}] = [this](host::EventArgs&) {
+        on.engine.host().SetFocus(on.sheet(), Text3);
+        on.engine.host().Show("Herramienta");
+    };
+    QMenu menu(&on.main());
+    menu.addAction(QStringLiteral("Uno"));
+    menu.popup(on.main().mapToGlobal(QPoint(200, 200)));
+    on.settle();
+    menu.close();
+    on.settle();
+    ASSERT_NE(QGuiApplication::focusWindow(), on.main().windowHandle());
+    ASSERT_EQ(QApplication::activeWindow(), &on.main());
+    on.engine.userClick(on.sheet(), Command1);
+    on.settle();
+    EXPECT_EQ(QApplication::activeWindow(), &tool());
+    EXPECT_EQ(on.engine.current(), tool().model());
+}
+
+TEST_F(ToolTest, whichTheWindowManagerDoesNotPutInFrontIsNotTheOneTurnedTo)
+{
+    on.engine.userRun([this] { on.engine.host().Show("Herramienta"); });
+    on.main().activateWindow();
+    on.settle();
+    ASSERT_EQ(QApplication::activeWindow(), &on.main());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return on.engine.current() == &on.sheet(); }, 2000));
+    EXPECT_EQ(QApplication::activeWindow(), &on.main());
+    Bench::type("7");
+    EXPECT_EQ(on.sheet().text(Text1), "7");
 }
 
 // Where the desktop alone says where windows stand, tools are parts of the main window.
