@@ -133,6 +133,8 @@ constexpr auto mainSlots = allSlots<std::size(mainRows)>();
 constexpr auto toolSlots = allSlots<std::size(toolRows)>();
 constexpr auto questionSlots = joined(everyControl<Event::click, std::size(toolRows)>(),
                                       everyControl<Event::mouseDown, std::size(toolRows)>());
+constexpr auto paletteSlots = joined(everyControl<Event::click, std::size(paletteRows)>(),
+                                     everyControl<Event::hover, std::size(paletteRows)>());
 constexpr auto editorSlots = allSlots<std::size(editorRows)>();
 // clang-format on
 
@@ -177,6 +179,7 @@ const host::WindowSpec paletteSpec{.name = "Paleta",
                                    .caption = "Paleta",
                                    .place = {0, 0, 6000, 1200},
                                    .controls = paletteRows,
+                                   .slots = paletteSlots,
                                    .create = make<paletteSpec>};
 const host::WindowSpec editorSpec{.name = "Editor",
                                   .role = host::Role::editor,

@@ -40,7 +40,9 @@ bool PaletteWalk::pressed(host::Window& palette, const Desk& desk, int key)
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        if (at_ != noControl)
+        if (at_ == noControl)
+            step(palette, desk, 1); // nobody opens what nothing has marked
+        else
             desk.engine->userClick(palette, at_);
         return true;
     default:

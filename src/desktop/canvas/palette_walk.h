@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The palette by keyboard: the arrows go from design to design, each of which explains itself as under the pointer, and Enter
-// opens the one that was explained last.
+// opens the one that was explained last, or explains the first.
 #pragma once
 
 #include "desktop/canvas/desk.h"

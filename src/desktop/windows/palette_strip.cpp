@@ -2,6 +2,7 @@
 #include "desktop/windows/palette_strip.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -19,6 +20,7 @@ namespace palette_strip_detail {
 
 constexpr double share = 0.8;     ///< of the size in its table: it is seen all the time
 constexpr int margin = 3;         ///< logical pixels around the pictures
+constexpr int edgeInHand = 2;     ///< of the line that says where the keyboard is
 constexpr int dots = 5;           ///< of the grip, in two rows
 constexpr double dotShare = 0.34; ///< from dot to dot, by the width of the grip
 constexpr double radiusShare = 0.075;
@@ -36,6 +38,11 @@ PaletteStrip::PaletteStrip(Desk& desk, host::Window& model, QWidget* panel)
     connect(close_, &QAbstractButton::clicked, this, [this] {
         if (this->model() != nullptr && !desk_.closing)
             desk_.engine->userClose(*this->model());
+    });
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* now) {
+        const bool inHand = now != nullptr && isAncestorOf(now);
+        if (std::exchange(inHand_, inHand) != inHand)
+            update();
     });
     panel->installEventFilter(this);
     speak();
@@ -183,12 +190,12 @@ void PaletteStrip::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.fillRect(rect(), inks.desk);
     if (floats_)
-        fillFrame(painter, rect(), 1.0, overStrip_ ? inks.accent : inks.edge);
+        fillFrame(painter, rect(), inHand_ ? edgeInHand : 1.0, overStrip_ || inHand_ ? inks.accent : inks.edge);
     else
-        painter.fillRect(0, 0, width(), 1, inks.rule);
+        painter.fillRect(0, 0, width(), inHand_ ? edgeInHand : 1, inHand_ ? inks.accent : inks.rule);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(inks.quiet);
+    painter.setBrush(inHand_ ? inks.accent : inks.quiet);
     const QPointF middle(gripWidth() / 2.0, height() / 2.0);
     const double step = gripWidth() * dotShare;
     const double radius = gripWidth() * radiusShare;

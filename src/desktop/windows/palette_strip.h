@@ -68,6 +68,7 @@ private:
     bool floats_ = false;
     bool held_ = false;
     bool dragging_ = false;
+    bool inHand_ = false;    ///< it has the keyboard
     bool overStrip_ = false; ///< let go now, it would go back into the strip
 };
 

@@ -581,6 +581,28 @@ TEST_F(StripTest, aPressOnAPictureLeavesTheKeyboardInTheSheet)
     EXPECT_EQ(on.field(Text1).text(), "5");
 }
 
+TEST_F(StripTest, itsEdgeIsMarkedWhileItHasTheKeyboard)
+{
+    const auto edge = [this] { return strip().grab().toImage().pixelColor(strip().width() / 2, 1); };
+    const QColor calm = edge();
+    on.keys("F6");
+    EXPECT_EQ(edge(), on.screen.desk().inks->accent);
+    on.keys("F6");
+    EXPECT_EQ(edge(), calm);
+}
+
+TEST_F(StripTest, enterExplainsTheFirstDesignBeforeItOpensOne)
+{
+    auto& palette = static_cast<BenchWindow&>(*on.engine.defaultInstance("Paleta"));
+    on.keys("F6");
+    palette.log.clear();
+    on.key(Qt::Key_Return);
+    EXPECT_EQ(palette.log, (std::vector<std::string>{"imgButton(0) hover"}));
+    on.key(Qt::Key_Return);
+    ASSERT_GE(palette.log.size(), 2U);
+    EXPECT_EQ(palette.log[1], "imgButton(0) click");
+}
+
 TEST_F(StripTest, aPressInTheSheetTakesTheKeyboardBackFromIt)
 {
     on.keys("F6");
