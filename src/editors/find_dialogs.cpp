@@ -118,9 +118,12 @@ void SearchDialog::cancel()
 void SearchDialog::find()
 {
     host().Hide(*this);
-    host::Window* searched = editor();
-    if (searched != nullptr && !text(txtFind).empty())
+    if (text(txtFind).empty())
+        return;
+    if (host::Window* searched = editor())
         runFind(*searched);
+    else
+        sayNotFound();
 }
 
 /// Whether the selection is what the dialog looks for.
@@ -159,17 +162,18 @@ void SearchDialog::sayNotFound()
 void SearchDialog::replace()
 {
     host().Hide(*this);
-    host::Window* searched = editor();
-    if (searched == nullptr || text(txtFind).empty())
+    if (text(txtFind).empty())
         return;
-    if (!hitStands(*searched))
+    host::Window* searched = editor();
+    if (searched == nullptr)
+        sayNotFound();
+    else if (!hitStands(*searched))
         runFind(*searched);
-    host::TextStore& store = searched->store(editors::txtEdit);
-    if (store.selectionLength() == 0) {
+    if (searched == nullptr || searched->store(editors::txtEdit).selectionLength() == 0) {
         host().MsgBox(std::string(texts::nothingReplaced) + text(txtFind), 0, texts::applicationTitle);
         return;
     }
-    store.replaceSelection(text(txtReplace));
+    searched->store(editors::txtEdit).replaceSelection(text(txtReplace));
     host().engine().programEdited(*searched, editors::txtEdit);
 }
 

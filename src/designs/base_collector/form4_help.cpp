@@ -90,7 +90,7 @@ constexpr auto pages = std::to_array<sheets::HelpPage>({
               "Vista desde adentro:\n\n"
               "        Vg = RLac / r'e \n\n"
               "de donde\n\n"
-              "        RLac = Vg x r'e\n\n"
+              "        RLac = Vg x r'e \n\n"
               "Valores de Vg superiores a 100 traen problemas: crece RL, crece ERL, y la fuente no alcanza.",
         .en = "            Voltage gain\n\n"
               "Seen from outside:\n\n"
@@ -98,7 +98,7 @@ constexpr auto pages = std::to_array<sheets::HelpPage>({
               "Seen from inside:\n\n"
               "        Vg = RLac / r'e \n\n"
               "and so\n\n"
-              "        RLac = Vg x r'e\n\n"
+              "        RLac = Vg x r'e \n\n"
               "Values of Vg above 100 give trouble: RL grows, ERL grows, and the supply does not suffice."}},
     {.field = Text15, .shortName = " más sobre RL..", .page = {
         .es = "         Resistor de Colector\n\n"

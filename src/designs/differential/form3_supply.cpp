@@ -241,7 +241,7 @@ void Form3::focusEs()
 void Form3::keyEs(host::EventArgs& args)
 {
     if (entered(args))
-        host().SetFocus(*this, Text1);
+        goTo(Text1); // the bench may have hidden it
 }
 
 void Form3::leaveEs()
