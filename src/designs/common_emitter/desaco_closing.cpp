@@ -97,7 +97,8 @@ void Desaco::lostText18()
     sentBack(Text10, Text10);
 }
 
-// What would divide by a resistance or a frequency that an odd file has left at 0 stays as it was.
+// What would divide by a resistance or a frequency that an odd file has left at 0 stays as it was. Where the supply is too low
+// Rb1 comes out below 0, and Zin with it.
 void Desaco::workOutDivider()
 {
     const Real QIc = takeQIc();
@@ -116,7 +117,7 @@ void Desaco::workOutDivider()
     if (at(Text9) > 0)
         setText(statu33, shown(couplingMicrofarads(fo, at(Text9) * 1000.0)) + " mf");
     setText(Text20, shown(bypassMicrofarads(QIc, fo)) + " mf");
-    if (q_.Rb1Computed <= 0 || at(Text2) <= 0)
+    if (q_.Rb1Computed == 0 || at(Text2) <= 0)
         return;
     q_.Zin = fullyBypassedInput(at(Text2), QIc, q_.Rb1Computed);
     setText(statu31, " Zin= " + whole(q_.Zin) + "  ohms");
