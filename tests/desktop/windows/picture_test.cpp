@@ -2,6 +2,9 @@
 // Whatever moves, comes and goes: what a window shows is what a painting of all of it would show.
 #include <gtest/gtest.h>
 
+#include <QTest>
+
+#include "desktop/canvas/editor_edit.h"
 #include "desktop/desktop_fixture.h"
 #include "desktop/fire/stale_picture.h"
 
@@ -38,6 +41,44 @@ TEST_F(PictureTest, framesThatMoveTogetherAreSeenWhereTheyAre)
     frame(2).move(800, 340);
     frame(1).move(20, 237);
     rest("both moved");
+}
+
+// Scrolled by a part of a line: the toolkit would clear the first row of the line below the one that changes, and paint nothing.
+TEST(EditorPictureTest, theLineBelowTheOneThatIsWrittenInKeepsItsMarks)
+{
+    desktop::EditorEdit edit;
+    QString text;
+    for (int line = 0; line < 40; ++line)
+        text += QStringLiteral("uno dos tres cuatro ").repeated(1 + 4 * (line % 3 / 2)) + QLatin1Char('\n');
+    edit.setPlainText(text);
+    QList<QTextEdit::ExtraSelection> marks;
+    for (int at = 0; at < text.size(); ++at)
+        if (text[at] == QLatin1Char(' ')) {
+            QTextEdit::ExtraSelection mark;
+            mark.cursor = QTextCursor(edit.document());
+            mark.cursor.setPosition(at);
+            mark.cursor.setPosition(at + 1, QTextCursor::KeepAnchor);
+            mark.format.setBackground(Qt::darkBlue);
+            marks.push_back(mark);
+        }
+    edit.setExtraSelections(marks);
+    edit.show();
+    for (int width = 160; width < 400; width += 20) {
+        edit.resize(520, 440);
+        edit.moveCursor(QTextCursor::End);
+        edit.centerCursor();
+        Bench::settle();
+        edit.resize(width, 460 + width % 90);
+        Bench::settle();
+        edit.ensureCursorVisible();
+        for (int line = 0; line < 5; ++line) {
+            edit.moveCursor(QTextCursor::Up);
+            Bench::settle();
+            QTest::keyClick(&edit, Qt::Key_A);
+            Bench::settle();
+            ASSERT_EQ(stalePictureOf(edit), "") << width << ", " << line << " lines up";
+        }
+    }
 }
 
 } // namespace velmor::test::picture_test
