@@ -159,6 +159,8 @@ void WindowKeeper::gone(host::Window& window)
         return;
     frames_.erase(&window);
     const QScopedValueRollback following(following_, true);
+    if (window.role() == Role::tool)
+        closeMenus();
     const bool hadKeyboard =
         window.role() == Role::tool && (inFront() == &frame->widget() || answered_ == &frame->widget());
     frame->farewell();
@@ -166,6 +168,16 @@ void WindowKeeper::gone(host::Window& window)
         giveKeyboardBack();
     if (window.role() == Role::tool)
         seeToKeyboard();
+}
+
+// Under an open menu the toolkit follows no window that becomes active.
+void WindowKeeper::closeMenus()
+{
+    for (QWidget* menu = nullptr; menu != QApplication::activePopupWidget();) {
+        menu = QApplication::activePopupWidget();
+        if (menu != nullptr)
+            menu->close();
+    }
 }
 
 // A press on a window asks for the keyboard, and the toolkit believes it to be there before the window manager has obeyed. When

@@ -71,6 +71,7 @@ private:
     void followDesktop();
     void followGone();
     void followRaised();
+    static void closeMenus();
     void await(QWidget* top);
     void followActive();
     void followFocus();

@@ -379,6 +379,22 @@ TEST_F(ToolTest, openedFromASheetThatHadNotYetGotTheKeyboardItHasItAndKeepsIt)
     EXPECT_EQ(on.engine.current(), tool().model());
 }
 
+// The toolkit follows no window that becomes active while a menu is open.
+TEST_F(ToolTest, closedFromOutsideUnderAnOpenMenuItTakesTheMenuAlongAndTheSheetHasTheKeyboard)
+{
+    host::Window& opened = on.show("Herramienta");
+    QMenu menu(&on.main());
+    menu.addAction(QStringLiteral("Uno"));
+    menu.popup(tool().mapToGlobal(QPoint(20, 20)));
+    on.settle();
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    on.engine.userClose(opened);
+    on.settle();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(QApplication::activeWindow(), &on.main());
+    EXPECT_TRUE(on.field(Text1).hasFocus());
+}
+
 TEST_F(ToolTest, whichTheWindowManagerDoesNotPutInFrontIsNotTheOneTurnedTo)
 {
     on.engine.userRun([this] { on.engine.host().Show("Herramienta"); });
