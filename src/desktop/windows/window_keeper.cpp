@@ -196,12 +196,18 @@ void WindowKeeper::giveKeyboardBack()
 {
     if (desk_.closing)
         return;
+    QWidget* next = owner();
+    if (next != nullptr && next->isVisible())
+        putInFront(*next);
+}
+
+/// To whom the keyboard belongs: the tool that is in front for the engine, else the main window.
+QWidget* WindowKeeper::owner() const
+{
     const host::Window* current = desk_.engine->current();
     WindowFrame* frame =
         current != nullptr && current->role() == Role::tool && !current->spec().reading ? frameOf(*current) : nullptr;
-    QWidget* next = frame == nullptr ? static_cast<QWidget*>(main_) : &frame->widget();
-    if (next != nullptr && next->isVisible())
-        putInFront(*next);
+    return frame == nullptr ? static_cast<QWidget*>(main_) : &frame->widget();
 }
 
 void WindowKeeper::shutDown()
@@ -531,8 +537,9 @@ bool WindowKeeper::handedBack(QWidget* active)
         return true;
     }
     if (quiet_ && active == quiet_ && wanted_ != active && main_) {
-        returning_ = true;
-        putInFront(*main_);
+        QWidget* next = owner();
+        returning_ = next == main_;
+        putInFront(*next);
         return true;
     }
     return false;

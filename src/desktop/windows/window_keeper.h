@@ -72,6 +72,7 @@ private:
     void followGone();
     void followRaised();
     static void closeMenus();
+    QWidget* owner() const;
     void await(QWidget* top);
     void followActive();
     void followFocus();

@@ -170,6 +170,22 @@ INSTANTIATE_TEST_SUITE_P(Windows, ReadingTest,
                              return std::get<const char*>(window.param) + std::string(inside ? "Inside" : "");
                          });
 
+// It is not the sheet's when a tool has been opened since.
+TEST(ReadingWindowTest, handsTheKeyboardBackToTheToolThatWasOpenedAfterIt)
+{
+    Bench on(program::catalogue());
+    on.screen.desk().placesWindows = true;
+    program::start(on.engine);
+    Bench::settle();
+    const host::Window& text = on.show("Form6");
+    host::Window& tool = on.show("Calculator");
+    ASSERT_EQ(on.engine.current(), &tool);
+    on.screen.keeper().frameOf(text)->widget().activateWindow();
+    Bench::settle();
+    EXPECT_EQ(QApplication::activeWindow(), &on.screen.keeper().frameOf(tool)->widget());
+    EXPECT_EQ(on.engine.current(), &tool);
+}
+
 struct ConversionTest : ::testing::TestWithParam<Stands> {
     ConversionTest() : on(program::catalogue())
     {
