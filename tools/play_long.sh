@@ -24,8 +24,9 @@ logs=$root/build/asan-core/games
 mkdir -p "$logs"
 
 # What the sanitizer keeps of memory that is gone: 16 MB of it, and five frames of who took it. More costs time and hundreds of
-# megabytes, and a fault comes again with its seed, to be looked at with all there is.
-export ASAN_OPTIONS=malloc_context_size=5:quarantine_size_mb=16${ASAN_OPTIONS:+:$ASAN_OPTIONS}
+# megabytes, and a fault comes again with its seed, to be looked at with all there is. What is freed is overwritten: the libraries
+# are not built with the sanitizers, and would go on reading it unseen.
+export ASAN_OPTIONS=malloc_context_size=5:quarantine_size_mb=16:max_free_fill_size=65536:free_fill_byte=205${ASAN_OPTIONS:+:$ASAN_OPTIONS}
 
 # Real games are played some at a time, by as many programs as there are processors. An even number: every second is rude.
 real_games=$((events / 10000 + 1))

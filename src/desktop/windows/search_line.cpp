@@ -5,6 +5,7 @@
 #include "desktop/windows/search_line.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -318,7 +319,22 @@ void SearchLine::lookToTheEnd()
         lookOn();
 }
 
+// To say where a mark stands the toolkit breaks the lines around it, which may scroll the text, and so have the marks asked for
+// anew while the old ones are still gone through: they come right after.
 void SearchLine::markHits()
+{
+    if (std::exchange(marking_, true)) {
+        markAgain_ = true;
+        return;
+    }
+    markAgain_ = false;
+    markInSight();
+    if (std::exchange(markAgain_, false))
+        markInSight();
+    marking_ = false;
+}
+
+void SearchLine::markInSight()
 {
     using namespace search_line_detail;
     if (!text_)

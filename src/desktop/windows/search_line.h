@@ -55,6 +55,7 @@ private:
     void lookBehind(int unit);
     void lookToTheEnd();
     void markHits();
+    void markInSight();
     void tell();
     void step(Way way);
     std::pair<int, int> selected() const;
@@ -69,8 +70,10 @@ private:
     const Inks* inks_;
     bool english_;
     bool wrapped_ = false;
-    QString whole_; ///< what is searched, while it is
-    int at_ = 0;    ///< how far it has been searched
+    bool marking_ = false;
+    bool markAgain_ = false; ///< asked for while they were being put
+    QString whole_;          ///< what is searched, while it is
+    int at_ = 0;             ///< how far it has been searched
     std::vector<int> hits_;
     int length_ = 0; ///< of what the hits were found for
     QLineEdit* wanted_;

@@ -8,6 +8,7 @@
 #include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextBlock>
 
 #include "desktop/canvas/report_dress.h"
@@ -113,6 +114,26 @@ TEST_F(SearchTest, aHitInALongLineIsFoundWhereverItLies)
         Bench::keys("Ctrl+F");
         part<QLineEdit>("searchWanted").setText("yz");
         ASSERT_EQ(this->line()->hits().size(), (line.size() - begin.size()) / 2);
+    }
+}
+
+// Freed memory is overwritten when tests run: with marks that go in the midst of the marking the program would end here.
+TEST_F(SearchTest, marksStayWhileTheTextScrollsUnderThem)
+{
+    std::string lines;
+    for (int i = 0; i < 200; ++i)
+        lines += "dos tres cuatro cinco seis siete ocho nueve diez once doce trece catorce quince y otra vez uno\n";
+    write(lines);
+    QWidget& frame = on.screen.keeper().frameOf(*editor)->widget();
+    look("uno");
+    for (int narrow = 200; narrow < 700; narrow += 50) {
+        frame.resize(narrow, 360);
+        text().moveCursor(QTextCursor::End);
+        frame.resize(1040, 510);
+        Bench::settle();
+        ASSERT_FALSE(text().extraSelections().isEmpty()) << narrow;
+        for (const QTextEdit::ExtraSelection& mark : text().extraSelections())
+            ASSERT_EQ(mark.cursor.selectedText(), "uno");
     }
 }
 
