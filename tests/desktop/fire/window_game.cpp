@@ -535,8 +535,8 @@ void WindowGame::activateSomething()
     QWidget& widget = on_->screen.keeper().frameOf(*window)->widget();
     widget.window()->activateWindow();
     Bench::settle();
-    // What was turned to may have closed others.
-    if (!on_->engine.isLoaded(window))
+    // What was turned to may have closed others; and under an open menu nobody reaches what is behind it.
+    if (!on_->engine.isLoaded(window) || QApplication::activePopupWidget() != nullptr)
         return;
     if (auto* frame = dynamic_cast<desktop::ChildFrame*>(on_->screen.keeper().frameOf(*window)))
         on_->main().area().setActiveSubWindow(frame);
