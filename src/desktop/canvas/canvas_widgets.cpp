@@ -15,6 +15,7 @@
 #include "desktop/canvas/editor_edit.h"
 #include "desktop/canvas/field_edit.h"
 #include "desktop/canvas/report_dress.h"
+#include "desktop/canvas/text_page.h"
 #include "desktop/drawing/control_painter.h"
 #include "desktop/drawing/growth_plan.h"
 #include "desktop/drawing/texts.h"
@@ -274,7 +275,7 @@ QWidget* Canvas::makeField(Handle control)
 
 QWidget* Canvas::makePage(Handle control)
 {
-    auto* page = new QPlainTextEdit(this);
+    auto* page = new TextPage(this);
     page->setReadOnly(true);
     // Without a caret the arrow keys scroll, as a reader expects; copying works all the same.
     page->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -71,16 +71,6 @@ bool isSlip(const QKeyEvent& event)
 
 } // namespace editor_edit_detail
 
-// Scrolled by a part of a row of pixels, what is cleared around a line reaches into the next one, which the toolkit then takes to
-// lie outside.
-EditorEdit::EditorEdit(QWidget* parent) : QPlainTextEdit(parent)
-{
-    connect(this, &QPlainTextEdit::updateRequest, this, [this](const QRect& changed, int scrolled) {
-        if (scrolled == 0)
-            viewport()->update(changed.adjusted(0, -1, 0, 1));
-    });
-}
-
 LongLines* EditorEdit::lines() const
 {
     return LongLines::of(*document());

@@ -3,17 +3,17 @@
 // block; everything else is the toolkit's.
 #pragma once
 
-#include <QPlainTextEdit>
+#include "desktop/canvas/text_page.h"
 
 namespace velmor::desktop {
 
 class LongLines;
 
-class EditorEdit final : public QPlainTextEdit {
+class EditorEdit final : public TextPage {
     Q_OBJECT
 
 public:
-    explicit EditorEdit(QWidget* parent = nullptr);
+    using TextPage::TextPage;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

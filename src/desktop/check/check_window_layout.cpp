@@ -11,6 +11,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "desktop/canvas/text_page.h"
 #include "desktop/check/curves_page.h"
 #include "desktop/check/row_panel.h"
 #include "desktop/check/rows_table.h"
@@ -78,7 +79,7 @@ QWidget* CheckWindow::makeTop()
 
 QPlainTextEdit* CheckWindow::makeText(const char* name)
 {
-    auto* text = new QPlainTextEdit;
+    auto* text = new TextPage;
     text->setObjectName(QLatin1String(name));
     text->setReadOnly(true);
     text->setFrameShape(QFrame::NoFrame);

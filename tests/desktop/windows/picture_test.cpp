@@ -2,6 +2,8 @@
 // Whatever moves, comes and goes: what a window shows is what a painting of all of it would show.
 #include <gtest/gtest.h>
 
+#include <QFontMetrics>
+#include <QScrollBar>
 #include <QTest>
 
 #include "desktop/canvas/editor_edit.h"
@@ -78,6 +80,57 @@ TEST(EditorPictureTest, theLineBelowTheOneThatIsWrittenInKeepsItsMarks)
             Bench::settle();
             ASSERT_EQ(stalePictureOf(edit), "") << width << ", " << line << " lines up";
         }
+    }
+}
+
+/// A text of capitals with accents, which reach out of their lines.
+struct AccentTest : ::testing::Test {
+    void SetUp() override
+    {
+        QFont font(QStringLiteral("DejaVu Serif"));
+        font.setPointSizeF(9.0);
+        edit.setFont(font);
+        const QFontMetrics metrics(font);
+        ASSERT_GE(-metrics.tightBoundingRect(QStringLiteral("\u00D3")).top(), metrics.ascent() + 2);
+        edit.setPlainText(QStringLiteral("\u00C1\u00C9\u00CD\u00D3\u00DA \u00C7\u0118\u0104\n").repeated(200));
+        edit.resize(300, 203);
+        edit.show();
+        Bench::settle();
+    }
+    void rest(const std::string& after)
+    {
+        Bench::settle();
+        EXPECT_EQ(stalePictureOf(edit), "") << after;
+    }
+
+    desktop::EditorEdit edit;
+};
+
+TEST_F(AccentTest, theirAccentsComeAlongWhereTheTextIsScrolled)
+{
+    for (const int lines : {1, 1, 3, 1, -1, -1, 5, -2, -1, -3, 40, -1, 1}) {
+        edit.verticalScrollBar()->setValue(edit.verticalScrollBar()->value() + lines);
+        rest(std::to_string(edit.verticalScrollBar()->value()));
+    }
+    edit.moveCursor(QTextCursor::End);
+    for (int line = 0; line < 30; ++line) {
+        edit.moveCursor(QTextCursor::Up);
+        rest(std::to_string(line) + " lines up");
+    }
+}
+
+TEST_F(AccentTest, theirAccentsComeAndGoWithTheLetters)
+{
+    edit.setPlainText(QString(20, QLatin1Char('\n')));
+    for (int line = 0; line < 3; ++line) {
+        edit.moveCursor(QTextCursor::Down);
+        for (const char* letter : {"\u00D3", "\u01D5", "\u01DE"}) {
+            edit.insertPlainText(QString::fromUtf8(letter));
+            rest(std::string(letter) + " written");
+        }
+        edit.moveCursor(QTextCursor::StartOfLine, QTextCursor::KeepAnchor);
+        QTest::keyClick(&edit, Qt::Key_Delete);
+        rest("all deleted");
     }
 }
 
