@@ -178,7 +178,8 @@ TEST(Layers, AreThoseOfTheLinkLines)
 
 TEST(Layers, KeepTheGroundFree)
 {
-    const Room& ground = roomOf(houseIn("rooms.txt"), "velmor_host");
+    const House house = houseIn("rooms.txt");
+    const Room& ground = roomOf(house, "velmor_host");
     EXPECT_EQ(ground.uses, Names{});
     EXPECT_EQ(ground.shows, Names{});
 }
