@@ -2,6 +2,8 @@
 #include "desktop/desktop_fixture.h"
 
 #include <array>
+#include <iterator>
+#include <utility>
 
 #include <QApplication>
 #include <QDialog>
@@ -28,6 +30,10 @@ namespace bench {
 constexpr const char* eventNames[] = {"focus",    "lost",  "click",   "double", "down",  "up",    "hover",    "key",
                                       "change",   "enter", "leave",   "drop",   "timer", "opens", "shortcut", "load",
                                       "activate", "back",  "repaint", "resize", "ask",   "unload"};
+
+/// In the order in which they go down.
+constexpr std::pair<Qt::KeyboardModifier, Qt::Key> modifierKeys[] = {
+    {Qt::ShiftModifier, Qt::Key_Shift}, {Qt::ControlModifier, Qt::Key_Control}, {Qt::AltModifier, Qt::Key_Alt}};
 
 template <Event Which>
 void noted(host::Window& window, host::EventArgs& args)
@@ -286,12 +292,27 @@ void Bench::settle()
 
 void Bench::key(int key, Qt::KeyboardModifiers modifiers)
 {
-    // A key that goes down may close its window: then it comes up in none.
+    // A key that goes down, a modifier too, may close its window: what follows goes to none.
     const QPointer<QWindow> window(QGuiApplication::focusWindow());
-    if (window)
-        QTest::keyPress(window.data(), static_cast<Qt::Key>(key), modifiers);
-    if (window)
-        QTest::keyRelease(window.data(), static_cast<Qt::Key>(key), modifiers);
+    const auto send = [&window](bool down, int which, Qt::KeyboardModifiers held, const QString& text) {
+        if (window)
+            QTest::simulateEvent(window.data(), down, which, held, text, false);
+    };
+    const char letter = QTest::keyToAscii(static_cast<Qt::Key>(key));
+    const QString text = letter == 0 ? QString() : QString(QLatin1Char(letter));
+    Qt::KeyboardModifiers held;
+    for (const auto& [modifier, itsKey] : bench::modifierKeys)
+        if (modifiers.testFlag(modifier)) {
+            send(true, itsKey, held, {});
+            held |= modifier;
+        }
+    send(true, key, modifiers, text);
+    send(false, key, modifiers, text);
+    for (auto row = std::rbegin(bench::modifierKeys); row != std::rend(bench::modifierKeys); ++row)
+        if (modifiers.testFlag(row->first)) {
+            send(false, row->second, held, {});
+            held.setFlag(row->first, false);
+        }
     settle();
 }
 

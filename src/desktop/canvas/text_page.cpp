@@ -4,11 +4,13 @@
 #include <cstdlib>
 
 #include <QPaintEvent>
+#include <QStyle>
 
 namespace velmor::desktop {
 
 TextPage::TextPage(QWidget* parent) : QPlainTextEdit(parent)
 {
+    setMinimumWidth(2 * style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this));
     connect(this, &QPlainTextEdit::updateRequest, this, &TextPage::follow);
 }
 

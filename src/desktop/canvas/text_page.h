@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A text of many lines whose letters are painted whole. Accents of capitals reach out of their line in many typefaces; the
-// toolkit paints, of what has changed or come into sight, only the lines that lie in it.
+// toolkit paints, of what has changed or come into sight, only the lines that lie in it. The page is never narrower than two
+// scroll bars: beside less than one the toolkit would show and hide it without end.
 #pragma once
 
 #include <QPlainTextEdit>
