@@ -7,6 +7,7 @@
 #include <QMdiSubWindow>
 #include <QStyle>
 #include <QTimer>
+#include <QWindow>
 
 #include "desktop/canvas/control_pane.h"
 #include "desktop/drawing/quiet_style.h"
@@ -27,6 +28,14 @@ void showIcon()
         }
 }
 
+QWidget* widgetOf(const QWindow* window)
+{
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (window != nullptr && widget->windowHandle() == window)
+            return widget;
+    return nullptr;
+}
+
 } // namespace application_detail
 
 Application::Application(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments)
@@ -43,6 +52,32 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
     QTimer::singleShot(0, this, application_detail::showIcon);
     setStyle(new QuietStyle);
     tellAssistiveTechnology();
+    connect(this, &QGuiApplication::focusWindowChanged, this, &Application::keepInStep);
+}
+
+// The toolkit lets pass what the window system says of the keyboard while a menu is open: it would be in no window after.
+void Application::keepInStep()
+{
+    if (QWidget* menu = activePopupWidget()) {
+        menu->installEventFilter(this);
+        return;
+    }
+    QWidget* window = application_detail::widgetOf(focusWindow());
+    if (window == nullptr || !window->isVisible() || window->windowType() == Qt::Popup || window == activeWindow())
+        return;
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    setActiveWindow(window); // activateWindow() does nothing: the window system has given it the keyboard already
+    QT_WARNING_POP
+}
+
+bool Application::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Hide) {
+        watched->removeEventFilter(this);
+        QTimer::singleShot(0, this, &Application::keepInStep);
+    }
+    return QApplication::eventFilter(watched, event);
 }
 
 } // namespace velmor::desktop

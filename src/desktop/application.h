@@ -9,6 +9,12 @@ namespace velmor::desktop {
 class Application final : public QApplication {
 public:
     Application(int& argumentCount, char** arguments);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void keepInStep();
 };
 
 } // namespace velmor::desktop

@@ -227,10 +227,21 @@ void Canvas::paintEvent(QPaintEvent* event)
     } else if (!painted) {
         paintWhole(painter);
     }
-    if (!most)
+    if (most)
+        measureWhatHangsOver();
+    else
         checkTile_->paint(painter, event->region());
     if (offering_)
         paintGlow(painter);
+}
+
+// Where it was must be known when it goes or is written anew; what keeps to its place is found there.
+void Canvas::measureWhatHangsOver()
+{
+    for (const host::ControlRow& row : model_->spec().controls)
+        if (row.kind != host::Kind::field && hasPlace(row.kind) && ink_[row.id].isNull() && paints(row.id) &&
+            !captionFits(*model_, row.id, view_))
+            ink(row.id);
 }
 
 // A palette is no sheet: its pictures lie on the desk.

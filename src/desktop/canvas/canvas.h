@@ -109,6 +109,7 @@ private:
     void tellAbout(host::Handle control, QPoint at);
     QPoint tipPlace(host::Handle control, QPoint at, const QString& text) const;
     void paintWhole(QPainter& painter);
+    void measureWhatHangsOver();
     bool paintAsFirstSeen(QPainter& painter);
     void paintGround(QPainter& painter, const QRect& box) const;
     void paintPicture(QPainter& painter, const RunPicture& picture) const;

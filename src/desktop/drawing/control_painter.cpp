@@ -546,10 +546,14 @@ QRectF inkBounds(const host::Window& window, Handle control, const View& view)
     const double overhang = 2.0 * view.pixelsPerUnit(); // of slanted letters
     QRectF bounds = boxOf(window, control, view).adjusted(-margin, -margin, margin, margin);
     bounds |= boundsOfMarks(window, window.drawing(control), boxOf(window, control, view).topLeft(), view);
-    if (painting::isWidget(window.row(control).kind))
+    if (painting::isWidget(window.row(control).kind)) {
         for (const QRectF& box : {symbolBounds(window, control, view), unitBounds(window, control, view)})
             if (!box.isEmpty())
                 bounds |= box.adjusted(-overhang, -overhang, overhang, overhang);
+    } else if (const QRectF caption = captionBounds(window, control, view); !caption.isEmpty()) {
+        // A text of too many lines hangs over its place.
+        bounds |= caption.adjusted(-overhang, -overhang, overhang, overhang);
+    }
     return bounds;
 }
 

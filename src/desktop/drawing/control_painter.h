@@ -43,8 +43,8 @@ bool isPainted(const host::Window& window, host::Handle control);
 /// Place of a control in the painter's coordinates.
 QRectF boxOf(const host::Window& window, host::Handle control, const View& view);
 
-/// Everything that a control may paint on, its place, symbol, unit, highlight and a drawing's overhang included: the area
-/// to repaint when it changes.
+/// Everything that a control may paint on, its place, symbol, unit, highlight, a drawing's overhang and a text that does not
+/// fit included: the area to repaint when it changes.
 QRectF inkBounds(const host::Window& window, host::Handle control, const View& view);
 
 /// The text as it is shown: runs of three or more blanks, which once lined texts up by hand, become one gap; blanks at both

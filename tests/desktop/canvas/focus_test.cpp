@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QMdiArea>
 #include <QMenu>
+#include <QTest>
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/windows/menus.h"
@@ -30,6 +32,27 @@ TEST_F(FocusTest, theFirstFieldHasTheKeyboardWhenASheetIsShownAndItsTextIsSelect
     EXPECT_EQ(on.sheet().focus(), Text1);
     EXPECT_TRUE(on.field(Text1).hasFocus());
     EXPECT_EQ(on.field(Text1).selectedText(), "10");
+}
+
+// A box goes, a menu is opened at once, and only then the window system tells who has the keyboard.
+TEST_F(FocusTest, theKeyboardThatComesWhileAMenuIsOpenIsThereWhenTheMenuGoes)
+{
+    QDialog box(&on.main());
+    box.show();
+    box.activateWindow();
+    Bench::settle();
+    ASSERT_EQ(QApplication::activeWindow(), &box);
+    box.hide();
+    QMenu menu;
+    menu.addAction(QStringLiteral("3.3 K"));
+    menu.popup(on.main().mapToGlobal(QPoint(200, 200)));
+    on.main().activateWindow();
+    Bench::settle();
+    ASSERT_EQ(QApplication::activePopupWidget(), &menu);
+    QTest::keyClick(&menu, Qt::Key_Escape);
+    Bench::settle();
+    EXPECT_EQ(QApplication::activeWindow(), &on.main());
+    EXPECT_TRUE(on.field(Text1).hasFocus());
 }
 
 TEST_F(FocusTest, noFieldTakesTheFocusOfItsOwnAccord)

@@ -117,6 +117,30 @@ TEST_F(PaintedControls, WhatIsPaintedStaysWithinItsBounds)
         }
 }
 
+TEST_F(PaintedControls, ATextThatHangsOverItsPlaceStaysWithinItsBounds)
+{
+    std::string tooLong = "V";
+    for (int word = 0; word < 60; ++word)
+        tooLong += " = 1000000244.33 V";
+    for (const double scale : {0.6, 1.0, 1.5})
+        for (const host::Handle control : {test::Note, test::Hint, test::OptionOne, test::Voice}) {
+            stage.setText(control, tooLong);
+            const desktop::View view = test::viewAt(scale);
+            const desktop::CaptionSetting set = desktop::setCaption(stage, control, view);
+            ASSERT_GT(set.box.height(), set.room.height() + 20.0) << stage.row(control).name;
+            const QRectF bounds = desktop::inkBounds(stage, control, view);
+            QImage image(QSize(1400, 1400), QImage::Format_RGB32);
+            image.fill(lightInks().paper);
+            QPainter painter(&image);
+            // In the middle of its paper: nothing is cut off at the top.
+            painter.translate(QPointF(700.0, 700.0) - desktop::boxOf(stage, control, view).center().toPoint());
+            const QRect within = painter.transform().mapRect(bounds).toAlignedRect();
+            desktop::paintControl(painter, stage, control, view);
+            painter.end();
+            EXPECT_TRUE(within.contains(test::inkedBox(image, lightInks().paper))) << stage.row(control).name;
+        }
+}
+
 TEST_F(PaintedControls, EveryTextLeavesInk)
 {
     for (const desktop::Inks* inks : {&desktop::lightInks(), &desktop::darkInks()})

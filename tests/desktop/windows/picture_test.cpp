@@ -45,6 +45,30 @@ TEST_F(PictureTest, framesThatMoveTogetherAreSeenWhereTheyAre)
     rest("both moved");
 }
 
+// A figure of ten digits where three were meant: the text takes more lines than its place has.
+TEST_F(PictureTest, whatHangsOverItsPlaceGoesWhole)
+{
+    std::string tooLong = "EQ4";
+    for (int part = 0; part < 12; ++part)
+        tooLong += " = 1000000244.33 V";
+    host::Window& sheet = *sheets[2];
+    const auto changed = [&](const std::string& how, const std::function<void()>& deed) {
+        on.engine.userRun(deed);
+        rest(how);
+    };
+    for (const bool paintedWhole : {false, true}) {
+        changed("written", [&] { sheet.setText(bench::Label1, tooLong); });
+        if (paintedWhole) {
+            on.main().resize(on.main().size() - QSize(60, 40));
+            rest("another size");
+        }
+        changed("short again", [&] { sheet.setText(bench::Label1, "4 V"); });
+        changed("written again", [&] { sheet.setText(bench::Label1, tooLong); });
+        changed("hidden", [&] { sheet.setVisible(bench::Label1, false); });
+        changed("shown", [&] { sheet.setVisible(bench::Label1, true); });
+    }
+}
+
 // Scrolled by a part of a line: the toolkit would clear the first row of the line below the one that changes, and paint nothing.
 TEST(EditorPictureTest, theLineBelowTheOneThatIsWrittenInKeepsItsMarks)
 {
