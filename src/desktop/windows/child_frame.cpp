@@ -135,6 +135,7 @@ void ChildFrame::followState()
             showMaximized();
         else
             showNormal();
+        told_ = QRect(); // the toolkit has put it where it stood as a frame, which may lie outside by now
     }
     followPlace();
 }

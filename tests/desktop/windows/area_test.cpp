@@ -103,6 +103,26 @@ TEST_F(AreaTest, keepsFramesInsideWhereverTheProgramOrAHandPutsThem)
         EXPECT_TRUE(area().contains(frame(i).geometry())) << i;
 }
 
+// The toolkit forgets that it was maximised, for it is not in sight when the area becomes smaller; when it comes into sight it
+// knows it again, and puts it back where it stood in the larger area.
+TEST_F(AreaTest, keepsAFrameInsideThatGoesMaximisedAndComesBackAsAFrame)
+{
+    on.engine.userRun([this] { sheets[1]->setPlace({6000, 7500, 6000, 4000}); });
+    rest("a low place");
+    frame(1).showMaximized();
+    rest("maximised");
+    on.engine.userRun([this] { on.engine.host().Hide(*sheets[1]); });
+    rest("gone");
+    on.engine.userRun([this] {
+        on.main().resize(751, 500);
+        on.engine.host().SetWindowState(*sheets[1], 0);
+        on.engine.host().Show(*sheets[1]);
+    });
+    rest("back");
+    EXPECT_FALSE(frame(1).isMaximized());
+    EXPECT_TRUE(area().contains(frame(1).geometry()));
+}
+
 // The toolkit is in the middle of its own change then, and slots may change the frame again.
 TEST_F(AreaTest, aChangeOfStateIsAnsweredAfterTheToolkitsOwn)
 {
